@@ -1,0 +1,53 @@
+#pragma once
+
+#include <SDK4/Export.h>
+
+#include <cstdint>
+
+namespace SDK4 {
+
+/// The host's register port: every access to a camera goes through it. The host implements it, owns it and keeps it
+/// alive as long as a control that was created with it; the library never copies or deletes it.
+///
+/// Addresses are those of the GigE Vision control channel, 32 bits. Values are words of 32 bits in the host's byte
+/// order; blocks and memory are moved byte for byte. The slot order is fixed. The library checks no result but a null
+/// block; an exception that the port throws passes through the library unchanged.
+class SDK4_PUBLIC IControlPort {
+public:
+    /// Writes one word.
+    virtual void WriteRegister(std::uint32_t address, std::uint32_t value) = 0;
+
+    /// Reads one word.
+    virtual std::uint32_t ReadRegister(std::uint32_t address) = 0;
+
+    /// Writes two words at once: the first in the low half of @p value, the second in the high half.
+    virtual void WriteRegisterPair(std::uint32_t address, std::uint64_t value) = 0;
+
+    /// Reads two words at once, packed as in WriteRegisterPair.
+    virtual std::uint64_t ReadRegisterPair(std::uint32_t address) = 0;
+
+    /// Reads a block of @p length bytes.
+    /// @return a buffer of that many bytes from malloc, which the library releases with free; null on failure, which
+    ///         the library reports as SDK4_ERR_CANTGETFEATURE.
+    virtual unsigned char* ReadBlock(std::uint32_t address, std::uint32_t length) = 0;
+
+    /// Writes a block of @p length bytes.
+    virtual void WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) = 0;
+
+    /// Reads a text of at most @p length bytes.
+    /// @return a NUL-terminated text that the port owns; how long it stays valid is the port's business.
+    virtual char* ReadString(std::uint32_t address, std::uint32_t length) = 0;
+
+    /// Writes a text: @p length bytes, padded with zeros.
+    virtual void WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) = 0;
+
+    /// Reads memory into the caller's buffer.
+    /// @param length in: the bytes wanted, the size of @p buffer; out: the bytes read.
+    virtual void ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) = 0;
+
+    /// Writes memory from the caller's buffer.
+    /// @param length in: the bytes to write; out: the bytes written.
+    virtual void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) = 0;
+};
+
+} // namespace SDK4

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <SDK4/Export.h>
+
+namespace SDK4 {
+
+/// What kind of stream a camera delivers.
+class SDK4_PUBLIC IMediaType {
+public:
+    virtual int GetType() = 0;
+};
+
+} // namespace SDK4

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+// The value records: plain sequences of 32-bit fields without padding. A record travels to and from the camera as
+// exactly its bytes, in field order.
+
+/// An area in sensor pixels, both corners inclusive: readout area, its limits, frame mask, measure windows.
+struct SDK4_KAREA {
+    std::uint32_t startx; ///< first column
+    std::uint32_t starty; ///< first line
+    std::uint32_t endx;   ///< last column
+    std::uint32_t endy;   ///< last line
+};
+
+/// An image size in pixels.
+struct SDK4_KSIZE {
+    std::uint32_t width;
+    std::uint32_t height;
+};
+
+/// The gains of the three colour channels.
+struct SDK4_KRGB {
+    std::uint32_t red;
+    std::uint32_t green;
+    std::uint32_t blue;
+};
+
+/// An overlay position in pixels from the upper left corner of the readout area.
+struct SDK4_KPOSITION {
+    std::uint32_t posx;
+    std::uint32_t posy;
+};
+
+/// How an overlay is drawn; the codes are the camera's.
+struct SDK4_KSTYLE {
+    std::uint32_t color;
+    std::uint32_t style;
+};
+
+/// The size of an overlay in pixels: stroke width and length.
+struct SDK4_KOVERLAYSIZE {
+    std::uint32_t width;
+    std::uint32_t length;
+};
+
+/// A time as a base selector and a count of that base: exposure time, trigger delay.
+struct SDK4_KEXPOSURE {
+    std::int32_t base;     ///< time base selector, 0 to 7
+    std::uint32_t counter; ///< count of the base
+};
+
+/// Binning factors, 1 to 8 each.
+struct SDK4_KBINNING {
+    std::uint32_t horizontal;
+    std::uint32_t vertical;
+};
+
+/// A version number as the camera reports it.
+struct SDK4_KVERSION {
+    std::uint32_t value1;
+    std::uint32_t value2;
+};
+
+/// A revision number as the camera reports it.
+struct SDK4_KREVISION {
+    std::uint32_t value1;
+    std::uint32_t value2;
+};
+
+/// A position relative to the image centre or, for the circular blanking, its centre in pixels.
+struct SDK4_KCIRCULARPOSITION {
+    std::int32_t xpos;
+    std::int32_t ypos;
+};
+
+/// The circular measure window: sizes in pixels, centre relative to the image centre, vertical stretch (128 is none).
+struct SDK4_KMWCIRCLE {
+    std::uint32_t radius;
+    std::uint32_t width;
+    std::int32_t xpos;
+    std::int32_t ypos;
+    std::uint32_t vstretch;
+};
+
+/// One entry of the defect-pixel table.
+struct SDK4_KDEFECTPIXEL {
+    std::uint32_t xpos; ///< column
+    std::uint32_t ypos; ///< line
+    std::uint32_t mode; ///< how the pixel is replaced, 0 to 2
+};
+
+/// Selects one entry of the defect-pixel table: entries lie in pairs.
+struct SDK4_KDEFECTPIXELSELECT {
+    std::uint32_t pair;     ///< 0 to 127
+    std::uint32_t position; ///< 0 or 1 within the pair
+};
+
+/// Selects a device register of the camera; the three words are passed on unchanged.
+struct SDK4_KDEVICESELECT {
+    std::uint32_t value1;
+    std::uint32_t value2;
+    std::uint32_t value3;
+};
+
+/// Selects a parameter block of the analogue front end; the two words are passed on unchanged.
+struct SDK4_AFE_SELECT {
+    std::uint32_t value1;
+    std::uint32_t value2;
+};
+
+/// A parameter block of the analogue front end; the ten words are passed on unchanged.
+struct SDK4_AFE_PARAM {
+    std::uint32_t values[10];
+};
+
+#define SDK4_ASSERT_RECORD(record, size)                                                                               \
+    static_assert(sizeof(record) == (size), #record " travels as its bytes: no padding");                              \
+    static_assert(std::is_trivially_copyable<record>::value && std::is_standard_layout<record>::value,                 \
+                  #record " travels as its bytes: plain data")
+
+// clang-format off
+SDK4_ASSERT_RECORD(SDK4_KAREA,              16);
+SDK4_ASSERT_RECORD(SDK4_KSIZE,               8);
+SDK4_ASSERT_RECORD(SDK4_KRGB,               12);
+SDK4_ASSERT_RECORD(SDK4_KPOSITION,           8);
+SDK4_ASSERT_RECORD(SDK4_KSTYLE,              8);
+SDK4_ASSERT_RECORD(SDK4_KOVERLAYSIZE,        8);
+SDK4_ASSERT_RECORD(SDK4_KEXPOSURE,           8);
+SDK4_ASSERT_RECORD(SDK4_KBINNING,            8);
+SDK4_ASSERT_RECORD(SDK4_KVERSION,            8);
+SDK4_ASSERT_RECORD(SDK4_KREVISION,           8);
+SDK4_ASSERT_RECORD(SDK4_KCIRCULARPOSITION,   8);
+SDK4_ASSERT_RECORD(SDK4_KMWCIRCLE,          20);
+SDK4_ASSERT_RECORD(SDK4_KDEFECTPIXEL,       12);
+SDK4_ASSERT_RECORD(SDK4_KDEFECTPIXELSELECT,  8);
+SDK4_ASSERT_RECORD(SDK4_KDEVICESELECT,      12);
+SDK4_ASSERT_RECORD(SDK4_AFE_SELECT,          8);
+SDK4_ASSERT_RECORD(SDK4_AFE_PARAM,          40);
+// clang-format on
+
+#undef SDK4_ASSERT_RECORD

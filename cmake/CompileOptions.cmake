@@ -1,0 +1,26 @@
+# Compile options shared by all targets.
+
+# Source locations in log lines are relative to the project, wherever it was built.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+
+# Unique symbols would keep the plug-in in the process after dlclose.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fno-gnu-unique)
+endif()
+
+# The public interfaces have no destructors by contract, so -Wnon-virtual-dtor stays off.
+set(QDV12_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-align
+    -Wformat=2 -Woverloaded-virtual -Wnull-dereference -Wundef)
+if(QDV12_WARNINGS_AS_ERRORS)
+    list(APPEND QDV12_WARNINGS -Werror)
+endif()
+
+if(QDV12_SANITIZERS)
+    add_compile_options(-fsanitize=${QDV12_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${QDV12_SANITIZERS})
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()

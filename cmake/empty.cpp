@@ -1,0 +1,1 @@
+// CMake wants a source file of the library itself; all code is in the object library.
