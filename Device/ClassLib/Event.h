@@ -1,0 +1,50 @@
+#pragma once
+
+#include <map>
+
+namespace Utility {
+
+/// Is told of an event: who sent it, and with which argument.
+template <class Argument> class IEventHandler {
+public:
+    virtual void notify(void* sender, Argument argument) = 0;
+};
+
+/// Forwards an event to a member function of an object, which it does not own.
+template <class C, class Argument> class EventHandler final : public IEventHandler<Argument> {
+public:
+    using Member = void (C::*)(void* sender, Argument argument);
+
+    EventHandler(C* target, Member targetMember) : object(target), member(targetMember) {}
+
+    void notify(void* sender, Argument argument) override { (object->*member)(sender, argument); }
+
+private:
+    C* object;
+    Member member;
+};
+
+/// An event: the handlers that are told, in the order in which they subscribed. Handlers are not owned.
+template <class Argument> class CppEvent {
+public:
+    void Subscribe(IEventHandler<Argument>* handler) { handlers.emplace(nextKey++, handler); }
+
+    void Unsubscribe(IEventHandler<Argument>* handler) {
+        std::erase_if(handlers, [handler](const auto& entry) { return entry.second == handler; });
+    }
+
+    /// Tells every handler. A handler may subscribe others or unsubscribe itself meanwhile.
+    void notify(void* sender, Argument argument) {
+        for (auto entry = handlers.begin(); entry != handlers.end();) {
+            IEventHandler<Argument>* handler = entry->second;
+            ++entry;
+            handler->notify(sender, argument);
+        }
+    }
+
+private:
+    std::map<unsigned int, IEventHandler<Argument>*> handlers;
+    unsigned int nextKey = 0;
+};
+
+} // namespace Utility

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "Log.h"
+#include "RegisterList.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace SDK4 {
+
+/// A camera function, or a condition on one, as its list sees it.
+class IFeature {
+public:
+    virtual std::string GetName() = 0;
+};
+
+/// Something whose value can be read.
+template <class T> class IGetter {
+public:
+    virtual T GetValue() = 0;
+};
+
+/// Something whose value can be written.
+template <class T> class ISetter {
+public:
+    virtual void SetValue(T value) = 0;
+};
+
+/// The features of one control, by name. Owns its entries: they are made with new, and their storage goes with the
+/// list.
+class CFeatureList {
+public:
+    CFeatureList();
+    ~CFeatureList();
+    CFeatureList(const CFeatureList&) = delete;
+    CFeatureList& operator=(const CFeatureList&) = delete;
+
+    /// Enters a feature under its name. A name that is taken keeps its first feature; the list then does not own
+    /// @p entry.
+    void AddEntry(IFeature* entry);
+
+    /// The value of the feature of that name, after the feature's own checks. The type must match exactly: an int
+    /// feature is none for unsigned int.
+    /// @throws X4Error SDK4_ERR_INVALID_INTERFACE when no feature of that name has a value of type T
+    template <class T> T GetValue(std::string_view name) const;
+
+    /// Writes the feature of that name, after the feature's own checks; otherwise as GetValue.
+    template <class T> void SetValue(std::string_view name, T value) const;
+
+    /// The feature of that name as an Interface, or null.
+    template <class Interface> [[nodiscard]] Interface* Find(std::string_view name) const;
+
+    /// Whether every condition holds. Conditions are asked in order until one does not; a name that is no
+    /// IGetter<bool> is passed over.
+    [[nodiscard]] bool AllHold(const std::vector<std::string>& conditions) const;
+
+    /// Whether any condition holds, asked in the same way until one does.
+    [[nodiscard]] bool AnyHolds(const std::vector<std::string>& conditions) const;
+
+private:
+    std::map<std::string, IFeature*, std::less<>> entries;
+};
+
+template <class Interface> Interface* CFeatureList::Find(std::string_view name) const {
+    const auto found = entries.find(name);
+    return found == entries.end() ? nullptr : dynamic_cast<Interface*>(found->second);
+}
+
+template <class T> T CFeatureList::GetValue(std::string_view name) const {
+    auto* getter = Find<IGetter<T>>(name);
+    if (getter == nullptr) {
+        SDK4_LOG(Info, name << " has no IGetter Interface");
+        SDK4_THROW(SDK4_ERR_INVALID_INTERFACE);
+    }
+    return getter->GetValue();
+}
+
+template <class T> void CFeatureList::SetValue(std::string_view name, T value) const {
+    auto* setter = Find<ISetter<T>>(name);
+    if (setter == nullptr) {
+        SDK4_LOG(Info, name << " has no ISetter Interface");
+        SDK4_THROW(SDK4_ERR_INVALID_INTERFACE);
+    }
+    setter->SetValue(std::move(value));
+}
+
+} // namespace SDK4

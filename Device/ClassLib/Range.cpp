@@ -1,0 +1,38 @@
+#include "Range.h"
+
+#include "Log.h"
+
+namespace SDK4 {
+
+template <> bool Range<SDK4_KPOSITION>::Check(SDK4_KPOSITION& value, SDK4_KPOSITION min, SDK4_KPOSITION max) {
+    SDK4_LOG(Info, "Check  (Pos)=" << value.posx << "," << value.posy);
+    bool changed = Clamp(value.posx, min.posx, max.posx);
+    changed |= Clamp(value.posy, min.posy, max.posy);
+    if (changed)
+        SDK4_LOG(Info, "Checked(Pos)=" << value.posx << "," << value.posy);
+    return changed;
+}
+
+template <> bool Range<SDK4_KAREA>::Check(SDK4_KAREA& value, SDK4_KAREA min, SDK4_KAREA max) {
+    SDK4_LOG(Info, "Check  (Roa)=" << value.startx << "," << value.starty << "," << value.endx << "," << value.endy);
+    bool changed = Clamp(value.startx, min.startx, max.startx);
+    changed |= Clamp(value.starty, min.starty, max.starty);
+    changed |= Clamp(value.endx, min.endx, max.endx);
+    changed |= Clamp(value.endy, min.endy, max.endy);
+    if (changed)
+        SDK4_LOG(Info,
+                 "Checked(Roa)=" << value.startx << "," << value.starty << "," << value.endx << "," << value.endy);
+    return changed;
+}
+
+template <> bool Range<SDK4_KRGB>::Check(SDK4_KRGB& value, SDK4_KRGB min, SDK4_KRGB max) {
+    SDK4_LOG(Info, "Check  (RGB)=" << value.red << "," << value.green << "," << value.blue);
+    bool changed = Clamp(value.red, min.red, max.red);
+    changed |= Clamp(value.green, min.green, max.green);
+    changed |= Clamp(value.blue, min.blue, max.blue);
+    if (changed)
+        SDK4_LOG(Info, "Checked(RGB)=" << value.red << "," << value.green << "," << value.blue);
+    return changed;
+}
+
+} // namespace SDK4

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <SDK4/Records.h>
+
+namespace SDK4 {
+
+/// Brings one number between its bounds, the minimum first and the maximum last, so that a camera that reports a
+/// minimum above its maximum still gets a defined value. Returns whether the number was outside.
+template <class Number> bool Clamp(Number& value, Number min, Number max) {
+    const bool below = value < min;
+    if (below)
+        value = min;
+    const bool above = value > max;
+    if (above)
+        value = max;
+    return below || above;
+}
+
+/// Range<T>::Check brings a value into [min, max] and returns whether that changed it; a record is checked field by
+/// field.
+template <class T> class Range {
+public:
+    static bool Check(T& value, T min, T max) { return Clamp(value, min, max); }
+};
+
+template <> bool Range<SDK4_KPOSITION>::Check(SDK4_KPOSITION& value, SDK4_KPOSITION min, SDK4_KPOSITION max);
+template <> bool Range<SDK4_KAREA>::Check(SDK4_KAREA& value, SDK4_KAREA min, SDK4_KAREA max);
+template <> bool Range<SDK4_KRGB>::Check(SDK4_KRGB& value, SDK4_KRGB min, SDK4_KRGB max);
+
+} // namespace SDK4

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "Event.h"
+#include "Log.h"
+#include "RegisterList.h"
+#include "Transfer.h"
+
+#include <SDK4/IControlPort.h>
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+namespace SDK4 {
+
+/// What a register is apart from its value: name, address, caching, and who makes it stale.
+class CRegisterBase : public IRegister {
+public:
+    void Invalidate() override;
+    void SetCacheMode(EnumCacheMode mode) override { cacheMode = mode; }
+    EnumCacheMode GetCacheMode() override { return cacheMode; }
+    void AddInvalidator(std::string invalidator) override;
+    std::set<std::string> GetInvalidatorSet() override { return invalidators; }
+    std::string GetName() override { return name; }
+    virtual ~CRegisterBase() = default;
+
+    CRegisterBase(const CRegisterBase&) = delete;
+    CRegisterBase& operator=(const CRegisterBase&) = delete;
+
+    /// Has @p handler told when the cached value turns stale. The sender of the event is this register.
+    void Subscribe(Utility::IEventHandler<unsigned int>* handler) { invalidatedEvent.Subscribe(handler); }
+    void Unsubscribe(Utility::IEventHandler<unsigned int>* handler) { invalidatedEvent.Unsubscribe(handler); }
+
+protected:
+    /// Enters the register into @p owner, which owns it from then on.
+    CRegisterBase(std::string registerName, CRegisterList* owner, IControlPort* controlPort,
+                  std::uint64_t cameraAddress, EnumCacheMode mode);
+
+    [[nodiscard]] std::uint32_t PortAddress() const { return static_cast<std::uint32_t>(address); }
+    void MarkInvalid();
+
+    std::string name;
+    bool invalid = true;
+    IControlPort* port; ///< not owned
+    std::uint64_t address;
+    EnumCacheMode cacheMode;
+    Utility::CppEvent<unsigned int> invalidatedEvent;
+    std::set<std::string> invalidators;
+    CRegisterList* list; ///< owns this register
+};
+
+/// A register with a value of type T.
+template <class T> class CBaseRegister : public CRegisterBase {
+public:
+    /// Writes the camera, then the cache, and makes every dependant stale.
+    virtual void SetValue(T value) = 0;
+
+    /// The value, from the camera or from the cache as the cache mode says.
+    virtual T GetValue() = 0;
+
+protected:
+    CBaseRegister(std::string registerName, CRegisterList* owner, IControlPort* controlPort,
+                  std::uint64_t cameraAddress, EnumCacheMode mode)
+        : CRegisterBase(std::move(registerName), owner, controlPort, cameraAddress, mode) {}
+
+    T cache{}; ///< the last value read or written
+};
+
+/// A register whose value travels as Transfer<T, I> says: I is void for a plain or text register, int for an indexed
+/// one.
+template <class T, class I> class CRegister final : public CBaseRegister<T> {
+public:
+    /// A plain register.
+    CRegister(std::string registerName, CRegisterList* owner, IControlPort* controlPort, unsigned long cameraAddress,
+              EnumCacheMode mode) requires(std::is_void_v<I> && !std::is_same_v<T, std::string>)
+        : CBaseRegister<T>(std::move(registerName), owner, controlPort, cameraAddress, mode) {}
+
+    /// An indexed register.
+    CRegister(std::string registerName, CRegisterList* owner, int index, IControlPort* controlPort,
+              unsigned long cameraAddress, EnumCacheMode mode) requires(std::is_same_v<I, int>)
+        : CBaseRegister<T>(std::move(registerName), owner, controlPort, cameraAddress, mode),
+          transfer(index) {}
+
+    /// A text register with a block of @p length bytes, the leading word included.
+    CRegister(std::string registerName, CRegisterList* owner, IControlPort* controlPort, unsigned long cameraAddress,
+              EnumCacheMode mode, unsigned int length) requires(std::is_same_v<T, std::string>)
+        : CBaseRegister<T>(std::move(registerName), owner, controlPort, cameraAddress, mode),
+          transfer(length) {}
+
+    void SetValue(T value) override;
+    T GetValue() override;
+
+private:
+    Transfer<T, I> transfer;
+};
+
+template <class T, class I> void CRegister<T, I>::SetValue(T value) {
+    SDK4_LOG_CALL();
+    transfer.Write(*this->port, this->PortAddress(), value);
+    this->cache = std::move(value);
+    switch (this->cacheMode) {
+    case CacheNone:
+        break;
+    case CacheNormal:
+        this->invalid = false;
+        break;
+    case CacheWriteInvalidates:
+        this->MarkInvalid();
+        break;
+    default: // the camera has the value by now; the dependants are not told
+        SDK4_THROW(SDK4_ERR_CANTSETFEATURE);
+    }
+    this->list->DoInvalidate(this->name);
+}
+
+template <class T, class I> T CRegister<T, I>::GetValue() {
+    SDK4_LOG_CALL();
+    switch (this->cacheMode) {
+    case CacheNone: // leaves `invalid` alone: what is read now is never served later
+        this->cache = transfer.Read(*this->port, this->PortAddress());
+        return this->cache;
+    case CacheNormal:
+    case CacheWriteInvalidates:
+        if (this->invalid) {
+            SDK4_LOG(Info, this->name << " invalid @ Address=0x" << std::hex << this->address);
+            this->cache = transfer.Read(*this->port, this->PortAddress());
+            this->invalid = false;
+        }
+        return this->cache;
+    default:
+        SDK4_THROW(SDK4_ERR_CANTGETFEATURE);
+    }
+}
+
+} // namespace SDK4

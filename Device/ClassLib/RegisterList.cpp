@@ -1,0 +1,71 @@
+#include "RegisterList.h"
+
+#include "Log.h"
+#include "Register.h"
+#include "ReleaseStorage.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace SDK4 {
+
+/// Who depends on a name, in name order, so that a cascade does not look through every register of the list.
+struct CRegisterList::Index {
+    std::unordered_map<std::string, std::vector<IRegister*>> dependants;
+
+    /// Only registers of our own kind report a new invalidator; with any other in the list every walk asks them all.
+    bool complete = true;
+};
+
+CRegisterList::CRegisterList() { SDK4_LOG(Debug, "ctor CRegisterList"); }
+
+CRegisterList::~CRegisterList() {
+    SDK4_LOG(Debug, "dtor CRegisterList");
+    for (const auto& [name, entry] : entries)
+        ReleaseStorage(entry);
+}
+
+void CRegisterList::AddEntry(IRegister* entry) {
+    entries.emplace(entry->GetName(), entry);
+    index.reset();
+}
+
+IRegister* CRegisterList::Find(std::string_view name) const {
+    const auto found = entries.find(name);
+    return found == entries.end() ? nullptr : found->second;
+}
+
+void CRegisterList::DoInvalidate(const std::string& name) {
+    SDK4_LOG(Debug, "DoInvalidate  " << name);
+    if (!index)
+        index = BuildIndex();
+    // Held for the walk: a handler that adds a register or an invalidator must not pull it away.
+    const std::shared_ptr<const Index> current = index;
+    if (!current->complete) {
+        Walk(name);
+        return;
+    }
+    const auto found = current->dependants.find(name);
+    if (found == current->dependants.end())
+        return;
+    for (IRegister* dependant : found->second)
+        dependant->Invalidate();
+}
+
+void CRegisterList::Walk(const std::string& name) {
+    for (const auto& [entryName, entry] : entries)
+        if (entry->GetInvalidatorSet().contains(name))
+            entry->Invalidate();
+}
+
+std::shared_ptr<const CRegisterList::Index> CRegisterList::BuildIndex() const {
+    auto built = std::make_shared<Index>();
+    for (const auto& [entryName, entry] : entries) {
+        built->complete = built->complete && dynamic_cast<CRegisterBase*>(entry) != nullptr;
+        for (const std::string& invalidator : entry->GetInvalidatorSet())
+            built->dependants[invalidator].push_back(entry);
+    }
+    return built;
+}
+
+} // namespace SDK4
