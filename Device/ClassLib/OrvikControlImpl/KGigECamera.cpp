@@ -1,0 +1,169 @@
+#include "KGigECamera.h"
+
+#include "GigEBootstrap.h"
+#include "Log.h"
+#include "RefusingPort.h"
+
+#include <optional>
+
+namespace SDK4::Control {
+
+using namespace GigEBootstrap;
+
+namespace {
+
+/// Each text starts from zeros: an octet that it does not supply is 0.
+std::uint32_t ParseFromZeros(const char* text) {
+    std::array<unsigned int, 4> numbers{};
+    return ParseAddress(text, numbers);
+}
+
+} // namespace
+
+KGigECamera::KGigECamera(SDK4::IControlPort* port) : m_port(port) {
+    SDK4_LOG(Info, "Call");
+    // Without a camera there is nothing to show, and a log level must not decide whether a control can be built.
+    if (logger->isDebugEnabled() && m_port != RefusingPort::Instance()) {
+        LogNetworkState();
+    }
+}
+
+void KGigECamera::LogNetworkState() {
+    const auto word = [this](Register address) { return m_port->ReadRegister(address); };
+    const auto dotted = [&word](Register address) { return std::string(KIPAddress(word(address))); };
+    SDK4_LOG(Debug, "SupportedIPConfig   : 0x" << std::hex << word(SupportedIPConfig));
+    SDK4_LOG(Debug, "CurrentIPConfig     : 0x" << std::hex << word(CurrentIPConfig));
+    SDK4_LOG(Debug, "CurrentIPAddress    : " << dotted(CurrentIPAddress));
+    SDK4_LOG(Debug, "CurrentSubNetMask   : " << dotted(CurrentSubnetMask));
+    SDK4_LOG(Debug, "CurrentGateway      : " << dotted(CurrentDefaultGateway));
+    SDK4_LOG(Debug, "PersistentIPAddress : " << dotted(PersistentIPAddress));
+    SDK4_LOG(Debug, "PersistentSubNetMask: " << dotted(PersistentSubnetMask));
+    SDK4_LOG(Debug, "PersistentGateway   : " << dotted(PersistentDefaultGateway));
+    SDK4_LOG(Debug, "GVCP Capability     : 0x" << std::hex << word(GvcpCapability));
+    std::optional<std::uint32_t> configuration;
+    try {
+        configuration = word(GvcpConfiguration);
+    } catch (...) { // a device without this register; a log level must not keep it from being opened
+    }
+    if (configuration) {
+        SDK4_LOG(Debug, "GVCP Configuration  : 0x" << std::hex << *configuration);
+    } else {
+        SDK4_LOG(Debug, "GVCP Configuration  : Invalid Address");
+    }
+}
+
+unsigned int KGigECamera::GetGigEVersion() {
+    SDK4_LOG_CALL();
+    return m_port->ReadRegister(Version);
+}
+
+const char* KGigECamera::GetMacAddress() {
+    SDK4_LOG_CALL();
+    static MacText text;
+    ReadMacAddress(m_port, text);
+    return text;
+}
+
+const char* KGigECamera::GetCurrentIPAddress() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = KIPAddress(m_port->ReadRegister(CurrentIPAddress));
+    return text.c_str();
+}
+
+const char* KGigECamera::GetCurrentSubnetmask() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = KIPAddress(m_port->ReadRegister(CurrentSubnetMask));
+    return text.c_str();
+}
+
+const char* KGigECamera::GetCurrentDefaultGateway() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = KIPAddress(m_port->ReadRegister(CurrentDefaultGateway));
+    return text.c_str();
+}
+
+void KGigECamera::SetPacketSize(unsigned int size) {
+    SDK4_LOG_CALL();
+    if (!WritePacketSize(m_port, size)) {
+        SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+    }
+}
+
+unsigned int KGigECamera::GetPacketSize() {
+    SDK4_LOG_CALL();
+    return m_port->ReadRegister(PacketSize);
+}
+
+void KGigECamera::SetPacketDelay(unsigned int delay) {
+    SDK4_LOG_CALL();
+    m_port->WriteRegister(PacketDelay, delay);
+}
+
+unsigned int KGigECamera::GetPacketDelay() {
+    SDK4_LOG_CALL();
+    return m_port->ReadRegister(PacketDelay);
+}
+
+unsigned int KGigECamera::GetCurrentIPConfig() {
+    SDK4_LOG_CALL();
+    return m_port->ReadRegister(CurrentIPConfig);
+}
+
+void KGigECamera::EnablePersistentIP(const char* ip, const char* mask, const char* gateway) {
+    SDK4_LOG_CALL();
+    if (ip == nullptr || mask == nullptr || gateway == nullptr) {
+        SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
+    if (!Supports(m_port, PersistentIP)) {
+        return;
+    }
+    const PersistentConfig wanted = {ParseFromZeros(ip), ParseFromZeros(mask), ParseFromZeros(gateway)};
+    if (!InCurrentSubnet(m_port, wanted)) {
+        return;
+    }
+    Switch(m_port, PersistentIP, true);
+    WritePersistentConfig(m_port, wanted);
+}
+
+void KGigECamera::DisablePersistentIP() {
+    SDK4_LOG_CALL();
+    SwitchIfSupported(m_port, PersistentIP, false);
+}
+
+void KGigECamera::EnableDHCP() {
+    SDK4_LOG_CALL();
+    SwitchIfSupported(m_port, DHCP, true);
+}
+
+void KGigECamera::DisableDHCP() {
+    SDK4_LOG_CALL();
+    SwitchIfSupported(m_port, DHCP, false);
+}
+
+const char* KGigECamera::GetFirstUrl() {
+    SDK4_LOG_CALL();
+    return m_port->ReadString(FirstUrl, UrlLength);
+}
+
+const char* KGigECamera::GetSecondUrl() {
+    SDK4_LOG_CALL();
+    return m_port->ReadString(SecondUrl, UrlLength);
+}
+
+const char* KGigECamera::GetUserDefinedName() {
+    SDK4_LOG_CALL();
+    return m_port->ReadString(UserDefinedName, UserDefinedNameLength);
+}
+
+void KGigECamera::SetUserDefinedName(const char* name) {
+    SDK4_LOG(Debug, "CALL");
+    if (name == nullptr) {
+        SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
+    WriteUserDefinedName(m_port, name);
+}
+
+} // namespace SDK4::Control
