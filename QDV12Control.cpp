@@ -1,7 +1,92 @@
 #include "Log.h"
+#include "OrvikControlImpl/OrvikFeatureCtrl.h"
+#include "RefusingPort.h"
+
+#include <SDK4/IControlPort.h>
+#include <SDK4/IDynamicObject.h>
+#include <SDK4/IModelRegistry.h>
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
 
 namespace SDK4 {
 
 const log4cxx::LoggerPtr logger = log4cxx::Logger::getLogger("SDK4QDV12Control");
 
+namespace {
+
+using Factory = IDynamicObject* (*)(const char* model, IControlPort* port, std::int32_t index);
+
+IDynamicObject* CreateOrvik(const char* model, IControlPort* port, std::int32_t index) {
+    auto features = std::make_unique<CFeatureList>();
+    auto registers = std::make_unique<CRegisterList>();
+    if (port == nullptr)
+        port = RefusingPort::Instance();
+    auto* control = new Control::COrvikFeatureCtrl(features.get(), registers.get(), port, index, model, "Orvik");
+    features.release(); // the control's from here on
+    registers.release();
+    return control;
+}
+
+/// Built once the control of this family exists; until then its models are registered but not served.
+constexpr Factory CreateM2VX = nullptr;
+
+struct Model {
+    const char* name;
+    Factory create;
+};
+
+/// The models served, in the order in which they are registered and compared.
+constexpr Model Models[] = {
+    {"Orvik-31200M", CreateOrvik}, //
+    {"Orvik-31200C", CreateOrvik}, //
+    {"Orvik-710M", CreateOrvik},   //
+    {"Orvik-710C", CreateOrvik},   //
+    {"Orvik-390M", CreateOrvik},   //
+    {"Orvik-390C", CreateOrvik},   //
+    {"Orvik-520M", CreateOrvik},   //
+    {"Orvik-520C", CreateOrvik},   //
+    {"Orvik-530M", CreateOrvik},   //
+    {"Orvik-530C", CreateOrvik},   //
+    {"Cerix7-MV", CreateM2VX},     //
+    {"Cerix-MV7", CreateM2VX},     //
+    {"Sollux G", CreateM2VX},
+};
+
+constexpr const char* LibraryKey = "qdv12";
+
+Factory FindFactory(std::string_view name) {
+    for (const Model& model : Models)
+        if (name == model.name)
+            return model.create;
+    return nullptr;
+}
+
+} // namespace
+
 } // namespace SDK4
+
+/// Registers every model served with the host's IModelRegistry. Null is accepted and registers nothing.
+extern "C" SDK4_PUBLIC void InitLibrary(void* registry) {
+    SDK4_LOG(Info, "Init QDV12Control");
+    if (registry == nullptr)
+        return;
+    for (const SDK4::Model& model : SDK4::Models)
+        static_cast<IModelRegistry*>(registry)->RegisterModel(model.name, SDK4::LibraryKey);
+}
+
+/// Builds the control of a camera over the host's IControlPort. Returns its IDynamicObject, which the host gives back
+/// with Release, or null for a model that is not served.
+/// @param modelName kept by the control as it is: the text must live as long as the control
+/// @param index how the camera was opened; passed on to the control
+extern "C" SDK4_PUBLIC void* CreateObject(const char* modelName, void* port, std::int32_t index) {
+    const std::string_view name = modelName == nullptr ? "" : modelName;
+    SDK4_LOG(Info, "QDV12: CreateObject(" << name << ")");
+    const SDK4::Factory create = SDK4::FindFactory(name);
+    if (create == nullptr) {
+        SDK4_LOG(Info, "Unknown (Flying) Object ");
+        return nullptr;
+    }
+    return create(modelName, static_cast<SDK4::IControlPort*>(port), index);
+}

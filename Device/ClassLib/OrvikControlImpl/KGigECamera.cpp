@@ -1,4 +1,4 @@
-#include "KGigECamera.h"
+#include "OrvikControlImpl/KGigECamera.h"
 
 #include "GigEBootstrap.h"
 #include "Log.h"
@@ -20,16 +20,16 @@ std::uint32_t ParseFromZeros(const char* text) {
 
 } // namespace
 
-KGigECamera::KGigECamera(SDK4::IControlPort* port) : m_port(port) {
+KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
     SDK4_LOG(Info, "Call");
     // Without a camera there is nothing to show, and a log level must not decide whether a control can be built.
-    if (logger->isDebugEnabled() && m_port != RefusingPort::Instance()) {
+    if (logger->isDebugEnabled() && port != RefusingPort::Instance()) {
         LogNetworkState();
     }
 }
 
 void KGigECamera::LogNetworkState() {
-    const auto word = [this](Register address) { return m_port->ReadRegister(address); };
+    const auto word = [this](Register address) { return port->ReadRegister(address); };
     const auto dotted = [&word](Register address) { return std::string(KIPAddress(word(address))); };
     SDK4_LOG(Debug, "SupportedIPConfig   : 0x" << std::hex << word(SupportedIPConfig));
     SDK4_LOG(Debug, "CurrentIPConfig     : 0x" << std::hex << word(CurrentIPConfig));
@@ -54,62 +54,62 @@ void KGigECamera::LogNetworkState() {
 
 unsigned int KGigECamera::GetGigEVersion() {
     SDK4_LOG_CALL();
-    return m_port->ReadRegister(Version);
+    return port->ReadRegister(Version);
 }
 
 const char* KGigECamera::GetMacAddress() {
     SDK4_LOG_CALL();
     static MacText text;
-    ReadMacAddress(m_port, text);
+    ReadMacAddress(port, text);
     return text;
 }
 
 const char* KGigECamera::GetCurrentIPAddress() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(m_port->ReadRegister(CurrentIPAddress));
+    text = KIPAddress(port->ReadRegister(CurrentIPAddress));
     return text.c_str();
 }
 
 const char* KGigECamera::GetCurrentSubnetmask() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(m_port->ReadRegister(CurrentSubnetMask));
+    text = KIPAddress(port->ReadRegister(CurrentSubnetMask));
     return text.c_str();
 }
 
 const char* KGigECamera::GetCurrentDefaultGateway() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(m_port->ReadRegister(CurrentDefaultGateway));
+    text = KIPAddress(port->ReadRegister(CurrentDefaultGateway));
     return text.c_str();
 }
 
 void KGigECamera::SetPacketSize(unsigned int size) {
     SDK4_LOG_CALL();
-    if (!WritePacketSize(m_port, size)) {
+    if (!WritePacketSize(port, size)) {
         SDK4_THROW(SDK4_ERR_OUTOFRANGE);
     }
 }
 
 unsigned int KGigECamera::GetPacketSize() {
     SDK4_LOG_CALL();
-    return m_port->ReadRegister(PacketSize);
+    return port->ReadRegister(PacketSize);
 }
 
 void KGigECamera::SetPacketDelay(unsigned int delay) {
     SDK4_LOG_CALL();
-    m_port->WriteRegister(PacketDelay, delay);
+    port->WriteRegister(PacketDelay, delay);
 }
 
 unsigned int KGigECamera::GetPacketDelay() {
     SDK4_LOG_CALL();
-    return m_port->ReadRegister(PacketDelay);
+    return port->ReadRegister(PacketDelay);
 }
 
 unsigned int KGigECamera::GetCurrentIPConfig() {
     SDK4_LOG_CALL();
-    return m_port->ReadRegister(CurrentIPConfig);
+    return port->ReadRegister(CurrentIPConfig);
 }
 
 void KGigECamera::EnablePersistentIP(const char* ip, const char* mask, const char* gateway) {
@@ -117,45 +117,45 @@ void KGigECamera::EnablePersistentIP(const char* ip, const char* mask, const cha
     if (ip == nullptr || mask == nullptr || gateway == nullptr) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     }
-    if (!Supports(m_port, PersistentIP)) {
+    if (!Supports(port, PersistentIP)) {
         return;
     }
     const PersistentConfig wanted = {ParseFromZeros(ip), ParseFromZeros(mask), ParseFromZeros(gateway)};
-    if (!InCurrentSubnet(m_port, wanted)) {
+    if (!InCurrentSubnet(port, wanted)) {
         return;
     }
-    Switch(m_port, PersistentIP, true);
-    WritePersistentConfig(m_port, wanted);
+    Switch(port, PersistentIP, true);
+    WritePersistentConfig(port, wanted);
 }
 
 void KGigECamera::DisablePersistentIP() {
     SDK4_LOG_CALL();
-    SwitchIfSupported(m_port, PersistentIP, false);
+    SwitchIfSupported(port, PersistentIP, false);
 }
 
 void KGigECamera::EnableDHCP() {
     SDK4_LOG_CALL();
-    SwitchIfSupported(m_port, DHCP, true);
+    SwitchIfSupported(port, DHCP, true);
 }
 
 void KGigECamera::DisableDHCP() {
     SDK4_LOG_CALL();
-    SwitchIfSupported(m_port, DHCP, false);
+    SwitchIfSupported(port, DHCP, false);
 }
 
 const char* KGigECamera::GetFirstUrl() {
     SDK4_LOG_CALL();
-    return m_port->ReadString(FirstUrl, UrlLength);
+    return port->ReadString(FirstUrl, UrlLength);
 }
 
 const char* KGigECamera::GetSecondUrl() {
     SDK4_LOG_CALL();
-    return m_port->ReadString(SecondUrl, UrlLength);
+    return port->ReadString(SecondUrl, UrlLength);
 }
 
 const char* KGigECamera::GetUserDefinedName() {
     SDK4_LOG_CALL();
-    return m_port->ReadString(UserDefinedName, UserDefinedNameLength);
+    return port->ReadString(UserDefinedName, UserDefinedNameLength);
 }
 
 void KGigECamera::SetUserDefinedName(const char* name) {
@@ -163,7 +163,7 @@ void KGigECamera::SetUserDefinedName(const char* name) {
     if (name == nullptr) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     }
-    WriteUserDefinedName(m_port, name);
+    WriteUserDefinedName(port, name);
 }
 
 } // namespace SDK4::Control

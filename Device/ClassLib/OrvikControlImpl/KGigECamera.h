@@ -11,7 +11,7 @@ namespace SDK4::Control {
 /// good until the next call of the same operation. Names and URLs are the port's own texts.
 class KGigECamera : public IGigECamera {
 public:
-    explicit KGigECamera(SDK4::IControlPort* port);
+    explicit KGigECamera(IControlPort* controlPort);
 
     unsigned int GetGigEVersion() override;
     const char* GetMacAddress() override;
@@ -35,7 +35,7 @@ public:
 private:
     void LogNetworkState();
 
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 } // namespace SDK4::Control

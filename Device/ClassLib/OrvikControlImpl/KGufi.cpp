@@ -1,0 +1,58 @@
+#include "OrvikControlImpl/KGufi.h"
+
+namespace SDK4::Control {
+
+using namespace Name;
+using enum Caching;
+
+KGufi::KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache)
+    : Capability(features, registers, port, noCache) {
+    SDK4_LOG(Debug, "ctor KGufi");
+    // Who the camera is does not change while it is open: cached also on a control opened with caching off.
+    // The hardware version lies behind the firmware version.
+    // clang-format off
+    Text                     (DeviceName,           0x64010000, 24, ReadBackFixed); Plain<std::string>   (DeviceName);
+    Text                     (SerialNumber,         0x64020000, 16, ReadBackFixed); Plain<std::string>   (SerialNumber);
+    Register<unsigned int>   (FunctionModelId,      0x64030000,     ReadBackFixed); Plain<unsigned int>  (FunctionModelId);
+    Register<SDK4_KVERSION>  (FunctionModelVersion, 0x64040000,     ReadBackFixed); Plain<SDK4_KVERSION> (FunctionModelVersion);
+    Register<SDK4_KREVISION> (Revision,             0x65010000,     ReadBackFixed); Plain<SDK4_KREVISION>(Revision);
+    Text                     (SoftwareBuild,        0x65020000, 24, ReadBackFixed); Plain<std::string>   (SoftwareBuild);
+    Register<SDK4_KVERSION>  (SoftwareVersion,      0x65030000,     ReadBackFixed); Plain<SDK4_KVERSION> (SoftwareVersion);
+    Register<SDK4_KVERSION>  (HardwareVersion,      0x65050000,     ReadBackFixed); Plain<SDK4_KVERSION> (HardwareVersion);
+    Register<SDK4_KVERSION>  (FirmwareVersion,      0x65040000,     ReadBackFixed); Plain<SDK4_KVERSION> (FirmwareVersion);
+    // clang-format on
+}
+
+// The texts live in one buffer per operation, shared by every control: a pointer is valid until the next call.
+
+const char* KGufi::GetDeviceName() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = Get<std::string>(DeviceName);
+    return text.c_str();
+}
+
+const char* KGufi::GetSerialNumber() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = Get<std::string>(SerialNumber);
+    return text.c_str();
+}
+
+const char* KGufi::GetSoftwareBuild() {
+    SDK4_LOG_CALL();
+    static std::string text;
+    text = Get<std::string>(SoftwareBuild);
+    return text.c_str();
+}
+
+// clang-format off
+unsigned int KGufi::GetFunctionModelID()          { SDK4_LOG_CALL(); return Get<unsigned int>(FunctionModelId); }
+SDK4_KVERSION KGufi::GetFunctionModelVersion()    { SDK4_LOG_CALL(); return Get<SDK4_KVERSION>(FunctionModelVersion); }
+SDK4_KREVISION KGufi::GetRevision()               { SDK4_LOG_CALL(); return Get<SDK4_KREVISION>(Revision); }
+SDK4_KVERSION KGufi::GetSoftwareVersion()         { SDK4_LOG_CALL(); return Get<SDK4_KVERSION>(SoftwareVersion); }
+SDK4_KVERSION KGufi::GetHardwareVersion()         { SDK4_LOG_CALL(); return Get<SDK4_KVERSION>(HardwareVersion); }
+SDK4_KVERSION KGufi::GetFirmwareVersion()         { SDK4_LOG_CALL(); return Get<SDK4_KVERSION>(FirmwareVersion); }
+// clang-format on
+
+} // namespace SDK4::Control
