@@ -79,10 +79,10 @@ private:
     const char* classId;
     const char* modelName;
     CQDV12VideoFrame* mediaType; ///< never freed: the host may keep it longer than the control
-    std::int32_t index;
-    IControlPort* port;       ///< the host's
-    CFeatureList* features;   ///< owned
-    CRegisterList* registers; ///< owned
+    [[maybe_unused]] std::int32_t index;
+    [[maybe_unused]] IControlPort* port; ///< the host's
+    CFeatureList* features;              ///< owned
+    CRegisterList* registers;            ///< owned
 };
 
 } // namespace SDK4::Control
