@@ -67,14 +67,14 @@ enum SDK4_ENUM_MEASUREWINDOWSELECT : std::int32_t {
     SDK4_MEASUREWINDOWSELECT_2 = 1,
 };
 
-enum SDK4_ENUM_HISTOEQUAL : std::int32_t { SDK4_HISTOEQUAL_OFF = 0 };    ///< histogram equalisation, 0 to 3
-enum SDK4_ENUM_IOMODE : std::int32_t {};                                 ///< direction of an I/O line, 0 or 1
-enum SDK4_ENUM_IOPOLARITY : std::int32_t {};                             ///< polarity of an I/O line, 0 or 1
-enum SDK4_ENUM_IOPORT : std::int32_t {};                                 ///< what an I/O line carries, 0 to 4
-enum SDK4_ENUM_LIGHTSOURCE : std::int32_t {};                            ///< light source preset, 0 to 3
-enum SDK4_ENUM_LUTMODE : std::int32_t {};                                ///< look-up-table mode, 0 or 1
-enum SDK4_ENUM_MFCOLOR : std::int32_t {};                                ///< colour of the measure frame
-enum SDK4_ENUM_OPERATIONMODE : std::int32_t {};                          ///< operation mode as the camera reports it
-enum SDK4_ENUM_PATTERN : std::int32_t { SDK4_PATTERN_OFF = 0 };          ///< pattern generator, 0 to 3
+enum SDK4_ENUM_HISTOEQUAL : std::int32_t { SDK4_HISTOEQUAL_OFF = 0 }; ///< histogram equalisation, 0 to 3
+enum SDK4_ENUM_IOMODE : std::int32_t {};                              ///< direction of an I/O line, 0 or 1
+enum SDK4_ENUM_IOPOLARITY : std::int32_t {};                          ///< polarity of an I/O line, 0 or 1
+enum SDK4_ENUM_IOPORT : std::int32_t {};                              ///< what an I/O line carries, 0 to 4
+enum SDK4_ENUM_LIGHTSOURCE : std::int32_t {};                         ///< light source preset, 0 to 3
+enum SDK4_ENUM_LUTMODE : std::int32_t {};                             ///< look-up-table mode, 0 or 1
+enum SDK4_ENUM_MFCOLOR : std::int32_t {};                             ///< colour of the measure frame
+enum SDK4_ENUM_OPERATIONMODE : std::int32_t {};                       ///< operation mode as the camera reports it
+enum SDK4_ENUM_PATTERN : std::int32_t { SDK4_PATTERN_OFF = 0 };       ///< pattern generator, 0 to 3
 enum SDK4_ENUM_RECURSIVEFILTER : std::int32_t { SDK4_RECURSIVEFILTER_OFF = 0 }; ///< strength of the filter, 0 to 4
-enum SDK4_ENUM_SETTINGS : std::int32_t {};                               ///< number of a settings set, 0 to 2
+enum SDK4_ENUM_SETTINGS : std::int32_t {};                                      ///< number of a settings set, 0 to 2

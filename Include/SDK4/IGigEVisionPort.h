@@ -4,12 +4,26 @@
 
 namespace SDK4::Control {
 
-/// Raw access to the camera's registers and memory.
+/// Raw access to the camera's registers and memory, straight through the host's port. Orvik only.
+///
+/// The caches know nothing of it: after writing a register that another interface serves, that interface may go on
+/// returning the value that it remembers.
 class SDK4_PUBLIC IGigEVisionPort {
 public:
+    /// Reads one 32-bit word.
     virtual unsigned int ReadRegister(unsigned int address) = 0;
+
+    /// Writes one 32-bit word.
     virtual void WriteRegister(unsigned int address, unsigned int value) = 0;
+
+    /// Reads memory into @p buffer.
+    /// @param length in: bytes wanted, the size of @p buffer; out: bytes read
+    /// @throws SDK4_ERR_INVALID_PARAMETER for a null @p buffer or @p length, before any access.
     virtual void ReadMem(unsigned int address, unsigned char* buffer, unsigned int* length) = 0;
+
+    /// Writes memory from @p buffer.
+    /// @param length in: bytes to write; out: bytes written
+    /// @throws SDK4_ERR_INVALID_PARAMETER for a null @p buffer or @p length, before any access.
     virtual void WriteMem(unsigned int address, unsigned char* buffer, unsigned int* length) = 0;
 };
 

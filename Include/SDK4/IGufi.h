@@ -5,17 +5,38 @@
 
 namespace SDK4::Control {
 
-/// Who the camera is.
+/// Who the camera is. The Orvik family reads each value from the camera once and remembers it, whatever the camera
+/// index; texts lose the white space at both ends. The two words of a version or revision are passed on as the camera
+/// gives them.
 class SDK4_PUBLIC IGufi {
 public:
+    /// Name of the device, at most 20 characters. Register 0x64010000.
     virtual const char* GetDeviceName() = 0;
+
+    /// Serial number, at most 12 characters (M2VX: 20). Register 0x64020000.
     virtual const char* GetSerialNumber() = 0;
+
+    /// What the camera can do. Bit 16: colour, bit 17: image memory, bit 18: histogram. Register 0x64030000.
     virtual unsigned int GetFunctionModelID() = 0;
+
+    /// Version of the function model. Register 0x64040000.
     virtual SDK4_KVERSION GetFunctionModelVersion() = 0;
+
+    /// Revision of the camera. Register 0x65010000.
     virtual SDK4_KREVISION GetRevision() = 0;
+
+    /// Build of the camera's software, at most 20 characters. Register 0x65020000.
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED (M2VX) always.
     virtual const char* GetSoftwareBuild() = 0;
+
+    /// Version of the camera's software. Register 0x65030000.
     virtual SDK4_KVERSION GetSoftwareVersion() = 0;
+
+    /// Version of the hardware. Register 0x65050000, above that of the firmware.
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED (M2VX) always.
     virtual SDK4_KVERSION GetHardwareVersion() = 0;
+
+    /// Version of the firmware. Register 0x65040000.
     virtual SDK4_KVERSION GetFirmwareVersion() = 0;
 };
 

@@ -2,8 +2,11 @@
 
 #include <SDK4/Export.h>
 
-/// The host's model registry, handed to InitLibrary.
+/// The host's model registry, handed to InitLibrary. The host implements and owns it.
 class SDK4_PUBLIC IModelRegistry {
 public:
+    /// Called once for each model that the library serves.
+    /// @param modelName  the name that CreateObject takes, compared as a whole and case-sensitively
+    /// @param libraryKey "qdv12" for every model of this library
     virtual void RegisterModel(const char* modelName, const char* libraryKey) = 0;
 };

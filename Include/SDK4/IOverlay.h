@@ -6,16 +6,36 @@
 
 namespace SDK4::Control {
 
-/// The two overlay lines that the camera draws into its image.
+/// The two overlay lines that the camera draws into its image. Orvik only. Every operation names the line first, 0 or 1
+/// (SDK4_ENUM_OVERLAYSELECT), and throws SDK4_ERR_INVALID_PARAMETER for any other, before any access. The registers are
+/// indexed by the line.
 class SDK4_PUBLIC IOverlay {
 public:
+    /// Whether the line is shown. Register 0x17010000.
     virtual SDK4_ENUM_SWITCH GetOverlayShow(int line) = 0;
+
+    /// Shows the line (1) or hides it (0).
+    /// @throws SDK4_ERR_INVALID_PARAMETER for any other value; nothing is written.
     virtual void SetOverlayShow(int line, int show) = 0;
+
+    /// Position in pixels within the readout area. Read afresh after the readout area was written. Register 0x17020000.
     virtual SDK4_KPOSITION GetOverlayPosition(int line) = 0;
+
+    /// Moves the line. The greatest position is the extent of the readout area, endx - startx and endy - starty, which
+    /// is asked first.
+    /// @throws SDK4_ERR_OUTOFRANGE after the position was written with each greater coordinate moved to that limit.
     virtual void SetOverlayPosition(int line, SDK4_KPOSITION position) = 0;
+
+    /// How the line is drawn; codes of the camera. Register 0x17030000.
     virtual SDK4_KSTYLE GetOverlayStyle(int line) = 0;
+
+    /// Sets how the line is drawn; not checked.
     virtual void SetOverlayStyle(int line, SDK4_KSTYLE style) = 0;
+
+    /// Stroke width and length. Register 0x17040000.
     virtual SDK4_KOVERLAYSIZE GetOverlaySize(int line) = 0;
+
+    /// Sets stroke width and length; not checked.
     virtual void SetOverlaySize(int line, SDK4_KOVERLAYSIZE size) = 0;
 };
 

@@ -6,13 +6,29 @@
 
 namespace SDK4::Control {
 
-/// The part of the sensor that is read out.
+/// The part of the sensor that is read out. Areas are in pixels. Orvik only.
 class SDK4_PUBLIC IRoa {
 public:
+    /// The readout area. Read afresh after binning was written. Register 0x28050000.
     virtual SDK4_KAREA GetReadoutArea() = 0;
+
+    /// Sets the readout area. Each field is held between the same field of the limits MIN and MAX, which are asked
+    /// first. Image size, timing, exposure, overlay positions and measure windows are read afresh afterwards; the limit
+    /// ACTIVE is not.
+    /// @throws SDK4_ERR_OUTOFRANGE after the area was written with the offending fields moved to their limits.
+    /// @throws SDK4_ERR_CANTSETFEATURE while acquisition runs; nothing is written.
     virtual void SetReadoutArea(SDK4_KAREA area) = 0;
+
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual SDK4_KAREA GetFrameMask() = 0;
+
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always; nothing is written.
     virtual void SetFrameMask(SDK4_KAREA area) = 0;
+
+    /// A limit of the readout area: the smallest admitted corners (0), the largest (1), or the area active in the
+    /// sensor (2). Read afresh after binning was written. Register 0x28090000, indexed by @p domain.
+    /// @param domain an SDK4_ENUM_ROADOMAIN
+    /// @throws SDK4_ERR_INVALID_PARAMETER for any other domain, before any access.
     virtual SDK4_KAREA GetReadoutAreaLimits(int domain) = 0;
 };
 

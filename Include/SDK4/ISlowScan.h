@@ -5,10 +5,13 @@
 
 namespace SDK4::Control {
 
-/// Slow readout.
+/// Slow readout of the sensor. No camera of the Orvik family serves it.
 class SDK4_PUBLIC ISlowScan {
 public:
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual SDK4_ENUM_SWITCH GetSlowScan() = 0;
+
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always; nothing is written.
     virtual void SetSlowScan(int mode) = 0;
 };
 

@@ -4,12 +4,22 @@
 
 namespace SDK4::Control {
 
-/// Timing of the sensor.
+/// Timing of the sensor. Orvik only.
 class SDK4_PUBLIC ITiming {
 public:
+    /// Pixel clock as the camera reports it. Register 0x0A090000.
     virtual unsigned int GetPixelClock() = 0;
+
+    /// Time that one readout of the sensor takes, in microseconds. Read afresh after the readout area was written.
+    /// Register 0x0A0A0000.
     virtual unsigned int GetReadoutTime() = 0;
+
+    /// Sets the readout time in microseconds; not checked. The camera may round it: the next read fetches what it
+    /// holds, and so does the next read of exposure and frame duration.
     virtual void SetReadoutTime(unsigned int microseconds) = 0;
+
+    /// Time from frame to frame, in microseconds. Read afresh after exposure, readout time or colour coding were
+    /// written. Register 0x28040000.
     virtual unsigned int GetFrameDuration() = 0;
 };
 

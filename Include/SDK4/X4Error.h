@@ -6,11 +6,11 @@
 
 /// Every error code, its value and its meaning: the one list from which the enumeration and the names are made.
 #define SDK4_ERROR_CODES(CODE)                                                                                         \
-    /* general failure: the camera answered with an error state, an operation did not complete */                     \
+    /* general failure: the camera answered with an error state, an operation did not complete */                      \
     CODE(SDK4_ERR_ERROR, -1001)                                                                                        \
     /* the operation or feature does not exist on this camera */                                                       \
     CODE(SDK4_ERR_NOT_IMPLEMENTED, -1003)                                                                              \
-    /* an argument is not one of the accepted values: enumeration value, null pointer, bad index */                   \
+    /* an argument is not one of the accepted values: enumeration value, null pointer, bad index */                    \
     CODE(SDK4_ERR_INVALID_PARAMETER, -1009)                                                                            \
     /* a feature could not be written: not writable, locked */                                                         \
     CODE(SDK4_ERR_CANTSETFEATURE, -1012)                                                                               \
