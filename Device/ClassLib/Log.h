@@ -7,6 +7,8 @@
 
 #include <log4cxx/logger.h>
 
+#include <ios>
+
 namespace SDK4 {
 
 /// The library's one logger, "SDK4QDV12Control", fetched when the library is loaded.
@@ -15,12 +17,13 @@ extern const log4cxx::LoggerPtr logger;
 } // namespace SDK4
 
 /// Logs what is streamed, for example SDK4_LOG(Debug, "ctor " << name). The level is Debug, Info, Warn or Error.
+/// log4cxx lends all lines of a thread, the host's too, one stream with its base: each line starts and leaves decimal.
 #define SDK4_LOG(level, message)                                                                                       \
     do {                                                                                                               \
         if (::SDK4::logger->is##level##Enabled()) {                                                                    \
             ::log4cxx::helpers::MessageBuffer buffer_;                                                                 \
-            ::SDK4::logger->forcedLog(::log4cxx::Level::get##level(), buffer_.str(buffer_ << message),                 \
-                                      LOG4CXX_LOCATION);                                                               \
+            ::SDK4::logger->forcedLog(::log4cxx::Level::get##level(),                                                  \
+                                      buffer_.str(buffer_ << std::dec << message << std::dec), LOG4CXX_LOCATION);      \
         }                                                                                                              \
     } while (false)
 
