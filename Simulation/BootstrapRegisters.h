@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Register.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Simulation {
+
+/// The bootstrap registers of the GigE Vision standard, the same for every camera but for its name and serial number.
+[[nodiscard]] std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial);
+
+} // namespace Simulation

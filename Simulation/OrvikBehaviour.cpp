@@ -1,0 +1,36 @@
+#include "Orvik.h"
+#include "SettingsSets.h"
+
+#include <memory>
+
+namespace Simulation {
+
+namespace {
+
+std::uint32_t Extent(std::uint32_t first, std::uint32_t last) { return first <= last ? last - first + 1 : 0; }
+
+void FollowReadoutArea(RegisterSpace& space) {
+    const Words area = space.Get("readoutarea");
+    const std::uint32_t active = 2;
+    space.Set("readoutarealimits", area, active);
+    space.Set("imagesize", {Extent(area[0], area[2]), Extent(area[1], area[3])});
+}
+
+void FollowReadoutTime(RegisterSpace& space) {
+    space.Set("frameduration", {space.Get("readouttime")[0] + 100}); // microseconds from one readout to the next
+}
+
+} // namespace
+
+void AddOrvikBehaviour(SimulatedCamera& camera) {
+    camera.AfterWrite("readoutarea", FollowReadoutArea);
+    camera.AfterWrite("readouttime", FollowReadoutTime);
+
+    const auto sets = std::make_shared<SettingsSets>(camera.Registers());
+    camera.AfterWrite("savesettings",
+                      [sets](RegisterSpace& space) { sets->Save(space.Get("savesettings")[0], space); });
+    camera.AfterWrite("loadsettings",
+                      [sets](RegisterSpace& space) { sets->Load(space.Get("loadsettings")[0], space); });
+}
+
+} // namespace Simulation
