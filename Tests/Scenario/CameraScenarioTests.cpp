@@ -1,0 +1,153 @@
+#include "ScenarioFixture.h"
+
+#include <Tour/Tour.h>
+
+#include <ostream>
+#include <sstream>
+
+namespace Scenario {
+
+using namespace SDK4::Control;
+using Simulation::Words;
+
+struct ModelRow {
+    const char* name;
+    bool color;
+    bool memory;
+    SDK4_KSIZE sensor;
+};
+
+void PrintTo(const ModelRow& row, std::ostream* out) { *out << row.name; }
+
+class EveryOrvik : public testing::TestWithParam<ModelRow> {};
+
+TEST_P(EveryOrvik, IsOpenedWithoutAnAccessAndServesWhatItsModelHas) {
+    const ModelRow& row = GetParam();
+    Host::Session session(LoadedPlugin(), row.name);
+    EXPECT_EQ(session.Port().Take().size(), 0U);
+
+    EXPECT_STREQ(As<SDK4::IControl>(session).GetClassID(), "Orvik");
+    EXPECT_STREQ(As<IGufi>(session).GetDeviceName(), row.name);
+    EXPECT_EQ(As<ISignalFormat>(session).GetImageSize().width, row.sensor.width);
+    EXPECT_EQ(As<ISignalFormat>(session).GetImageSize().height, row.sensor.height);
+
+    const std::int32_t onColor = row.color ? 0 : SDK4_ERR_NOT_IMPLEMENTED;
+    const std::int32_t onMono = row.color ? SDK4_ERR_NOT_IMPLEMENTED : 0;
+    const std::int32_t onMemory = row.memory ? 0 : SDK4_ERR_NOT_IMPLEMENTED;
+    EXPECT_EQ(CodeOf([&] { (void)As<IColor>(session).GetColorBalance(); }), onColor);
+    EXPECT_EQ(CodeOf([&] { (void)As<IBinning>(session).GetBinning(); }), onMono);
+    EXPECT_EQ(CodeOf([&] { (void)As<IMemory>(session).GetVerticalFlip(); }), onMemory);
+    EXPECT_EQ(CodeOf([&] { As<ISignalFormat>(session).SetColorCoding(SDK4_COLORCODING_RGB8); }),
+              row.color ? 0 : SDK4_ERR_INVALID_PARAMETER);
+}
+
+TEST_P(EveryOrvik, IsTouredWithoutSurprise) {
+    Host::Session session(LoadedPlugin(), GetParam().name);
+    std::ostringstream out;
+    EXPECT_TRUE(Host::Tour(session, out).Run()) << out.str();
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Models, EveryOrvik, testing::Values(
+    ModelRow{"Orvik-31200M", false, false, {6480, 4816}}, ModelRow{"Orvik-31200C", true, false, {6480, 4816}},
+    ModelRow{"Orvik-710M",   false, true,  {3208, 2208}}, ModelRow{"Orvik-710C",   true, true,  {3208, 2208}},
+    ModelRow{"Orvik-390M",   false, true,  {2256, 1728}}, ModelRow{"Orvik-390C",   true, true,  {2256, 1728}},
+    ModelRow{"Orvik-520M",   false, false, {2592, 2008}}, ModelRow{"Orvik-520C",   true, false, {2592, 2008}},
+    ModelRow{"Orvik-530M",   false, true,  {2592, 2048}}, ModelRow{"Orvik-530C",   true, true,  {2592, 2048}}));
+// clang-format on
+
+TEST(Afternoon, AutomaticExposureOwnsTheExposureTime) {
+    Host::Session session(LoadedPlugin(), "Orvik-710M");
+    auto& exposure = As<IExposure>(session);
+    auto& camera = session.Camera().Registers();
+    exposure.SetExposure({0, 5000});
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 5000}));
+
+    exposure.SetAET(1);
+    camera.Set("exposure", {0, 777}); // the camera moves it
+    EXPECT_EQ(exposure.GetExposure().counter, 777U);
+    camera.Set("exposure", {0, 778});
+    EXPECT_EQ(exposure.GetExposure().counter, 778U);
+    EXPECT_EQ(CodeOf([&] { exposure.SetExposure({0, 1}); }), SDK4_ERR_CANTSETFEATURE);
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 778}));
+
+    exposure.SetAET(SDK4_AET_OFF);
+    EXPECT_EQ(CostOf(session, [&] { (void)exposure.GetExposure(); }), 1U);
+    EXPECT_EQ(CostOf(session, [&] { (void)exposure.GetExposure(); }), 0U);
+    exposure.SetExposure({1, 20});
+    EXPECT_EQ(camera.Get("exposure"), (Words{1, 20}));
+}
+
+TEST(Afternoon, GeometryAndFormatAreLockedWhileImagesAreAcquired) {
+    Host::Session session(LoadedPlugin(), "Orvik-530M");
+    auto& roa = As<IRoa>(session);
+    auto& format = As<ISignalFormat>(session);
+    auto* const video = dynamic_cast<SDK4::IVideoFrame*>(As<IDSMediaType>(session).GetMediaType());
+    ASSERT_NE(video, nullptr);
+
+    As<SDK4::IStreamControl>(session).Start();
+    EXPECT_EQ(CodeOf([&] { roa.SetReadoutArea({0, 0, 639, 479}); }), SDK4_ERR_CANTSETFEATURE);
+    EXPECT_EQ(CodeOf([&] { format.SetColorCoding(SDK4_COLORCODING_MONO14); }), SDK4_ERR_CANTSETFEATURE);
+    EXPECT_EQ(CodeOf([&] { As<IBinning>(session).SetBinning({2, 2}); }), SDK4_ERR_CANTSETFEATURE);
+    EXPECT_EQ(roa.GetReadoutArea(), (SDK4_KAREA{0, 0, 2591, 2047}));
+    EXPECT_EQ(CodeOf([&] { As<IGain>(session).SetGain(20); }), 0); // no geometry
+
+    As<SDK4::IStreamControl>(session).Stop();
+    roa.SetReadoutArea({0, 0, 639, 479});
+    EXPECT_EQ(video->GetWidth(), 640U);
+    EXPECT_EQ(video->GetHeight(), 480U);
+    EXPECT_EQ(CodeOf([&] { As<IOverlay>(session).SetOverlayPosition(1, {600, 600}); }), SDK4_ERR_OUTOFRANGE);
+    EXPECT_EQ(session.Camera().Registers().Get("overlayposition", 1), (Words{600, 479}));
+}
+
+TEST(Afternoon, SettingsAreSavedChangedAndLoaded) {
+    Host::Session session(LoadedPlugin(), "Orvik-390M");
+    auto& settings = As<IBasicSettings>(session);
+    auto& enhancement = As<IDigitalEnhancement>(session);
+    auto& gpio = As<IGPIO>(session);
+    auto& tests = As<IInternalTests>(session);
+    enhancement.SetContrast(200);
+    gpio.SetIoDelay(3, 1500);
+    settings.SaveSettings(2);
+
+    enhancement.SetContrast(50);
+    gpio.SetIoDelay(3, 9);
+    tests.SetPatternGenerator(2);
+    settings.LoadSettings(2);
+    EXPECT_EQ(enhancement.GetContrast(), 200U);
+    EXPECT_EQ(gpio.GetIoDelay(3), 1500U);
+    EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(tests.GetPatternGenerator(), 2); }), 0U); // survives the load
+    EXPECT_EQ(session.Camera().Registers().Get("patterngenerator"), Words{2});
+
+    settings.LoadSettings(0);
+    EXPECT_EQ(enhancement.GetContrast(), 64U);
+    EXPECT_EQ(gpio.GetIoDelay(3), 0U);
+}
+
+TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
+    Host::Session session(LoadedPlugin(), "Orvik-520C");
+    const Host::Control second = session.OpenAgain(2);
+    auto& cached = As<IGain>(session);
+    auto& uncached = dynamic_cast<IGain&>(*second);
+
+    cached.SetGain(100);
+    EXPECT_EQ(uncached.GetGain(), 100U);
+    uncached.SetGain(200);
+    EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(cached.GetGain(), 100U); }), 0U);
+    EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(uncached.GetGain(), 200U); }), 1U);
+
+    // Each control has its own lock: the one that did not start the stream does not know of it.
+    As<SDK4::IStreamControl>(session).Start();
+    auto& format = dynamic_cast<ISignalFormat&>(*second);
+    EXPECT_EQ(CodeOf([&] { format.SetColorCoding(SDK4_COLORCODING_MONO8); }), 0);
+}
+
+TEST(Tour, MarksARefusalThatShouldNotBe) {
+    Host::Session session(LoadedPlugin(), "Orvik-710M");
+    session.Camera().Registers().Set("readoutarealimits", {0, 0, 99, 99}, 1); // a sensor smaller than any
+    std::ostringstream out;
+    EXPECT_FALSE(Host::Tour(session, out).Run());
+    EXPECT_NE(out.str().find("! SDK4_ERR_OUTOFRANGE   <-- unexpected, should be accepted"), std::string::npos);
+}
+
+} // namespace Scenario
