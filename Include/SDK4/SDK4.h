@@ -41,6 +41,7 @@
 /// - **Registers** are given by their address in the camera or, in IGigECamera, by that of the bootstrap register of
 ///   the GigE Vision standard. "Not checked" means that the value goes to the camera as it is.
 
+#include <SDK4/Callback.h>
 #include <SDK4/Enums.h>
 #include <SDK4/Export.h>
 #include <SDK4/IACC.h>
@@ -64,6 +65,8 @@
 #include <SDK4/IMemory.h>
 #include <SDK4/IModelRegistry.h>
 #include <SDK4/IOverlay.h>
+#include <SDK4/IPropertyList.h>
+#include <SDK4/IPropertyState.h>
 #include <SDK4/IRoa.h>
 #include <SDK4/ISignalAnalysis.h>
 #include <SDK4/ISignalFormat.h>

@@ -1,0 +1,264 @@
+#pragma once
+
+#include "Log.h"
+
+#include <SDK4/Callback.h>
+
+#include <array>
+#include <concepts>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string>
+#include <utility>
+
+namespace SDK4::Control {
+
+/// One named camera parameter as the property-based controls mirror it: limits, default, value, whether the camera
+/// has it, whether it may be changed now. One observer is told about every change.
+///
+/// The unsigned and the signed operations work on separate storage. The unsigned flag, set by the constructor and by
+/// every limit or default written, says which of the two is in force. A new property reads 0, whatever its default.
+///
+/// Take care with literals: 5 is signed, 5u is unsigned.
+class CPropertyParams {
+public:
+    static constexpr std::uint32_t MaxEnumValues = 20;
+
+    explicit CPropertyParams(std::string name);
+    CPropertyParams(std::string name, std::uint32_t defaultValue);
+    CPropertyParams(std::string name, std::int32_t defaultValue);
+    CPropertyParams(std::string name, std::uint32_t minimum, std::uint32_t maximum, std::uint32_t defaultValue);
+    CPropertyParams(std::string name, std::int32_t minimum, std::int32_t maximum, std::int32_t defaultValue);
+    CPropertyParams(const CPropertyParams&) = delete;
+    CPropertyParams& operator=(const CPropertyParams&) = delete;
+
+    std::string GetName() const { return m_name; }
+    const std::string& Name() const { return m_name; } ///< without the copy
+
+    void SetIndex(std::int32_t index); ///< makes the property indexed, for good
+    std::int32_t GetIndex() const { return m_index; }
+    bool IsIndexed() const { return m_indexed; }
+    bool IsEnumerated() const { return m_enumerated; }
+    bool IsUnsigned() const { return m_unsigned; }
+
+    /// A property that the camera may move on its own can be stored and read while it is disabled.
+    void SetAutoUpdate(bool autoUpdate) { m_autoUpdate = autoUpdate; }
+    bool GetAutoUpdate() const { return m_autoUpdate; }
+
+    void AddCallback(SDK4_CALLBACK callback, void* context); ///< replaces an earlier one
+    void RemoveCallback(SDK4_CALLBACK callback);             ///< removes the one there is, whichever is given
+
+    bool GetEnabled() const { return m_enabled; }
+    bool GetImplemented() const { return m_implemented; }
+    void SetEnabled(bool enabled);         ///< reports "enabled" when that changes it
+    void SetImplemented(bool implemented); ///< reports "implemented" when that changes it
+
+    /// Report "minimum" or "maximum" when that changes it, then move the value inside the limit without a report.
+    void SetMin(std::uint32_t minimum);
+    void SetMin(std::int32_t minimum);
+    void SetMax(std::uint32_t maximum);
+    void SetMax(std::int32_t maximum);
+    void SetDefault(std::uint32_t defaultValue);
+    void SetDefault(std::int32_t defaultValue);
+
+    /// The limits; of an enumerated property the smallest and the largest admitted value.
+    std::uint32_t GetUIntMin() const;
+    std::uint32_t GetUIntMax() const;
+    std::int32_t GetIntMin() const;
+    std::int32_t GetIntMax() const;
+    std::uint32_t GetUIntDefault() const { return m_unsignedSide.defaultValue; }
+    std::int32_t GetIntDefault() const { return m_signedSide.defaultValue; }
+
+    bool IsValueInRange(std::uint32_t value) const;
+    bool IsValueInRange(std::int32_t value) const;
+
+    /// Store the value, in range or not: that is the caller's to test. Report "value" when that changes it.
+    /// Throw SDK4_ERR_NOT_IMPLEMENTED, or SDK4_ERR_DISABLED unless enabled or auto-update is set.
+    /// @return whether an observer was told: false for a changed value, too, when there is none
+    bool SetValue(std::uint32_t value);
+    bool SetValue(std::int32_t value);
+
+    /// Throw as SetValue does.
+    std::uint32_t GetUIntValue() const;
+    std::int32_t GetIntValue() const;
+
+    /// Admit one more value and no others than those admitted so.
+    /// Throw SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after MaxEnumValues.
+    void SetEnumValue(std::uint32_t value);
+    void SetEnumValue(std::int32_t value);
+
+private:
+    /// What exists once unsigned and once signed.
+    template <typename T> struct Side {
+        T minimum = 0;
+        T maximum = 0;
+        T defaultValue = 0;
+        T value = 0;
+        std::array<T, MaxEnumValues> enumValues{};
+    };
+
+    // Each operation is written once, for either side.
+    template <typename T> void StoreMin(Side<T>& side, T minimum);
+    template <typename T> void StoreMax(Side<T>& side, T maximum);
+    template <typename T> void StoreDefault(Side<T>& side, T defaultValue);
+    template <typename T> bool StoreValue(Side<T>& side, T value);
+    template <typename T> void AdmitValue(Side<T>& side, T value);
+    template <typename T> std::span<const T> Admitted(const Side<T>& side) const;
+    template <typename T> T Min(const Side<T>& side) const;
+    template <typename T> T Max(const Side<T>& side) const;
+    template <typename T> bool InRange(const Side<T>& side, T value) const;
+
+    void CheckAccess() const;
+    bool Notify(const char* attribute) const;
+
+    bool m_enabled = true;
+    bool m_implemented = true;
+    std::string m_name;
+    Side<std::uint32_t> m_unsignedSide;
+    Side<std::int32_t> m_signedSide;
+    bool m_enumerated = false;
+    std::uint32_t m_enumCount = 0; // one count for both sides: a property is enumerated on one of them only
+    SDK4_CALLBACK m_callback = nullptr;
+    void* m_context = nullptr;
+    bool m_autoUpdate = false;
+    bool m_unsigned = true;
+    std::int32_t m_index = 0;
+    bool m_indexed = false;
+};
+
+/// N unsigned words, one per sub-property.
+template <std::size_t N> struct UIntRecord { std::uint32_t values[N]; };
+
+using _Sdk4_2UInts = UIntRecord<2>;
+using _Sdk4_3UInts = UIntRecord<3>;
+using _Sdk4_4UInts = UIntRecord<4>;
+using _Sdk4_5UInts = UIntRecord<5>;
+
+template <std::size_t N, typename = std::make_index_sequence<N>> class CompoundParams;
+
+/// N scalar properties that are read and written together as one record of N words, first sub-property first. Word i is
+/// signed or unsigned as sub-property i is. Only the sub-properties carry names, "position.xpos", and only they report.
+template <std::size_t N, std::size_t... I> class CompoundParams<N, std::index_sequence<I...>> {
+    // N parameters of one type: Text<I>... stands for N texts.
+    template <std::size_t> using Text = const std::string&;
+    template <std::size_t> using Unsigned = std::uint32_t;
+
+public:
+    static constexpr std::size_t Count = N;
+
+    CompoundParams(const std::string& name, Text<I>... subNames) : m_subs{CPropertyParams(name + '.' + subNames)...} {}
+
+    /// N defaults.
+    template <std::same_as<std::uint32_t>... Defaults>
+    requires(sizeof...(Defaults) == N)
+        CompoundParams(const std::string& name, Text<I>... subNames, Defaults... defaults)
+        : m_subs{CPropertyParams(name + '.' + subNames, defaults)...} {}
+
+    CompoundParams(const std::string& name, Text<I>... subNames, const UIntRecord<N>& minimum,
+                   const UIntRecord<N>& maximum, const UIntRecord<N>& defaults)
+        : m_subs{CPropertyParams(name + '.' + subNames, minimum.values[I], maximum.values[I], defaults.values[I])...} {}
+
+    /// 3 N limits, all unsigned or all signed: minimum, maximum, default of the first sub-property, then of the second.
+    template <typename T, std::same_as<T>... Limits>
+    requires(sizeof...(Limits) + 1 == 3 * N && (std::same_as<T, std::uint32_t> || std::same_as<T, std::int32_t>))
+        CompoundParams(const std::string& name, Text<I>... subNames, T limit, Limits... limits)
+        : CompoundParams(std::array<T, 3 * N>{limit, limits...}, name, subNames...) {}
+
+    /// The sub-property itself, for the list of properties and for what only one of them has. Owned by this object.
+    CPropertyParams* GetSubProperty(std::size_t i) { return &m_subs[i]; }
+
+    void SetMin(Unsigned<I>... minimum) { (m_subs[I].SetMin(minimum), ...); }
+    void SetMax(Unsigned<I>... maximum) { (m_subs[I].SetMax(maximum), ...); }
+
+    void SetAutoUpdate(bool autoUpdate) { (m_subs[I].SetAutoUpdate(autoUpdate), ...); }
+    bool GetAutoUpdate() const { return (m_subs[I].GetAutoUpdate() && ...); }
+
+    bool GetEnabled() const { return m_enabled; }
+    bool GetImplemented() const { return m_implemented; }
+
+    void SetEnabled(bool enabled) {
+        m_enabled = enabled;
+        (m_subs[I].SetEnabled(enabled), ...);
+    }
+
+    void SetImplemented(bool implemented) {
+        m_implemented = implemented;
+        (m_subs[I].SetImplemented(implemented), ...);
+    }
+
+    /// Kept, never called: the sub-properties report to observers of their own.
+    void AddCallback(SDK4_CALLBACK callback, void* context) {
+        m_callback = callback;
+        m_context = context;
+    }
+
+    void RemoveCallback(SDK4_CALLBACK) { AddCallback(nullptr, nullptr); }
+
+    bool IsValueInRange(const void* record) const {
+        const Words words = WordsOf(record);
+        return (InRange(m_subs[I], words[I]) && ...);
+    }
+
+    /// Stores every word, also behind one that changed nothing. What a sub-property throws leaves those before it
+    /// stored. Throws SDK4_ERR_NOT_IMPLEMENTED. The enabled flag that counts is each sub-property's own.
+    /// @return whether an observer was told of any change
+    bool SetValue(const void* record) {
+        CheckImplemented();
+        const Words words = WordsOf(record);
+        bool told = false;
+        ((told = Store(m_subs[I], words[I]) || told), ...);
+        return told;
+    }
+
+    /// Fills the record once every sub-property could be read. Throws as SetValue does.
+    void GetValue(void* record) const {
+        CheckImplemented();
+        const Words words = {Load(m_subs[I])...};
+        std::memcpy(record, words.data(), sizeof words);
+    }
+
+private:
+    using Words = std::array<std::uint32_t, N>;
+
+    template <typename T>
+    CompoundParams(const std::array<T, 3 * N>& limits, const std::string& name, Text<I>... subNames)
+        : m_subs{CPropertyParams(name + '.' + subNames, limits[3 * I], limits[3 * I + 1], limits[3 * I + 2])...} {}
+
+    static Words WordsOf(const void* record) {
+        Words words;
+        std::memcpy(words.data(), record, sizeof words);
+        return words;
+    }
+
+    static bool InRange(const CPropertyParams& sub, std::uint32_t word) {
+        return sub.IsUnsigned() ? sub.IsValueInRange(word) : sub.IsValueInRange(static_cast<std::int32_t>(word));
+    }
+
+    static bool Store(CPropertyParams& sub, std::uint32_t word) {
+        return sub.IsUnsigned() ? sub.SetValue(word) : sub.SetValue(static_cast<std::int32_t>(word));
+    }
+
+    static std::uint32_t Load(const CPropertyParams& sub) {
+        return sub.IsUnsigned() ? sub.GetUIntValue() : static_cast<std::uint32_t>(sub.GetIntValue());
+    }
+
+    void CheckImplemented() const {
+        if (!m_implemented) {
+            SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
+        }
+    }
+
+    std::array<CPropertyParams, N> m_subs;
+    bool m_enabled = true;
+    bool m_implemented = true;
+    SDK4_CALLBACK m_callback = nullptr;
+    void* m_context = nullptr;
+};
+
+using C2PropertyParams = CompoundParams<2>;
+using C3PropertyParams = CompoundParams<3>;
+using C4PropertyParams = CompoundParams<4>;
+using C5PropertyParams = CompoundParams<5>;
+
+} // namespace SDK4::Control

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <SDK4/Callback.h>
+#include <SDK4/Export.h>
+
+#include <cstdint>
+
+namespace SDK4::Control {
+
+/// The properties of a property-based control, by name. Properties that exist once per overlay, channel or position
+/// share a name and differ by index; without an index the first of them is meant.
+///
+/// A name that no property has (a null name is one) makes the operations throw SDK4_ERR_ERROR, except the five that
+/// answer false. Nothing here reads the camera.
+class SDK4_PUBLIC IPropertyState {
+public:
+    /// Limits and defaults. While a property admits single values only, its limits are the smallest and the largest of
+    /// these. The UInt operations answer from the unsigned side of a property, the Int operations from the signed side,
+    /// whatever IsUnsigned says.
+    virtual std::uint32_t GetUIntMin(const char* name) = 0;
+    virtual std::uint32_t GetUIntMax(const char* name) = 0;
+    virtual std::uint32_t GetUIntDefault(const char* name) = 0;
+
+    /// The value as the control knows it.
+    /// Throws SDK4_ERR_NOT_IMPLEMENTED when the camera lacks the property, SDK4_ERR_DISABLED when it is disabled and
+    /// the camera does not move it on its own.
+    virtual std::uint32_t GetUIntValue(const char* name) = 0;
+    virtual std::uint32_t GetUIntValue(int index, const char* name) = 0;
+
+    virtual std::int32_t GetIntMin(const char* name) = 0;
+    virtual std::int32_t GetIntMax(const char* name) = 0;
+    virtual std::int32_t GetIntDefault(const char* name) = 0;
+    virtual std::int32_t GetIntValue(const char* name) = 0;
+    virtual std::int32_t GetIntValue(int index, const char* name) = 0;
+
+    /// Whether the property can be changed now. False for an unknown name.
+    virtual bool GetEnabled(const char* name) = 0;
+    virtual void SetEnabled(const char* name, bool enabled) = 0;
+
+    /// Whether the camera has the property, which side is in force, whether the property is one of several with its
+    /// name, whether it admits single values only. False for an unknown name.
+    virtual bool GetImplemented(const char* name) = 0;
+    virtual bool IsUnsigned(const char* name) = 0;
+    virtual bool IsIndexed(const char* name) = 0;
+    virtual bool IsEnumerated(const char* name) = 0;
+
+    /// Registers the one observer of all properties, in place of an earlier one.
+    virtual void AddCallback(SDK4_CALLBACK callback, void* context) = 0;
+
+    /// Removes the observer, whichever callback is given.
+    virtual void RemoveCallback(SDK4_CALLBACK callback) = 0;
+};
+
+} // namespace SDK4::Control
