@@ -1,0 +1,131 @@
+#pragma once
+
+// Device access of the property-based controls: network, identity, acquisition, analogue front end, sensor control.
+// Every object keeps the host's port and nothing else; nothing is cached.
+
+#include <SDK4/IControl.h>
+#include <SDK4/IControlPort.h>
+#include <SDK4/IGigECamera.h>
+#include <SDK4/IGufi.h>
+#include <SDK4/Records.h>
+
+#include <cstdint>
+#include <string>
+
+namespace SDK4::Control {
+
+// The texts that the getters of CBootstrap hand out, one of each for the whole process: good until the next call of
+// the same getter on any object.
+extern std::string CurrentIPAddress;
+extern std::string CurrentSubnetmask;
+extern std::string CurrentDefaultGateway;
+
+/// Parameters of the analogue front end.
+class IAFE {
+public:
+    virtual SDK4_AFE_PARAM GetAFE(SDK4_AFE_SELECT select) = 0;
+    virtual void SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) = 0;
+};
+
+/// The sensor's control word and its serial command channel, both raw.
+class IClaryon {
+public:
+    virtual void SetCCDControl(std::uint32_t value) = 0;
+    virtual std::uint32_t GetCCDControl() = 0;
+    virtual void WriteCOM(std::uint32_t value) = 0;
+    virtual std::uint32_t ReadCOM() = 0;
+};
+
+/// Network configuration, in the bootstrap registers of the GigE Vision standard. The constructor reads the network
+/// state, whatever the log level, and logs it; what the port throws there passes on, except for the GVCP
+/// configuration, which some devices lack.
+class CBootstrap : public IGigECamera {
+public:
+    explicit CBootstrap(SDK4::IControlPort* port);
+
+    unsigned int GetGigEVersion() override;
+    const char* GetMacAddress() override;
+    const char* GetCurrentIPAddress() override;
+    const char* GetCurrentSubnetmask() override;
+    const char* GetCurrentDefaultGateway() override;
+    void SetPacketSize(unsigned int size) override;
+    unsigned int GetPacketSize() override;
+    void SetPacketDelay(unsigned int delay) override;
+    unsigned int GetPacketDelay() override;
+    unsigned int GetCurrentIPConfig() override;
+    void EnablePersistentIP(const char* ip, const char* mask, const char* gateway) override;
+    void DisablePersistentIP() override;
+    void EnableDHCP() override;
+    void DisableDHCP() override;
+    const char* GetFirstUrl() override;
+    const char* GetSecondUrl() override;
+    const char* GetUserDefinedName() override;
+    void SetUserDefinedName(const char* name) override;
+
+private:
+    SDK4::IControlPort* m_port;
+};
+
+/// Who the camera is. The texts are the port's own.
+class CGigEGufi : public IGufi {
+public:
+    explicit CGigEGufi(SDK4::IControlPort* port) : m_port(port) {}
+
+    const char* GetDeviceName() override;
+    const char* GetSerialNumber() override;
+    unsigned int GetFunctionModelID() override;
+    SDK4_KVERSION GetFunctionModelVersion() override;
+    SDK4_KREVISION GetRevision() override;
+    const char* GetSoftwareBuild() override;
+    SDK4_KVERSION GetSoftwareVersion() override;
+    SDK4_KVERSION GetHardwareVersion() override;
+    SDK4_KVERSION GetFirmwareVersion() override;
+
+private:
+    SDK4::IControlPort* m_port;
+};
+
+/// Acquisition and image geometry.
+class CGigEAcqControl : public SDK4::IControl {
+public:
+    explicit CGigEAcqControl(SDK4::IControlPort* port) : m_port(port) {}
+
+    const char* GetClassID() override; ///< the device's model name
+
+    void SetAcquisitionMode(std::uint32_t mode);
+    std::uint32_t GetAcquisitionMode();
+    void StartAcquisition();
+    void StopAcquisition();
+    std::uint32_t GetPixelFormat();
+    std::uint32_t GetWidth();
+    std::uint32_t GetHeight();
+
+private:
+    SDK4::IControlPort* m_port;
+};
+
+class CAFE : public IAFE {
+public:
+    explicit CAFE(SDK4::IControlPort* port) : m_port(port) {}
+
+    SDK4_AFE_PARAM GetAFE(SDK4_AFE_SELECT select) override;
+    void SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) override;
+
+private:
+    SDK4::IControlPort* m_port;
+};
+
+class CClaryon : public IClaryon {
+public:
+    explicit CClaryon(SDK4::IControlPort* port) : m_port(port) {}
+
+    void SetCCDControl(std::uint32_t value) override;
+    std::uint32_t GetCCDControl() override;
+    void WriteCOM(std::uint32_t value) override;
+    std::uint32_t ReadCOM() override;
+
+private:
+    SDK4::IControlPort* m_port;
+};
+
+} // namespace SDK4::Control
