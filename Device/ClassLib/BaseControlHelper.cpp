@@ -8,7 +8,7 @@ namespace SDK4::Control {
 
 CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(const char* name) {
     SDK4_LOG_CALL();
-    for (CPropertyParams* property : m_properties) {
+    for (CPropertyParams* property : properties) {
         SDK4_LOG(Debug, property->Name());
         if (name != nullptr && property->Name() == name) {
             return property;
@@ -19,7 +19,7 @@ CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(const char* name) {
 
 CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(int index, const char* name) {
     SDK4_LOG_CALL();
-    for (CPropertyParams* property : m_properties) {
+    for (CPropertyParams* property : properties) {
         if (name != nullptr && property->Name() == name && property->GetIndex() == index) {
             return property;
         }
@@ -30,11 +30,11 @@ CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(int index, const ch
 const char* CBaseControlHelper::GetPropertyNameByIndex(std::int32_t i) {
     SDK4_LOG_CALL();
     std::int32_t position = 0;
-    for (const CPropertyParams* property : m_properties) {
+    for (const CPropertyParams* property : properties) {
         if (position++ == i) {
-            const std::size_t length = property->Name().copy(m_nameBuffer, sizeof m_nameBuffer - 1);
-            m_nameBuffer[length] = '\0';
-            return m_nameBuffer;
+            const std::size_t length = property->Name().copy(nameBuffer, sizeof nameBuffer - 1);
+            nameBuffer[length] = '\0';
+            return nameBuffer;
         }
     }
     return nullptr;
@@ -75,18 +75,16 @@ bool          CBaseControlHelper::IsEnumerated(const char* name)               {
 
 void CBaseControlHelper::AddCallback(SDK4_CALLBACK callback, void* context) {
     SDK4_LOG_CALL();
-    m_callback = callback;
-    m_context = context;
-    for (CPropertyParams* property : m_properties) {
+    observer = {callback, context};
+    for (CPropertyParams* property : properties) {
         property->AddCallback(callback, context);
     }
 }
 
 void CBaseControlHelper::RemoveCallback(SDK4_CALLBACK callback) {
     SDK4_LOG_CALL();
-    m_callback = nullptr;
-    m_context = nullptr;
-    for (CPropertyParams* property : m_properties) {
+    observer = {};
+    for (CPropertyParams* property : properties) {
         property->RemoveCallback(callback);
     }
 }

@@ -50,12 +50,11 @@ private:
     CPropertyParams& Find(int index, const char* name) { return Existing(GetPropertyParamsByName(index, name)); }
     bool Query(const char* name, bool (CPropertyParams::*query)() const);
 
-    char m_nameBuffer[256] = {};
-    SDK4_CALLBACK m_callback = nullptr;
-    void* m_context = nullptr;
+    char nameBuffer[256] = {};
+    Observer observer;
 
 protected:
-    std::list<CPropertyParams*> m_properties; ///< not owned: the control deletes them
+    std::list<CPropertyParams*> properties; ///< not owned: the control deletes them
 };
 
 } // namespace SDK4::Control

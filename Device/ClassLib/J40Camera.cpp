@@ -16,51 +16,51 @@ std::uint64_t SignedSum(const SDK4_KEXPOSURE& time) {
 } // namespace
 
 // clang-format off
-uint32_t       CJ40Camera::GetSoftTrigger()                        { SDK4_LOG_CALL(); return ReadWord(m_port, Register::SoftTrigger); }
-void           CJ40Camera::SetSoftTrigger(uint32_t value)          { SDK4_LOG_CALL(); WriteWord(m_port, Register::SoftTrigger, value); }
-uint32_t       CJ40Camera::GetTriggerTimer()                       { SDK4_LOG_CALL(); return ReadWord(m_port, Register::TriggerTimer); }
-void           CJ40Camera::SetTriggerTimer(uint32_t value)         { SDK4_LOG_CALL(); WriteWord(m_port, Register::TriggerTimer, value); }
-SDK4_KEXPOSURE CJ40Camera::GetTriggerDelay()                       { SDK4_LOG_CALL(); return ReadPair<SDK4_KEXPOSURE>(m_port, Register::TriggerDelay); }
-void           CJ40Camera::SetTriggerDelay(SDK4_KEXPOSURE delay)   { SDK4_LOG_CALL(); m_port->WriteRegisterPair(Register::TriggerDelay, SignedSum(delay)); }
+uint32_t       CJ40Camera::GetSoftTrigger()                        { SDK4_LOG_CALL(); return ReadWord(port, Register::SoftTrigger); }
+void           CJ40Camera::SetSoftTrigger(uint32_t value)          { SDK4_LOG_CALL(); WriteWord(port, Register::SoftTrigger, value); }
+uint32_t       CJ40Camera::GetTriggerTimer()                       { SDK4_LOG_CALL(); return ReadWord(port, Register::TriggerTimer); }
+void           CJ40Camera::SetTriggerTimer(uint32_t value)         { SDK4_LOG_CALL(); WriteWord(port, Register::TriggerTimer, value); }
+SDK4_KEXPOSURE CJ40Camera::GetTriggerDelay()                       { SDK4_LOG_CALL(); return ReadPair<SDK4_KEXPOSURE>(port, Register::TriggerDelay); }
+void           CJ40Camera::SetTriggerDelay(SDK4_KEXPOSURE delay)   { SDK4_LOG_CALL(); port->WriteRegisterPair(Register::TriggerDelay, SignedSum(delay)); }
 
-uint32_t       CJ40Camera::GetPixelClock()                         { SDK4_LOG_CALL(); return ReadWord(m_port, Register::PixelClock); }
-uint32_t       CJ40Camera::GetReadoutTime()                        { SDK4_LOG_CALL(); return ReadWord(m_port, Register::ReadoutTime); }
-void           CJ40Camera::SetReadoutTime(uint32_t microseconds)   { SDK4_LOG_CALL(); WriteWord(m_port, Register::ReadoutTime, microseconds); }
-SDK4_KBINNING  CJ40Camera::GetBinning()                            { SDK4_LOG_CALL(); return ReadPair<SDK4_KBINNING>(m_port, Register::Binning); }
-void           CJ40Camera::SetBinning(SDK4_KBINNING binning)       { SDK4_LOG_CALL(); WritePair(m_port, Register::Binning, binning); }
-uint32_t       CJ40Camera::GetSlowScan()                           { SDK4_LOG_CALL(); return ReadWord(m_port, Register::SlowScan); }
-void           CJ40Camera::SetSlowScan(uint32_t mode)              { SDK4_LOG_CALL(); WriteWord(m_port, Register::SlowScan, mode); }
+uint32_t       CJ40Camera::GetPixelClock()                         { SDK4_LOG_CALL(); return ReadWord(port, Register::PixelClock); }
+uint32_t       CJ40Camera::GetReadoutTime()                        { SDK4_LOG_CALL(); return ReadWord(port, Register::ReadoutTime); }
+void           CJ40Camera::SetReadoutTime(uint32_t microseconds)   { SDK4_LOG_CALL(); WriteWord(port, Register::ReadoutTime, microseconds); }
+SDK4_KBINNING  CJ40Camera::GetBinning()                            { SDK4_LOG_CALL(); return ReadPair<SDK4_KBINNING>(port, Register::Binning); }
+void           CJ40Camera::SetBinning(SDK4_KBINNING binning)       { SDK4_LOG_CALL(); WritePair(port, Register::Binning, binning); }
+uint32_t       CJ40Camera::GetSlowScan()                           { SDK4_LOG_CALL(); return ReadWord(port, Register::SlowScan); }
+void           CJ40Camera::SetSlowScan(uint32_t mode)              { SDK4_LOG_CALL(); WriteWord(port, Register::SlowScan, mode); }
 
-SDK4_KRGB      CJ40Camera::GetColorBalance()                       { SDK4_LOG_CALL(); return ReadBlock<SDK4_KRGB>(m_port, Register::ColorBalance); }
-void           CJ40Camera::SetColorBalance(SDK4_KRGB balance)      { SDK4_LOG_CALL(); WriteBlock(m_port, Register::ColorBalance, balance); }
-uint32_t       CJ40Camera::GetLightSource()                        { SDK4_LOG_CALL(); return ReadWord(m_port, Register::LightSource); }
-void           CJ40Camera::SetLightSource(uint32_t source)         { SDK4_LOG_CALL(); WriteWord(m_port, Register::LightSource, source); }
-uint32_t       CJ40Camera::GetColorSaturation()                    { SDK4_LOG_CALL(); return ReadWord(m_port, Register::ColorSaturation); }
-void           CJ40Camera::SetColorSaturation(uint32_t saturation) { SDK4_LOG_CALL(); WriteWord(m_port, Register::ColorSaturation, saturation); }
+SDK4_KRGB      CJ40Camera::GetColorBalance()                       { SDK4_LOG_CALL(); return ReadBlock<SDK4_KRGB>(port, Register::ColorBalance); }
+void           CJ40Camera::SetColorBalance(SDK4_KRGB balance)      { SDK4_LOG_CALL(); WriteBlock(port, Register::ColorBalance, balance); }
+uint32_t       CJ40Camera::GetLightSource()                        { SDK4_LOG_CALL(); return ReadWord(port, Register::LightSource); }
+void           CJ40Camera::SetLightSource(uint32_t source)         { SDK4_LOG_CALL(); WriteWord(port, Register::LightSource, source); }
+uint32_t       CJ40Camera::GetColorSaturation()                    { SDK4_LOG_CALL(); return ReadWord(port, Register::ColorSaturation); }
+void           CJ40Camera::SetColorSaturation(uint32_t saturation) { SDK4_LOG_CALL(); WriteWord(port, Register::ColorSaturation, saturation); }
 
-SDK4_KAREA     CJ40Camera::GetReadoutArea()                        { SDK4_LOG_CALL(); return ReadBlock<SDK4_KAREA>(m_port, Register::ReadoutArea); }
-void           CJ40Camera::SetReadoutArea(SDK4_KAREA area)         { SDK4_LOG_CALL(); WriteBlock(m_port, Register::ReadoutArea, area); }
-SDK4_KAREA     CJ40Camera::GetFrameMask()                          { SDK4_LOG_CALL(); return ReadBlock<SDK4_KAREA>(m_port, Register::FrameMask); }
-void           CJ40Camera::SetFrameMask(SDK4_KAREA area)           { SDK4_LOG_CALL(); WriteBlock(m_port, Register::FrameMask, area); }
-SDK4_KAREA     CJ40Camera::GetReadoutAreaLimits(uint32_t index)    { SDK4_LOG_CALL(); return ReadIndexedRecord<SDK4_KAREA>(m_port, Register::ReadoutAreaLimits, index); }
+SDK4_KAREA     CJ40Camera::GetReadoutArea()                        { SDK4_LOG_CALL(); return ReadBlock<SDK4_KAREA>(port, Register::ReadoutArea); }
+void           CJ40Camera::SetReadoutArea(SDK4_KAREA area)         { SDK4_LOG_CALL(); WriteBlock(port, Register::ReadoutArea, area); }
+SDK4_KAREA     CJ40Camera::GetFrameMask()                          { SDK4_LOG_CALL(); return ReadBlock<SDK4_KAREA>(port, Register::FrameMask); }
+void           CJ40Camera::SetFrameMask(SDK4_KAREA area)           { SDK4_LOG_CALL(); WriteBlock(port, Register::FrameMask, area); }
+SDK4_KAREA     CJ40Camera::GetReadoutAreaLimits(uint32_t index)    { SDK4_LOG_CALL(); return ReadIndexedRecord<SDK4_KAREA>(port, Register::ReadoutAreaLimits, index); }
 
-uint32_t       CJ40Camera::GetAET()                                { SDK4_LOG_CALL(); return ReadWord(m_port, Register::AET); }
-void           CJ40Camera::SetAET(uint32_t mode)                   { SDK4_LOG_CALL(); WriteWord(m_port, Register::AET, mode); }
-uint32_t       CJ40Camera::GetAutoWhiteset()                       { SDK4_LOG_CALL(); return ReadWord(m_port, Register::AutoWhiteset); }
-void           CJ40Camera::SetAutoWhiteset(uint32_t mode)          { SDK4_LOG_CALL(); WriteWord(m_port, Register::AutoWhiteset, mode); }
-uint32_t       CJ40Camera::GetTemperature(uint32_t sensor)         { SDK4_LOG_CALL(); return ReadIndexedWord(m_port, Register::Temperature, sensor); }
+uint32_t       CJ40Camera::GetAET()                                { SDK4_LOG_CALL(); return ReadWord(port, Register::AET); }
+void           CJ40Camera::SetAET(uint32_t mode)                   { SDK4_LOG_CALL(); WriteWord(port, Register::AET, mode); }
+uint32_t       CJ40Camera::GetAutoWhiteset()                       { SDK4_LOG_CALL(); return ReadWord(port, Register::AutoWhiteset); }
+void           CJ40Camera::SetAutoWhiteset(uint32_t mode)          { SDK4_LOG_CALL(); WriteWord(port, Register::AutoWhiteset, mode); }
+uint32_t       CJ40Camera::GetTemperature(uint32_t sensor)         { SDK4_LOG_CALL(); return ReadIndexedWord(port, Register::Temperature, sensor); }
 // clang-format on
 
 SDK4_KEXPOSURE CJ40Camera::GetExposure() {
     SDK4_LOG_CALL();
-    const auto exposure = ReadPair<SDK4_KEXPOSURE>(m_port, Register::Exposure);
+    const auto exposure = ReadPair<SDK4_KEXPOSURE>(port, Register::Exposure);
     SDK4_LOG(Debug, "Return(" << exposure.base << "," << exposure.counter << ")");
     return exposure;
 }
 
 void CJ40Camera::SetExposure(SDK4_KEXPOSURE exposure) {
     SDK4_LOG(Debug, "Call(" << exposure.base << "," << exposure.counter << ")");
-    m_port->WriteRegisterPair(Register::Exposure, SignedSum(exposure));
+    port->WriteRegisterPair(Register::Exposure, SignedSum(exposure));
 }
 
 } // namespace SDK4::Control

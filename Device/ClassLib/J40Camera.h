@@ -12,7 +12,7 @@ namespace SDK4::Control {
 /// cache, no validation. A block that the port does not deliver throws SDK4_ERR_CANTGETFEATURE.
 class CJ40Camera {
 public:
-    explicit CJ40Camera(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CJ40Camera(IControlPort* controlPort) : port(controlPort) {}
 
     SDK4_KEXPOSURE GetExposure();
     void SetExposure(SDK4_KEXPOSURE exposure);
@@ -52,7 +52,7 @@ public:
     std::uint32_t GetTemperature(std::uint32_t sensor);
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 } // namespace SDK4::Control

@@ -12,7 +12,7 @@ namespace SDK4::Control {
 /// cache, no validation. A block that the port does not deliver throws SDK4_ERR_CANTGETFEATURE.
 class CM2VXCamera {
 public:
-    explicit CM2VXCamera(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CM2VXCamera(IControlPort* controlPort) : port(controlPort) {}
 
     std::uint32_t GetExposure();
     void SetExposure(std::uint32_t exposure);
@@ -68,7 +68,7 @@ public:
     std::int32_t GetTemperaturePCB();
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 } // namespace SDK4::Control

@@ -14,6 +14,12 @@
 
 namespace SDK4::Control {
 
+/// Who is told about changes, and with what.
+struct Observer {
+    SDK4_CALLBACK callback = nullptr;
+    void* context = nullptr;
+};
+
 /// One named camera parameter as the property-based controls mirror it: limits, default, value, whether the camera
 /// has it, whether it may be changed now. One observer is told about every change.
 ///
@@ -25,34 +31,35 @@ class CPropertyParams {
 public:
     static constexpr std::uint32_t MaxEnumValues = 20;
 
-    explicit CPropertyParams(std::string name);
-    CPropertyParams(std::string name, std::uint32_t defaultValue);
-    CPropertyParams(std::string name, std::int32_t defaultValue);
-    CPropertyParams(std::string name, std::uint32_t minimum, std::uint32_t maximum, std::uint32_t defaultValue);
-    CPropertyParams(std::string name, std::int32_t minimum, std::int32_t maximum, std::int32_t defaultValue);
+    explicit CPropertyParams(std::string propertyName);
+    CPropertyParams(std::string propertyName, std::uint32_t defaultValue);
+    CPropertyParams(std::string propertyName, std::int32_t defaultValue);
+    CPropertyParams(std::string propertyName, std::uint32_t minimum, std::uint32_t maximum, std::uint32_t defaultValue);
+    CPropertyParams(std::string propertyName, std::int32_t minimum, std::int32_t maximum, std::int32_t defaultValue);
     CPropertyParams(const CPropertyParams&) = delete;
     CPropertyParams& operator=(const CPropertyParams&) = delete;
 
-    std::string GetName() const { return m_name; }
-    const std::string& Name() const { return m_name; } ///< without the copy
+    std::string GetName() const { return name; }
+    const std::string& Name() const { return name; } ///< without the copy
 
-    void SetIndex(std::int32_t index); ///< makes the property indexed, for good
-    std::int32_t GetIndex() const { return m_index; }
-    bool IsIndexed() const { return m_indexed; }
-    bool IsEnumerated() const { return m_enumerated; }
-    bool IsUnsigned() const { return m_unsigned; }
+    void SetIndex(std::int32_t i); ///< makes the property indexed, for good
+    std::int32_t GetIndex() const { return index; }
+    bool IsIndexed() const { return indexed; }
+    bool IsEnumerated() const { return enumerated; }
+    bool IsUnsigned() const { return isUnsigned; }
 
     /// A property that the camera may move on its own can be stored and read while it is disabled.
-    void SetAutoUpdate(bool autoUpdate) { m_autoUpdate = autoUpdate; }
-    bool GetAutoUpdate() const { return m_autoUpdate; }
+    void SetAutoUpdate(bool on) { autoUpdate = on; }
+    bool GetAutoUpdate() const { return autoUpdate; }
 
-    void AddCallback(SDK4_CALLBACK callback, void* context); ///< replaces an earlier one
-    void RemoveCallback(SDK4_CALLBACK callback);             ///< removes the one there is, whichever is given
+    /// There is one observer: a new one replaces the old, and removing takes away whichever there is.
+    void AddCallback(SDK4_CALLBACK callback, void* context) { observer = {callback, context}; }
+    void RemoveCallback(SDK4_CALLBACK) { observer = {}; }
 
-    bool GetEnabled() const { return m_enabled; }
-    bool GetImplemented() const { return m_implemented; }
-    void SetEnabled(bool enabled);         ///< reports "enabled" when that changes it
-    void SetImplemented(bool implemented); ///< reports "implemented" when that changes it
+    bool GetEnabled() const { return enabled; }
+    bool GetImplemented() const { return implemented; }
+    void SetEnabled(bool on);     ///< reports "enabled" when that changes it
+    void SetImplemented(bool on); ///< reports "implemented" when that changes it
 
     /// Report "minimum" or "maximum" when that changes it, then move the value inside the limit without a report.
     void SetMin(std::uint32_t minimum);
@@ -67,8 +74,8 @@ public:
     std::uint32_t GetUIntMax() const;
     std::int32_t GetIntMin() const;
     std::int32_t GetIntMax() const;
-    std::uint32_t GetUIntDefault() const { return m_unsignedSide.defaultValue; }
-    std::int32_t GetIntDefault() const { return m_signedSide.defaultValue; }
+    std::uint32_t GetUIntDefault() const { return unsignedSide.defaultValue; }
+    std::int32_t GetIntDefault() const { return signedSide.defaultValue; }
 
     bool IsValueInRange(std::uint32_t value) const;
     bool IsValueInRange(std::int32_t value) const;
@@ -112,19 +119,18 @@ private:
     void CheckAccess() const;
     bool Notify(const char* attribute) const;
 
-    bool m_enabled = true;
-    bool m_implemented = true;
-    std::string m_name;
-    Side<std::uint32_t> m_unsignedSide;
-    Side<std::int32_t> m_signedSide;
-    bool m_enumerated = false;
-    std::uint32_t m_enumCount = 0; // one count for both sides: a property is enumerated on one of them only
-    SDK4_CALLBACK m_callback = nullptr;
-    void* m_context = nullptr;
-    bool m_autoUpdate = false;
-    bool m_unsigned = true;
-    std::int32_t m_index = 0;
-    bool m_indexed = false;
+    bool enabled = true;
+    bool implemented = true;
+    std::string name;
+    Side<std::uint32_t> unsignedSide;
+    Side<std::int32_t> signedSide;
+    bool enumerated = false;
+    std::uint32_t enumCount = 0; // one count for both sides: a property is enumerated on one of them only
+    Observer observer;
+    bool autoUpdate = false;
+    bool isUnsigned = true;
+    std::int32_t index = 0;
+    bool indexed = false;
 };
 
 /// N unsigned words, one per sub-property.
@@ -147,17 +153,17 @@ template <std::size_t N, std::size_t... I> class CompoundParams<N, std::index_se
 public:
     static constexpr std::size_t Count = N;
 
-    CompoundParams(const std::string& name, Text<I>... subNames) : m_subs{CPropertyParams(name + '.' + subNames)...} {}
+    CompoundParams(const std::string& name, Text<I>... subNames) : subs{CPropertyParams(name + '.' + subNames)...} {}
 
     /// N defaults.
     template <std::same_as<std::uint32_t>... Defaults>
     requires(sizeof...(Defaults) == N)
         CompoundParams(const std::string& name, Text<I>... subNames, Defaults... defaults)
-        : m_subs{CPropertyParams(name + '.' + subNames, defaults)...} {}
+        : subs{CPropertyParams(name + '.' + subNames, defaults)...} {}
 
     CompoundParams(const std::string& name, Text<I>... subNames, const UIntRecord<N>& minimum,
                    const UIntRecord<N>& maximum, const UIntRecord<N>& defaults)
-        : m_subs{CPropertyParams(name + '.' + subNames, minimum.values[I], maximum.values[I], defaults.values[I])...} {}
+        : subs{CPropertyParams(name + '.' + subNames, minimum.values[I], maximum.values[I], defaults.values[I])...} {}
 
     /// 3 N limits, all unsigned or all signed: minimum, maximum, default of the first sub-property, then of the second.
     template <typename T, std::same_as<T>... Limits>
@@ -166,38 +172,34 @@ public:
         : CompoundParams(std::array<T, 3 * N>{limit, limits...}, name, subNames...) {}
 
     /// The sub-property itself, for the list of properties and for what only one of them has. Owned by this object.
-    CPropertyParams* GetSubProperty(std::size_t i) { return &m_subs[i]; }
+    CPropertyParams* GetSubProperty(std::size_t i) { return &subs[i]; }
 
-    void SetMin(Unsigned<I>... minimum) { (m_subs[I].SetMin(minimum), ...); }
-    void SetMax(Unsigned<I>... maximum) { (m_subs[I].SetMax(maximum), ...); }
+    void SetMin(Unsigned<I>... minimum) { (subs[I].SetMin(minimum), ...); }
+    void SetMax(Unsigned<I>... maximum) { (subs[I].SetMax(maximum), ...); }
 
-    void SetAutoUpdate(bool autoUpdate) { (m_subs[I].SetAutoUpdate(autoUpdate), ...); }
-    bool GetAutoUpdate() const { return (m_subs[I].GetAutoUpdate() && ...); }
+    void SetAutoUpdate(bool on) { (subs[I].SetAutoUpdate(on), ...); }
+    bool GetAutoUpdate() const { return (subs[I].GetAutoUpdate() && ...); }
 
-    bool GetEnabled() const { return m_enabled; }
-    bool GetImplemented() const { return m_implemented; }
+    bool GetEnabled() const { return enabled; }
+    bool GetImplemented() const { return implemented; }
 
-    void SetEnabled(bool enabled) {
-        m_enabled = enabled;
-        (m_subs[I].SetEnabled(enabled), ...);
+    void SetEnabled(bool on) {
+        enabled = on;
+        (subs[I].SetEnabled(on), ...);
     }
 
-    void SetImplemented(bool implemented) {
-        m_implemented = implemented;
-        (m_subs[I].SetImplemented(implemented), ...);
+    void SetImplemented(bool on) {
+        implemented = on;
+        (subs[I].SetImplemented(on), ...);
     }
 
     /// Kept, never called: the sub-properties report to observers of their own.
-    void AddCallback(SDK4_CALLBACK callback, void* context) {
-        m_callback = callback;
-        m_context = context;
-    }
-
-    void RemoveCallback(SDK4_CALLBACK) { AddCallback(nullptr, nullptr); }
+    void AddCallback(SDK4_CALLBACK callback, void* context) { observer = {callback, context}; }
+    void RemoveCallback(SDK4_CALLBACK) { observer = {}; }
 
     bool IsValueInRange(const void* record) const {
         const Words words = WordsOf(record);
-        return (InRange(m_subs[I], words[I]) && ...);
+        return (InRange(subs[I], words[I]) && ...);
     }
 
     /// Stores every word, also behind one that changed nothing. What a sub-property throws leaves those before it
@@ -207,14 +209,14 @@ public:
         CheckImplemented();
         const Words words = WordsOf(record);
         bool told = false;
-        ((told = Store(m_subs[I], words[I]) || told), ...);
+        ((told = Store(subs[I], words[I]) || told), ...);
         return told;
     }
 
     /// Fills the record once every sub-property could be read. Throws as SetValue does.
     void GetValue(void* record) const {
         CheckImplemented();
-        const Words words = {Load(m_subs[I])...};
+        const Words words = {Load(subs[I])...};
         std::memcpy(record, words.data(), sizeof words);
     }
 
@@ -223,7 +225,7 @@ private:
 
     template <typename T>
     CompoundParams(const std::array<T, 3 * N>& limits, const std::string& name, Text<I>... subNames)
-        : m_subs{CPropertyParams(name + '.' + subNames, limits[3 * I], limits[3 * I + 1], limits[3 * I + 2])...} {}
+        : subs{CPropertyParams(name + '.' + subNames, limits[3 * I], limits[3 * I + 1], limits[3 * I + 2])...} {}
 
     static Words WordsOf(const void* record) {
         Words words;
@@ -244,16 +246,15 @@ private:
     }
 
     void CheckImplemented() const {
-        if (!m_implemented) {
+        if (!implemented) {
             SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
         }
     }
 
-    std::array<CPropertyParams, N> m_subs;
-    bool m_enabled = true;
-    bool m_implemented = true;
-    SDK4_CALLBACK m_callback = nullptr;
-    void* m_context = nullptr;
+    std::array<CPropertyParams, N> subs;
+    bool enabled = true;
+    bool implemented = true;
+    Observer observer;
 };
 
 using C2PropertyParams = CompoundParams<2>;

@@ -13,7 +13,7 @@ namespace SDK4::Control {
 /// SDK4_ERR_CANTGETFEATURE; the index has been written by then.
 class CRT6Camera {
 public:
-    explicit CRT6Camera(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CRT6Camera(IControlPort* controlPort) : port(controlPort) {}
 
     char* GetSerialNumber();
     std::uint32_t GetFunctionModelID();
@@ -100,14 +100,14 @@ public:
     std::uint32_t GetIoMode(std::uint32_t line);
     void SetIoMode(std::uint32_t line, std::uint32_t mode);
     std::uint32_t GetIoPort(std::uint32_t line);
-    void SetIoPort(std::uint32_t line, std::uint32_t port);
+    void SetIoPort(std::uint32_t line, std::uint32_t signal);
     std::uint32_t GetIoPolarity(std::uint32_t line);
     void SetIoPolarity(std::uint32_t line, std::uint32_t polarity);
     std::uint32_t GetIoDelay(std::uint32_t line);
     void SetIoDelay(std::uint32_t line, std::uint32_t delay);
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 } // namespace SDK4::Control

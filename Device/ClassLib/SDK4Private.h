@@ -41,7 +41,7 @@ public:
 /// configuration, which some devices lack.
 class CBootstrap : public IGigECamera {
 public:
-    explicit CBootstrap(SDK4::IControlPort* port);
+    explicit CBootstrap(IControlPort* controlPort);
 
     unsigned int GetGigEVersion() override;
     const char* GetMacAddress() override;
@@ -63,13 +63,13 @@ public:
     void SetUserDefinedName(const char* name) override;
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 /// Who the camera is. The texts are the port's own.
 class CGigEGufi : public IGufi {
 public:
-    explicit CGigEGufi(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CGigEGufi(IControlPort* controlPort) : port(controlPort) {}
 
     const char* GetDeviceName() override;
     const char* GetSerialNumber() override;
@@ -82,13 +82,13 @@ public:
     SDK4_KVERSION GetFirmwareVersion() override;
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 /// Acquisition and image geometry.
 class CGigEAcqControl : public SDK4::IControl {
 public:
-    explicit CGigEAcqControl(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CGigEAcqControl(IControlPort* controlPort) : port(controlPort) {}
 
     const char* GetClassID() override; ///< the device's model name
 
@@ -101,23 +101,23 @@ public:
     std::uint32_t GetHeight();
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 class CAFE : public IAFE {
 public:
-    explicit CAFE(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CAFE(IControlPort* controlPort) : port(controlPort) {}
 
     SDK4_AFE_PARAM GetAFE(SDK4_AFE_SELECT select) override;
     void SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) override;
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 class CClaryon : public IClaryon {
 public:
-    explicit CClaryon(SDK4::IControlPort* port) : m_port(port) {}
+    explicit CClaryon(IControlPort* controlPort) : port(controlPort) {}
 
     void SetCCDControl(std::uint32_t value) override;
     std::uint32_t GetCCDControl() override;
@@ -125,7 +125,7 @@ public:
     std::uint32_t ReadCOM() override;
 
 private:
-    SDK4::IControlPort* m_port;
+    IControlPort* port;
 };
 
 } // namespace SDK4::Control
