@@ -32,8 +32,8 @@ const char* CBaseControlHelper::GetPropertyNameByIndex(std::int32_t i) {
     std::int32_t position = 0;
     for (const CPropertyParams* property : properties) {
         if (position++ == i) {
-            const std::size_t length = property->Name().copy(nameBuffer, sizeof nameBuffer - 1);
-            nameBuffer[length] = '\0';
+            std::memset(nameBuffer, 0, sizeof nameBuffer); // no trace of a longer name
+            property->Name().copy(nameBuffer, sizeof nameBuffer - 1);
             return nameBuffer;
         }
     }

@@ -1,7 +1,6 @@
 #include "PropertyParams.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace SDK4::Control {
 
