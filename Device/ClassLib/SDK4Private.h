@@ -39,7 +39,7 @@ public:
 /// Network configuration, in the bootstrap registers of the GigE Vision standard. The constructor reads the network
 /// state, whatever the log level, and logs it; what the port throws there passes on, except for the GVCP
 /// configuration, which some devices lack.
-class CBootstrap : public IGigECamera {
+class CBootstrap final : public IGigECamera {
 public:
     explicit CBootstrap(IControlPort* controlPort);
 
@@ -67,7 +67,7 @@ private:
 };
 
 /// Who the camera is. The texts are the port's own.
-class CGigEGufi : public IGufi {
+class CGigEGufi final : public IGufi {
 public:
     explicit CGigEGufi(IControlPort* controlPort) : port(controlPort) {}
 
@@ -86,7 +86,7 @@ private:
 };
 
 /// Acquisition and image geometry.
-class CGigEAcqControl : public SDK4::IControl {
+class CGigEAcqControl final : public SDK4::IControl {
 public:
     explicit CGigEAcqControl(IControlPort* controlPort) : port(controlPort) {}
 
@@ -104,7 +104,7 @@ private:
     IControlPort* port;
 };
 
-class CAFE : public IAFE {
+class CAFE final : public IAFE {
 public:
     explicit CAFE(IControlPort* controlPort) : port(controlPort) {}
 
@@ -115,7 +115,7 @@ private:
     IControlPort* port;
 };
 
-class CClaryon : public IClaryon {
+class CClaryon final : public IClaryon {
 public:
     explicit CClaryon(IControlPort* controlPort) : port(controlPort) {}
 
