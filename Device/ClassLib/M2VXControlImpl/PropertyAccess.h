@@ -1,0 +1,145 @@
+#pragma once
+
+#include "Log.h"
+#include "M2VXCamera.h"
+#include "M2VXControlImpl/PropertyRows.h"
+#include "RT6Camera.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+namespace SDK4::Control {
+
+/// The sequences of checks, accesses and stores between a property and its registers, each written once. A register is
+/// named by the method of the register map, the index that it takes comes last.
+///
+/// What a register map throws leaves the property as it was.
+class CPropertyAccess {
+public:
+    /// What a property must be for its setter to go on.
+    enum class Gate { Implemented, Enabled };
+
+    /// @param readThrough whether getters read the camera or answer from the property
+    CPropertyAccess(CRT6Camera& commonMap, CM2VXCamera& familyMap, bool readThrough)
+        : common(commonMap),
+          family(familyMap),
+          reading(readThrough) {}
+
+    /// Every getter: implemented, then the camera's value or the one that the property holds, as Result.
+    template <class Result = void, class Property, class Map, class Value, class... Parameters, class... Index>
+    auto Get(Property& property, Value (Map::*read)(Parameters...), Index... index) const {
+        using Returned = std::conditional_t<std::is_void_v<Result>, Value, Result>;
+        if (!property.GetImplemented())
+            SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
+        return reading ? static_cast<Returned>(Read(read, index...)) : Load<Returned>(property);
+    }
+
+    /// A setter: implemented, enabled if asked for, in range, write, store.
+    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class... Index>
+    void Set(Property& property, Value value, WriteMethod write, Index... index) const {
+        Send<gate>(property, value, write, index...);
+        Store(property, value);
+    }
+
+    /// The same for what is no setting: the value is not stored.
+    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class... Index>
+    void Send(Property& property, Value value, WriteMethod write, Index... index) const {
+        Check<gate>(property);
+        if (!InRange(property, value))
+            SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+        Write(write, index..., value);
+    }
+
+    /// A setter that leaves it to the camera what to make of a value out of range: it is written all the same, what the
+    /// camera then holds is stored, and only then the host is told.
+    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class ReadMethod,
+              class... Index>
+    void SetThenReport(Property& property, Value value, WriteMethod write, ReadMethod read, Index... index) const {
+        Check<gate>(property);
+        const bool admitted = InRange(property, value);
+        Write(write, index..., value);
+        Store(property, admitted ? value : Read(read, index...));
+        if (!admitted)
+            SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+    }
+
+    template <Gate gate, class Property> void Check(const Property& property) const {
+        if (!property.GetImplemented())
+            SDK4_THROW(SDK4_ERR_NOT_IMPLEMENTED);
+        if (gate == Gate::Enabled && !property.GetEnabled())
+            SDK4_THROW(SDK4_ERR_DISABLED);
+    }
+
+    /// Fills a property from the camera, whatever the range.
+    template <class Property, class ReadMethod, class... Index>
+    void Fill(Property& property, ReadMethod read, Index... index) const {
+        Store(property, Read(read, index...));
+    }
+
+private:
+    template <class Map> Map& On() const {
+        if constexpr (std::is_same_v<Map, CRT6Camera>)
+            return common;
+        else
+            return family;
+    }
+
+    template <class Map, class Value, class... Parameters, class... Arguments>
+    Value Read(Value (Map::*read)(Parameters...), Arguments... arguments) const {
+        return (On<Map>().*read)(static_cast<Parameters>(arguments)...);
+    }
+
+    template <class Map, class... Parameters, class... Arguments>
+    void Write(void (Map::*write)(Parameters...), Arguments... arguments) const {
+        (On<Map>().*write)(static_cast<Parameters>(arguments)...);
+    }
+
+    static bool InRange(const CPropertyParams& property, std::uint32_t value) { return property.IsValueInRange(value); }
+
+    // Many operations take an int where the property is unsigned.
+    static bool InRange(const CPropertyParams& property, std::int32_t value) {
+        if (property.IsUnsigned())
+            return value >= 0 && property.IsValueInRange(static_cast<std::uint32_t>(value));
+        return property.IsValueInRange(value);
+    }
+
+    template <std::size_t N, class Record>
+    static bool InRange(const CompoundProperty<N>& property, const Record& record) {
+        static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
+        return property.IsValueInRange(&record);
+    }
+
+    static void Store(CPropertyParams& property, std::uint32_t value) { property.SetValue(value); }
+
+    static void Store(CPropertyParams& property, std::int32_t value) {
+        if (property.IsUnsigned())
+            property.SetValue(static_cast<std::uint32_t>(value));
+        else
+            property.SetValue(value);
+    }
+
+    template <std::size_t N, class Record> static void Store(CompoundProperty<N>& property, const Record& record) {
+        static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
+        property.SetValue(&record);
+    }
+
+    template <class Value> static Value Load(const CPropertyParams& property) {
+        if (property.IsUnsigned())
+            return static_cast<Value>(property.GetUIntValue());
+        return static_cast<Value>(property.GetIntValue());
+    }
+
+    template <class Record, std::size_t N> static Record Load(const CompoundProperty<N>& property) {
+        static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
+        Record record;
+        property.GetValue(&record);
+        return record;
+    }
+
+    CRT6Camera& common;
+    CM2VXCamera& family;
+    const bool reading;
+};
+
+} // namespace SDK4::Control
