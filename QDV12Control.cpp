@@ -1,4 +1,5 @@
 #include "Log.h"
+#include "M2VXCameraBaseCtrl.h"
 #include "OrvikControlImpl/OrvikFeatureCtrl.h"
 #include "RefusingPort.h"
 
@@ -29,8 +30,9 @@ IDynamicObject* CreateOrvik(const char* model, IControlPort* port, std::int32_t 
     return control;
 }
 
-/// Built once the control of this family exists; until then its models are registered but not served.
-constexpr Factory CreateM2VX = nullptr;
+IDynamicObject* CreateM2VX(const char* /*model*/, IControlPort* port, std::int32_t index) {
+    return new Control::CM2VXBaseControl(port, index, "M2VX");
+}
 
 struct Model {
     const char* name;
