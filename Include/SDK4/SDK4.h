@@ -75,5 +75,14 @@
 #include <SDK4/ITiming.h>
 #include <SDK4/ITrigger.h>
 #include <SDK4/IVideoFrame.h>
+#include <SDK4/M2VX/IABC.h>
+#include <SDK4/M2VX/IDefectPixel.h>
+#include <SDK4/M2VX/IExposure.h>
+#include <SDK4/M2VX/IGain.h>
+#include <SDK4/M2VX/IImageCorrection.h>
+#include <SDK4/M2VX/ILensControl.h>
+#include <SDK4/M2VX/IMotorControl.h>
+#include <SDK4/M2VX/IOverlay.h>
+#include <SDK4/M2VX/ISignalAnalysis.h>
 #include <SDK4/Records.h>
 #include <SDK4/X4Error.h>
