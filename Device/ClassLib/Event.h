@@ -33,12 +33,12 @@ public:
         std::erase_if(handlers, [handler](const auto& entry) { return entry.second == handler; });
     }
 
-    /// Tells every handler. A handler may subscribe others or unsubscribe itself meanwhile.
+    /// Tells every handler. A handler may subscribe and unsubscribe any handler meanwhile.
     void notify(void* sender, Argument argument) {
         for (auto entry = handlers.begin(); entry != handlers.end();) {
-            IEventHandler<Argument>* handler = entry->second;
-            ++entry;
-            handler->notify(sender, argument);
+            const unsigned int key = entry->first;
+            entry->second->notify(sender, argument);
+            entry = handlers.upper_bound(key);
         }
     }
 

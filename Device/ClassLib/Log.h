@@ -17,7 +17,8 @@ extern const log4cxx::LoggerPtr logger;
 } // namespace SDK4
 
 /// Logs what is streamed, for example SDK4_LOG(Debug, "ctor " << name). The level is Debug, Info, Warn or Error.
-/// log4cxx lends all lines of a thread, the host's too, one stream with its base: each line starts and leaves decimal.
+/// log4cxx lends all lines of a thread, the host's too, one stream with its base: each line starts and leaves decimal,
+/// and nothing that may log or throw (a port access, for one) may stand inside a message.
 #define SDK4_LOG(level, message)                                                                                       \
     do {                                                                                                               \
         if (::SDK4::logger->is##level##Enabled()) {                                                                    \

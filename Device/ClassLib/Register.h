@@ -21,8 +21,8 @@ public:
     void Invalidate() override;
     void SetCacheMode(EnumCacheMode mode) override { cacheMode = mode; }
     EnumCacheMode GetCacheMode() override { return cacheMode; }
-    void AddInvalidator(std::string invalidator) override;
-    std::set<std::string> GetInvalidatorSet() override { return invalidators; }
+    void AddInvalidator(std::string invalidator) final;
+    std::set<std::string> GetInvalidatorSet() final { return invalidators; }
     std::string GetName() override { return name; }
     virtual ~CRegisterBase() = default;
 

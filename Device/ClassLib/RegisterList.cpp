@@ -39,23 +39,27 @@ void CRegisterList::DoInvalidate(const std::string& name) {
     SDK4_LOG(Debug, "DoInvalidate  " << name);
     if (!index)
         index = BuildIndex();
-    // Held for the walk: a handler that adds a register or an invalidator must not pull it away.
-    const std::shared_ptr<const Index> current = index;
+    const std::shared_ptr<const Index> current = index; // held for the walk, which may make it stale
     if (!current->complete) {
-        Walk(name);
+        Walk(name, entries.begin());
         return;
     }
     const auto found = current->dependants.find(name);
     if (found == current->dependants.end())
         return;
-    for (IRegister* dependant : found->second)
+    for (IRegister* dependant : found->second) {
         dependant->Invalidate();
+        if (index != current) { // a handler added a register or an invalidator
+            Walk(name, entries.upper_bound(dependant->GetName()));
+            return;
+        }
+    }
 }
 
-void CRegisterList::Walk(const std::string& name) {
-    for (const auto& [entryName, entry] : entries)
-        if (entry->GetInvalidatorSet().contains(name))
-            entry->Invalidate();
+void CRegisterList::Walk(const std::string& name, Entries::const_iterator from) {
+    for (; from != entries.end(); ++from)
+        if (from->second->GetInvalidatorSet().contains(name))
+            from->second->Invalidate();
 }
 
 std::shared_ptr<const CRegisterList::Index> CRegisterList::BuildIndex() const {

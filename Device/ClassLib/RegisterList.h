@@ -54,10 +54,12 @@ public:
 private:
     struct Index;
 
-    void Walk(const std::string& name);
+    using Entries = std::map<std::string, IRegister*, std::less<>>;
+
+    void Walk(const std::string& name, Entries::const_iterator from);
     [[nodiscard]] std::shared_ptr<const Index> BuildIndex() const;
 
-    std::map<std::string, IRegister*, std::less<>> entries;
+    Entries entries;
     std::shared_ptr<const Index> index; ///< null when it is stale
 };
 

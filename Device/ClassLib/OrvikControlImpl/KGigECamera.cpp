@@ -4,7 +4,7 @@
 #include "Log.h"
 #include "RefusingPort.h"
 
-#include <optional>
+#include <string>
 
 namespace SDK4::Control {
 
@@ -29,27 +29,30 @@ KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
 }
 
 void KGigECamera::LogNetworkState() {
-    const auto word = [this](Register address) { return port->ReadRegister(address); };
-    const auto dotted = [&word](Register address) { return std::string(KIPAddress(word(address))); };
-    SDK4_LOG(Debug, "SupportedIPConfig   : 0x" << std::hex << word(SupportedIPConfig));
-    SDK4_LOG(Debug, "CurrentIPConfig     : 0x" << std::hex << word(CurrentIPConfig));
-    SDK4_LOG(Debug, "CurrentIPAddress    : " << dotted(CurrentIPAddress));
-    SDK4_LOG(Debug, "CurrentSubNetMask   : " << dotted(CurrentSubnetMask));
-    SDK4_LOG(Debug, "CurrentGateway      : " << dotted(CurrentDefaultGateway));
-    SDK4_LOG(Debug, "PersistentIPAddress : " << dotted(PersistentIPAddress));
-    SDK4_LOG(Debug, "PersistentSubNetMask: " << dotted(PersistentSubnetMask));
-    SDK4_LOG(Debug, "PersistentGateway   : " << dotted(PersistentDefaultGateway));
-    SDK4_LOG(Debug, "GVCP Capability     : 0x" << std::hex << word(GvcpCapability));
-    std::optional<std::uint32_t> configuration;
+    LogWord("SupportedIPConfig   : 0x", SupportedIPConfig);
+    LogWord("CurrentIPConfig     : 0x", CurrentIPConfig);
+    LogAddress("CurrentIPAddress    : ", CurrentIPAddress);
+    LogAddress("CurrentSubNetMask   : ", CurrentSubnetMask);
+    LogAddress("CurrentGateway      : ", CurrentDefaultGateway);
+    LogAddress("PersistentIPAddress : ", PersistentIPAddress);
+    LogAddress("PersistentSubNetMask: ", PersistentSubnetMask);
+    LogAddress("PersistentGateway   : ", PersistentDefaultGateway);
+    LogWord("GVCP Capability     : 0x", GvcpCapability);
     try {
-        configuration = word(GvcpConfiguration);
+        LogWord("GVCP Configuration  : 0x", GvcpConfiguration);
     } catch (...) { // a device without this register; a log level must not keep it from being opened
-    }
-    if (configuration) {
-        SDK4_LOG(Debug, "GVCP Configuration  : 0x" << std::hex << *configuration);
-    } else {
         SDK4_LOG(Debug, "GVCP Configuration  : Invalid Address");
     }
+}
+
+void KGigECamera::LogWord(const char* label, Register address) {
+    const std::uint32_t word = port->ReadRegister(address);
+    SDK4_LOG(Debug, label << std::hex << word);
+}
+
+void KGigECamera::LogAddress(const char* label, Register address) {
+    const KIPAddress word(port->ReadRegister(address));
+    SDK4_LOG(Debug, label << std::string(word));
 }
 
 unsigned int KGigECamera::GetGigEVersion() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "GigEBootstrap.h"
+
 #include <SDK4/IControlPort.h>
 #include <SDK4/IGigECamera.h>
 
@@ -34,6 +36,8 @@ public:
 
 private:
     void LogNetworkState();
+    void LogWord(const char* label, GigEBootstrap::Register address);
+    void LogAddress(const char* label, GigEBootstrap::Register address);
 
     IControlPort* port;
 };

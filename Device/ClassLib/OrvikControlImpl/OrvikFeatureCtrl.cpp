@@ -3,6 +3,8 @@
 #include "Log.h"
 #include "OrvikControlImpl/Predicates.h"
 
+#include <memory>
+
 namespace SDK4::Control {
 
 COrvikFeatureCtrl::COrvikFeatureCtrl(CFeatureList* featureList, CRegisterList* registerList, IControlPort* controlPort,
@@ -38,8 +40,9 @@ COrvikFeatureCtrl::COrvikFeatureCtrl(CFeatureList* featureList, CRegisterList* r
       features(featureList), registers(registerList) {
     // clang-format on
     SDK4_LOG(Info, "Call " << modelName);
+    auto frame = std::make_unique<CQDV12VideoFrame>(dynamic_cast<ITiming*>(this), dynamic_cast<ISignalFormat*>(this));
     AddPredicates(features, this);
-    mediaType = new CQDV12VideoFrame(dynamic_cast<ITiming*>(this), dynamic_cast<ISignalFormat*>(this));
+    mediaType = frame.release();
 }
 
 COrvikFeatureCtrl::~COrvikFeatureCtrl() {
