@@ -132,7 +132,7 @@ private:
 
     template <class Record, std::size_t N> static Record Load(const CompoundProperty<N>& property) {
         static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
-        Record record;
+        Record record{};
         property.GetValue(&record);
         return record;
     }
