@@ -1,0 +1,305 @@
+// What takes more than one call to see: admitted values, conditions, automatic modes, failures between calls.
+
+#include "CameraTest.h"
+
+#include <chrono>
+
+using namespace SDK4;
+using namespace SDK4::Control;
+
+namespace Test {
+
+namespace {
+
+/// Sets a value through some operation.
+using Setter = std::function<void(IDynamicObject&, int)>;
+
+template <class Interface, class Value> Setter Sets(void (Interface::*operation)(Value)) {
+    return [operation](IDynamicObject& camera, int value) {
+        (Part<Interface>(camera).*operation)(static_cast<Value>(value));
+    };
+}
+
+template <class Interface, class Line> Setter Sets(void (Interface::*operation)(Line, int), Line line) {
+    return [operation, line](IDynamicObject& camera, int value) {
+        (Part<Interface>(camera).*operation)(line, value);
+    };
+}
+
+Call Row(const std::string& name) { return FindOperation(name).call; }
+
+void Unplug() { throw Unplugged{0}; }
+
+} // namespace
+
+class BehaviourTest : public CameraTest {};
+
+TEST_F(BehaviourTest, EnumerationsAdmitTheseValuesOnly) {
+    struct Case {
+        const char* name;
+        Setter set;
+        std::string admitted;
+        State state = {};
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"SetExposureMode",      Sets(&IExposure::SetExposureMode),          "1 2 3 4 "},
+        {"SetAET",               Sets(&IExposure::SetAET),                   "0 1 2 "},
+        {"SetAGC",               Sets(&IGain::SetAGC),                       "0 1 2 "},
+        {"SetColorCoding",       Sets(&ISignalFormat::SetColorCoding),       "0 6 14 "},
+        {"SetColorCoding C",     Sets(&ISignalFormat::SetColorCoding),       "0 6 14 52 110 111 153 ", Colour()},
+        {"SetACC",               Sets(&IACC::SetACC),                        "0 1 2 3 4 "},
+        {"SetLightSource",       Sets(&IColor::SetLightSource),              "0 1 2 3 "},
+        {"SetAutoWhiteset",      Sets(&IColor::SetAutoWhiteset),             "0 1 2 ", Colour()},
+        {"SetLUTMode",           Sets(&ILookUpTable::SetLUTMode),            "0 1 "},
+        {"SetNegativeImage",     Sets(&ILookUpTable::SetNegativeImage),      "0 1 "},
+        {"SetOverlayShow 1",     Sets(&IOverlay::SetOverlayShow, 0),         "0 1 "},
+        {"SetOverlayShow 2",     Sets(&IOverlay::SetOverlayShow, 1),         "0 1 "},
+        {"SetMeasureFrameShow",  Sets(&ISignalAnalysis::SetMeasureFrameShow), "0 1 "},
+        {"SetVerticalFlip",      Sets(&IMemory::SetVerticalFlip),            "0 1 "},
+        {"SetHorizontalFlip",    Sets(&IMemory::SetHorizontalFlip),          "0 1 "},
+        {"SetLastImageHold",     Sets(&IMemory::SetLastImageHold),           "0 1 "},
+        {"SetImageSubtraction",  Sets(&IMemory::SetImageSubtraction),        "0 1 "},
+        {"SetRecursiveFilter",   Sets(&IMemory::SetRecursiveFilter),         "0 1 2 3 4 "},
+        {"StoreImage",           Sets(&IMemory::StoreImage),                 "0 1 "},
+        {"SetIoMode",            Sets(&IGPIO::SetIoMode, 0u),                "0 1 "},
+        {"SetIoPort",            Sets(&IGPIO::SetIoPort, 5u),                "0 1 2 3 4 "},
+        {"SetIoPolarity",        Sets(&IGPIO::SetIoPolarity, 3u),            "0 1 "},
+        {"LoadSettings",         Sets(&IBasicSettings::LoadSettings),        "0 1 2 "},
+        {"SaveSettings",         Sets(&IBasicSettings::SaveSettings),        "1 2 "},
+        {"SetStartupSettings",   Sets(&IBasicSettings::SetStartupSettings),  "0 1 2 "},
+        {"SetPatternGenerator",  Sets(&IInternalTests::SetPatternGenerator), "0 1 2 3 "},
+        {"SetPatternGenerator C", Sets(&IInternalTests::SetPatternGenerator), "0 1 ", Colour()},
+    };
+    // clang-format on
+    for (const auto& [name, set, admitted, state] : cases) {
+        const Camera camera = Open(state);
+        std::string accepted;
+        for (int value = -2; value < 160; ++value) {
+            const auto call = [&set = set, value](IDynamicObject& object) { return set(object, value), Done; };
+            const auto [outcome, accesses] = Observe(camera, call);
+            if (outcome == Done)
+                accepted += std::to_string(value) + " ";
+            else
+                EXPECT_TRUE(outcome == Invalid && accesses.find("W ") == std::string::npos) << name << " " << value;
+        }
+        EXPECT_EQ(accepted, admitted) << name;
+    }
+}
+
+TEST_F(BehaviourTest, ModelIdentifierBitsDecideWhatExists) {
+    const std::pair<std::uint32_t, const char*> cases[] = {
+        {0x00000000, "mono"},        {0x00010000, "colour"}, {0x00020000, "mono memory"}, {0x00030000, "colour memory"},
+        {0xFFFCFFFF, "mono"}, {0x00040000, "mono"},
+    };
+    for (const auto& [identifier, expected] : cases) {
+        const Camera camera = Open(With(0x64030000, identifier));
+        const auto exists = [&](const char* name) {
+            return Outcome(Row(name), *camera.Object()) != NotImplemented;
+        };
+        std::string found = exists("IBinning::GetBinning") ? "mono" : "";
+        found += exists("IColor::GetColorSaturation") ? "colour" : "";
+        found += exists("IMemory::GetVerticalFlip") ? " memory" : "";
+        EXPECT_EQ(found, expected) << std::hex << identifier;
+    }
+}
+
+TEST_F(BehaviourTest, RawCodingsAndOtherExposureModesDisable) {
+    const Camera camera = Open({}, 2);
+    std::string raw, delayed;
+    for (std::uint32_t value = 0; value < 160; ++value) {
+        port.Set(0x28020000, value);
+        port.Set(0x0A020000, value);
+        if (Outcome(Row("IColor::GetLightSource"), *camera.Object()) == Disabled)
+            raw += std::to_string(value) + " ";
+        if (Outcome(Row("ITrigger::GetTriggerDelay"), *camera.Object()) != Disabled)
+            delayed += std::to_string(value) + " ";
+    }
+    EXPECT_EQ(raw, "150 151 153 ");
+    EXPECT_EQ(delayed, "3 ");
+}
+
+TEST_F(BehaviourTest, VideoFrameNamesThePixelFormat) {
+    const std::map<int, std::uint32_t> formats{
+        {0, 0x01080001},   {2, 0x01100003},   {4, 0x01100005},   {6, 0x01100025},   {8, 0x01100007},
+        {12, 0x010C0004},  {14, 0x010C0006},  {24, 0x81100005},  {26, 0x81100025},  {51, 0x02100032},
+        {52, 0x0210001F},  {101, 0x82180014}, {102, 0x82200016}, {110, 0x02180014}, {111, 0x02180015},
+        {112, 0x02200016}, {113, 0x02200017}, {150, 0x82080001}, {151, 0x82100005}, {153, 0x82100025},
+        {155, 0x82100007},
+    };
+    const Camera camera = Open({}, 2);
+    for (int coding = -1; coding < 300; ++coding) {
+        port.Set(0x28020000, static_cast<std::uint32_t>(coding));
+        EXPECT_EQ(Outcome(Row("IVideoFrame::GetFormat"), *camera.Object()),
+                  formats.contains(coding) ? std::to_string(formats.at(coding)) : Invalid)
+            << coding;
+    }
+}
+
+TEST_F(BehaviourTest, AutomaticModesSwitchTheCachesOfWhatTheyMove) {
+    const struct {
+        const char *off, *on, *getter, *read;
+        Setter set;
+    } cases[] = {
+        {"IGain::SetAGC", "IGain::SetAGC on", "IGain::GetGain", "R 14010000/4", Sets(&IGain::SetAGC)},
+        {"IExposure::SetAET", "IExposure::SetAET on", "IExposure::GetExposure", "R 0A030000/8", Sets(&IExposure::SetAET)},
+        {"IACC::SetACC", "IACC::SetACC on", "IDigitalEnhancement::GetBrightness", "R 18010000/4", Sets(&IACC::SetACC)},
+        {"IACC::SetACC", "IACC::SetACC on", "IDigitalEnhancement::GetContrast", "R 18020000/4", Sets(&IACC::SetACC)},
+        {"IColor::SetAutoWhiteset", "IColor::SetAutoWhiteset on", "IColor::GetColorBalance", "R 15010000/12",
+         Sets(&IColor::SetAutoWhiteset)},
+    };
+    for (const auto& [off, on, getter, read, set] : cases) {
+        for (const int index : {0, 2}) {
+            SCOPED_TRACE(std::string(getter) + " at index " + std::to_string(index));
+            const Camera camera = Open(Colour(), index);
+            Outcome(Row("IColor::GetColorBalance"), *camera.Object()); // the model identifier is known from here on
+            const auto costOfGetter = [&, getter = getter] { return Observe(camera, Row(getter)).accesses; };
+            const auto refused = [&] {
+                EXPECT_THROW(set(*camera.Object(), 9), X4Error);
+                port.FailAt(1, Unplug);
+                EXPECT_THROW(set(*camera.Object(), 0), Unplugged);
+                port.FailAt(1, Unplug);
+                EXPECT_THROW(set(*camera.Object(), 1), Unplugged);
+            };
+
+            Outcome(Row(on), *camera.Object());
+            EXPECT_EQ(costOfGetter(), read);
+            refused();
+            EXPECT_EQ(costOfGetter(), read) << "the camera moves the value: it is read every time";
+
+            Outcome(Row(off), *camera.Object());
+            EXPECT_EQ(costOfGetter(), read);
+            refused();
+            EXPECT_EQ(costOfGetter(), "") << "cached again, even when opened without caches";
+        }
+    }
+}
+
+TEST_F(BehaviourTest, ExposureStaysCachedAfterAnAutomaticModeEnded) {
+    for (const int index : {0, 2}) {
+        const Camera camera = Open({}, index);
+        Outcome(Row("IExposure::SetAET"), *camera.Object());
+        Outcome(Row("IExposure::SetExposure"), *camera.Object());
+        EXPECT_EQ(Observe(camera, Row("IExposure::GetExposure")), (Observed{"3,2097151", ""}));
+    }
+}
+
+TEST_F(BehaviourTest, AcquisitionLocksTheStreamParameters) {
+    const Camera camera = Open();
+    auto& stream = camera.As<IStreamControl>();
+    const auto areaOutcome = [&] { return Outcome(Row("IRoa::SetReadoutArea"), *camera.Object()); };
+    const auto unlocked = areaOutcome();
+    ASSERT_NE(unlocked, Locked);
+    port.FailAt(1, Unplug);
+    EXPECT_THROW(stream.Start(), Unplugged);
+    EXPECT_EQ(areaOutcome(), unlocked) << "the start did not reach the camera";
+    stream.Start();
+    stream.Start();
+    EXPECT_EQ(areaOutcome(), Locked);
+    EXPECT_EQ(Outcome(Row("IRoa::GetReadoutArea"), *camera.Object()).find("SDK4_ERR"), std::string::npos);
+    port.FailAt(1, Unplug);
+    EXPECT_THROW(stream.Stop(), Unplugged);
+    EXPECT_EQ(areaOutcome(), Locked) << "the stop did not reach the camera";
+    stream.Stop();
+    EXPECT_EQ(areaOutcome(), unlocked);
+}
+
+TEST_F(BehaviourTest, AFailedWriteLeavesTheCachesAsTheyWere) {
+    const Camera camera = Open();
+    const char* const getters[] = {"IGain::GetGain", "IExposure::GetExposure", "ITiming::GetFrameDuration",
+                                   "IRoa::GetReadoutArea", "ISignalFormat::GetImageSize"};
+    std::vector<std::string> before;
+    for (const char* getter : getters)
+        before.push_back(Observe(camera, Row(getter)).outcome);
+    for (const auto& [setter, write] : {std::pair{"IGain::SetGain", 2u}, {"IExposure::SetExposure", 2u},
+                                        {"IRoa::SetReadoutArea", 5u}, {"IBasicSettings::LoadSettings", 1u}}) {
+        port.FailAt(write, Unplug);
+        EXPECT_THROW(Outcome(Row(setter), *camera.Object()), Unplugged) << setter;
+    }
+    for (std::size_t at = 0; at < std::size(getters); ++at)
+        EXPECT_EQ(Observe(camera, Row(getters[at])), (Observed{before[at], ""})) << getters[at];
+}
+
+TEST_F(BehaviourTest, PortExceptionsOfAnyTypePass) {
+    const Camera camera = Open();
+    auto& gain = camera.As<IGain>();
+    port.FailAt(1, [] { throw 42; });
+    EXPECT_THROW(gain.GetGain(), int);
+    port.FailAt(1, [] { throw std::string("cable"); });
+    EXPECT_THROW(gain.GetGain(), std::string);
+    port.FailAt(1, [] { throw X4Error(-4711); });
+    try {
+        gain.GetGain();
+        FAIL() << "nothing was thrown";
+    } catch (const X4Error& error) {
+        EXPECT_EQ(error.code, -4711);
+    }
+    EXPECT_EQ(gain.GetGain(), 1u);
+}
+
+TEST_F(BehaviourTest, SoftwareTriggerWaitsOneReadoutTime) {
+    const Camera camera = Open(With(0x0A0A0000, 20000));
+    LogCapture log;
+    const auto start = std::chrono::steady_clock::now();
+    camera.As<ITrigger>().SetSoftTrigger(1);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
+    EXPECT_EQ(port.TakeLog(), "R 0A0A0000/4; W 0A070000=1");
+    const auto texts = log.TakeTexts();
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "info Sleep us=20000"), 1);
+    EXPECT_EQ(texts.back(), "debug End");
+}
+
+TEST_F(BehaviourTest, ThrowsWithoutALineAboveWarn) {
+    const Camera camera = Open(With(0x46020000, 1));
+    LogCapture log(log4cxx::Level::getError());
+    EXPECT_THROW(camera.As<IGain>().SetGain(1), X4Error);
+    EXPECT_EQ(log.Lines().size(), 0u);
+}
+
+TEST_F(BehaviourTest, InfoLinesTellWhatTurnedStaleAndWhatIsRefused) {
+    const Camera camera = Open(With(0x46050000, 1));
+    auto& enhancement = camera.As<IDigitalEnhancement>();
+    LogCapture log(log4cxx::Level::getInfo());
+    enhancement.GetContrast();
+    enhancement.GetContrast();
+    camera.As<IACC>().SetACC(0);
+    camera.As<IACC>().SetACC(1);
+    EXPECT_THROW(enhancement.SetContrast(5), X4Error);
+    EXPECT_EQ(log.TakeTexts(), (std::vector<std::string>{"info contrast invalid @ Address=0x18020000",
+                                                         "info Invalidate: contrast", "info contrast is locked",
+                                                         "warn SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"}));
+}
+
+TEST_F(BehaviourTest, UserDefinedNameIsPaddedWithZeros) {
+    const Camera camera = Open();
+    camera.As<IGigECamera>().SetUserDefinedName("ABCDEFGHIJKLMNOPQRST");
+    camera.As<IGigECamera>().SetUserDefinedName("left");
+    Bytes expected{'l', 'e', 'f', 't'};
+    expected.resize(16);
+    EXPECT_EQ(port.Get(0x00E8), expected);
+}
+
+TEST_F(BehaviourTest, RawMemoryReturnsTheCountOfThePort) {
+    const Camera camera = Open();
+    unsigned char buffer[8] = {};
+    for (const auto& [reported, narrowed] : {std::pair<std::uint64_t, unsigned int>{5, 5u}, {0x100000003, 3u}}) {
+        port.reportedCount = reported;
+        unsigned int length = sizeof buffer;
+        camera.As<IGigEVisionPort>().ReadMem(0x1000, buffer, &length);
+        EXPECT_EQ(length, narrowed);
+        length = sizeof buffer;
+        camera.As<IGigEVisionPort>().WriteMem(0x1000, buffer, &length);
+        EXPECT_EQ(length, narrowed);
+    }
+}
+
+TEST_F(BehaviourTest, TextsOutliveTheCamera) {
+    const char* name = nullptr;
+    {
+        const Camera camera = Open({{{0x64010000, TextBlock(24, "a longer name     ")}}});
+        name = camera.As<IGufi>().GetDeviceName();
+    }
+    EXPECT_STREQ(name, "a longer name     ");
+}
+
+} // namespace Test

@@ -1,0 +1,93 @@
+// Image memory, I/O lines, settings sets, test pictures and temperatures.
+
+#include "Operations.h"
+
+using namespace SDK4::Control;
+
+namespace Test {
+
+namespace {
+
+/// A function of the image memory: written, it must be asked what the camera made of the value.
+Accesses MemoryRead(const std::string& address) { return Cached("R " + address + "/4").AskingForTheModel(); }
+Accesses MemoryWrite(const std::string& written) { return Always("W " + written).AskingForTheModel(); }
+
+unsigned char update[4];
+
+} // namespace
+
+// clang-format off
+std::vector<Operation> DeviceOperations() {
+    const SDK4_KDEVICESELECT device{1, 2, 3};
+    const State without = WithoutMemory();
+    const Accesses lacking = Kept("R 64030000/4");
+    return {
+        {"IMemory::GetVerticalFlip",     On(&IMemory::GetVerticalFlip),        "1",  MemoryRead("16020000")},
+        {"IMemory::SetVerticalFlip",     On(&IMemory::SetVerticalFlip, 1),     Done, MemoryWrite("16020000=1").Stales("GetVerticalFlip")},
+        {"IMemory::GetHorizontalFlip",   On(&IMemory::GetHorizontalFlip),      "1",  MemoryRead("16030000")},
+        {"IMemory::SetHorizontalFlip",   On(&IMemory::SetHorizontalFlip, 1),   Done, MemoryWrite("16030000=1").Stales("GetHorizontalFlip")},
+        {"IMemory::GetLastImageHold",    On(&IMemory::GetLastImageHold),       "1",  MemoryRead("16040000")},
+        {"IMemory::SetLastImageHold",    On(&IMemory::SetLastImageHold, 1),    Done, MemoryWrite("16040000=1").Stales("GetLastImageHold")},
+        {"IMemory::GetImageSubtraction", On(&IMemory::GetImageSubtraction),    "1",  MemoryRead("16060000")},
+        {"IMemory::SetImageSubtraction", On(&IMemory::SetImageSubtraction, 1), Done, MemoryWrite("16060000=1").Stales("GetImageSubtraction")},
+        {"IMemory::GetRecursiveFilter",  On(&IMemory::GetRecursiveFilter),     "1",  MemoryRead("16070000")},
+        {"IMemory::SetRecursiveFilter",  On(&IMemory::SetRecursiveFilter, 4),  Done, MemoryWrite("16070000=4").Stales("GetRecursiveFilter")},
+        {"IMemory::StoreImage",          On(&IMemory::StoreImage, 1),          Done, MemoryWrite("16050000=1")},
+        {"IMemory::GetAutoMotionDetection", On(&IMemory::GetAutoMotionDetection),    NotImplemented, Never()},
+        {"IMemory::SetAutoMotionDetection", On(&IMemory::SetAutoMotionDetection, 1), NotImplemented, Never()},
+        {"IMemory::GetVerticalFlip lacking",     On(&IMemory::GetVerticalFlip),        NotImplemented, lacking, without},
+        {"IMemory::SetHorizontalFlip lacking",   On(&IMemory::SetHorizontalFlip, 1),   NotImplemented, lacking, without},
+        {"IMemory::GetLastImageHold lacking",    On(&IMemory::GetLastImageHold),       NotImplemented, lacking, without},
+        {"IMemory::SetImageSubtraction lacking", On(&IMemory::SetImageSubtraction, 9), NotImplemented, lacking, without},
+        {"IMemory::SetRecursiveFilter lacking",  On(&IMemory::SetRecursiveFilter, 1),  NotImplemented, lacking, without},
+        {"IMemory::StoreImage lacking",          On(&IMemory::StoreImage, 1),          NotImplemented, lacking, without},
+
+        {"IGPIO::GetIoMode",            On(&IGPIO::GetIoMode, 0),        "2",  Cached("w 66020000=0; R 66020000/8")},
+        {"IGPIO::SetIoMode",            On(&IGPIO::SetIoMode, 0, 1),     Done, Always("W 66020000=0,1")},
+        {"IGPIO::GetIoPort",            On(&IGPIO::GetIoPort, 1),        "2",  Cached("w 66030000=1; R 66030000/8")},
+        {"IGPIO::SetIoPort",            On(&IGPIO::SetIoPort, 1, 4),     Done, Always("W 66030000=1,4")},
+        {"IGPIO::GetIoPolarity",        On(&IGPIO::GetIoPolarity, 3),    "2",  Cached("w 660F0000=3; R 660F0000/8")},
+        {"IGPIO::SetIoPolarity",        On(&IGPIO::SetIoPolarity, 3, 0), Done, Always("W 660F0000=3,0")},
+        {"IGPIO::GetIoDelay",           On(&IGPIO::GetIoDelay, 5),       "2",  Cached("w 66110000=5; R 66110000/8")},
+        {"IGPIO::SetIoDelay",           On(&IGPIO::SetIoDelay, 5, 4000000000), Done, Always("W 66110000=5,4000000000")},
+        {"IGPIO::GetIoMode line 6",     On(&IGPIO::GetIoMode, 5),        "2",  Cached("w 66020000=5; R 66020000/8")},
+        {"IGPIO::SetIoPort line 3",     On(&IGPIO::SetIoPort, 2, 3),     Done, Always("W 66030000=2,3")},
+        {"IGPIO::GetIoPolarity line 5", On(&IGPIO::GetIoPolarity, 4),    "2",  Cached("w 660F0000=4; R 660F0000/8")},
+        {"IGPIO::GetIoMode no line",    On(&IGPIO::GetIoMode, 6),        Invalid, Never()},
+        {"IGPIO::SetIoMode no line",    On(&IGPIO::SetIoMode, 6, 0),     Invalid, Never()},
+        {"IGPIO::GetIoPort no line",    On(&IGPIO::GetIoPort, 6),        Invalid, Never()},
+        {"IGPIO::SetIoPort no line",    On(&IGPIO::SetIoPort, 0xFFFFFFFF, 0), Invalid, Never()},
+        {"IGPIO::GetIoPolarity no line", On(&IGPIO::GetIoPolarity, 6),   Invalid, Never()},
+        {"IGPIO::SetIoPolarity no line", On(&IGPIO::SetIoPolarity, 6, 0), Invalid, Never()},
+        {"IGPIO::GetIoDelay no line",   On(&IGPIO::GetIoDelay, 0x80000000), Invalid, Never()},
+        {"IGPIO::SetIoDelay no line",   On(&IGPIO::SetIoDelay, 6, 0),    Invalid, Never()},
+
+        {"IBasicSettings::Restart",             On(&IBasicSettings::Restart),         NotImplemented, Never()},
+        {"IBasicSettings::LoadSettings",        On(&IBasicSettings::LoadSettings, 0), Done,    Always("W 51020000=0").Stales("all but GetPatternGenerator")},
+        {"IBasicSettings::LoadSettings colour", On(&IBasicSettings::LoadSettings, 2), Done,    Always("W 51020000=2").Stales("all but GetPatternGenerator"), Colour()},
+        {"IBasicSettings::LoadSettings 3",      On(&IBasicSettings::LoadSettings, 3), Invalid, Never()},
+        {"IBasicSettings::SaveSettings",        On(&IBasicSettings::SaveSettings, 2), Done,    Always("W 51030000=2")},
+        {"IBasicSettings::SaveSettings 0",      On(&IBasicSettings::SaveSettings, 0), Invalid, Never()},
+        {"IBasicSettings::GetStartupSettings",  On(&IBasicSettings::GetStartupSettings),    "1",  Always("R 51040000/4")},
+        {"IBasicSettings::SetStartupSettings",  On(&IBasicSettings::SetStartupSettings, 2), Done, Always("W 51040000=2")},
+        {"IBasicSettings::GetOperationMode",    On(&IBasicSettings::GetOperationMode),      "1",  Always("R 52020000/4")},
+        {"IBasicSettings::SetUpdateFile",       On(&IBasicSettings::SetUpdateFile, update, 4), NotImplemented, Never()},
+        {"IBasicSettings::GetUpdateStatus",     On(&IBasicSettings::GetUpdateStatus),       NotImplemented, Never()},
+        {"IBasicSettings::GetDevice",           On(&IBasicSettings::GetDevice, device),     NotImplemented, Never()},
+        {"IBasicSettings::SetDevice",           On(&IBasicSettings::SetDevice, device, 4),  NotImplemented, Never()},
+        {"IBasicSettings::GetErrorRegisterStatus", On(&IBasicSettings::GetErrorRegisterStatus), NotImplemented, Never()},
+
+        {"IInternalTests::GetPatternGenerator",   On(&IInternalTests::GetPatternGenerator),    "1",  Cached("R 5A010000/4")},
+        {"IInternalTests::SetPatternGenerator",   On(&IInternalTests::SetPatternGenerator, 3), Done, Always("W 5A010000=3")},
+        {"IInternalTests::SetPatternGenerator colour", On(&IInternalTests::SetPatternGenerator, 2), Invalid, Never(), Colour()},
+        {"IInternalTests::GetTestPattern",        On(&IInternalTests::GetTestPattern, 0),      NotImplemented, Never()},
+        {"IInternalTests::SetTestPattern",        On(&IInternalTests::SetTestPattern, 0, 1),   NotImplemented, Never()},
+        {"IInternalTests::GetTemperaturePCB",     On(&IInternalTests::GetTemperaturePCB),      NotImplemented, Never()},
+        {"IInternalTests::GetTemperature",        On(&IInternalTests::GetTemperature, 0), "-5",    Always("w 5A030000=0; R 5A030000/8"), {{{0x5A030000, Words({0xFFFFFFFB}), 0}}}},
+        {"IInternalTests::GetTemperature 1",      On(&IInternalTests::GetTemperature, 1), Invalid, Never()},
+        {"IInternalTests::GetTemperature -1",     On(&IInternalTests::GetTemperature, -1), Invalid, Never()},
+    };
+}
+// clang-format on
+
+} // namespace Test

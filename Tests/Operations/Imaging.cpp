@@ -1,0 +1,113 @@
+// Exposure, gain, timing, trigger, and the geometry and coding of the image.
+
+#include "Operations.h"
+
+using namespace SDK4::Control;
+
+namespace Test {
+
+namespace {
+
+constexpr std::uint32_t exposureMode = 0x0A020000, roaLimits = 0x28090000, aet = 0x46010000, agc = 0x46020000;
+
+Call SetCoding(int coding) { return On(&ISignalFormat::SetColorCoding, static_cast<SDK4_ENUM_COLORCODING>(coding)); }
+
+Call SetArea(SDK4_KAREA area) { return On(&IRoa::SetReadoutArea, area); }
+
+State Limits(std::vector<std::uint32_t> min, std::vector<std::uint32_t> max) {
+    return {{{roaLimits, Words(min), 0}, {roaLimits, Words(max), 1}, {roaLimits, Words({7, 7, 70, 70}), 2}}};
+}
+
+/// A write of the readout area after its limits were read; they then stay known.
+Accesses AreaWrite(const std::string& written) {
+    return Settling("w 28090000=0; R 28090000/20; w 28090000=1; R 28090000/20; W 28050000=" + written,
+                    "W 28050000=" + written)
+        .Stales("GetImageSize, GetOverlayPosition line 1, GetOverlayPosition line 2, GetMeasureWindow, "
+                "GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration");
+}
+
+} // namespace
+
+// clang-format off
+std::vector<Operation> ImagingOperations() {
+    const State mode3 = With(exposureMode, 3);
+    const State limits = Limits({0, 0, 63, 63}, {100, 100, 1023, 767});
+    const SDK4_KBINNING two{2, 3}, eight{8, 8};
+    const SDK4_KEXPOSURE time{3, 2097151};
+    const std::string areaBinning = "GetReadoutArea, GetReadoutAreaLimits active, GetReadoutAreaLimits max, GetReadoutAreaLimits min, GetImageSize, GetOverlayPosition line 1, "
+                                    "GetOverlayPosition line 2, GetMeasureWindow, GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration";
+    return {
+        {"IExposure::GetExposureMode",        On(&IExposure::GetExposureMode),        "1",   Cached("R 0A020000/4")},
+        {"IExposure::SetExposureMode",        On(&IExposure::SetExposureMode, 4),     Done,  Always("W 0A020000=4").Stales("GetExposure, GetFrameDuration")},
+        {"IExposure::SetExposureMode 5",      On(&IExposure::SetExposureMode, 5),     Invalid, Never()},
+        {"IExposure::GetExposure",            On(&IExposure::GetExposure),            "1,2", Cached("R 0A030000/8")},
+        {"IExposure::SetExposure",            On(&IExposure::SetExposure, time),      Done,  Always("R 46010000/4; W 0A030000=3,2097151").Stales("GetExposure, GetFrameDuration")},
+        {"IExposure::SetExposure automatic",  On(&IExposure::SetExposure, time),      Locked, Always("R 46010000/4"), With(aet, 2)},
+        {"IExposure::GetAutoExposureLevel",   On(&IExposure::GetAutoExposureLevel),   "1",   Cached("R 46030000/4")},
+        {"IExposure::SetAutoExposureLevel",   On(&IExposure::SetAutoExposureLevel, 255), Done, Always("W 46030000=255")},
+        {"IExposure::SetAutoExposureLevel above", On(&IExposure::SetAutoExposureLevel, 256), OutOfRange, Always("W 46030000=255")},
+        {"IExposure::GetAET",                 On(&IExposure::GetAET),                 "0",   Always("R 46010000/4")},
+        {"IExposure::SetAET",                 On(&IExposure::SetAET, 0),              Done,  Always("W 46010000=0").Stales("GetExposure, GetFrameDuration")},
+        {"IExposure::SetAET on",              On(&IExposure::SetAET, 2),              Done,  Always("W 46010000=2").Stales("GetExposure, GetFrameDuration")},
+
+        {"IGain::GetGain",                    On(&IGain::GetGain),                    "1",   Cached("R 14010000/4")},
+        {"IGain::SetGain",                    On(&IGain::SetGain, 511),               Done,  Always("R 46020000/4; W 14010000=511")},
+        {"IGain::SetGain above",              On(&IGain::SetGain, 512),               OutOfRange, Always("R 46020000/4; W 14010000=511")},
+        {"IGain::SetGain greatest",           On(&IGain::SetGain, 0xFFFFFFFF),        OutOfRange, Always("R 46020000/4; W 14010000=511")},
+        {"IGain::SetGain automatic",          On(&IGain::SetGain, 512),               Locked, Always("R 46020000/4"), With(agc, 1)},
+        {"IGain::GetAGC",                     On(&IGain::GetAGC),                     "0",   Always("R 46020000/4")},
+        {"IGain::SetAGC",                     On(&IGain::SetAGC, 0),                  Done,  Always("W 46020000=0").Stales("GetGain")},
+        {"IGain::SetAGC on",                  On(&IGain::SetAGC, 2),                  Done,  Always("W 46020000=2").Stales("GetGain")},
+
+        {"ITiming::GetPixelClock",            On(&ITiming::GetPixelClock),            "1",   Cached("R 0A090000/4")},
+        {"ITiming::GetReadoutTime",           On(&ITiming::GetReadoutTime),           "1",   Cached("R 0A0A0000/4")},
+        {"ITiming::SetReadoutTime",           On(&ITiming::SetReadoutTime, 4000000000), Done, Always("W 0A0A0000=4000000000").Stales("GetReadoutTime, GetExposure, GetFrameDuration")},
+        {"ITiming::GetFrameDuration",         On(&ITiming::GetFrameDuration),         "1",   Cached("R 28040000/4")},
+
+        {"ITrigger::GetSoftTrigger",          On(&ITrigger::GetSoftTrigger),          "1",   Always("R 0A070000/4")},
+        {"ITrigger::SetSoftTrigger",          On(&ITrigger::SetSoftTrigger, 1),       Done,  Settling("R 0A0A0000/4; W 0A070000=1", "W 0A070000=1")},
+        {"ITrigger::GetTriggerTimer",         On(&ITrigger::GetTriggerTimer),         "1",   Always("R 0A080000/4")},
+        {"ITrigger::SetTriggerTimer",         On(&ITrigger::SetTriggerTimer, 77),     Done,  Always("W 0A080000=77")},
+        {"ITrigger::GetTriggerDelay",         On(&ITrigger::GetTriggerDelay),         "1,2", Settling("R 0A020000/4; R 0A100000/8", "R 0A100000/8"), mode3},
+        {"ITrigger::SetTriggerDelay",         On(&ITrigger::SetTriggerDelay, time),   Done,  Settling("R 0A020000/4; W 0A100000=3,2097151", "W 0A100000=3,2097151"), mode3},
+        {"ITrigger::GetTriggerDelay other mode", On(&ITrigger::GetTriggerDelay),      Disabled, Cached("R 0A020000/4"), With(exposureMode, 4)},
+        {"ITrigger::SetTriggerDelay other mode", On(&ITrigger::SetTriggerDelay, time), Disabled, Cached("R 0A020000/4")},
+
+        {"ISlowScan::GetSlowScan",            On(&ISlowScan::GetSlowScan),            NotImplemented, Never()},
+        {"ISlowScan::SetSlowScan",            On(&ISlowScan::SetSlowScan, 0),         NotImplemented, Never()},
+
+        {"ISignalFormat::GetColorCoding",     On(&ISignalFormat::GetColorCoding),     "0",   Cached("R 28020000/4")},
+        {"ISignalFormat::SetColorCoding",     SetCoding(14), Done,    Always("W 28020000=14").Stales("GetImageSize, GetFrameDuration")},
+        {"ISignalFormat::SetColorCoding colour", SetCoding(110), Done, Always("W 28020000=110").Stales("GetImageSize, GetFrameDuration"), Colour()},
+        {"ISignalFormat::SetColorCoding not admitted", SetCoding(110), Invalid, Never()},
+        {"ISignalFormat::SetColorCoding streaming",    SetCoding(110), Locked,  Never(), Streaming()},
+        {"ISignalFormat::GetImageSize",       On(&ISignalFormat::GetImageSize),       "1,2", Kept("R 28030000/8")},
+
+        {"IRoa::GetReadoutArea",              On(&IRoa::GetReadoutArea),              "1,2,3,4", Cached("R 28050000/16")},
+        {"IRoa::GetReadoutAreaLimits min",    On(&IRoa::GetReadoutAreaLimits, 0),     "0,0,63,63",        Cached("w 28090000=0; R 28090000/20"), limits},
+        {"IRoa::GetReadoutAreaLimits max",    On(&IRoa::GetReadoutAreaLimits, 1),     "100,100,1023,767", Cached("w 28090000=1; R 28090000/20"), limits},
+        {"IRoa::GetReadoutAreaLimits active", On(&IRoa::GetReadoutAreaLimits, 2),     "7,7,70,70",        Cached("w 28090000=2; R 28090000/20"), limits},
+        {"IRoa::GetReadoutAreaLimits 3",      On(&IRoa::GetReadoutAreaLimits, 3),     Invalid, Never()},
+        {"IRoa::GetReadoutAreaLimits -1",     On(&IRoa::GetReadoutAreaLimits, -1),    Invalid, Never()},
+        {"IRoa::SetReadoutArea",              SetArea({100, 0, 1023, 63}),    Done,       AreaWrite("100,0,1023,63"), limits},
+        {"IRoa::SetReadoutArea clamped",      SetArea({101, 50, 62, 4000000000}), OutOfRange, AreaWrite("100,50,63,767"), limits},
+        {"IRoa::SetReadoutArea limits crossed", SetArea({5, 5, 5, 5}),        OutOfRange, AreaWrite("5,4,5,5"), Limits({0, 9, 0, 5}, {9, 4, 9, 5})},
+        {"IRoa::SetReadoutArea streaming",    SetArea({0, 0, 0, 0}),          Locked,     Never(), Streaming()},
+        {"IRoa::GetFrameMask",                On(&IRoa::GetFrameMask),                        NotImplemented, Never()},
+        {"IRoa::SetFrameMask",                On(&IRoa::SetFrameMask, SDK4_KAREA{1, 2, 3, 4}), NotImplemented, Never()},
+
+        {"IBinning::GetBinning",              On(&IBinning::GetBinning),        "1,2",  Cached("R 0A0B0000/8").AskingForTheModel()},
+        {"IBinning::GetBinning colour",       On(&IBinning::GetBinning),        NotImplemented, Kept("R 64030000/4"), Colour()},
+        {"IBinning::SetBinning",              On(&IBinning::SetBinning, two),   Done,   Always("W 0A0B0000=2,3").AskingForTheModel().Stales(areaBinning)},
+        {"IBinning::SetBinning 8",            On(&IBinning::SetBinning, eight), Done,   Always("W 0A0B0000=8,8").AskingForTheModel().Stales(areaBinning)},
+        {"IBinning::SetBinning streaming",    On(&IBinning::SetBinning, two),   Locked, Kept("R 64030000/4"), Streaming()},
+        {"IBinning::SetBinning colour",       On(&IBinning::SetBinning, two),   NotImplemented, Kept("R 64030000/4"), Colour()},
+        {"IBinning::SetBinning 0,1",          On(&IBinning::SetBinning, SDK4_KBINNING{0, 1}), Invalid, Never(), Streaming()},
+        {"IBinning::SetBinning 1,0",          On(&IBinning::SetBinning, SDK4_KBINNING{1, 0}), Invalid, Never(), Colour()},
+        {"IBinning::SetBinning 9,1",          On(&IBinning::SetBinning, SDK4_KBINNING{9, 1}), Invalid, Never()},
+        {"IBinning::SetBinning 1,9",          On(&IBinning::SetBinning, SDK4_KBINNING{1, 9}), Invalid, Never()},
+    };
+}
+// clang-format on
+
+} // namespace Test

@@ -1,0 +1,126 @@
+#pragma once
+
+// The one table of everything a host can call on an Orvik camera: what it answers and which port accesses it costs.
+// A new operation is one row in the file of its group. The accesses are written as RecordingPort writes them down.
+
+#include "RecordingPort.h"
+
+#include <SDK4/SDK4.h>
+
+#include <functional>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+namespace Test {
+
+/// Calls an operation on an opened camera and returns its result as text.
+using Call = std::function<std::string(IDynamicObject&)>;
+
+/// The accesses of the first and of an immediately repeated call, on a camera opened with index 0 and with index 2.
+struct Accesses {
+    std::string first, again, firstUncached, againUncached;
+    std::string stale; ///< the cached getters that read the camera again after the call, see Stales
+
+    /// The names, without interface and in any order, of the getters whose cached value the call made stale; "all but "
+    /// in front names those that keep theirs. For calls without this, no getter may turn stale.
+    Accesses Stales(std::string names) const;
+
+    /// Adds, to the first call only, the read of the function-model identifier: it is kept even with index 2.
+    Accesses AskingForTheModel() const;
+};
+
+Accesses Always(std::string accesses);                    ///< the same every time: cache mode 0, or a write
+Accesses Settling(std::string first, std::string again);  ///< the second call at index 0 finds something in the cache
+Accesses Cached(std::string accesses);                    ///< the second call at index 0 costs nothing
+Accesses Kept(std::string accesses);                      ///< the second call costs nothing, even with index 2
+inline Accesses Never() { return {}; }
+
+struct Preset {
+    std::uint32_t address;
+    Bytes bytes;
+    int index = -1; ///< for one of several instances
+};
+
+/// The state of the camera before the call. Without anything: a mono camera with image memory, automatic modes off.
+struct State {
+    std::vector<Preset> presets{};
+    const char* model = "Orvik-31200M";
+    Call before{}; ///< called first, for example the start of the acquisition
+};
+
+/// The state that differs in one word.
+State With(std::uint32_t address, std::uint32_t word);
+State Colour();       ///< a colour camera with image memory
+State Streaming();    ///< the acquisition runs
+State WithoutMemory(); ///< a mono camera without image memory
+
+struct Operation {
+    std::string name; ///< "IGain::SetGain", and after a blank what is special about the row
+    Call call;
+    std::string result; ///< the result as text or the name of the error code
+    Accesses accesses;
+    State state{};
+};
+
+inline const std::string Done = "done", OutOfRange = "SDK4_ERR_OUTOFRANGE", Invalid = "SDK4_ERR_INVALID_PARAMETER",
+                         Locked = "SDK4_ERR_CANTSETFEATURE", Disabled = "SDK4_ERR_DISABLED",
+                         NotImplemented = "SDK4_ERR_NOT_IMPLEMENTED";
+
+/// All rows.
+const std::vector<Operation>& Operations();
+/// The row of that name. @throws std::out_of_range
+const Operation& FindOperation(const std::string& name);
+
+/// Brings the camera behind @p port into the state before the call, except for State::before.
+void Prepare(RecordingPort& port, const State& state);
+
+/// The result of a call, or the name of the code of the X4Error that it threw.
+std::string Outcome(const Call& call, IDynamicObject& camera);
+
+// ---- building rows ----
+
+std::string Text(const char* text);
+std::string Text(SDK4::IMediaType* mediaType);
+std::string TextOfWords(const void* words, std::size_t count);
+
+template <class T> std::string Text(const T& value) {
+    if constexpr (std::is_enum_v<T>)
+        return std::to_string(static_cast<std::underlying_type_t<T>>(value));
+    else if constexpr (std::is_arithmetic_v<T>)
+        return std::to_string(value);
+    else
+        return TextOfWords(&value, sizeof value / 4);
+}
+
+/// The interface as the camera has it, or as its media type has it.
+template <class Interface> Interface& Part(IDynamicObject& camera) {
+    if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>)
+        return dynamic_cast<Interface&>(*dynamic_cast<SDK4::Control::IDSMediaType&>(camera).GetMediaType());
+    else
+        return dynamic_cast<Interface&>(camera);
+}
+
+/// A call of one operation with fixed arguments.
+template <class Interface, class Result, class... Parameters, class... Arguments>
+Call On(Result (Interface::*operation)(Parameters...), Arguments... arguments) {
+    return [operation, values = std::tuple<Parameters...>(arguments...)](IDynamicObject& camera) {
+        auto& interface = Part<Interface>(camera);
+        const auto invoke = [&](auto... value) { return (interface.*operation)(value...); };
+        if constexpr (std::is_void_v<Result>) {
+            std::apply(invoke, values);
+            return Done;
+        } else {
+            return Text(std::apply(invoke, values));
+        }
+    };
+}
+
+std::vector<Operation> AccessOperations();
+std::vector<Operation> NetworkOperations();
+std::vector<Operation> ImagingOperations();
+std::vector<Operation> ProcessingOperations();
+std::vector<Operation> DeviceOperations();
+
+} // namespace Test

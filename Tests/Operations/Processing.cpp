@@ -1,0 +1,136 @@
+// What the camera does with the picture: enhancement, colour, look-up table, overlay, measurement.
+
+#include "Operations.h"
+
+using namespace SDK4::Control;
+
+namespace Test {
+
+namespace {
+
+constexpr std::uint32_t colorCoding = 0x28020000, awb = 0x46040000, acc = 0x46050000, overlayPosition = 0x17020000;
+
+/// A colour camera with one more word set.
+State ColourWith(std::uint32_t address, std::uint32_t word) {
+    State state = Colour();
+    state.presets.push_back({address, Words({word})});
+    return state;
+}
+
+State Area(SDK4_KAREA area) { return {{{0x28050000, Words({area.startx, area.starty, area.endx, area.endy})}}}; }
+
+Accesses PositionWrite(const std::string& written) {
+    return Settling("R 28050000/16; W 17020000=" + written, "W 17020000=" + written);
+}
+
+Call SetBalance(SDK4_KRGB balance) { return On(&IColor::SetColorBalance, balance); }
+Call SetPosition(int line, SDK4_KPOSITION position) { return On(&IOverlay::SetOverlayPosition, line, position); }
+
+} // namespace
+
+// clang-format off
+std::vector<Operation> ProcessingOperations() {
+    const SDK4_KRGB rgb{10, 20, 30};
+    const SDK4_KSTYLE style{3, 9};
+    const SDK4_KOVERLAYSIZE size{5, 600};
+    const SDK4_KAREA area{1, 2, 30, 40}, picture{100, 50, 1100, 850};
+    const State colour = Colour(), automatic = With(acc, 4);
+    return {
+        {"IDigitalEnhancement::GetBrightness", On(&IDigitalEnhancement::GetBrightness),       "1",        Cached("R 18010000/4")},
+        {"IDigitalEnhancement::SetBrightness", On(&IDigitalEnhancement::SetBrightness, 2047), Done,       Always("R 46050000/4; W 18010000=2047")},
+        {"IDigitalEnhancement::SetBrightness above", On(&IDigitalEnhancement::SetBrightness, 2048), OutOfRange, Always("R 46050000/4; W 18010000=2047")},
+        {"IDigitalEnhancement::SetBrightness automatic", On(&IDigitalEnhancement::SetBrightness, 2048), Locked, Always("R 46050000/4"), automatic},
+        {"IDigitalEnhancement::GetContrast",   On(&IDigitalEnhancement::GetContrast),       "1",        Cached("R 18020000/4")},
+        {"IDigitalEnhancement::SetContrast",   On(&IDigitalEnhancement::SetContrast, 32),   Done,       Always("R 46050000/4; W 18020000=32")},
+        {"IDigitalEnhancement::SetContrast below", On(&IDigitalEnhancement::SetContrast, 31), OutOfRange, Always("R 46050000/4; W 18020000=32")},
+        {"IDigitalEnhancement::SetContrast above", On(&IDigitalEnhancement::SetContrast, 256), OutOfRange, Always("R 46050000/4; W 18020000=255")},
+        {"IDigitalEnhancement::SetContrast automatic", On(&IDigitalEnhancement::SetContrast, 0), Locked, Always("R 46050000/4"), automatic},
+        {"IDigitalEnhancement::GetSharpness",  On(&IDigitalEnhancement::GetSharpness),      "1",        Cached("R 18030000/4")},
+        {"IDigitalEnhancement::SetSharpness",  On(&IDigitalEnhancement::SetSharpness, 255), Done,       Always("W 18030000=255"), automatic},
+        {"IDigitalEnhancement::SetSharpness above", On(&IDigitalEnhancement::SetSharpness, 256), OutOfRange, Always("W 18030000=255")},
+        {"IDigitalEnhancement::GetHistogramEqualization", On(&IDigitalEnhancement::GetHistogramEqualization),    NotImplemented, Never()},
+        {"IDigitalEnhancement::SetHistogramEqualization", On(&IDigitalEnhancement::SetHistogramEqualization, 1), NotImplemented, Never()},
+
+        {"IACC::GetACC",     On(&IACC::GetACC),    "0",     Always("R 46050000/4")},
+        {"IACC::SetACC",     On(&IACC::SetACC, 0), Done,    Always("W 46050000=0").Stales("GetBrightness, GetContrast")},
+        {"IACC::SetACC on",  On(&IACC::SetACC, 4), Done,    Always("W 46050000=4").Stales("GetBrightness, GetContrast")},
+        {"IACC::SetACC 5",   On(&IACC::SetACC, 5), Invalid, Never()},
+
+        {"IColor::GetColorBalance",           On(&IColor::GetColorBalance), "1,2,3",        Cached("R 15010000/12").AskingForTheModel(), colour},
+        {"IColor::GetColorBalance mono",      On(&IColor::GetColorBalance), NotImplemented, Kept("R 64030000/4")},
+        {"IColor::SetColorBalance",           SetBalance(rgb),              Done,           Always("R 46040000/4; W 15010000=10,20,30").AskingForTheModel(), colour},
+        {"IColor::SetColorBalance above",     SetBalance({300, 10, 256}),   OutOfRange,     Always("R 46040000/4; W 15010000=255,10,255").AskingForTheModel(), colour},
+        {"IColor::SetColorBalance automatic", SetBalance({300, 10, 10}),    Locked,         Always("R 46040000/4").AskingForTheModel(), ColourWith(awb, 2)},
+        {"IColor::SetColorBalance mono",      SetBalance(rgb),              NotImplemented, Kept("R 64030000/4")},
+        {"IColor::GetLightSource",            On(&IColor::GetLightSource),    "1",          Cached("R 28020000/4; R 15020000/4")},
+        {"IColor::SetLightSource",            On(&IColor::SetLightSource, 3), Done,         Settling("R 28020000/4; W 15020000=3", "W 15020000=3")},
+        {"IColor::GetLightSource raw",        On(&IColor::GetLightSource),    Disabled,     Cached("R 28020000/4"), With(colorCoding, 150)},
+        {"IColor::SetLightSource raw",        On(&IColor::SetLightSource, 3), Disabled,     Cached("R 28020000/4"), With(colorCoding, 153)},
+        {"IColor::GetColorSaturation",        On(&IColor::GetColorSaturation), "1",         Cached("R 15040000/4").AskingForTheModel(), colour},
+        {"IColor::SetColorSaturation",        On(&IColor::SetColorSaturation, 255), Done,   Always("W 15040000=255").AskingForTheModel(), ColourWith(awb, 1)},
+        {"IColor::SetColorSaturation above",  On(&IColor::SetColorSaturation, 256), OutOfRange, Always("W 15040000=255").AskingForTheModel(), colour},
+        {"IColor::GetColorSaturation mono",   On(&IColor::GetColorSaturation), NotImplemented, Kept("R 64030000/4")},
+        {"IColor::SetColorSaturation mono",   On(&IColor::SetColorSaturation, 256), NotImplemented, Kept("R 64030000/4")},
+        {"IColor::GetAutoWhiteset",           On(&IColor::GetAutoWhiteset),    "0",         Always("R 46040000/4").AskingForTheModel(), colour},
+        {"IColor::SetAutoWhiteset",           On(&IColor::SetAutoWhiteset, 0), Done,        Always("W 46040000=0").AskingForTheModel().Stales("GetColorBalance"), colour},
+        {"IColor::SetAutoWhiteset on",        On(&IColor::SetAutoWhiteset, 2), Done,        Always("W 46040000=2").AskingForTheModel().Stales("GetColorBalance"), colour},
+        {"IColor::GetAutoWhiteset mono",      On(&IColor::GetAutoWhiteset),    NotImplemented, Kept("R 64030000/4")},
+        {"IColor::SetAutoWhiteset mono",      On(&IColor::SetAutoWhiteset, 9), NotImplemented, Kept("R 64030000/4")},
+
+        {"ILookUpTable::GetLUTMode",                On(&ILookUpTable::GetLUTMode),                  "1",  Cached("R 19020000/4")},
+        {"ILookUpTable::SetLUTMode",                On(&ILookUpTable::SetLUTMode, 1),               Done, Always("W 19020000=1")},
+        {"ILookUpTable::GetLUTInterpolatorIndex",   On(&ILookUpTable::GetLUTInterpolatorIndex),     "-8", Cached("R 19010000/4"), With(0x19010000, 0xFFFFFFF8)},
+        {"ILookUpTable::SetLUTInterpolatorIndex",   On(&ILookUpTable::SetLUTInterpolatorIndex, -8), Done, Always("W 19010000=4294967288")},
+        {"ILookUpTable::SetLUTInterpolatorIndex 12", On(&ILookUpTable::SetLUTInterpolatorIndex, 12), Done, Always("W 19010000=12")},
+        {"ILookUpTable::SetLUTInterpolatorIndex below", On(&ILookUpTable::SetLUTInterpolatorIndex, -9), OutOfRange, Always("W 19010000=4294967288")},
+        {"ILookUpTable::SetLUTInterpolatorIndex above", On(&ILookUpTable::SetLUTInterpolatorIndex, 13), OutOfRange, Always("W 19010000=12")},
+        {"ILookUpTable::GetNegativeImage",          On(&ILookUpTable::GetNegativeImage),            "1",  Cached("R 19030000/4")},
+        {"ILookUpTable::SetNegativeImage",          On(&ILookUpTable::SetNegativeImage, 1),         Done, Always("W 19030000=1").Stales("GetNegativeImage")},
+
+        {"IOverlay::GetOverlayShow line 1",     On(&IOverlay::GetOverlayShow, 0),         "2",     Cached("w 17010000=0; R 17010000/8")},
+        {"IOverlay::GetOverlayShow line 2",     On(&IOverlay::GetOverlayShow, 1),         "2",     Cached("w 17010000=1; R 17010000/8")},
+        {"IOverlay::SetOverlayShow",            On(&IOverlay::SetOverlayShow, 0, 1),      Done,    Always("W 17010000=0,1")},
+        {"IOverlay::SetOverlayShow line 2",     On(&IOverlay::SetOverlayShow, 1, 0),      Done,    Always("W 17010000=1,0")},
+        {"IOverlay::SetOverlayShow value 2",    On(&IOverlay::SetOverlayShow, 0, 2),      Invalid, Never()},
+        {"IOverlay::GetOverlayPosition line 1", On(&IOverlay::GetOverlayPosition, 0),     "2,3",   Cached("w 17020000=0; R 17020000/12")},
+        {"IOverlay::GetOverlayPosition line 2", On(&IOverlay::GetOverlayPosition, 1),     "8,9",   Cached("w 17020000=1; R 17020000/12"), {{{overlayPosition, Words({8, 9}), 1}}}},
+        {"IOverlay::SetOverlayPosition",        SetPosition(0, {1000, 800}), Done,       PositionWrite("0,1000,800"), Area(picture)},
+        {"IOverlay::SetOverlayPosition line 2", SetPosition(1, {0, 0}),      Done,       PositionWrite("1,0,0"), Area(picture)},
+        {"IOverlay::SetOverlayPosition beyond", SetPosition(1, {1001, 5}),   OutOfRange, PositionWrite("1,1000,5"), Area(picture)},
+        {"IOverlay::SetOverlayPosition beyond below", SetPosition(0, {5, 801}), OutOfRange, PositionWrite("0,5,800"), Area(picture)},
+        {"IOverlay::SetOverlayPosition area turned", SetPosition(0, {4000000000, 0}), Done, PositionWrite("0,4000000000,0"), Area({9, 0, 8, 0})},
+        {"IOverlay::GetOverlayStyle line 1",    On(&IOverlay::GetOverlayStyle, 0),        "2,3",   Cached("w 17030000=0; R 17030000/12")},
+        {"IOverlay::GetOverlayStyle line 2",    On(&IOverlay::GetOverlayStyle, 1),        "2,3",   Cached("w 17030000=1; R 17030000/12")},
+        {"IOverlay::SetOverlayStyle",           On(&IOverlay::SetOverlayStyle, 0, style), Done,    Always("W 17030000=0,3,9")},
+        {"IOverlay::SetOverlayStyle line 2",    On(&IOverlay::SetOverlayStyle, 1, style), Done,    Always("W 17030000=1,3,9")},
+        {"IOverlay::GetOverlaySize line 1",     On(&IOverlay::GetOverlaySize, 0),         "2,3",   Cached("w 17040000=0; R 17040000/12")},
+        {"IOverlay::GetOverlaySize line 2",     On(&IOverlay::GetOverlaySize, 1),         "2,3",   Cached("w 17040000=1; R 17040000/12")},
+        {"IOverlay::SetOverlaySize",            On(&IOverlay::SetOverlaySize, 0, size),   Done,    Always("W 17040000=0,5,600")},
+        {"IOverlay::SetOverlaySize line 2",     On(&IOverlay::SetOverlaySize, 1, size),   Done,    Always("W 17040000=1,5,600")},
+        {"IOverlay::GetOverlayShow 2",          On(&IOverlay::GetOverlayShow, 2),         Invalid, Never()},
+        {"IOverlay::SetOverlayShow -1",         On(&IOverlay::SetOverlayShow, -1, 1),     Invalid, Never()},
+        {"IOverlay::GetOverlayPosition -1",     On(&IOverlay::GetOverlayPosition, -1),    Invalid, Never()},
+        {"IOverlay::SetOverlayPosition 2",      SetPosition(2, {0, 0}),                   Invalid, Never()},
+        {"IOverlay::GetOverlayStyle 2",         On(&IOverlay::GetOverlayStyle, 2),        Invalid, Never()},
+        {"IOverlay::SetOverlayStyle -1",        On(&IOverlay::SetOverlayStyle, -1, style), Invalid, Never()},
+        {"IOverlay::GetOverlaySize -1",         On(&IOverlay::GetOverlaySize, -1),        Invalid, Never()},
+        {"IOverlay::SetOverlaySize 2",          On(&IOverlay::SetOverlaySize, 2, size),   Invalid, Never()},
+
+        {"ISignalAnalysis::GetMeasureFrameShow",  On(&ISignalAnalysis::GetMeasureFrameShow),     "1",  Cached("R 1E010000/4")},
+        {"ISignalAnalysis::SetMeasureFrameShow",  On(&ISignalAnalysis::SetMeasureFrameShow, 1),  Done, Always("W 1E010000=1")},
+        {"ISignalAnalysis::GetMeasureFrameColor", On(&ISignalAnalysis::GetMeasureFrameColor),    "1",  Cached("R 28020000/4; R 1E020000/4")},
+        {"ISignalAnalysis::SetMeasureFrameColor", On(&ISignalAnalysis::SetMeasureFrameColor, 9), Done, Settling("R 28020000/4; W 1E020000=9", "W 1E020000=9")},
+        {"ISignalAnalysis::GetMeasureFrameColor raw", On(&ISignalAnalysis::GetMeasureFrameColor),    Disabled, Cached("R 28020000/4"), With(colorCoding, 151)},
+        {"ISignalAnalysis::SetMeasureFrameColor raw", On(&ISignalAnalysis::SetMeasureFrameColor, 9), Disabled, Cached("R 28020000/4"), With(colorCoding, 151)},
+        {"ISignalAnalysis::GetMeasureWindow",     On(&ISignalAnalysis::GetMeasureWindow, 0), "2,3,4,5", Cached("w 1E030000=0; R 1E030000/20")},
+        {"ISignalAnalysis::GetMeasureWindow 2",   On(&ISignalAnalysis::GetMeasureWindow, 1), "2,3,4,5", Cached("w 1E030000=1; R 1E030000/20")},
+        {"ISignalAnalysis::SetMeasureWindow",     On(&ISignalAnalysis::SetMeasureWindow, 0, area), Done, Always("W 1E030000=0,1,2,30,40").Stales("GetMeasureWindow")},
+        {"ISignalAnalysis::SetMeasureWindow 2",   On(&ISignalAnalysis::SetMeasureWindow, 1, area), Done, Always("W 1E030000=1,1,2,30,40").Stales("GetMeasureWindow 2")},
+        {"ISignalAnalysis::GetMeasureWindow 3",   On(&ISignalAnalysis::GetMeasureWindow, 2),        Invalid, Never()},
+        {"ISignalAnalysis::SetMeasureWindow -1",  On(&ISignalAnalysis::SetMeasureWindow, -1, area), Invalid, Never()},
+        {"ISignalAnalysis::GetMeasureValue",      On(&ISignalAnalysis::GetMeasureValue, 0), NotImplemented, Never()},
+    };
+}
+// clang-format on
+
+} // namespace Test

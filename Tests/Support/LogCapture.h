@@ -1,0 +1,39 @@
+#pragma once
+
+#include <log4cxx/level.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Test {
+
+/// What the library logs while this object lives. Outside of its life the library's logger is off (see Main.cpp).
+class LogCapture {
+public:
+    explicit LogCapture(const log4cxx::LevelPtr& level = log4cxx::Level::getDebug());
+    ~LogCapture();
+    LogCapture(const LogCapture&) = delete;
+    LogCapture& operator=(const LogCapture&) = delete;
+
+    struct Line {
+        std::string text; ///< the level in lower case, a blank, the message: "info Init QDV12Control"
+        std::string file; ///< without its folder
+        std::string function;
+        int line;
+    };
+
+    [[nodiscard]] const std::vector<Line>& Lines() const;
+
+    /// The texts of the lines since the last call.
+    std::vector<std::string> TakeTexts();
+
+    /// Turns the library's logger off, as every test starts.
+    static void Silence();
+
+private:
+    class Appender;
+    std::shared_ptr<Appender> appender;
+};
+
+} // namespace Test

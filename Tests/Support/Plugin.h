@@ -1,0 +1,46 @@
+#pragma once
+
+#include <SDK4/SDK4.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace Test {
+
+/// The built library, loaded the way a host loads it. Sanitized runs keep it in the process: reports then know the
+/// names of its functions.
+class Plugin {
+public:
+    Plugin();
+    ~Plugin();
+    Plugin(const Plugin&) = delete;
+    Plugin& operator=(const Plugin&) = delete;
+
+    static const char* Path();
+
+    void (*InitLibrary)(void* registry);
+    void* (*CreateObject)(const char* modelName, void* port, std::int32_t index);
+
+private:
+    void* handle;
+};
+
+/// A camera that the plug-in opened; null for a model that it does not serve. Goes back with Release.
+class Camera {
+public:
+    Camera(const Plugin& plugin, const char* model, SDK4::IControlPort* port, std::int32_t index = 0)
+        : object(static_cast<IDynamicObject*>(plugin.CreateObject(model, port, index))) {}
+
+    [[nodiscard]] IDynamicObject* Object() const { return object.get(); }
+
+    /// One of the camera's interfaces. @throws std::bad_cast when it has none such
+    template <class Interface> Interface& As() const { return dynamic_cast<Interface&>(*object); }
+
+private:
+    struct Release {
+        void operator()(IDynamicObject* released) const { released->Release(); }
+    };
+    std::unique_ptr<IDynamicObject, Release> object;
+};
+
+} // namespace Test
