@@ -136,10 +136,12 @@ private:
 /// N unsigned words, one per sub-property.
 template <std::size_t N> struct UIntRecord { std::uint32_t values[N]; };
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are given
 using _Sdk4_2UInts = UIntRecord<2>;
 using _Sdk4_3UInts = UIntRecord<3>;
 using _Sdk4_4UInts = UIntRecord<4>;
 using _Sdk4_5UInts = UIntRecord<5>;
+// NOLINTEND(bugprone-reserved-identifier)
 
 template <std::size_t N, typename = std::make_index_sequence<N>> class CompoundParams;
 
@@ -228,7 +230,7 @@ private:
         : subs{CPropertyParams(name + '.' + subNames, limits[3 * I], limits[3 * I + 1], limits[3 * I + 2])...} {}
 
     static Words WordsOf(const void* record) {
-        Words words;
+        Words words{};
         std::memcpy(words.data(), record, sizeof words);
         return words;
     }

@@ -66,7 +66,7 @@ template <typename Record>
     if (!block) {
         SDK4_THROW(SDK4_ERR_CANTGETFEATURE);
     }
-    Record record;
+    Record record{};
     std::memcpy(&record, block.get() + skip, sizeof record);
     return record;
 }
@@ -78,7 +78,7 @@ template <typename Record> void WriteBlock(IControlPort* port, Register::Address
 /// Writes one block: the key in memory order, then the record.
 template <typename Key, typename Record>
 void WriteKeyedBlock(IControlPort* port, Register::Address address, const Key& key, const Record& record) {
-    std::array<unsigned char, sizeof key + sizeof record> block;
+    std::array<unsigned char, sizeof key + sizeof record> block{};
     std::memcpy(block.data(), &key, sizeof key);
     std::memcpy(block.data() + sizeof key, &record, sizeof record);
     WriteBlock(port, address, block);
