@@ -165,7 +165,7 @@ void AddRT6Camera(Table t) {
     t.ReadPair("SoftwareVersion",     &C::GetSoftwareVersion,                             "65030000");
     t.ReadPair("FirmwareVersion",     &C::GetFirmwareVersion,                             "65040000");
     t.ReadPair("HardwareVersion",     &C::GetHardwareVersion,                             "65050000");
-    t.Word    ("ExposureMode",        &C::GetExposureMode,     &C::SetExposureMode,       "A020000");
+    t.Word    ("ExposureMode",        &C::GetExposureMode,     &C::SetExposureMode,       "0A020000");
     t.Word    ("Gain",                &C::GetGain,             &C::SetGain,               "14010000");
     t.Word    ("VerticalFlip",        &C::GetVerticalFlip,     &C::SetVerticalFlip,       "16020000");
     t.Word    ("HorizontalFlip",      &C::GetHorizontalFlip,   &C::SetHorizontalFlip,     "16030000");
@@ -213,14 +213,14 @@ void AddRT6Camera(Table t) {
 
 void AddM2VXCamera(Table t) {
     using C = CM2VXCamera;
-    t.Word    ("Exposure",               &C::GetExposure,              &C::SetExposure,               "A030000");
-    t.Read    ("FODStatus",              &C::GetFODStatus,                                            "A0D0000");
-    t.Word    ("TwinModeShutterOffset",  &C::GetTwinModeShutterOffset, &C::SetTwinModeShutterOffset,  "A130000");
-    t.Add     ("GetDefectPixel", On(&C::GetDefectPixel, SDK4_KDEFECTPIXELSELECT{5, 7}), "wp B020000=7,5; rb B020000/20", "3,4,5");
-    t.Add     ("SetDefectPixel", On(&C::SetDefectPixel, SDK4_KDEFECTPIXELSELECT{5, 7}, SDK4_KDEFECTPIXEL{11, 12, 13}), "wb B020000=5,7,11,12,13", "done");
-    t.Add     ("SetDefectPixelAutoCompensation", On(&C::SetDefectPixelAutoCompensation), "w B030000=0", "done");
-    t.Read    ("DefectPixelCount",       &C::GetDefectPixelCount,                                     "B040000");
-    t.Word    ("DefectPixelShow",        &C::GetDefectPixelShow,       &C::SetDefectPixelShow,        "B0A0000");
+    t.Word    ("Exposure",               &C::GetExposure,              &C::SetExposure,               "0A030000");
+    t.Read    ("FODStatus",              &C::GetFODStatus,                                            "0A0D0000");
+    t.Word    ("TwinModeShutterOffset",  &C::GetTwinModeShutterOffset, &C::SetTwinModeShutterOffset,  "0A130000");
+    t.Add     ("GetDefectPixel", On(&C::GetDefectPixel, SDK4_KDEFECTPIXELSELECT{5, 7}), "wp 0B020000=7,5; rb 0B020000/20", "3,4,5");
+    t.Add     ("SetDefectPixel", On(&C::SetDefectPixel, SDK4_KDEFECTPIXELSELECT{5, 7}, SDK4_KDEFECTPIXEL{11, 12, 13}), "wb 0B020000=5,7,11,12,13", "done");
+    t.Add     ("SetDefectPixelAutoCompensation", On(&C::SetDefectPixelAutoCompensation), "w 0B030000=0", "done");
+    t.Read    ("DefectPixelCount",       &C::GetDefectPixelCount,                                     "0B040000");
+    t.Word    ("DefectPixelShow",        &C::GetDefectPixelShow,       &C::SetDefectPixelShow,        "0B0A0000");
     t.Word    ("AutoMotionDetection",    &C::GetAutoMotionDetection,   &C::SetAutoMotionDetection,    "16080000");
     t.Indexed ("OverlayPosition",        &C::GetOverlayPosition,       &C::SetOverlayPosition,        "17020000", "12", "2,3", "11,12");
     t.Word    ("HistogramEqualization",  &C::GetHistogramEqualization, &C::SetHistogramEqualization,  "180C0000");
@@ -239,20 +239,20 @@ void AddM2VXCamera(Table t) {
     t.Indexed ("TestPattern",            &C::GetTestPattern,           &C::SetTestPattern,            "5A010000");
     t.Read    ("TemperaturePCB",         &C::GetTemperaturePCB,                                       "5A030000");
     t.log = "info Call";
-    t.Indexed ("LensControl",            &C::GetLensControl,           &C::SetLensControl,            "C080000");
+    t.Indexed ("LensControl",            &C::GetLensControl,           &C::SetLensControl,            "0C080000");
     t.Indexed ("MotorControl",           &C::GetMotorControl,          &C::SetMotorControl,           "6E140000");
 }
 
 void AddJ40Camera(Table t) {
     using C = CJ40Camera;
-    t.Word    ("SoftTrigger",            &C::GetSoftTrigger,           &C::SetSoftTrigger,            "A070000");
-    t.Word    ("TriggerTimer",           &C::GetTriggerTimer,          &C::SetTriggerTimer,           "A080000");
-    t.Read    ("PixelClock",             &C::GetPixelClock,                                           "A090000");
-    t.Word    ("ReadoutTime",            &C::GetReadoutTime,           &C::SetReadoutTime,            "A0A0000");
-    t.Pair    ("Binning",                &C::GetBinning,               &C::SetBinning,                "A0B0000");
-    t.Word    ("SlowScan",               &C::GetSlowScan,              &C::SetSlowScan,               "A0E0000");
-    t.Pair    ("TriggerDelay",           &C::GetTriggerDelay,          &C::SetTriggerDelay,           "A100000");
-    t.Add     ("SetTriggerDelay", On(&C::SetTriggerDelay, SDK4_KEXPOSURE{-2, 0}), "wp A100000=4294967294,4294967295", "done");
+    t.Word    ("SoftTrigger",            &C::GetSoftTrigger,           &C::SetSoftTrigger,            "0A070000");
+    t.Word    ("TriggerTimer",           &C::GetTriggerTimer,          &C::SetTriggerTimer,           "0A080000");
+    t.Read    ("PixelClock",             &C::GetPixelClock,                                           "0A090000");
+    t.Word    ("ReadoutTime",            &C::GetReadoutTime,           &C::SetReadoutTime,            "0A0A0000");
+    t.Pair    ("Binning",                &C::GetBinning,               &C::SetBinning,                "0A0B0000");
+    t.Word    ("SlowScan",               &C::GetSlowScan,              &C::SetSlowScan,               "0A0E0000");
+    t.Pair    ("TriggerDelay",           &C::GetTriggerDelay,          &C::SetTriggerDelay,           "0A100000");
+    t.Add     ("SetTriggerDelay", On(&C::SetTriggerDelay, SDK4_KEXPOSURE{-2, 0}), "wp 0A100000=4294967294,4294967295", "done");
     t.Block   ("ColorBalance",           &C::GetColorBalance,          &C::SetColorBalance,           "15010000", "12", "1,2,3", "11,12,13");
     t.Word    ("LightSource",            &C::GetLightSource,           &C::SetLightSource,            "15020000");
     t.Word    ("ColorSaturation",        &C::GetColorSaturation,       &C::SetColorSaturation,        "15040000");
@@ -263,11 +263,11 @@ void AddJ40Camera(Table t) {
     t.Word    ("AutoWhiteset",           &C::GetAutoWhiteset,          &C::SetAutoWhiteset,           "46040000");
     t.ReadIndexed("Temperature",         &C::GetTemperature,                                          "5A030000");
     t.log = "debug Call; debug Return(-3,2)";
-    t.Add     ("GetExposure", On(&C::GetExposure), "rp A030000", "4294967293,2", {{0x0A030000, Words({0xFFFFFFFD, 2})}});
+    t.Add     ("GetExposure", On(&C::GetExposure), "rp 0A030000", "4294967293,2", {{0x0A030000, Words({0xFFFFFFFD, 2})}});
     t.log = "debug Call(1000,2)";
-    t.Add     ("SetExposure", On(&C::SetExposure, SDK4_KEXPOSURE{1000, 2}), "wp A030000=1000,2", "done");
+    t.Add     ("SetExposure", On(&C::SetExposure, SDK4_KEXPOSURE{1000, 2}), "wp 0A030000=1000,2", "done");
     t.log = "debug Call(-1,4294967295)";
-    t.Add     ("SetExposure", On(&C::SetExposure, SDK4_KEXPOSURE{-1, 0xFFFFFFFF}), "wp A030000=4294967295,4294967294", "done");
+    t.Add     ("SetExposure", On(&C::SetExposure, SDK4_KEXPOSURE{-1, 0xFFFFFFFF}), "wp 0A030000=4294967295,4294967294", "done");
 }
 
 void AddIdentity(Table t) {
@@ -286,21 +286,21 @@ void AddIdentity(Table t) {
 void AddAcquisition(Table t) {
     using C = CGigEAcqControl;
     t.Add     ("GetClassID", On(&C::GetClassID), "rs 0068/32", "model", {{0x0068, {'m', 'o', 'd', 'e', 'l', 0}}});
-    t.Read    ("Width",                  &C::GetWidth,                 "88120");
-    t.Read    ("Height",                 &C::GetHeight,                "88124");
-    t.Read    ("PixelFormat",            &C::GetPixelFormat,           "88128");
-    t.Read    ("AcquisitionMode",        &C::GetAcquisitionMode,       "88130");
+    t.Read    ("Width",                  &C::GetWidth,                 "00088120");
+    t.Read    ("Height",                 &C::GetHeight,                "00088124");
+    t.Read    ("PixelFormat",            &C::GetPixelFormat,           "00088128");
+    t.Read    ("AcquisitionMode",        &C::GetAcquisitionMode,       "00088130");
     t.log = "debug Call(8)";
-    t.Write   ("SetAcquisitionMode",     &C::SetAcquisitionMode,       "88130");
+    t.Write   ("SetAcquisitionMode",     &C::SetAcquisitionMode,       "00088130");
     t.log = "info Call";
-    t.Add     ("StartAcquisition", On(&C::StartAcquisition), "w 88134=1", "done");
-    t.Add     ("StopAcquisition",  On(&C::StopAcquisition),  "w 88138=0", "done");
+    t.Add     ("StartAcquisition", On(&C::StartAcquisition), "w 00088134=1", "done");
+    t.Add     ("StopAcquisition",  On(&C::StopAcquisition),  "w 00088138=0", "done");
 }
 
 void AddFrontEnd(Table t) {
     const SDK4_AFE_PARAM param{{11, 12, 13, 14, 15, 16, 17, 18, 19, 20}};
-    t.Add("GetAFE", On(&CAFE::GetAFE, SDK4_AFE_SELECT{5, 7}),        "wp A0C0000=7,5; rb A0C0000/48", "3,4,5,6,7,8,9,10,11,12");
-    t.Add("SetAFE", On(&CAFE::SetAFE, SDK4_AFE_SELECT{5, 7}, param), "wb A0C0000=5,7,11,12,13,14,15,16,17,18,19,20", "done");
+    t.Add("GetAFE", On(&CAFE::GetAFE, SDK4_AFE_SELECT{5, 7}),        "wp 0A0C0000=7,5; rb 0A0C0000/48", "3,4,5,6,7,8,9,10,11,12");
+    t.Add("SetAFE", On(&CAFE::SetAFE, SDK4_AFE_SELECT{5, 7}, param), "wb 0A0C0000=5,7,11,12,13,14,15,16,17,18,19,20", "done");
 }
 
 void AddSensorControl(Table t) {
@@ -348,7 +348,7 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
         EXPECT_EQ(operation(), row.result);
         EXPECT_EQ(port.TakeLog(), row.accesses);
         ASSERT_FALSE(capture.Lines().empty());
-        EXPECT_EQ(capture.Lines().front().function, row.name.substr(row.name.find("::") + 2));
+        EXPECT_EQ(capture.Lines().front().function, "SDK4::Control::" + row.name);
         EXPECT_EQ(Joined(capture.TakeTexts()), row.log);
     }
 }
