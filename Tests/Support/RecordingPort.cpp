@@ -130,6 +130,8 @@ void RecordingPort::WriteBlock(std::uint32_t address, const unsigned char* buffe
 
 char* RecordingPort::ReadString(std::uint32_t address, std::uint32_t length) {
     Record(At("rs", address) + "/" + std::to_string(length));
+    if (refuseBlocks)
+        return nullptr;
     const Bytes bytes = Get(address);
     text.assign(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
     text.resize(std::min<std::size_t>(text.size(), length));

@@ -48,7 +48,7 @@ public:
     void FailAt(unsigned int nth, std::function<void()> failure);
 
     std::optional<std::uint64_t> reportedCount; ///< when set: what ReadMem and WriteMem report; ReadMem fills no more
-    bool refuseBlocks = false;                  ///< ReadBlock answers null
+    bool refuseBlocks = false;                  ///< ReadBlock and ReadString answer null
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
     std::uint32_t ReadRegister(std::uint32_t address) override;
