@@ -348,7 +348,8 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
         EXPECT_EQ(operation(), row.result);
         EXPECT_EQ(port.TakeLog(), row.accesses);
         ASSERT_FALSE(capture.Lines().empty());
-        EXPECT_EQ(capture.Lines().front().function, "SDK4::Control::" + row.name);
+        const std::string function = capture.Lines().front().function;
+        EXPECT_TRUE(function.ends_with("SDK4::Control::" + row.name)) << function; // a "*" in front with Clang
         EXPECT_EQ(Joined(capture.TakeTexts()), row.log);
     }
 }
