@@ -21,9 +21,7 @@ template <class Interface, class Value> Setter Sets(void (Interface::*operation)
 }
 
 template <class Interface, class Line> Setter Sets(void (Interface::*operation)(Line, int), Line line) {
-    return [operation, line](IDynamicObject& camera, int value) {
-        (Part<Interface>(camera).*operation)(line, value);
-    };
+    return [operation, line](IDynamicObject& camera, int value) { (Part<Interface>(camera).*operation)(line, value); };
 }
 
 Call Row(const std::string& name) { return FindOperation(name).call; }
@@ -89,14 +87,12 @@ TEST_F(BehaviourTest, EnumerationsAdmitTheseValuesOnly) {
 
 TEST_F(BehaviourTest, ModelIdentifierBitsDecideWhatExists) {
     const std::pair<std::uint32_t, const char*> cases[] = {
-        {0x00000000, "mono"},        {0x00010000, "colour"}, {0x00020000, "mono memory"}, {0x00030000, "colour memory"},
-        {0xFFFCFFFF, "mono"}, {0x00040000, "mono"},
+        {0x00000000, "mono"},          {0x00010000, "colour"}, {0x00020000, "mono memory"},
+        {0x00030000, "colour memory"}, {0xFFFCFFFF, "mono"},   {0x00040000, "mono"},
     };
     for (const auto& [identifier, expected] : cases) {
         const Camera camera = Open(With(0x64030000, identifier));
-        const auto exists = [&](const char* name) {
-            return Outcome(Row(name), *camera.Object()) != NotImplemented;
-        };
+        const auto exists = [&](const char* name) { return Outcome(Row(name), *camera.Object()) != NotImplemented; };
         std::string found = exists("IBinning::GetBinning") ? "mono" : "";
         found += exists("IColor::GetColorSaturation") ? "colour" : "";
         found += exists("IMemory::GetVerticalFlip") ? " memory" : "";
@@ -142,7 +138,8 @@ TEST_F(BehaviourTest, AutomaticModesSwitchTheCachesOfWhatTheyMove) {
         Setter set;
     } cases[] = {
         {"IGain::SetAGC", "IGain::SetAGC on", "IGain::GetGain", "R 14010000/4", Sets(&IGain::SetAGC)},
-        {"IExposure::SetAET", "IExposure::SetAET on", "IExposure::GetExposure", "R 0A030000/8", Sets(&IExposure::SetAET)},
+        {"IExposure::SetAET", "IExposure::SetAET on", "IExposure::GetExposure", "R 0A030000/8",
+         Sets(&IExposure::SetAET)},
         {"IACC::SetACC", "IACC::SetACC on", "IDigitalEnhancement::GetBrightness", "R 18010000/4", Sets(&IACC::SetACC)},
         {"IACC::SetACC", "IACC::SetACC on", "IDigitalEnhancement::GetContrast", "R 18020000/4", Sets(&IACC::SetACC)},
         {"IColor::SetAutoWhiteset", "IColor::SetAutoWhiteset on", "IColor::GetColorBalance", "R 15010000/12",
@@ -211,8 +208,10 @@ TEST_F(BehaviourTest, AFailedWriteLeavesTheCachesAsTheyWere) {
     std::vector<std::string> before;
     for (const char* getter : getters)
         before.push_back(Observe(camera, Row(getter)).outcome);
-    for (const auto& [setter, write] : {std::pair{"IGain::SetGain", 2u}, {"IExposure::SetExposure", 2u},
-                                        {"IRoa::SetReadoutArea", 5u}, {"IBasicSettings::LoadSettings", 1u}}) {
+    for (const auto& [setter, write] : {std::pair{"IGain::SetGain", 2u},
+                                        {"IExposure::SetExposure", 2u},
+                                        {"IRoa::SetReadoutArea", 5u},
+                                        {"IBasicSettings::LoadSettings", 1u}}) {
         port.FailAt(write, Unplug);
         EXPECT_THROW(Outcome(Row(setter), *camera.Object()), Unplugged) << setter;
     }

@@ -58,8 +58,8 @@ TEST_F(FactoryTest, AnswersNullForOtherNames) {
     LogCapture log(info);
     for (const char* model : {"Orvik-31200m", "orvik-31200M", "Orvik-31200M ", "Orvik-31200", ""}) {
         EXPECT_EQ(plugin.CreateObject(model, &port, 0), nullptr) << model;
-        EXPECT_EQ(log.TakeTexts(), (Texts{"info QDV12: CreateObject(" + std::string(model) + ")",
-                                          "info Unknown (Flying) Object "}));
+        EXPECT_EQ(log.TakeTexts(),
+                  (Texts{"info QDV12: CreateObject(" + std::string(model) + ")", "info Unknown (Flying) Object "}));
     }
     EXPECT_EQ(plugin.CreateObject(nullptr, &port, 0), nullptr);
     EXPECT_EQ(log.TakeTexts().back(), "info Unknown (Flying) Object ");
@@ -77,9 +77,9 @@ TEST_F(FactoryTest, OnlyIndexTwoTurnsTheCachesOff) {
 TEST_F(FactoryTest, OpensAndReleasesWithTheseLines) {
     LogCapture log(info);
     { Camera camera(plugin, "Orvik-520C", &port); }
-    EXPECT_EQ(log.TakeTexts(), (Texts{"info QDV12: CreateObject(Orvik-520C)", "info Call", "info Call",
-                                      "info Call Orvik-520C", "info dtor COrvik2FeatureCtrl", "info Call",
-                                      "info Call"}));
+    EXPECT_EQ(log.TakeTexts(),
+              (Texts{"info QDV12: CreateObject(Orvik-520C)", "info Call", "info Call", "info Call Orvik-520C",
+                     "info dtor COrvik2FeatureCtrl", "info Call", "info Call"}));
     EXPECT_EQ(port.TakeLog(), "");
 }
 
@@ -89,17 +89,20 @@ TEST_F(FactoryTest, DebugLinesTellConstructionAndDestruction) {
         Camera camera(plugin, "Orvik-520C", &port);
         const Texts opening = log.TakeTexts();
         ASSERT_GT(opening.size(), 3u);
-        EXPECT_EQ(Texts(opening.begin(), opening.begin() + 3),
-                  (Texts{"info QDV12: CreateObject(Orvik-520C)", "debug ctor CFeatureList", "debug ctor CRegisterList"}));
-        for (const char* name : {"KGain", "KSignalFormat", "KSlowScan", "KTiming", "KDigitalEnhancement", "KColor",
-                                 "KOverlay", "KGufi", "KExposure", "KRoa", "KSignalAnalysis", "KInternalTests",
-                                 "KBasicSettings", "KBinning", "KLookupTable", "KTrigger", "KMemory", "KGPIO",
-                                 "gain", "temperature1", "iodelay6"}) // registers too
+        EXPECT_EQ(
+            Texts(opening.begin(), opening.begin() + 3),
+            (Texts{"info QDV12: CreateObject(Orvik-520C)", "debug ctor CFeatureList", "debug ctor CRegisterList"}));
+        for (const char* name :
+             {"KGain",           "KSignalFormat",  "KSlowScan",      "KTiming",   "KDigitalEnhancement",
+              "KColor",          "KOverlay",       "KGufi",          "KExposure", "KRoa",
+              "KSignalAnalysis", "KInternalTests", "KBasicSettings", "KBinning",  "KLookupTable",
+              "KTrigger",        "KMemory",        "KGPIO",          "gain",      "temperature1",
+              "iodelay6"}) // registers too
             EXPECT_EQ(std::count(opening.begin(), opening.end(), "debug ctor " + std::string(name)), 1) << name;
     }
-    EXPECT_EQ(log.TakeTexts(), (Texts{"info dtor COrvik2FeatureCtrl", "info Call", "debug delete FeatureList",
-                                      "debug dtor CFeatureList", "debug delete RegisterList", "debug dtor CRegisterList",
-                                      "info Call"}));
+    EXPECT_EQ(log.TakeTexts(),
+              (Texts{"info dtor COrvik2FeatureCtrl", "info Call", "debug delete FeatureList", "debug dtor CFeatureList",
+                     "debug delete RegisterList", "debug dtor CRegisterList", "info Call"}));
 }
 
 TEST_F(FactoryTest, ShowsTheNetworkWhenOpenedAtDebug) {
@@ -112,7 +115,8 @@ TEST_F(FactoryTest, ShowsTheNetworkWhenOpenedAtDebug) {
         Camera camera(plugin, "Orvik-520C", &port);
         EXPECT_EQ(port.TakeLog(), "r 0010; r 0014; r 0024; r 0034; r 0044; r 064C; r 065C; r 066C; r 0934; r 0954");
         Texts dump = log.TakeTexts();
-        std::erase_if(dump, [](const std::string& text) { return text.find(": ") == std::string::npos || text[0] == 'i'; });
+        std::erase_if(dump,
+                      [](const std::string& text) { return text.find(": ") == std::string::npos || text[0] == 'i'; });
         EXPECT_EQ(dump, (Texts{"debug SupportedIPConfig   : 0x1", "debug CurrentIPConfig     : 0x1",
                                "debug CurrentIPAddress    : 192.168.1.10", "debug CurrentSubNetMask   : 0.0.0.1",
                                "debug CurrentGateway      : 0.0.0.1", "debug PersistentIPAddress : 0.0.0.1",

@@ -17,14 +17,17 @@ State Network(std::uint32_t supported, std::uint32_t configured) {
              {0x0044, Words({0xC0A80101})}}};
 }
 
-State WithText(std::uint32_t address, const std::string& text) { return {{{address, Bytes(text.begin(), text.end())}}}; }
+State WithText(std::uint32_t address, const std::string& text) {
+    return {{{address, Bytes(text.begin(), text.end())}}};
+}
 
 Call EnablePersistent(const char* ip, const char* mask, const char* gateway) {
     return On(&IGigECamera::EnablePersistentIP, ip, mask, gateway);
 }
 
 /// What a persistent address of 192.168.1.20 / 255.255.255.0 by way of 192.168.1.1 costs.
-const char* const persistentIP = "r 0010; r 0024; r 0034; r 0014; w 0014=7; w 064C=3232235796; w 065C=4294967040; w 066C=3232235777";
+const char* const persistentIP =
+    "r 0010; r 0024; r 0034; r 0014; w 0014=7; w 064C=3232235796; w 065C=4294967040; w 066C=3232235777";
 
 } // namespace
 

@@ -31,10 +31,10 @@ struct Accesses {
     Accesses AskingForTheModel() const;
 };
 
-Accesses Always(std::string accesses);                    ///< the same every time: cache mode 0, or a write
-Accesses Settling(std::string first, std::string again);  ///< the second call at index 0 finds something in the cache
-Accesses Cached(std::string accesses);                    ///< the second call at index 0 costs nothing
-Accesses Kept(std::string accesses);                      ///< the second call costs nothing, even with index 2
+Accesses Always(std::string accesses);                   ///< the same every time: cache mode 0, or a write
+Accesses Settling(std::string first, std::string again); ///< the second call at index 0 finds something in the cache
+Accesses Cached(std::string accesses);                   ///< the second call at index 0 costs nothing
+Accesses Kept(std::string accesses);                     ///< the second call costs nothing, even with index 2
 inline Accesses Never() { return {}; }
 
 struct Preset {
@@ -52,8 +52,8 @@ struct State {
 
 /// The state that differs in one word.
 State With(std::uint32_t address, std::uint32_t word);
-State Colour();       ///< a colour camera with image memory
-State Streaming();    ///< the acquisition runs
+State Colour();        ///< a colour camera with image memory
+State Streaming();     ///< the acquisition runs
 State WithoutMemory(); ///< a mono camera without image memory
 
 struct Operation {

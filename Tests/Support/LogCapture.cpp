@@ -28,8 +28,8 @@ protected:
         std::string level = event->getLevel()->toString();
         std::transform(level.begin(), level.end(), level.begin(), [](unsigned char c) { return std::tolower(c); });
         const auto& location = event->getLocationInformation();
-        lines.push_back({level + " " + event->getMessage(), location.getShortFileName(),
-                         location.getClassName() + "::" + location.getMethodName(), location.getLineNumber()});
+        lines.push_back({level + " " + event->getMessage(), location.getShortFileName(), location.getMethodName(),
+                         location.getLineNumber()});
     }
 };
 

@@ -16,7 +16,9 @@ std::string Hex(unsigned int value, int digits) {
     return text;
 }
 
-std::string At(const char* access, std::uint32_t address) { return std::string(access) + " " + Hex(address, address > 0xFFFF ? 8 : 4); }
+std::string At(const char* access, std::uint32_t address) {
+    return std::string(access) + " " + Hex(address, address > 0xFFFF ? 8 : 4);
+}
 
 std::string AsWords(const void* buffer, std::size_t length) {
     const auto* bytes = static_cast<const std::uint8_t*>(buffer);

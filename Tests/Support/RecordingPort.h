@@ -27,8 +27,8 @@ Bytes TextBlock(std::size_t length, const std::string& text);
 ///     rb 0100/8           ReadBlock                wb 0100=1,2         WriteBlock
 ///     rs 0200/512         ReadString               ws 00E8/16=name     WriteString
 ///
-/// Addresses are hexadecimal of 4 or 8 digits, values are decimal words joined by ","; bytes beyond the last whole word follow as x0A.
-/// A word that was never set reads as its position, counted from 1: a block of three words reads 1,2,3.
+/// Addresses are hexadecimal of 4 or 8 digits, values are decimal words joined by ","; bytes beyond the last whole word
+/// follow as x0A. A word that was never set reads as its position, counted from 1: a block of three words reads 1,2,3.
 class RecordingPort final : public SDK4::IControlPort {
 public:
     void Set(std::uint32_t address, Bytes bytes) { memory[address] = std::move(bytes); }
