@@ -37,9 +37,9 @@
 
 namespace SDK4::Control {
 
-/// The control of a camera of the M2VX family: one object with every interface, over one table of table. An
-/// operation checks its property, calls the register maps and stores the result in the property, which tells the host's
-/// observer. The order of the bases is the object's layout.
+/// The control of a camera of the M2VX family: one object with every interface, over one table of
+/// properties. An operation checks its property, calls the register maps and stores the result in the property, which
+/// tells the host's observer. The order of the bases is the object's layout.
 class CM2VXBaseControl final : public IDynamicObject,
                                public IControl,
                                public IStreamControl,

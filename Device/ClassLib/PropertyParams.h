@@ -90,6 +90,9 @@ public:
     std::uint32_t GetUIntValue() const;
     std::int32_t GetIntValue() const;
 
+    /// The unsigned value, also of a property that may not be read now: for the control itself.
+    std::uint32_t StoredUIntValue() const { return unsignedSide.value; }
+
     /// Admit one more value and no others than those admitted so.
     /// Throw SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after MaxEnumValues.
     void SetEnumValue(std::uint32_t value);

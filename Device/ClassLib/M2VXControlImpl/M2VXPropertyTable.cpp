@@ -68,8 +68,10 @@ void CM2VXPropertyTable::FollowAllModes() {
     FollowABC();
 }
 
+// A mode is followed as it is stored, also when a callback has changed or disabled it meanwhile.
+
 void CM2VXPropertyTable::FollowAGC() {
-    const std::uint32_t mode = agc.GetUIntValue();
+    const std::uint32_t mode = agc.StoredUIntValue();
     if (mode > 2)
         return; // a mode that no setter admits, but a camera may report
     gain.SetEnabled(mode == 0);
@@ -78,7 +80,7 @@ void CM2VXPropertyTable::FollowAGC() {
 }
 
 void CM2VXPropertyTable::FollowABC() {
-    const std::uint32_t mode = abc.GetUIntValue();
+    const std::uint32_t mode = abc.StoredUIntValue();
     if (mode > 2)
         return; // as above
     for (CPropertyParams& threshold : abcThreshold)
@@ -86,27 +88,27 @@ void CM2VXPropertyTable::FollowABC() {
     abcStopMode.SetEnabled(mode == 2);
 }
 
-void CM2VXPropertyTable::FollowExposureMode() { exposure.SetEnabled(exposureMode.GetUIntValue() == 3); }
+void CM2VXPropertyTable::FollowExposureMode() { exposure.SetEnabled(exposureMode.StoredUIntValue() == 3); }
 
 void CM2VXPropertyTable::FollowRecursiveFilter() {
-    autoMotionDetection.SetEnabled(recursiveFilter.GetUIntValue() != 0);
+    autoMotionDetection.SetEnabled(recursiveFilter.StoredUIntValue() != 0);
 }
 
 void CM2VXPropertyTable::FollowHistogramEqualization() {
-    const std::uint32_t mode = histogramEqualization.GetUIntValue();
+    const std::uint32_t mode = histogramEqualization.StoredUIntValue();
     const bool manual = mode != 1 && mode != 2;
     brightness.SetEnabled(manual);
     contrast.SetEnabled(manual);
 }
 
 void CM2VXPropertyTable::FollowShadingCorrectionMode() {
-    const bool on = shadingCorrectionMode.GetUIntValue() != 0;
+    const bool on = shadingCorrectionMode.StoredUIntValue() != 0;
     for (CPropertyParams& channel : shadingCorrection)
         channel.SetEnabled(on);
 }
 
 void CM2VXPropertyTable::FollowCircularBlankingMode() {
-    const bool on = circularBlankingMode.GetUIntValue() != 0;
+    const bool on = circularBlankingMode.StoredUIntValue() != 0;
     circularBlankingSize.SetEnabled(on);
     circularBlankingPosition.SetEnabled(on);
 }

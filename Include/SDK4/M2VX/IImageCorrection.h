@@ -48,8 +48,7 @@ public:
 
     /// Moves the circle, 0 to 1023 in each direction.
     /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the position, and "circularblankingposition" holds
-    /// what
-    ///         it made of it.
+    ///         what it made of it.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetCircularBlankingPosition(SDK4_KCIRCULARPOSITION position) = 0;
 };
