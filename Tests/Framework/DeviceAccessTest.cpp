@@ -349,7 +349,7 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
         EXPECT_EQ(port.TakeLog(), row.accesses);
         ASSERT_FALSE(capture.Lines().empty());
         const std::string function = capture.Lines().front().function;
-        EXPECT_TRUE(function.ends_with("SDK4::Control::" + row.name)) << function; // a "*" in front with Clang
+        EXPECT_TRUE(function.ends_with(row.name.substr(row.name.find("::") + 2))) << function;
         EXPECT_EQ(Joined(capture.TakeTexts()), row.log);
     }
 }
