@@ -151,7 +151,7 @@ TEST_F(BehaviourTest, AutomaticModesSwitchTheCachesOfWhatTheyMove) {
             const Camera camera = Open(Colour(), index);
             Outcome(Row("IColor::GetColorBalance"), *camera.Object()); // the model identifier is known from here on
             const auto costOfGetter = [&, getter = getter] { return Observe(camera, Row(getter)).accesses; };
-            const auto refused = [&] {
+            const auto refused = [&, set = set] {
                 EXPECT_THROW(set(*camera.Object(), 9), X4Error);
                 port.FailAt(1, Unplug);
                 EXPECT_THROW(set(*camera.Object(), 0), Unplugged);
