@@ -1,5 +1,7 @@
 #include "BootstrapRegisters.h"
 
+#include <algorithm>
+
 namespace Simulation {
 
 namespace {
@@ -12,6 +14,8 @@ constexpr std::uint32_t Address(std::uint32_t a, std::uint32_t b, std::uint32_t 
 
 std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial) {
     const auto kept = Role::Kept;
+    std::string file = model; // an address has no blanks
+    std::replace(file.begin(), file.end(), ' ', '-');
     // clang-format off
     return {
         // name                        address  role  kind and power-up value
@@ -30,8 +34,8 @@ std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t
         {"manufacturerinfo",           0x00A8, kept, Text(48, "A camera that lives in memory")},
         {"bootstrapserialnumber",      0x00D8, kept, Text(16, std::to_string(serial))},
         {"userdefinedname",            0x00E8, kept, Text(16, "")},
-        {"firsturl",                   0x0200, kept, Text(512, "Local:" + model + ".zip;10000;4A00")},
-        {"secondurl",                  0x0400, kept, Text(512, "http://192.168.1.10/" + model + ".xml")},
+        {"firsturl",                   0x0200, kept, Text(512, "Local:" + file + ".zip;10000;4A00")},
+        {"secondurl",                  0x0400, kept, Text(512, "http://192.168.1.10/" + file + ".xml")},
         {"persistentipaddress",        0x064C, kept, Word(0)},
         {"persistentsubnetmask",       0x065C, kept, Word(0)},
         {"persistentdefaultgateway",   0x066C, kept, Word(0)},

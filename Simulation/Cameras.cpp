@@ -1,6 +1,7 @@
 #include "Cameras.h"
 
 #include "BootstrapRegisters.h"
+#include "M2VX.h"
 #include "Orvik.h"
 
 #include <algorithm>
@@ -23,24 +24,39 @@ const OrvikModel orvikModels[] = {
     {"Orvik-530M",   0x0530, 2592, 2048, false, true,  true},
     {"Orvik-530C",   0x0530, 2592, 2048, true,  true,  true},
 };
+
+const M2VXModel m2vxModels[] = {
+    // name        number
+    {"Cerix7-MV",  0x7001},
+    {"Cerix-MV7",  0x7002},
+    {"Sollux G",   0x7101},
+};
 // clang-format on
 
-std::unique_ptr<SimulatedCamera> MakeOrvik(const OrvikModel& model) {
-    std::vector<Register> registers = BootstrapRegisters(model.name, model.number);
-    const std::vector<Register> own = OrvikRegisters(model);
+std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own,
+                                      void (&addBehaviour)(SimulatedCamera&)) {
     registers.insert(registers.end(), own.begin(), own.end());
-
     auto camera = std::make_unique<SimulatedCamera>(registers);
-    AddOrvikBehaviour(*camera);
+    addBehaviour(*camera);
     return camera;
+}
+
+template <typename Models> auto Find(const Models& models, std::string_view name) {
+    const auto* const found =
+        std::find_if(std::begin(models), std::end(models), [&](const auto& model) { return model.name == name; });
+    return found == std::end(models) ? nullptr : found;
 }
 
 } // namespace
 
-std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view model) {
-    const auto* const found = std::find_if(std::begin(orvikModels), std::end(orvikModels),
-                                           [&](const OrvikModel& candidate) { return candidate.name == model; });
-    return found == std::end(orvikModels) ? nullptr : MakeOrvik(*found);
+std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name) {
+    if (const auto* const orvik = Find(orvikModels, name)) {
+        return Make(BootstrapRegisters(orvik->name, orvik->number), OrvikRegisters(*orvik), AddOrvikBehaviour);
+    }
+    if (const auto* const m2vx = Find(m2vxModels, name)) {
+        return Make(BootstrapRegisters(m2vx->name, m2vx->number), M2VXRegisters(*m2vx), AddM2VXBehaviour);
+    }
+    return nullptr;
 }
 
 } // namespace Simulation

@@ -7,7 +7,7 @@
 
 namespace Simulation {
 
-/// A simulated camera of the model as it is after being switched on, or null when no such model is simulated.
-[[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view model);
+/// A simulated camera as it is after being switched on, or null when no model of that name is simulated.
+[[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name);
 
 } // namespace Simulation

@@ -1,8 +1,6 @@
 #include "Orvik.h"
 #include "SettingsSets.h"
 
-#include <memory>
-
 namespace Simulation {
 
 namespace {
@@ -25,12 +23,7 @@ void FollowReadoutTime(RegisterSpace& space) {
 void AddOrvikBehaviour(SimulatedCamera& camera) {
     camera.AfterWrite("readoutarea", FollowReadoutArea);
     camera.AfterWrite("readouttime", FollowReadoutTime);
-
-    const auto sets = std::make_shared<SettingsSets>(camera.Registers());
-    camera.AfterWrite("savesettings",
-                      [sets](RegisterSpace& space) { sets->Save(space.Get("savesettings")[0], space); });
-    camera.AfterWrite("loadsettings",
-                      [sets](RegisterSpace& space) { sets->Load(space.Get("loadsettings")[0], space); });
+    AddSettingsSets(camera);
 }
 
 } // namespace Simulation

@@ -1,6 +1,5 @@
 #include "Register.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace Simulation {
@@ -24,25 +23,45 @@ Words ToWords(const Bytes& bytes) {
 
 Value Word(std::uint32_t value) { return Record({value}); }
 
-Value Record(const Words& fields) { return {0, {ToBytes(fields)}}; }
+Value Record(const Words& fields) { return {{{{}, ToBytes(fields)}}}; }
 
 Value Indexed(const std::vector<Words>& instances) {
-    Value value{sizeof(std::uint32_t), {}};
-    std::transform(instances.begin(), instances.end(), std::back_inserter(value.instances), ToBytes);
+    Value value;
+    for (const Words& instance : instances) {
+        const auto index = static_cast<std::uint32_t>(value.instances.size());
+        value.instances.push_back({ToBytes({index}), ToBytes(instance)});
+    }
+    return value;
+}
+
+Value Selected(const std::vector<std::pair<Words, Words>>& instances) {
+    Value value;
+    for (const auto& [selector, words] : instances) {
+        value.instances.push_back({ToBytes(selector), ToBytes(words)});
+    }
+    return value;
+}
+
+Value Table(std::uint32_t columns, const std::vector<Words>& entries) {
+    Value value = Indexed(entries);
+    for (std::uint32_t i = 0; i < value.instances.size(); ++i) {
+        value.instances[i].selector = ToBytes({i / columns, i % columns});
+    }
+    value.exchanged = true;
     return value;
 }
 
 Value Text(std::size_t length, std::string_view text) {
     Bytes bytes(text.begin(), text.end());
     bytes.resize(length);
-    return {0, {bytes}};
+    return {{{{}, bytes}}};
 }
 
 Value LedText(std::size_t length, std::string_view text) {
     Bytes bytes = ToBytes({static_cast<std::uint32_t>(text.size())});
     bytes.insert(bytes.end(), text.begin(), text.end());
     bytes.resize(length);
-    return {0, {bytes}};
+    return {{{{}, bytes}}};
 }
 
 } // namespace Simulation

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Simulation {
@@ -19,12 +20,16 @@ enum class Role {
     Kept, ///< identity, network, commands, measurements: no settings set touches it
 };
 
+/// One of the values behind an address, and the selector that leads to it.
+struct Instance {
+    Bytes selector; ///< empty for a plain register
+    Bytes value;
+};
+
 /// The kind of a register and what it holds when the camera is switched on.
 struct Value {
-    /// Bytes of the selector in front of the value when one address serves several instances, else 0.
-    std::size_t selectorBytes;
-    /// The power-up bytes: one block of a plain register, one block per instance of an indexed one.
-    std::vector<Bytes> instances;
+    std::vector<Instance> instances; ///< at least one; their selectors are of one length, and so are their values
+    bool exchanged = false;          ///< whether the two words of a selector change places when they are written alone
 };
 
 // The kinds, for the rows of a register table.
@@ -33,6 +38,10 @@ struct Value {
 [[nodiscard]] Value Indexed(const std::vector<Words>& instances);       ///< behind an index word, first is index 0
 [[nodiscard]] Value Text(std::size_t length, std::string_view text);    ///< bytes from the first on
 [[nodiscard]] Value LedText(std::size_t length, std::string_view text); ///< a word (the text's size), then the text
+/// Values behind selectors of any length, each a selector and its value.
+[[nodiscard]] Value Selected(const std::vector<std::pair<Words, Words>>& instances);
+/// Values behind two words, row and column, exchanged when they are written alone; row by row from {0, 0} on.
+[[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
 
 /// One row of a camera's register table.
 struct Register {

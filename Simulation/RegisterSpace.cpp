@@ -10,13 +10,13 @@ RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
         if (!byAddress.emplace(entry.address, entry).second || !addresses.emplace(entry.name, entry.address).second) {
             throw std::logic_error("register " + entry.name + " is declared twice, or shares its address");
         }
-        const Value& powerUp = entry.powerUp;
-        if (powerUp.selectorBytes != 0) {
-            const std::size_t valueBytes = powerUp.instances.empty() ? 0 : powerUp.instances.front().size();
-            indexed[entry.address] = {powerUp.selectorBytes, valueBytes, Bytes(powerUp.selectorBytes), {}};
+        const Instance& first = entry.powerUp.instances.at(0);
+        if (!first.selector.empty()) {
+            indexed[entry.address] = {
+                first.selector.size(), first.value.size(), entry.powerUp.exchanged, first.selector, {}};
         }
-        for (std::uint32_t index = 0; index < powerUp.instances.size(); ++index) {
-            SetInstance(entry, index, powerUp.instances[index]);
+        for (const Instance& instance : entry.powerUp.instances) {
+            SetValueOf(entry, instance.selector, instance.value);
         }
     }
 }
@@ -47,19 +47,30 @@ void RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> b
     target.selected.assign(selector.begin(), selector.end());
     target.selected.resize(target.selectorBytes);
     const auto value = bytes.subspan(selector.size());
-    if (!value.empty()) {
+    if (value.empty()) {
+        if (target.exchanged) {
+            std::rotate(target.selected.begin(), target.selected.begin() + sizeof(std::uint32_t),
+                        target.selected.end());
+        }
+    } else {
         Bytes& instance = target.instances[target.selected];
         instance.resize(target.valueBytes);
         std::copy_n(value.begin(), std::min(value.size(), instance.size()), instance.begin());
     }
 }
 
+std::uint32_t RegisterSpace::Count(const std::string& name) const {
+    return static_cast<std::uint32_t>(Named(name).powerUp.instances.size());
+}
+
 Words RegisterSpace::Get(const std::string& name, std::uint32_t index) const {
-    return ToWords(Instance(Named(name), index));
+    const Register& entry = Named(name);
+    return ToWords(ValueOf(entry, entry.powerUp.instances.at(index).selector));
 }
 
 void RegisterSpace::Set(const std::string& name, const Words& words, std::uint32_t index) {
-    SetInstance(Named(name), index, ToBytes(words));
+    const Register& entry = Named(name);
+    SetValueOf(entry, entry.powerUp.instances.at(index).selector, ToBytes(words));
 }
 
 const Register* RegisterSpace::At(std::uint32_t address) const {
@@ -69,10 +80,11 @@ const Register* RegisterSpace::At(std::uint32_t address) const {
 
 bool RegisterSpace::Touches(std::uint32_t address, std::size_t length, const std::string& name) const {
     const Register& entry = Named(name);
-    if (entry.powerUp.selectorBytes != 0) {
+    const Instance& first = entry.powerUp.instances.front();
+    if (!first.selector.empty()) {
         return address == entry.address;
     }
-    const std::uint64_t end = std::uint64_t{entry.address} + entry.powerUp.instances.front().size();
+    const std::uint64_t end = std::uint64_t{entry.address} + first.value.size();
     return address < end && std::uint64_t{address} + length > entry.address;
 }
 
@@ -80,9 +92,9 @@ RegisterSpace::Settings RegisterSpace::SaveSettings() const {
     Settings settings;
     for (const auto& [address, entry] : byAddress) {
         if (entry.role == Role::Setting) {
-            std::vector<Bytes>& instances = settings[entry.name];
-            for (std::uint32_t index = 0; index < entry.powerUp.instances.size(); ++index) {
-                instances.push_back(Instance(entry, index));
+            std::vector<Instance>& instances = settings[entry.name];
+            for (const Instance& instance : entry.powerUp.instances) {
+                instances.push_back({instance.selector, ValueOf(entry, instance.selector)});
             }
         }
     }
@@ -91,8 +103,8 @@ RegisterSpace::Settings RegisterSpace::SaveSettings() const {
 
 void RegisterSpace::LoadSettings(const Settings& settings) {
     for (const auto& [name, instances] : settings) {
-        for (std::uint32_t index = 0; index < instances.size(); ++index) {
-            SetInstance(Named(name), index, instances[index]);
+        for (const Instance& instance : instances) {
+            SetValueOf(Named(name), instance.selector, instance.value);
         }
     }
 }
@@ -105,28 +117,23 @@ const Register& RegisterSpace::Named(const std::string& name) const {
     return byAddress.at(found->second);
 }
 
-Bytes RegisterSpace::Instance(const Register& entry, std::uint32_t index) const {
-    if (entry.powerUp.selectorBytes == 0) {
-        Bytes bytes(entry.powerUp.instances.front().size());
+Bytes RegisterSpace::ValueOf(const Register& entry, const Bytes& selector) const {
+    if (selector.empty()) {
+        Bytes bytes(entry.powerUp.instances.front().value.size());
         memory.Read(entry.address, bytes);
         return bytes;
     }
     const IndexedRegister& target = indexed.at(entry.address);
-    Bytes selector = ToBytes({index});
-    selector.resize(target.selectorBytes);
     const auto found = target.instances.find(selector);
     return found == target.instances.end() ? Bytes(target.valueBytes) : found->second;
 }
 
-void RegisterSpace::SetInstance(const Register& entry, std::uint32_t index, const Bytes& bytes) {
-    if (entry.powerUp.selectorBytes == 0) {
-        memory.Write(entry.address, bytes);
-        return;
+void RegisterSpace::SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value) {
+    if (selector.empty()) {
+        memory.Write(entry.address, value);
+    } else {
+        indexed.at(entry.address).instances[selector] = value;
     }
-    IndexedRegister& target = indexed.at(entry.address);
-    Bytes selector = ToBytes({index});
-    selector.resize(target.selectorBytes);
-    target.instances[selector] = bytes;
 }
 
 } // namespace Simulation

@@ -16,7 +16,8 @@ namespace Simulation {
 /// Every access of the port is a read or a write of some bytes at an address; whether they came as a word, a pair, a
 /// block, a text or memory makes no difference. Plain registers, and every address that no register claims, are memory.
 /// An indexed register is a selector and a value: a write of the selector alone chooses an instance, a longer write
-/// sets the instance that it names, and a read gives the chosen selector back, followed by its value.
+/// sets the instance that it names, and a read gives the chosen selector back, followed by its value. Some registers
+/// take a selector of two words with its halves exchanged when it is written alone.
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
@@ -24,6 +25,8 @@ public:
     void Read(std::uint32_t address, std::span<std::uint8_t> bytes) const;
     void Write(std::uint32_t address, std::span<const std::uint8_t> bytes);
 
+    /// How many instances of a register there are.
+    [[nodiscard]] std::uint32_t Count(const std::string& name) const;
     /// The words of a register, of one instance of it if it is indexed.
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const;
     void Set(const std::string& name, const Words& words, std::uint32_t index = 0);
@@ -34,7 +37,7 @@ public:
     [[nodiscard]] bool Touches(std::uint32_t address, std::size_t length, const std::string& name) const;
 
     /// All registers of role Setting with what they hold.
-    using Settings = std::map<std::string, std::vector<Bytes>>;
+    using Settings = std::map<std::string, std::vector<Instance>>;
     [[nodiscard]] Settings SaveSettings() const;
     void LoadSettings(const Settings& settings);
 
@@ -42,13 +45,14 @@ private:
     struct IndexedRegister {
         std::size_t selectorBytes;
         std::size_t valueBytes;
+        bool exchanged;
         Bytes selected;
         std::map<Bytes, Bytes> instances; ///< by selector; one that is missing reads as zeros
     };
 
     [[nodiscard]] const Register& Named(const std::string& name) const;
-    [[nodiscard]] Bytes Instance(const Register& entry, std::uint32_t index) const;
-    void SetInstance(const Register& entry, std::uint32_t index, const Bytes& bytes);
+    [[nodiscard]] Bytes ValueOf(const Register& entry, const Bytes& selector) const;
+    void SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value);
 
     std::map<std::uint32_t, Register> byAddress;
     std::map<std::string, std::uint32_t> addresses; ///< by name

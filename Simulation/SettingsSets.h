@@ -1,8 +1,10 @@
 #pragma once
 
 #include "RegisterSpace.h"
+#include "SimulatedCamera.h"
 
 #include <map>
+#include <memory>
 
 namespace Simulation {
 
@@ -19,5 +21,8 @@ private:
     RegisterSpace::Settings powerUp;
     std::map<std::uint32_t, RegisterSpace::Settings> saved;
 };
+
+/// Has the camera save and load the set whose number is written to "savesettings" and "loadsettings".
+std::shared_ptr<SettingsSets> AddSettingsSets(SimulatedCamera& camera);
 
 } // namespace Simulation

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Register.h"
+#include "SimulatedCamera.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Simulation {
+
+/// What tells the models of the M2VX family apart.
+struct M2VXModel {
+    std::string name;
+    std::uint32_t number; ///< function-model identifier, part of the serial number
+};
+
+[[nodiscard]] std::vector<Register> M2VXRegisters(const M2VXModel& model);
+void AddM2VXBehaviour(SimulatedCamera& camera);
+
+} // namespace Simulation
