@@ -49,6 +49,8 @@ std::string Pad(std::string text, std::size_t width) {
     return text;
 }
 
+std::string Format(bool value) { return value ? "true" : "false"; }
+
 std::string Format(int value) { return std::to_string(value); }
 
 std::string Format(unsigned int value) {
@@ -75,6 +77,12 @@ std::string Format(const SDK4_KBINNING& b)     { return Fields({{"horizontal", b
                                                                 {"vertical", b.vertical}}); }
 std::string Format(const SDK4_KVERSION& v)     { return Fields({{"value1", v.value1}, {"value2", v.value2}}); }
 std::string Format(const SDK4_KREVISION& r)    { return Fields({{"value1", r.value1}, {"value2", r.value2}}); }
+std::string Format(const SDK4_KCIRCULARPOSITION& p) { return Fields({{"xpos", p.xpos}, {"ypos", p.ypos}}); }
+std::string Format(const SDK4_KMWCIRCLE& w)    { return Fields({{"radius", w.radius}, {"width", w.width},
+                                                                {"xpos", w.xpos}, {"ypos", w.ypos},
+                                                                {"vstretch", w.vstretch}}); }
+std::string Format(const SDK4_KDEFECTPIXEL& p) { return Fields({{"xpos", p.xpos}, {"ypos", p.ypos},
+                                                                {"mode", p.mode}}); }
 // clang-format on
 
 std::string FormatBytes(std::span<const std::uint8_t> bytes) {

@@ -10,6 +10,7 @@ namespace Host {
 
 // How the results of camera functions read: numbers in decimal, large ones in hexadecimal too; texts in quotes;
 // records field by field.
+[[nodiscard]] std::string Format(bool value);
 [[nodiscard]] std::string Format(int value);
 [[nodiscard]] std::string Format(unsigned int value);
 [[nodiscard]] std::string Format(std::uint64_t value);
@@ -25,6 +26,9 @@ namespace Host {
 [[nodiscard]] std::string Format(const SDK4_KBINNING& binning);
 [[nodiscard]] std::string Format(const SDK4_KVERSION& version);
 [[nodiscard]] std::string Format(const SDK4_KREVISION& revision);
+[[nodiscard]] std::string Format(const SDK4_KCIRCULARPOSITION& position);
+[[nodiscard]] std::string Format(const SDK4_KMWCIRCLE& window);
+[[nodiscard]] std::string Format(const SDK4_KDEFECTPIXEL& pixel);
 
 /// What went over the port: a text in quotes where the bytes are one, else their words.
 [[nodiscard]] std::string FormatBytes(std::span<const std::uint8_t> bytes);

@@ -40,7 +40,8 @@ public:
     /// Opens a camera.
     /// @param model what the camera calls itself; the control keeps the pointer
     /// @param port  reaches the camera; must outlive the control
-    /// @param index the camera index; 2 turns the caches of the Orvik control off
+    /// @param index the camera index; 2 turns the caches of the Orvik control off, 3 has the M2VX control read the
+    ///              camera's settings once, now, and remember them
     /// @return null for a model that the plug-in does not serve
     [[nodiscard]] Control Create(const char* model, SDK4::IControlPort& port, std::int32_t index) const;
 

@@ -1,7 +1,5 @@
 #include "TracingPort.h"
 
-#include <cstring>
-
 namespace Host {
 
 void TracingPort::Reading(const char* operation, std::uint32_t address) {
@@ -62,7 +60,7 @@ void TracingPort::WriteBlock(std::uint32_t address, const unsigned char* buffer,
 char* TracingPort::ReadString(std::uint32_t address, std::uint32_t length) {
     Reading("ReadString", address);
     char* const text = port.ReadString(address, length);
-    Complete(text, text == nullptr ? 0 : strnlen(text, length));
+    Complete(text, length);
     return text;
 }
 

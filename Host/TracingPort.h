@@ -2,6 +2,7 @@
 
 #include <SDK4/IControlPort.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <utility>
@@ -26,12 +27,16 @@ public:
     /// What was accessed since the last call.
     [[nodiscard]] std::vector<Access> Take() { return std::exchange(accesses, {}); }
 
+    /// How many accesses Take would give back.
+    [[nodiscard]] std::size_t Count() const { return accesses.size(); }
+
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
     std::uint32_t ReadRegister(std::uint32_t address) override;
     void WriteRegisterPair(std::uint32_t address, std::uint64_t value) override;
     std::uint64_t ReadRegisterPair(std::uint32_t address) override;
     unsigned char* ReadBlock(std::uint32_t address, std::uint32_t length) override;
     void WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) override;
+    /// What the traced port hands out is as long as asked for: a text may lie behind a word with zeros in it.
     char* ReadString(std::uint32_t address, std::uint32_t length) override;
     void WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) override;
     void ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;

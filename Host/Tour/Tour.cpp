@@ -2,9 +2,12 @@
 
 #include "Topics.h"
 
+#include <algorithm>
 #include <exception>
+#include <map>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace Host {
 
@@ -13,16 +16,28 @@ namespace {
 constexpr std::size_t lineWidth = 100;
 constexpr std::size_t callWidth = 64;
 
+/// The topics of a design of control; none for one that has no tour.
+std::span<const Topic> TopicsOf(std::string_view classId) {
+    if (classId == "Orvik") {
+        return OrvikTopics();
+    }
+    return classId == "M2VX" ? M2VXTopics() : std::span<const Topic>();
+}
+
 } // namespace
 
 bool Tour::Run() {
-    out << "A tour of " << session.Model() << ", a simulated camera behind the control \""
-        << Get<SDK4::IControl>().GetClassID() << "\".\n"
+    const std::string classId = Get<SDK4::IControl>().GetClassID();
+    out << "A tour of " << session.Model() << ", a simulated camera behind the control \"" << classId << "\".\n"
         << "Each call stands above the port accesses that it cost: -> is read from the camera, <- is written to it.\n";
-    const auto opening = session.Port().Take();
-    out << "Opening it cost " << opening.size() << " port accesses.\n";
+    PrintOpening("Opening it");
 
-    for (const Topic topic : OrvikTopics()) {
+    const auto topics = TopicsOf(classId);
+    if (topics.empty()) {
+        ++unexpected;
+        out << "There is no tour of such a control.   <-- unexpected\n";
+    }
+    for (const Topic topic : topics) {
         RunTopic(topic);
     }
 
@@ -47,7 +62,39 @@ void Tour::Heading(const char* name, const char* about) {
     out << '\n' << title << std::string(title.size() < lineWidth ? lineWidth - title.size() : 0, '=') << '\n';
 }
 
-void Tour::Note(const char* text) { out << "\n  # " << text << '\n'; }
+void Tour::Note(const std::string& text) {
+    out << "\n  # ";
+    for (const char character : text) {
+        out << character << (character == '\n' ? "  # " : "");
+    }
+    out << '\n';
+}
+
+void Tour::Line(const std::string& text) { out << "  " << text << '\n'; }
+
+Control Tour::OpenAgain(std::int32_t index) {
+    Control opened = session.OpenAgain(index);
+    PrintOpening("Opening it with index " + std::to_string(index));
+    return opened;
+}
+
+void Tour::PrintOpening(const std::string& what) {
+    const auto taken = session.Port().Take();
+    accesses += static_cast<unsigned>(taken.size());
+    out << "  " << what << " cost " << taken.size() << " port accesses";
+
+    std::map<std::uint32_t, std::size_t> costs;
+    for (const Access& access : taken) {
+        ++costs[access.address];
+    }
+    const auto most =
+        std::max_element(costs.begin(), costs.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+    if (most != costs.end() && 2 * most->second > taken.size()) {
+        const auto* const entry = session.Camera().Registers().At(most->first);
+        out << ", " << most->second << " of them on " << (entry == nullptr ? Hex(most->first) : entry->name);
+    }
+    out << ".\n";
+}
 
 void Tour::RunStep(std::int32_t expected, const char* text, const std::function<std::string()>& call) {
     ++steps;
@@ -80,12 +127,25 @@ void Tour::PrintAccesses() {
     if (taken.empty()) {
         out << "      (no port access)\n";
     }
-    for (const Access& access : taken) {
-        const auto* const entry = session.Camera().Registers().At(access.address);
-        out << "      " << Pad(access.operation, 14) << "  " << Hex(access.address) << "  "
-            << Pad(entry == nullptr ? "" : entry->name, 25) << (access.write ? "<- " : "-> ")
-            << FormatBytes(access.data) << (access.failed ? " (failed)" : "") << '\n';
+    auto remark = remarks.begin();
+    const auto printRemarks = [&](std::size_t accessesBefore) {
+        for (; remark != remarks.end() && remark->first <= accessesBefore; ++remark) {
+            out << "      " << remark->second << '\n';
+        }
+    };
+    for (std::size_t i = 0; i < taken.size(); ++i) {
+        printRemarks(i);
+        PrintAccess(taken[i]);
     }
+    printRemarks(taken.size());
+    remarks.clear();
+}
+
+void Tour::PrintAccess(const Access& access) {
+    const auto* const entry = session.Camera().Registers().At(access.address);
+    out << "      " << Pad(access.operation, 17) << "  " << Hex(access.address) << "  "
+        << Pad(entry == nullptr ? "" : entry->name, 25) << (access.write ? "<- " : "-> ") << FormatBytes(access.data)
+        << (access.failed ? " (failed)" : "") << '\n';
 }
 
 } // namespace Host

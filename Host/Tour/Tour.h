@@ -8,6 +8,8 @@
 #include <iosfwd>
 #include <string>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace Host {
 
@@ -43,18 +45,26 @@ public:
     }
 
     /// Another interface, needed within a section.
-    template <typename Interface> Interface& Get() {
-        auto* const found = session.As<Interface>();
-        if (found == nullptr) {
-            throw MissingInterface{};
-        }
-        return *found;
+    template <typename Interface> Interface& Get() { return Existing(session.As<Interface>()); }
+
+    /// Opens the camera once more and tells what that cost.
+    [[nodiscard]] Control OpenAgain(std::int32_t index);
+
+    /// An interface of a control that was opened so.
+    template <typename Interface> static Interface& Of(const Control& control) {
+        return Existing(dynamic_cast<Interface*>(control.get()));
     }
 
     void Heading(const char* name, const char* about);
 
-    /// A line that tells what the next steps show.
-    void Note(const char* text);
+    /// A line, or several, that tells what the next steps show.
+    void Note(const std::string& text);
+
+    /// A line of its own.
+    void Line(const std::string& text);
+
+    /// Tells of what happens in the middle of a call, in its place among the call's port accesses.
+    void Tell(const std::string& text) { remarks.emplace_back(session.Port().Count(), text); }
 
     /// A call that ends well.
     template <typename Call> void Do(const Step<Call>& step) { Expect(0, step); }
@@ -67,13 +77,18 @@ public:
         Expect(admitted ? 0 : otherwise, step);
     }
 
-    [[nodiscard]] Session& Opened() { return session; }
-
     // What the camera is, known once its function-model identifier was read.
     bool color = false;
     bool memory = false;
 
 private:
+    template <typename Interface> static Interface& Existing(Interface* found) {
+        if (found == nullptr) {
+            throw MissingInterface{};
+        }
+        return *found;
+    }
+
     template <typename Call> void Expect(std::int32_t expected, const Step<Call>& step) {
         RunStep(expected, step.text, [&]() -> std::string {
             if constexpr (std::is_void_v<decltype(step.call())>) {
@@ -86,11 +101,14 @@ private:
     }
 
     void RunStep(std::int32_t expected, const char* text, const std::function<std::string()>& call);
+    void PrintOpening(const std::string& what);
     void PrintAccesses();
+    void PrintAccess(const Access& access);
     void RunTopic(void (*topic)(Tour&));
 
     Session& session;
     std::ostream& out;
+    std::vector<std::pair<std::size_t, std::string>> remarks; ///< of this call, behind how many of its accesses
     unsigned steps = 0;
     unsigned refusals = 0;
     unsigned accesses = 0;

@@ -11,7 +11,7 @@ void TourAddresses(Tour& tour, IGigECamera& camera) {
     tour.Do(STEP(camera.GetCurrentIPAddress()));
     tour.Do(STEP(camera.GetCurrentSubnetmask()));
     tour.Do(STEP(camera.GetCurrentDefaultGateway()));
-    tour.Note("A persistent address outside the subnet in use would lose the camera: it is silently ignored.");
+    tour.Note("A persistent address outside the subnet in use would lose the camera: it is ignored, without an error.");
     tour.Do(STEP(camera.EnablePersistentIP("192.168.2.5", "255.255.255.0", "192.168.2.1")));
     tour.Do(STEP(camera.EnablePersistentIP("192.168.1.20", "255.255.255.0", "192.168.1.1")));
     tour.Note("Switched only where the camera supports it: bit 0 persistent address, bit 1 DHCP.");

@@ -45,19 +45,16 @@ void TourSettings(Tour& tour) {
 
 void TourWithoutCaches(Tour& tour) {
     tour.Heading("Camera index 2", "the same camera, opened a second time without caches");
-    const Control second = tour.Opened().OpenAgain(2);
-    auto* const gain = dynamic_cast<IGain*>(second.get());
-    if (gain == nullptr) {
-        throw Tour::MissingInterface{};
-    }
+    const Control second = tour.OpenAgain(2);
+    auto& gain = Tour::Of<IGain>(second);
     tour.Note("Every read asks the camera, also after a write.");
-    tour.Do(STEP(gain->SetGain(42)));
-    tour.Do(STEP(gain->GetGain()));
-    tour.Do(STEP(gain->GetGain()));
+    tour.Do(STEP(gain.SetGain(42)));
+    tour.Do(STEP(gain.GetGain()));
+    tour.Do(STEP(gain.GetGain()));
     tour.Note("An automatic mode that goes off leaves its value cached, here too.");
-    tour.Do(STEP(gain->SetAGC(SDK4_AGC_OFF)));
-    tour.Do(STEP(gain->GetGain()));
-    tour.Do(STEP(gain->GetGain()));
+    tour.Do(STEP(gain.SetAGC(SDK4_AGC_OFF)));
+    tour.Do(STEP(gain.GetGain()));
+    tour.Do(STEP(gain.GetGain()));
 }
 
 } // namespace Host
