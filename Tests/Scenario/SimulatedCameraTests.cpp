@@ -7,10 +7,23 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace Scenario {
 
 using Block = std::array<std::uint32_t, 5>;
+
+std::array<std::uint32_t, 12> ReadBlock(SDK4::IControlPort& port, std::uint32_t address, std::uint32_t length) {
+    std::array<std::uint32_t, 12> words{};
+    const std::unique_ptr<unsigned char, decltype(&std::free)> block(port.ReadBlock(address, length), &std::free);
+    std::copy_n(block.get(), length, reinterpret_cast<unsigned char*>(words.data()));
+    return words;
+}
+
+void WriteBlock(SDK4::IControlPort& port, std::uint32_t address, const std::vector<std::uint32_t>& words) {
+    port.WriteBlock(address, reinterpret_cast<const unsigned char*>(words.data()),
+                    static_cast<std::uint32_t>(words.size() * sizeof words[0]));
+}
 
 class SimulatedOrvik : public testing::Test {
 protected:
@@ -39,12 +52,10 @@ TEST_F(SimulatedOrvik, ServesAnIndexedRegisterInEveryStyleOfBlock) {
     camera->WriteRegister(0x66110000, 3);
     EXPECT_EQ(ReadMem(0x66110000, 8), (Block{3, 77}));
 
-    const std::uint32_t area[] = {1, 10, 20, 30, 40};
-    camera->WriteBlock(0x1E030000, reinterpret_cast<const unsigned char*>(area), sizeof area);
+    WriteBlock(*camera, 0x1E030000, {1, 10, 20, 30, 40});
     camera->WriteRegister(0x1E030000, 0);
     camera->WriteRegister(0x1E030000, 1);
-    const std::unique_ptr<unsigned char, decltype(&std::free)> block(camera->ReadBlock(0x1E030000, 20), &std::free);
-    EXPECT_TRUE(std::equal(block.get(), block.get() + 20, reinterpret_cast<const unsigned char*>(area)));
+    EXPECT_EQ(ReadBlock(*camera, 0x1E030000, 20), (std::array<std::uint32_t, 12>{1, 10, 20, 30, 40}));
 }
 
 TEST_F(SimulatedOrvik, IsMemoryWhereNoRegisterIsIndexed) {
@@ -61,13 +72,42 @@ TEST_F(SimulatedOrvik, IsMemoryWhereNoRegisterIsIndexed) {
 }
 
 TEST_F(SimulatedOrvik, ActsAfterAWriteOfAnyStyle) {
-    const std::uint32_t area[] = {0, 0, 99, 49};
-    camera->WriteBlock(0x28050000, reinterpret_cast<const unsigned char*>(area), sizeof area);
+    WriteBlock(*camera, 0x28050000, {0, 0, 99, 49});
     EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 50ULL << 32 | 100);
     camera->WriteRegister(0x28050008, 199); // one word within the area
     EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 50ULL << 32 | 200);
     camera->WriteRegister(0x51020000, 0);
     EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 2208ULL << 32 | 3208);
+}
+
+TEST(SimulatedM2VX, TakesASelectionOfTwoWordsExchangedWhenItIsWrittenAlone) {
+    const auto camera = Simulation::MakeCamera("Cerix7-MV");
+    for (const std::uint32_t address : {0x0B020000U, 0x0A0C0000U}) { // defect pixels, analogue front end
+        WriteBlock(*camera, address, {1, 0, 7, 8, 2});
+        camera->WriteRegisterPair(address, 0); // row 0, column 0
+        EXPECT_EQ(ReadBlock(*camera, address, 8)[0], 0U);
+        camera->WriteRegisterPair(address, 1ULL << 32); // row 1, column 0
+        const auto block = ReadBlock(*camera, address, 20);
+        EXPECT_EQ(block, (std::array<std::uint32_t, 12>{1, 0, 7, 8, 2}));
+    }
+    WriteBlock(*camera, 0x50050000, {1, 0, 0}); // a device register: three words, as they are
+    EXPECT_EQ(ReadBlock(*camera, 0x50050000, 16)[3], 1207U);
+}
+
+TEST(SimulatedM2VX, ClampsSignedAndUnsignedWordsAndKeepsWhatItAdmits) {
+    const auto camera = Simulation::MakeCamera("Cerix7-MV");
+    camera->WriteRegister(0x14010000, 0xFFFFFFFF);
+    EXPECT_EQ(camera->ReadRegister(0x14010000), 568U);
+    camera->WriteRegister(0x0A030000, 0);
+    EXPECT_EQ(camera->ReadRegister(0x0A030000), 1U);
+    WriteBlock(*camera, 0x1E030000, {512, 3, 0xFFFFFE00, 0xFFFFFFFF, 0});
+    EXPECT_EQ(ReadBlock(*camera, 0x1E030000, 20), (std::array<std::uint32_t, 12>{511, 3, 0xFFFFFE01, 0xFFFFFFFF, 1}));
+    camera->WriteRegisterPair(0x1B020000, 0xFFFFFF0000000002); // channel 2
+    camera->WriteRegisterPair(0x1B020000, 0x0000007F00000003);
+    camera->WriteRegister(0x1B020000, 2);
+    EXPECT_EQ(camera->ReadRegisterPair(0x1B020000), 0xFFFFFF8000000002);
+    camera->WriteRegister(0x1B020000, 3);
+    EXPECT_EQ(camera->ReadRegisterPair(0x1B020000), 0x0000007F00000003U);
 }
 
 } // namespace Scenario
