@@ -3,6 +3,7 @@
 #include "Log.h"
 
 #include <cstdint>
+#include <iterator>
 
 namespace SDK4::Control {
 
@@ -12,6 +13,12 @@ inline std::uint32_t UpTo(std::uint32_t bound, std::uint32_t number) {
     if (number > bound)
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     return number;
+}
+
+/// One of the instances or channels of a property.
+/// @throws X4Error SDK4_ERR_INVALID_PARAMETER
+template <class Instances> auto& At(Instances& instances, std::uint32_t number) {
+    return instances[UpTo(static_cast<std::uint32_t>(std::size(instances)) - 1, number)];
 }
 
 } // namespace SDK4::Control

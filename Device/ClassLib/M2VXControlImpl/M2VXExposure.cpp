@@ -111,12 +111,12 @@ void CM2VXBaseControl::SetABCStopMode(unsigned int mode) {
 
 unsigned int CM2VXBaseControl::GetABCThreshold(unsigned int index) {
     SDK4_LOG_CALL();
-    return access.Get(table.abcThreshold[UpTo(1, index)], &CM2VXCamera::GetABCThreshold, index);
+    return access.Get(At(table.abcThreshold, index), &CM2VXCamera::GetABCThreshold, index);
 }
 
 void CM2VXBaseControl::SetABCThreshold(unsigned int index, unsigned int threshold) {
     SDK4_LOG_SETTER(index, threshold);
-    access.SetThenReport(table.abcThreshold[UpTo(1, index)], threshold, &CM2VXCamera::SetABCThreshold,
+    access.SetThenReport(At(table.abcThreshold, index), threshold, &CM2VXCamera::SetABCThreshold,
                          &CM2VXCamera::GetABCThreshold, index);
 }
 

@@ -21,13 +21,13 @@ void CM2VXBaseControl::SetShadingCorrectionMode(unsigned int mode) {
 
 int CM2VXBaseControl::GetShadingCorrection(unsigned int channel) {
     SDK4_LOG_CALL();
-    return access.Get(table.shadingCorrection[UpTo(3, channel)], &CM2VXCamera::GetShadingCorrection, channel);
+    return access.Get(At(table.shadingCorrection, channel), &CM2VXCamera::GetShadingCorrection, channel);
 }
 
 void CM2VXBaseControl::SetShadingCorrection(unsigned int channel, int correction) {
     SDK4_LOG_SETTER(channel, correction);
-    access.SetThenReport<Enabled>(table.shadingCorrection[UpTo(3, channel)], correction,
-                                  &CM2VXCamera::SetShadingCorrection, &CM2VXCamera::GetShadingCorrection, channel);
+    access.SetThenReport<Enabled>(At(table.shadingCorrection, channel), correction, &CM2VXCamera::SetShadingCorrection,
+                                  &CM2VXCamera::GetShadingCorrection, channel);
 }
 
 unsigned int CM2VXBaseControl::GetCircularBlankingMode() {

@@ -74,12 +74,12 @@ void CM2VXBaseControl::SetPatternGenerator(int /*pattern*/) {
 
 unsigned int CM2VXBaseControl::GetTestPattern(unsigned int index) {
     SDK4_LOG_CALL();
-    return access.Get(table.testPattern[UpTo(1, index)], &CM2VXCamera::GetTestPattern, index);
+    return access.Get(At(table.testPattern, index), &CM2VXCamera::GetTestPattern, index);
 }
 
 void CM2VXBaseControl::SetTestPattern(unsigned int index, unsigned int pattern) {
     SDK4_LOG_SETTER(index, pattern);
-    access.Set(table.testPattern[UpTo(1, index)], pattern, &CM2VXCamera::SetTestPattern, index);
+    access.Set(At(table.testPattern, index), pattern, &CM2VXCamera::SetTestPattern, index);
 }
 
 int CM2VXBaseControl::GetTemperaturePCB() {
@@ -95,12 +95,12 @@ int CM2VXBaseControl::GetTemperature(int /*sensor*/) {
 
 unsigned int CM2VXBaseControl::GetMotorControl(unsigned int channel) {
     SDK4_LOG_CALL();
-    return access.Get(table.motorControl[UpTo(255, channel)], &CM2VXCamera::GetMotorControl, channel);
+    return access.Get(At(table.motorControl, channel), &CM2VXCamera::GetMotorControl, channel);
 }
 
 void CM2VXBaseControl::SetMotorControl(unsigned int channel, unsigned int value) {
     SDK4_LOG_SETTER(channel, value);
-    access.Send(table.motorControl[UpTo(255, channel)], value, &CM2VXCamera::SetMotorControl, channel);
+    access.Send(At(table.motorControl, channel), value, &CM2VXCamera::SetMotorControl, channel);
 }
 
 unsigned int CM2VXBaseControl::GetLensControl(unsigned int channel) {

@@ -23,9 +23,8 @@ std::uint32_t ParseFromZeros(const char* text) {
 KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
     SDK4_LOG(Info, "Call");
     // Without a camera there is nothing to show, and a log level must not decide whether a control can be built.
-    if (logger->isDebugEnabled() && port != RefusingPort::Instance()) {
+    if (logger->isDebugEnabled() && port != RefusingPort::Instance())
         LogNetworkState();
-    }
 }
 
 void KGigECamera::LogNetworkState() {
@@ -55,10 +54,19 @@ void KGigECamera::LogAddress(const char* label, Register address) {
     SDK4_LOG(Debug, label << std::string(word));
 }
 
-unsigned int KGigECamera::GetGigEVersion() {
-    SDK4_LOG_CALL();
-    return port->ReadRegister(Version);
-}
+// clang-format off
+unsigned int KGigECamera::GetGigEVersion()                   { SDK4_LOG_CALL(); return port->ReadRegister(Version); }
+unsigned int KGigECamera::GetPacketSize()                    { SDK4_LOG_CALL(); return port->ReadRegister(PacketSize); }
+unsigned int KGigECamera::GetPacketDelay()                   { SDK4_LOG_CALL(); return port->ReadRegister(PacketDelay); }
+void         KGigECamera::SetPacketDelay(unsigned int delay) { SDK4_LOG_CALL(); port->WriteRegister(PacketDelay, delay); }
+unsigned int KGigECamera::GetCurrentIPConfig()               { SDK4_LOG_CALL(); return port->ReadRegister(CurrentIPConfig); }
+void         KGigECamera::DisablePersistentIP()              { SDK4_LOG_CALL(); SwitchIfSupported(port, PersistentIP, false); }
+void         KGigECamera::EnableDHCP()                       { SDK4_LOG_CALL(); SwitchIfSupported(port, DHCP, true); }
+void         KGigECamera::DisableDHCP()                      { SDK4_LOG_CALL(); SwitchIfSupported(port, DHCP, false); }
+const char*  KGigECamera::GetFirstUrl()                      { SDK4_LOG_CALL(); return port->ReadString(FirstUrl, UrlLength); }
+const char*  KGigECamera::GetSecondUrl()                     { SDK4_LOG_CALL(); return port->ReadString(SecondUrl, UrlLength); }
+const char*  KGigECamera::GetUserDefinedName()               { SDK4_LOG_CALL(); return port->ReadString(UserDefinedName, UserDefinedNameLength); }
+// clang-format on
 
 const char* KGigECamera::GetMacAddress() {
     SDK4_LOG_CALL();
@@ -90,82 +98,27 @@ const char* KGigECamera::GetCurrentDefaultGateway() {
 
 void KGigECamera::SetPacketSize(unsigned int size) {
     SDK4_LOG_CALL();
-    if (!WritePacketSize(port, size)) {
+    if (!WritePacketSize(port, size))
         SDK4_THROW(SDK4_ERR_OUTOFRANGE);
-    }
-}
-
-unsigned int KGigECamera::GetPacketSize() {
-    SDK4_LOG_CALL();
-    return port->ReadRegister(PacketSize);
-}
-
-void KGigECamera::SetPacketDelay(unsigned int delay) {
-    SDK4_LOG_CALL();
-    port->WriteRegister(PacketDelay, delay);
-}
-
-unsigned int KGigECamera::GetPacketDelay() {
-    SDK4_LOG_CALL();
-    return port->ReadRegister(PacketDelay);
-}
-
-unsigned int KGigECamera::GetCurrentIPConfig() {
-    SDK4_LOG_CALL();
-    return port->ReadRegister(CurrentIPConfig);
 }
 
 void KGigECamera::EnablePersistentIP(const char* ip, const char* mask, const char* gateway) {
     SDK4_LOG_CALL();
-    if (ip == nullptr || mask == nullptr || gateway == nullptr) {
+    if (ip == nullptr || mask == nullptr || gateway == nullptr)
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
-    }
-    if (!Supports(port, PersistentIP)) {
+    if (!Supports(port, PersistentIP))
         return;
-    }
     const PersistentConfig wanted = {ParseFromZeros(ip), ParseFromZeros(mask), ParseFromZeros(gateway)};
-    if (!InCurrentSubnet(port, wanted)) {
+    if (!InCurrentSubnet(port, wanted))
         return;
-    }
     Switch(port, PersistentIP, true);
     WritePersistentConfig(port, wanted);
 }
 
-void KGigECamera::DisablePersistentIP() {
-    SDK4_LOG_CALL();
-    SwitchIfSupported(port, PersistentIP, false);
-}
-
-void KGigECamera::EnableDHCP() {
-    SDK4_LOG_CALL();
-    SwitchIfSupported(port, DHCP, true);
-}
-
-void KGigECamera::DisableDHCP() {
-    SDK4_LOG_CALL();
-    SwitchIfSupported(port, DHCP, false);
-}
-
-const char* KGigECamera::GetFirstUrl() {
-    SDK4_LOG_CALL();
-    return port->ReadString(FirstUrl, UrlLength);
-}
-
-const char* KGigECamera::GetSecondUrl() {
-    SDK4_LOG_CALL();
-    return port->ReadString(SecondUrl, UrlLength);
-}
-
-const char* KGigECamera::GetUserDefinedName() {
-    SDK4_LOG_CALL();
-    return port->ReadString(UserDefinedName, UserDefinedNameLength);
-}
-
 void KGigECamera::SetUserDefinedName(const char* name) {
     SDK4_LOG(Debug, "CALL");
-    if (name == nullptr) {
+    if (name == nullptr)
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
-    }
     WriteUserDefinedName(port, name);
 }
 
