@@ -1,7 +1,8 @@
 # Compile options shared by all targets.
 
-# Source locations in log lines are relative to the project, wherever it was built.
-add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+# Source locations in log lines are relative to the project, wherever it was built. They all have a directory part:
+# log4cxx looks for one, and reckons with an address before the text when there is none.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=./)
 
 # Unique symbols would keep the plug-in in the process after dlclose.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
