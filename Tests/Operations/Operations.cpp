@@ -14,11 +14,41 @@ std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
 }
 
+void PrepareOrvik(RecordingPort& port) {
+    constexpr std::uint32_t colorCoding = 0x28020000;
+    constexpr std::uint32_t aet = 0x46010000, agc = 0x46020000, awb = 0x46040000, acc = 0x46050000;
+    port.Set(functionModel, 0x00020000);
+    for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc})
+        port.Set(address, 0);
+}
+
+void PrepareM2VX(RecordingPort& port) {
+    constexpr std::uint32_t colorCoding = 0x28020000, exposureMode = 0x0A020000, agc = 0x46020000, abc = 0x47040000,
+                            filter = 0x16070000, histogram = 0x180C0000, shading = 0x1B010000, blanking = 0x1B030000;
+    constexpr std::uint32_t overlayShow = 0x17010000, overlayPosition = 0x17020000, overlayStyle = 0x17030000,
+                            overlaySize = 0x17040000, shadingCorrection = 0x1B020000, abcThreshold = 0x47090000,
+                            testPattern = 0x5A010000, motor = 0x6E140000;
+    for (const auto& [mode, value] : {std::pair{colorCoding, 6u},
+                                      {exposureMode, 3u},
+                                      {agc, 0u},
+                                      {abc, 2u},
+                                      {filter, 1u},
+                                      {histogram, 0u},
+                                      {shading, 1u},
+                                      {blanking, 1u}})
+        port.Set(mode, value);
+    for (const std::uint32_t indexed : {overlayShow, overlayPosition, overlayStyle, overlaySize, shadingCorrection,
+                                        abcThreshold, testPattern, motor}) {
+        for (const std::uint32_t i : {0u, 1u, 2u, 3u, 255u})
+            port.SetInstance(indexed, i, Words({10 * i + 5, 10 * i + 6}));
+    }
+}
+
 } // namespace
 
 Accesses Accesses::Stales(std::string names) const {
     Accesses result = *this;
-    result.stale = std::move(names);
+    result.affected = std::move(names);
     return result;
 }
 
@@ -33,17 +63,19 @@ Accesses Always(std::string accesses) { return {accesses, accesses, accesses, ac
 Accesses Settling(std::string first, std::string again) { return {first, again, first, first, ""}; }
 Accesses Cached(std::string accesses) { return Settling(accesses, ""); }
 Accesses Kept(std::string accesses) { return {accesses, "", accesses, "", ""}; }
+Accesses ReadThrough(std::string accesses) { return {"", "", accesses, accesses, ""}; }
 
 State With(std::uint32_t address, std::uint32_t word) { return {{{address, Words({word})}}}; }
 State Colour() { return {{{functionModel, Words({0x00030000})}}, "Orvik-31200C"}; }
-State Streaming() { return {{}, "Orvik-31200M", On(&SDK4::IStreamControl::Start)}; }
+State Streaming() { return After(On(&SDK4::IStreamControl::Start)); }
+State After(Call call) { return {{}, "Orvik-31200M", std::move(call)}; }
 State WithoutMemory() { return With(functionModel, 0); }
 
 const std::vector<Operation>& Operations() {
     static const std::vector<Operation> all = [] {
         std::vector<Operation> rows;
-        for (auto* group :
-             {AccessOperations, NetworkOperations, ImagingOperations, ProcessingOperations, DeviceOperations}) {
+        for (auto* group : {AccessOperations, NetworkOperations, ImagingOperations, ProcessingOperations,
+                            DeviceOperations, M2VXImagingOperations, M2VXDeviceOperations}) {
             const std::vector<Operation> more = group();
             rows.insert(rows.end(), more.begin(), more.end());
         }
@@ -60,12 +92,23 @@ const Operation& FindOperation(const std::string& name) {
     throw std::out_of_range("no row " + name);
 }
 
+std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups) {
+    std::vector<Operation> rows;
+    for (const auto& group : groups) {
+        for (Operation row : group) {
+            row.name = "M2VX::" + row.name;
+            row.state.model = State::m2vxModel;
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
 void Prepare(RecordingPort& port, const State& state) {
-    constexpr std::uint32_t colorCoding = 0x28020000;
-    constexpr std::uint32_t aet = 0x46010000, agc = 0x46020000, awb = 0x46040000, acc = 0x46050000;
-    port.Set(functionModel, 0x00020000);
-    for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc})
-        port.Set(address, 0);
+    if (state.IsM2VX())
+        PrepareM2VX(port);
+    else
+        PrepareOrvik(port);
     for (const auto& [address, bytes, index] : state.presets) {
         if (index < 0)
             port.Set(address, bytes);

@@ -1,7 +1,10 @@
 #pragma once
 
-// The one table of everything a host can call on an Orvik camera: what it answers and which port accesses it costs.
-// A new operation is one row in the file of its group. The accesses are written as RecordingPort writes them down.
+// The one table of everything a host can call on a camera: what it answers and which port accesses it costs. A new
+// operation is one row in the file of its group. The accesses are written as RecordingPort writes them down.
+//
+// Every row holds for two ways to open the camera, by family: remembering what it can (Orvik index 0, M2VX index 3),
+// and reading the camera every time (Orvik index 2, M2VX index 0).
 
 #include "RecordingPort.h"
 
@@ -18,14 +21,18 @@ namespace Test {
 /// Calls an operation on an opened camera and returns its result as text.
 using Call = std::function<std::string(IDynamicObject&)>;
 
-/// The accesses of the first and of an immediately repeated call, on a camera opened with index 0 and with index 2.
+/// The accesses of the first and of an immediately repeated call, on a camera that remembers and on one that reads.
 struct Accesses {
     std::string first, again, firstUncached, againUncached;
-    std::string stale; ///< the cached getters that read the camera again after the call, see Stales
+    std::string affected; ///< the cached getters that notice the call, see Stales and Changes
 
     /// The names, without interface and in any order, of the getters whose cached value the call made stale; "all but "
     /// in front names those that keep theirs. For calls without this, no getter may turn stale.
     Accesses Stales(std::string names) const;
+
+    /// M2VX: the names of the getters that answer differently after the call, another value or another refusal. For
+    /// calls without this, all answer as before.
+    Accesses Changes(std::string names) const { return Stales(std::move(names)); }
 
     /// Adds, to the first call only, the read of the function-model identifier: it is kept even with index 2.
     Accesses AskingForTheModel() const;
@@ -35,6 +42,7 @@ Accesses Always(std::string accesses);                   ///< the same every tim
 Accesses Settling(std::string first, std::string again); ///< the second call at index 0 finds something in the cache
 Accesses Cached(std::string accesses);                   ///< the second call at index 0 costs nothing
 Accesses Kept(std::string accesses);                     ///< the second call costs nothing, even with index 2
+Accesses ReadThrough(std::string accesses);              ///< M2VX: only a camera that does not remember is read
 inline Accesses Never() { return {}; }
 
 struct Preset {
@@ -48,13 +56,20 @@ struct State {
     std::vector<Preset> presets{};
     const char* model = "Orvik-31200M";
     Call before{}; ///< called first, for example the start of the acquisition
+
+    [[nodiscard]] bool IsM2VX() const { return std::string(model) == m2vxModel; }
+    [[nodiscard]] int RememberingIndex() const { return IsM2VX() ? 3 : 0; }
+    [[nodiscard]] int ReadingIndex() const { return IsM2VX() ? 0 : 2; }
+
+    static constexpr const char* m2vxModel = "Cerix7-MV";
 };
 
 /// The state that differs in one word.
 State With(std::uint32_t address, std::uint32_t word);
-State Colour();        ///< a colour camera with image memory
-State Streaming();     ///< the acquisition runs
-State WithoutMemory(); ///< a mono camera without image memory
+State Colour();         ///< a colour camera with image memory
+State Streaming();      ///< the acquisition runs
+State After(Call call); ///< the host has called something
+State WithoutMemory();  ///< a mono camera without image memory
 
 struct Operation {
     std::string name; ///< "IGain::SetGain", and after a blank what is special about the row
@@ -68,7 +83,7 @@ inline const std::string Done = "done", OutOfRange = "SDK4_ERR_OUTOFRANGE", Inva
                          Locked = "SDK4_ERR_CANTSETFEATURE", Disabled = "SDK4_ERR_DISABLED",
                          NotImplemented = "SDK4_ERR_NOT_IMPLEMENTED";
 
-/// All rows.
+/// All rows. Those of the M2VX family are named "M2VX::IGain::SetGain".
 const std::vector<Operation>& Operations();
 /// The row of that name. @throws std::out_of_range
 const Operation& FindOperation(const std::string& name);
@@ -122,5 +137,10 @@ std::vector<Operation> NetworkOperations();
 std::vector<Operation> ImagingOperations();
 std::vector<Operation> ProcessingOperations();
 std::vector<Operation> DeviceOperations();
+std::vector<Operation> M2VXImagingOperations();
+std::vector<Operation> M2VXDeviceOperations();
+
+/// Rows of several groups as rows of the M2VX family.
+std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups);
 
 } // namespace Test
