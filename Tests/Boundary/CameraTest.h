@@ -13,6 +13,22 @@ struct Unplugged {
     int reason;
 };
 
+/// Sets a value through some operation.
+using Setter = std::function<void(IDynamicObject&, int)>;
+
+template <class Interface, class Value> Setter Sets(void (Interface::*operation)(Value)) {
+    return [operation](IDynamicObject& camera, int value) {
+        (Part<Interface>(camera).*operation)(static_cast<Value>(value));
+    };
+}
+
+/// The same for one of several instances.
+template <class Interface, class Line, class Value> Setter Sets(void (Interface::*operation)(Line, Value), Line line) {
+    return [operation, line](IDynamicObject& camera, int value) {
+        (Part<Interface>(camera).*operation)(line, static_cast<Value>(value));
+    };
+}
+
 class CameraTest : public testing::Test {
 protected:
     /// A camera in the state that @p state describes. The accesses made for that are not in the log.
@@ -37,6 +53,20 @@ protected:
         port.TakeLog();
         std::string outcome = Outcome(call, *camera.Object());
         return {std::move(outcome), port.TakeLog()};
+    }
+
+    /// The values that a setter accepts. The others must be refused with @p refusal, and not be written.
+    std::string AdmittedBy(const Setter& set, const Camera& camera, const std::string& refusal) {
+        std::string accepted;
+        for (int value = -2; value < 160; ++value) {
+            const auto [outcome, accesses] =
+                Observe(camera, [&](IDynamicObject& object) { return set(object, value), Done; });
+            if (outcome == Done)
+                accepted += std::to_string(value) + " ";
+            else
+                EXPECT_TRUE(outcome == refusal && accesses.find('=') == std::string::npos) << value << outcome;
+        }
+        return accepted;
     }
 
     Plugin plugin;

@@ -173,7 +173,7 @@ TEST(UnloadTest, TheLibraryLeavesTheProcess) {
         for (const Operation& row : Operations()) {
             RecordingPort port;
             Prepare(port, row.state);
-            const Camera camera(plugin, row.state.model, &port);
+            const Camera camera(plugin, row.state.model, &port, row.state.RememberingIndex());
             Outcome(row.call, *camera.Object());
         }
         EXPECT_TRUE(isLoaded());

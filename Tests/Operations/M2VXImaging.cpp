@@ -24,9 +24,6 @@ Call Pixel(SDK4_KDEFECTPIXELSELECT select, SDK4_KDEFECTPIXEL pixel) {
     return On(&M2VX::IDefectPixel::SetDefectPixel, select, pixel);
 }
 
-/// The host has disabled a property.
-State Without(const char* property) { return After(On(&IPropertyState::SetEnabled, property, false)); }
-
 // Unless a row says otherwise, the modes of the camera enable everything but "automaticlevel" and "autogainstopmode";
 // of an indexed register, instance i holds the words 10 i + 5 and 10 i + 6, other registers 1, 2, ... (see Prepare).
 
@@ -39,7 +36,7 @@ std::vector<Operation> SensorOperations() {
         {"IExposure::SetExposureMode",           On(&E::SetExposureMode, 4),    Done,       Always("w 0A020000=4").Changes("GetExposureMode")},
         {"IExposure::SetExposureMode 0",         On(&E::SetExposureMode, 0),    OutOfRange, Never()},
         {"IExposure::SetExposureMode 7",         On(&E::SetExposureMode, 7),    OutOfRange, Never()},
-        {"IExposure::SetExposureMode disabled",  On(&E::SetExposureMode, 7),    Disabled,   Never(), Without("exposuremode")},
+        {"IExposure::SetExposureMode disabled",  On(&E::SetExposureMode, 7),    Disabled,   Never(), Disabling("exposuremode")},
         {"IExposure::GetExposure",               On(&E::GetExposure),           "1",        ReadThrough("r 0A030000")},
         {"IExposure::SetExposure",               On(&E::SetExposure, 2000),     Done,       Always("w 0A030000=2000").Changes("GetExposure")},
         {"IExposure::SetExposure 0",             On(&E::SetExposure, 0),        OutOfRange, Always("w 0A030000=0; r 0A030000").Changes("GetExposure")},
@@ -191,12 +188,12 @@ std::vector<Operation> CorrectionOperations() {
         {"IDefectPixel::SetDefectPixel pair 128",   Pixel({128, 0}, {9999, 0, 0}), "SDK4_ERR_CANTGETFEATURE", Never()},
         {"IDefectPixel::SetDefectPixel position 2", Pixel({0, 2}, {0, 0, 0}),      "SDK4_ERR_CANTGETFEATURE", Never()},
         {"IDefectPixel::SetDefectPixelAutoCompensation", On(&P::SetDefectPixelAutoCompensation), Done, Always("w 0B030000=0")},
-        {"IDefectPixel::SetDefectPixelAutoCompensation disabled", On(&P::SetDefectPixelAutoCompensation), Disabled, Never(), Without("defectpixelautocompensation")},
+        {"IDefectPixel::SetDefectPixelAutoCompensation disabled", On(&P::SetDefectPixelAutoCompensation), Disabled, Never(), Disabling("defectpixelautocompensation")},
         {"IDefectPixel::GetDefectPixelCount",  On(&P::GetDefectPixelCount),    "1",        ReadThrough("r 0B040000")},
         {"IDefectPixel::GetDefectPixelShow",   On(&P::GetDefectPixelShow),     "1",        ReadThrough("r 0B0A0000")},
         {"IDefectPixel::SetDefectPixelShow",   On(&P::SetDefectPixelShow, 0),  Done,       Always("w 0B0A0000=0").Changes("GetDefectPixelShow")},
         {"IDefectPixel::SetDefectPixelShow 2", On(&P::SetDefectPixelShow, 2),  OutOfRange, Never()},
-        {"IDefectPixel::SetDefectPixelShow disabled", On(&P::SetDefectPixelShow, 0), Disabled, Never(), Without("defectpixelshow")},
+        {"IDefectPixel::SetDefectPixelShow disabled", On(&P::SetDefectPixelShow, 0), Disabled, Never(), Disabling("defectpixelshow")},
 
         {"IDigitalEnhancement::GetBrightness",       On(&D::GetBrightness),        "1",        ReadThrough("r 18010000")},
         {"IDigitalEnhancement::SetBrightness",       On(&D::SetBrightness, 16383), Done,       Always("w 18010000=16383").Changes("GetBrightness")},

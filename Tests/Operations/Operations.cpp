@@ -69,6 +69,7 @@ State With(std::uint32_t address, std::uint32_t word) { return {{{address, Words
 State Colour() { return {{{functionModel, Words({0x00030000})}}, "Orvik-31200C"}; }
 State Streaming() { return After(On(&SDK4::IStreamControl::Start)); }
 State After(Call call) { return {{}, "Orvik-31200M", std::move(call)}; }
+State Disabling(const char* property) { return After(On(&SDK4::Control::IPropertyState::SetEnabled, property, false)); }
 State WithoutMemory() { return With(functionModel, 0); }
 
 const std::vector<Operation>& Operations() {
@@ -92,12 +93,17 @@ const Operation& FindOperation(const std::string& name) {
     throw std::out_of_range("no row " + name);
 }
 
+State OnM2VX(State state) {
+    state.model = State::m2vxModel;
+    return state;
+}
+
 std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups) {
     std::vector<Operation> rows;
     for (const auto& group : groups) {
         for (Operation row : group) {
             row.name = "M2VX::" + row.name;
-            row.state.model = State::m2vxModel;
+            row.state = OnM2VX(row.state);
             rows.push_back(row);
         }
     }

@@ -66,10 +66,11 @@ struct State {
 
 /// The state that differs in one word.
 State With(std::uint32_t address, std::uint32_t word);
-State Colour();         ///< a colour camera with image memory
-State Streaming();      ///< the acquisition runs
-State After(Call call); ///< the host has called something
-State WithoutMemory();  ///< a mono camera without image memory
+State Colour();                        ///< a colour camera with image memory
+State Streaming();                     ///< the acquisition runs
+State After(Call call);                ///< the host has called something
+State Disabling(const char* property); ///< M2VX: the host has disabled a property
+State WithoutMemory();                 ///< a mono camera without image memory
 
 struct Operation {
     std::string name; ///< "IGain::SetGain", and after a blank what is special about the row
@@ -140,7 +141,8 @@ std::vector<Operation> DeviceOperations();
 std::vector<Operation> M2VXImagingOperations();
 std::vector<Operation> M2VXDeviceOperations();
 
-/// Rows of several groups as rows of the M2VX family.
+/// A state of an M2VX camera; rows of several groups as rows of that family.
+State OnM2VX(State state = {});
 std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups);
 
 } // namespace Test
