@@ -43,9 +43,9 @@ public:
 
 private:
     struct IndexedRegister {
-        std::size_t selectorBytes;
-        std::size_t valueBytes;
-        bool exchanged;
+        std::size_t selectorBytes = 0;
+        std::size_t valueBytes = 0;
+        bool exchanged = false;
         Bytes selected;
         std::map<Bytes, Bytes> instances; ///< by selector; one that is missing reads as zeros
     };
