@@ -34,8 +34,10 @@ public:
     /// Writes a block of @p length bytes.
     virtual void WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) = 0;
 
-    /// Reads a text of at most @p length bytes.
-    /// @return a NUL-terminated text that the port owns; how long it stays valid is the port's business.
+    /// Reads a text register of @p length bytes.
+    /// @return a buffer that the port owns, with all @p length bytes and a NUL at the latest behind them: the text may
+    ///         stand behind a leading word, so a port must not stop at the first NUL. Null when there is no text. How
+    ///         long it stays valid is the port's business.
     virtual char* ReadString(std::uint32_t address, std::uint32_t length) = 0;
 
     /// Writes a text: @p length bytes, padded with zeros.
