@@ -36,6 +36,20 @@ TEST_F(RegisterTest, CacheModesDecideWhatTouchesTheCamera) {
     }
 }
 
+TEST_F(RegisterTest, WithoutCachingTheLastValueIsKeptForALaterMode) {
+    auto& gain = AddPlain<int>("gain", 0x100, 1);
+    gain.GetValue();
+    gain.SetCacheMode(CacheNone);
+    gain.SetValue(5);
+    gain.SetCacheMode(CacheNormal);
+    EXPECT_EQ(Cost([&] { EXPECT_EQ(gain.GetValue(), 5); }), "");
+    gain.SetCacheMode(CacheNone);
+    port.Set(0x100, 6);
+    gain.GetValue();
+    gain.SetCacheMode(CacheNormal);
+    EXPECT_EQ(Cost([&] { EXPECT_EQ(gain.GetValue(), 6); }), "");
+}
+
 TEST_F(RegisterTest, AnUnknownCacheModeRefusesAfterTheWrite) {
     auto& gain = AddPlain<int>("gain", 0x100, 3);
     auto& dependant = AddPlain<int>("dependant", 0x200, 1);
