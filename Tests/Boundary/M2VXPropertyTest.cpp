@@ -1,8 +1,7 @@
 // The properties of an M2VX camera as a host sees them: their list and limits, who is told what, and what a mode
 // switches on and off.
 
-#include "CameraTest.h"
-#include "Observed.h"
+#include "M2VXTest.h"
 
 #include <iterator>
 #include <set>
@@ -13,8 +12,6 @@ using namespace SDK4::Control;
 namespace Test {
 
 namespace {
-
-Call Row(const std::string& name) { return FindOperation("M2VX::" + name).call; }
 
 std::string Times(int count, const std::string& text) {
     std::string all;
@@ -42,7 +39,7 @@ std::string Shape(IPropertyState& state, const char* name) {
 
 } // namespace
 
-class M2VXPropertyTest : public CameraTest {
+class M2VXPropertyTest : public M2VXTest {
 protected:
     Camera camera = Open(OnM2VX());
     IPropertyState& properties = camera.As<IPropertyState>();
@@ -202,16 +199,16 @@ TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
         {On(&IDigitalEnhancement::SetHistogramEqualization, 3), {"histogramequalization value", "brightness enabled", "contrast enabled"}},
         {On(&C::SetShadingCorrectionMode, 0), Texts(4, "shadingcorrection enabled")},
         {On(&C::SetCircularBlankingMode, 0),  {"circularblankingsize enabled", "circularblankingposition.xpos enabled", "circularblankingposition.ypos enabled"}},
-        {Row("IOverlay::SetOverlayPosition"), {"overlayposition.posx value", "overlayposition.posy value"}},
+        {Row("IOverlay::SetOverlayPosition").call, {"overlayposition.posx value", "overlayposition.posy value"}},
         {On(&M2VX::IOverlay::SetOverlaySize, 0, SDK4_KOVERLAYSIZE{0, 5}), {"overlaysize.length value"}},
         {On(&M2VX::IOverlay::SetOverlayShow, 3, 1), {}},
-        {Row("ISignalAnalysis::SetMeasureWindow"), {"measurewindow.radius value", "measurewindow.width value", "measurewindow.xpos value", "measurewindow.ypos value", "measurewindow.vstretch value"}},
-        {Row("IDefectPixel::SetDefectPixel last"), {"defectpixel.xpos value", "defectpixel.ypos value", "defectpixel.mode value"}},
-        {Row("IDefectPixel::SetDefectPixelAutoCompensation"), {}},
-        {Row("IMotorControl::SetMotorControl"),    {}},
-        {Row("IBasicSettings::SetStartupSettings"), {"startupsettings value"}},
-        {Row("IBasicSettings::LoadSettings"),      {}},
-        {Row("IBasicSettings::SaveSettings"),      {}},
+        {Row("ISignalAnalysis::SetMeasureWindow").call, {"measurewindow.radius value", "measurewindow.width value", "measurewindow.xpos value", "measurewindow.ypos value", "measurewindow.vstretch value"}},
+        {Row("IDefectPixel::SetDefectPixel last").call, {"defectpixel.xpos value", "defectpixel.ypos value", "defectpixel.mode value"}},
+        {Row("IDefectPixel::SetDefectPixelAutoCompensation").call, {}},
+        {Row("IMotorControl::SetMotorControl").call,    {}},
+        {Row("IBasicSettings::SetStartupSettings").call, {"startupsettings value"}},
+        {Row("IBasicSettings::LoadSettings").call,      {}},
+        {Row("IBasicSettings::SaveSettings").call,      {}},
         {On(&IPropertyState::SetEnabled, "agc", false), {"agc enabled"}},
         {On(&IPropertyState::SetEnabled, "agc", false), {}},
         {On(&IPropertyState::RemoveCallback, nullptr), {}},
@@ -230,9 +227,9 @@ TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
     struct Curious {
         static void Tell(const char* name, const char* /*attribute*/, void* context) {
             auto& self = *static_cast<Curious*>(context);
-            self.seen.push_back(std::string(name) + Row("IPropertyState::GetUIntValue")(self.object) + " " +
-                                Row("IGain::GetGain")(self.object));
-            Row("IDigitalEnhancement::SetSharpness")(self.object); // tells once more, one level deeper
+            self.seen.push_back(std::string(name) + Row("IPropertyState::GetUIntValue").call(self.object) + " " +
+                                Row("IGain::GetGain").call(self.object));
+            Row("IDigitalEnhancement::SetSharpness").call(self.object); // tells once more, one level deeper
             if (self.seen.size() == 3)
                 Part<IPropertyState>(self.object).RemoveCallback(Tell);
         }
@@ -242,11 +239,35 @@ TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
     properties.AddCallback(Curious::Tell, &curious);
     camera.As<M2VX::IGain>().SetGain(7);
     EXPECT_EQ(curious.seen, (Texts{"gain7 7", "sharpness7 7"}));
-    Row("ISignalAnalysis::SetMeasureWindow")(*camera.Object());
+    OutcomeOf("ISignalAnalysis::SetMeasureWindow", camera);
     EXPECT_EQ(curious.seen.size(), 3u) << "removed by the first of five";
     EXPECT_EQ(properties.GetUIntValue("measurewindow.vstretch"), 512u);
-    Row("IImageCorrection::SetShadingCorrectionMode")(*camera.Object());
+    OutcomeOf("IImageCorrection::SetShadingCorrectionMode", camera);
     EXPECT_EQ(curious.seen.size(), 3u);
+}
+
+TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
+    struct Overruling {
+        static void Tell(const char* name, const char* attribute, void* context) {
+            auto& self = *static_cast<Overruling*>(context);
+            if (std::string(name) + attribute == "agcvalue")
+                std::exchange(self.overrule, [](IDynamicObject&) { return Done; })(self.object);
+        }
+        IDynamicObject& object;
+        Call overrule;
+    };
+    Overruling disabling{*camera.Object(), On(&IPropertyState::SetEnabled, "agc", false)};
+    properties.AddCallback(Overruling::Tell, &disabling);
+    EXPECT_EQ(OutcomeOf("IGain::SetAGC 1", camera), Done);
+    EXPECT_FALSE(properties.GetEnabled("agc") || properties.GetEnabled("gain"));
+
+    properties.SetEnabled("agc", true);
+    Overruling setting{*camera.Object(), Row("IGain::SetAGC").call};
+    properties.AddCallback(Overruling::Tell, &setting);
+    EXPECT_EQ(Observe(camera, Row("IGain::SetAGC 2").call), (Observed{Done, "w 46020000=2; w 46020000=0"}));
+    EXPECT_EQ(properties.GetUIntValue("agc"), 0u);
+    EXPECT_TRUE(properties.GetEnabled("gain"));
+    EXPECT_FALSE(properties.GetEnabled("automaticlevel"));
 }
 
 TEST_F(M2VXPropertyTest, WhatAnObserverThrowsLeavesTheNewValue) {
@@ -256,7 +277,7 @@ TEST_F(M2VXPropertyTest, WhatAnObserverThrowsLeavesTheNewValue) {
     EXPECT_THROW(camera.As<M2VX::IGain>().SetGain(600), Unplugged) << "instead of the refusal";
     EXPECT_EQ(properties.GetUIntValue("gain"), 600u);
     EXPECT_THROW(properties.SetEnabled("gain", false), Unplugged);
-    EXPECT_EQ(Outcome(Row("IGain::SetGain"), *camera.Object()), Disabled);
+    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), Disabled);
 }
 
 TEST_F(M2VXPropertyTest, ModesSwitchWhatDependsOnThemWhenSetAndWhenReadAtOpening) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "CameraTest.h"
+#include "Observed.h"
+
+namespace Test {
+
+class M2VXTest : public CameraTest {
+protected:
+    static const Operation& Row(const std::string& name) { return FindOperation("M2VX::" + name); }
+
+    static std::string OutcomeOf(const std::string& row, const Camera& camera) {
+        return Outcome(Row(row).call, *camera.Object());
+    }
+
+    static void Unplug() { throw Unplugged{0}; }
+};
+
+} // namespace Test
