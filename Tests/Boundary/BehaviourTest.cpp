@@ -247,6 +247,35 @@ TEST_F(BehaviourTest, InfoLinesTellWhatTurnedStaleAndWhatIsRefused) {
                                                          "warn SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"}));
 }
 
+TEST_F(BehaviourTest, ASettingsLoadReachesEveryRegisterAlongEveryPath) {
+    const Camera camera = Open();
+    LogCapture log;
+    camera.As<IBasicSettings>().LoadSettings(1);
+    const std::string line = "debug DoInvalidate  ";
+    std::map<std::string, int> paths; // one line for each chain of dependants that leads to a register
+    for (const std::string& text : log.TakeTexts()) {
+        if (text.starts_with(line))
+            ++paths[text.substr(line.size())];
+    }
+    EXPECT_EQ(std::erase_if(paths, [](const auto& path) { return path.second == 1; }), 55u) << "itself and 54 others";
+    EXPECT_EQ(paths, (std::map<std::string, int>{{"gain", 2},
+                                                 {"brightness", 2},
+                                                 {"contrast", 2},
+                                                 {"colorbalance", 2},
+                                                 {"readoutarea", 2},
+                                                 {"readoutarea_active", 2},
+                                                 {"readoutarea_max", 2},
+                                                 {"readoutarea_min", 2},
+                                                 {"overlayposition_line1", 3},
+                                                 {"overlayposition_line2", 3},
+                                                 {"measurewindow1", 3},
+                                                 {"measurewindow2", 3},
+                                                 {"imagesize", 4},
+                                                 {"readouttime", 4},
+                                                 {"exposure", 8},
+                                                 {"frameduration", 15}}));
+}
+
 TEST_F(BehaviourTest, UserDefinedNameIsPaddedWithZeros) {
     const Camera camera = Open();
     camera.As<IGigECamera>().SetUserDefinedName("ABCDEFGHIJKLMNOPQRST");
