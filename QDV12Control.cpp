@@ -40,21 +40,23 @@ struct Model {
 };
 
 /// The models served, in the order in which they are registered and compared.
+// clang-format off
 constexpr Model Models[] = {
-    {"Orvik-31200M", CreateOrvik}, //
-    {"Orvik-31200C", CreateOrvik}, //
-    {"Orvik-710M", CreateOrvik},   //
-    {"Orvik-710C", CreateOrvik},   //
-    {"Orvik-390M", CreateOrvik},   //
-    {"Orvik-390C", CreateOrvik},   //
-    {"Orvik-520M", CreateOrvik},   //
-    {"Orvik-520C", CreateOrvik},   //
-    {"Orvik-530M", CreateOrvik},   //
-    {"Orvik-530C", CreateOrvik},   //
-    {"Cerix7-MV", CreateM2VX},     //
-    {"Cerix-MV7", CreateM2VX},     //
-    {"Sollux G", CreateM2VX},
+    {"Orvik-31200M", CreateOrvik},
+    {"Orvik-31200C", CreateOrvik},
+    {"Orvik-710M",   CreateOrvik},
+    {"Orvik-710C",   CreateOrvik},
+    {"Orvik-390M",   CreateOrvik},
+    {"Orvik-390C",   CreateOrvik},
+    {"Orvik-520M",   CreateOrvik},
+    {"Orvik-520C",   CreateOrvik},
+    {"Orvik-530M",   CreateOrvik},
+    {"Orvik-530C",   CreateOrvik},
+    {"Cerix7-MV",    CreateM2VX},
+    {"Cerix-MV7",    CreateM2VX},
+    {"Sollux G",     CreateM2VX},
 };
+// clang-format on
 
 constexpr const char* LibraryKey = "qdv12";
 
