@@ -6,7 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace Test {
+
+inline bool IsError(const std::string& outcome) { return outcome.starts_with("SDK4_ERR"); }
+inline std::string InterfaceOf(const std::string& row) { return row.substr(0, row.rfind("::")); }
+inline std::string WithoutInterface(const std::string& row) { return row.substr(row.rfind("::") + 2); }
 
 /// What a port may throw: no type of the library's.
 struct Unplugged {
@@ -54,6 +60,14 @@ protected:
         std::string outcome = Outcome(call, *camera.Object());
         return {std::move(outcome), port.TakeLog()};
     }
+
+    /// What a row's call does to the getters that a camera which remembers answers without asking the camera.
+    struct Effect {
+        std::string outcome;
+        std::set<std::string> valid;    ///< those that answered before, but for who the camera is, which never changes
+        std::set<std::string> affected; ///< those that read the camera afterwards or, of M2VX, answer differently
+    };
+    Effect EffectOf(const Operation& row);
 
     /// The values that a setter accepts. The others must be refused with @p refusal, and not be written.
     std::string AdmittedBy(const Setter& set, const Camera& camera, const std::string& refusal) {

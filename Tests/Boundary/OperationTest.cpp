@@ -4,14 +4,11 @@
 
 #include <algorithm>
 #include <cctype>
-#include <map>
 #include <set>
 
 namespace Test {
 
 namespace {
-
-bool IsError(const std::string& outcome) { return outcome.starts_with("SDK4_ERR"); }
 
 std::vector<std::string> Split(const std::string& text, const std::string& separator) {
     std::vector<std::string> parts;
@@ -22,9 +19,6 @@ std::vector<std::string> Split(const std::string& text, const std::string& separ
     }
     return parts;
 }
-
-std::string InterfaceOf(const std::string& name) { return name.substr(0, name.rfind("::")); }
-std::string WithoutInterface(const std::string& name) { return name.substr(name.rfind("::") + 2); }
 
 /// Whether a row belongs to an interface, of either family.
 bool IsOf(const char* interface, const Operation& row) { return InterfaceOf(row.name).ends_with(interface); }
@@ -37,18 +31,6 @@ std::string TestName(const testing::TestParamInfo<Operation>& row) {
     std::replace_if(
         name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
     return name;
-}
-
-/// The rows of a family whose value the library remembers: getters whose repetition costs nothing. Width, height,
-/// format and time per frame of the video frame are other views of the same registers.
-std::vector<const Operation*> CachedGetters(bool ofM2VX) {
-    std::vector<const Operation*> getters;
-    for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() == ofM2VX && !row.accesses.firstUncached.empty() && row.accesses.again.empty() &&
-            !IsError(row.result) && !row.state.before && !IsOf("IVideoFrame", row))
-            getters.push_back(&row);
-    }
-    return getters;
 }
 
 } // namespace
@@ -76,39 +58,20 @@ TEST_P(OperationTest, AnswersAtTheStatedCost) {
 /// What the row states, once "all but" is taken from the getters that answered before the call.
 std::set<std::string> OperationTest::ExpectedAffected(const std::set<std::string>& valid) const {
     const std::string allBut = "all but ";
-    std::set<std::string> expected;
     if (!row.accesses.affected.starts_with(allBut)) {
-        for (const std::string& name : Split(row.accesses.affected, ", "))
-            expected.insert(name);
-        return expected;
+        const std::vector<std::string> names = Split(row.accesses.affected, ", ");
+        return {names.begin(), names.end()};
     }
-    for (const std::string& name : valid) {
-        if (!name.starts_with("IGufi")) // who the camera is does not change
-            expected.insert(WithoutInterface(name));
-    }
+    std::set<std::string> expected = valid;
     for (const std::string& survivor : Split(row.accesses.affected.substr(allBut.size()), ", "))
         EXPECT_EQ(expected.erase(survivor), 1u) << survivor;
     return expected;
 }
 
 TEST_P(OperationTest, AffectsWhatDependsOnItAndNothingElse) {
-    const Camera camera = Open(row.state, row.state.RememberingIndex());
-    const std::vector<const Operation*> getters = CachedGetters(row.state.IsM2VX());
-    std::map<std::string, std::string> before;
-    std::set<std::string> observed, valid;
-    for (const Operation* getter : getters) {
-        before[getter->name] = Outcome(getter->call, *camera.Object());
-        if (!IsError(before[getter->name]))
-            valid.insert(getter->name);
-    }
-    EXPECT_EQ(Outcome(row.call, *camera.Object()), row.result);
-    for (const Operation* getter : getters) {
-        const auto [outcome, accesses] = Observe(camera, getter->call);
-        const bool stale = valid.contains(getter->name) && !accesses.empty();
-        if (stale || (row.state.IsM2VX() && outcome != before[getter->name]))
-            observed.insert(WithoutInterface(getter->name));
-    }
-    EXPECT_EQ(observed, ExpectedAffected(valid));
+    const Effect effect = EffectOf(row);
+    EXPECT_EQ(effect.outcome, row.result);
+    EXPECT_EQ(effect.affected, ExpectedAffected(effect.valid));
 }
 
 void OperationTest::ExpectPortFailuresPass(int index, const std::string& text) {

@@ -1,0 +1,44 @@
+#include "CameraTest.h"
+
+#include <map>
+
+namespace Test {
+
+namespace {
+
+/// The rows of a family whose value the library remembers: getters whose repetition costs nothing. Width, height,
+/// format and time per frame of the video frame are other views of the same registers.
+std::vector<const Operation*> CachedGetters(bool ofM2VX) {
+    std::vector<const Operation*> getters;
+    for (const Operation& row : Operations()) {
+        if (row.state.IsM2VX() == ofM2VX && !row.accesses.firstUncached.empty() && row.accesses.again.empty() &&
+            !IsError(row.result) && !row.state.before && !InterfaceOf(row.name).ends_with("IVideoFrame"))
+            getters.push_back(&row);
+    }
+    return getters;
+}
+
+} // namespace
+
+CameraTest::Effect CameraTest::EffectOf(const Operation& row) {
+    const Camera camera = Open(row.state, row.state.RememberingIndex());
+    const std::vector<const Operation*> getters = CachedGetters(row.state.IsM2VX());
+    std::map<const Operation*, std::string> before;
+    for (const Operation* getter : getters)
+        before[getter] = Outcome(getter->call, *camera.Object());
+
+    Effect effect;
+    effect.outcome = Outcome(row.call, *camera.Object());
+    for (const Operation* getter : getters) {
+        const auto [outcome, accesses] = Observe(camera, getter->call);
+        const bool valid = !IsError(before[getter]);
+        const std::string name = WithoutInterface(getter->name);
+        if (valid && !getter->name.starts_with("IGufi"))
+            effect.valid.insert(name);
+        if ((valid && !accesses.empty()) || (row.state.IsM2VX() && outcome != before[getter]))
+            effect.affected.insert(name);
+    }
+    return effect;
+}
+
+} // namespace Test

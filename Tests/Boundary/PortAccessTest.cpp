@@ -1,0 +1,209 @@
+// docs/port-accesses.md: what every row of the table of operations costs, measured. The document is written by this
+// test when QDV12_RENEW is set, and compared otherwise.
+
+#include "CameraTest.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+namespace Test {
+
+namespace {
+
+const char* const introduction = R"(# Port accesses
+
+What every operation costs, in accesses to the host's port. This document is written by a test that measures the library
+on a port which writes down what it is asked; the test fails when a line is no longer true. Renew it with
+
+    cmake --build --preset release --target port-accesses
+
+| Text | Access | Text | Access |
+|---|---|---|---|
+| `r 0014` | `ReadRegister` | `w 0D04=1500` | `WriteRegister` |
+| `R 14010000/4` | `ReadMem` of 4 bytes | `W 14010000=511` | `WriteMem` |
+| `rp 0A030000` | `ReadRegisterPair` | `wp 0A030000=1,2` | `WriteRegisterPair` |
+| `rb 17020000/12` | `ReadBlock` of 12 bytes | `wb 17020000=0,1,2` | `WriteBlock` |
+| `rs 0200/512` | `ReadString` | `ws 00E8/16=name` | `WriteString` |
+
+Addresses are hexadecimal, values are decimal words. What stands behind an operation's name is special about the call or
+about the state of the camera ("above": a value above the range), and, in brackets, how the call is refused.
+
+*Remembering* is a control that keeps what it can (Orvik: camera index 0, M2VX: 3); *reading* is one that asks the camera
+(Orvik: 2, M2VX: 0). "Again" is the same call repeated at once. "-" is no access, "same" is what the column to the left
+says. The last column names the getters of a remembering control that notice the call: those of Orvik read the camera the
+next time, those of M2VX answer differently; "all but" stands for all that answered before the call, without those named.
+)";
+
+std::string Code(const std::string& text) { return "`" + text + "`"; }
+
+/// Cells of one line; the same text as to the left becomes a word.
+std::string Cells(const std::vector<std::string>& accesses) {
+    std::string line;
+    const std::string* left = nullptr;
+    for (const std::string& text : accesses) {
+        line += text.empty() ? " - |" : left != nullptr && *left == text ? " same |" : " " + Code(text) + " |";
+        left = &text;
+    }
+    return line;
+}
+
+template <class Names> std::string Joined(const Names& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : ", ") + name;
+    return text;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+/// The lines of one text that are not in the other, each behind a sign.
+std::string Missing(const std::string& sign, const std::string& text, const std::string& other) {
+    std::vector<std::string> known = Lines(other);
+    std::sort(known.begin(), known.end());
+    std::string missing;
+    for (const std::string& line : Lines(text)) {
+        if (!std::binary_search(known.begin(), known.end(), line))
+            missing += sign + line + "\n";
+    }
+    return missing;
+}
+
+} // namespace
+
+class PortAccessTest : public CameraTest {
+protected:
+    std::string Document();
+    std::string Opening(const char* family, const State& state);
+    std::string Family(bool ofM2VX);
+    std::string Interface(const std::string& name, const std::vector<const Operation*>& rows);
+    std::string Noticing(const Operation& row);
+
+    /// A camera that has had no call yet.
+    template <class Call> auto OnNewCamera(const Call& call) {
+        port = {};
+        return call();
+    }
+};
+
+/// The getters that notice a call, the shorter of two lists.
+std::string PortAccessTest::Noticing(const Operation& row) {
+    const auto [outcome, valid, affected] = OnNewCamera([&] { return EffectOf(row); });
+    if (affected.empty() || 2 * affected.size() <= valid.size())
+        return affected.empty() ? "-" : Joined(affected);
+    std::vector<std::string> untouched, beyond;
+    std::set_difference(valid.begin(), valid.end(), affected.begin(), affected.end(), std::back_inserter(untouched));
+    std::set_difference(affected.begin(), affected.end(), valid.begin(), valid.end(), std::back_inserter(beyond));
+    return "all but " + Joined(untouched) + (beyond.empty() ? "" : "; besides " + Joined(beyond));
+}
+
+std::string PortAccessTest::Interface(const std::string& name, const std::vector<const Operation*>& rows) {
+    std::string table, withoutAccess;
+    for (const Operation* row : rows) {
+        std::string outcome;
+        std::vector<std::string> accesses;
+        for (const int index : {row->state.RememberingIndex(), row->state.ReadingIndex()}) {
+            OnNewCamera([&] {
+                const Camera camera = Open(row->state, index);
+                for (int repetition = 0; repetition < 2; ++repetition) {
+                    Observed observed = Observe(camera, row->call);
+                    accesses.push_back(observed.accesses);
+                    outcome = observed.outcome;
+                }
+            });
+        }
+        std::string operation = WithoutInterface(row->name);
+        if (IsError(outcome))
+            operation += " (" + outcome.substr(std::string("SDK4_ERR_").size()) + ")";
+        const std::string noticing = Noticing(*row);
+        if (noticing == "-" && std::all_of(accesses.begin(), accesses.end(), [](auto& text) { return text.empty(); }))
+            withoutAccess += (withoutAccess.empty() ? "" : ", ") + operation;
+        else
+            table += "| " + operation + " |" + Cells(accesses) + " " + noticing + " |\n";
+    }
+    std::string text = "\n### " + name + "\n";
+    if (!table.empty())
+        text +=
+            "\n| Operation | Remembering | Again | Reading | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
+    if (!withoutAccess.empty())
+        text += "\nWithout access: " + withoutAccess + ".\n";
+    return text;
+}
+
+/// The accesses of CreateObject, counted by register in the order in which the registers come.
+std::string PortAccessTest::Opening(const char* family, const State& state) {
+    std::string text;
+    for (const int index : {state.RememberingIndex(), state.ReadingIndex()}) {
+        OnNewCamera([&] {
+            Prepare(port, state);
+            const Camera camera(plugin, state.model, &port, index);
+        });
+        std::istringstream log(port.TakeLog());
+        std::vector<std::string> order;
+        std::map<std::string, int> count;
+        int all = 0;
+        for (std::string access; std::getline(log >> std::ws, access, ';'); ++all) {
+            access = access.substr(0, access.find_first_of("=/"));
+            if (count[access]++ == 0)
+                order.push_back(access);
+        }
+        std::vector<std::string> parts;
+        for (const std::string& access : order)
+            parts.push_back(Code(access) + (count[access] > 1 ? " x " + std::to_string(count[access]) : ""));
+        text += std::string("| ") + family + " | " + std::to_string(index) + " | " + std::to_string(all) + " | " +
+                (parts.empty() ? "-" : Joined(parts)) + " |\n";
+    }
+    return text;
+}
+
+std::string PortAccessTest::Family(bool ofM2VX) {
+    std::vector<std::string> order;
+    std::map<std::string, std::vector<const Operation*>> rows;
+    for (const Operation& row : Operations()) {
+        if (row.state.IsM2VX() != ofM2VX)
+            continue;
+        std::string name = InterfaceOf(row.name);
+        if (ofM2VX)
+            name.erase(0, std::string("M2VX::").size());
+        if (rows[name].empty())
+            order.push_back(name);
+        rows[name].push_back(&row);
+    }
+    std::string text;
+    for (const std::string& name : order)
+        text += Interface(name, rows[name]);
+    return text;
+}
+
+std::string PortAccessTest::Document() {
+    return std::string(introduction) +
+           "\n## Opening\n\nLogging is off. With the logger at debug level an Orvik camera reads the ten network "
+           "registers too, only to log them.\n\n| Family | Index | Accesses | by register, in the order of the first "
+           "|\n|---|---|---|---|\n" +
+           Opening("Orvik", {}) + Opening("M2VX", OnM2VX()) + "\n## Orvik\n" + Family(false) + "\n## M2VX\n" +
+           Family(true);
+}
+
+TEST_F(PortAccessTest, TheDocumentTellsWhatEveryOperationCosts) {
+    const std::string measured = Document();
+    if (std::getenv("QDV12_RENEW") != nullptr) {
+        std::ofstream(QDV12_PORT_ACCESSES) << measured;
+        return;
+    }
+    std::stringstream document;
+    document << std::ifstream(QDV12_PORT_ACCESSES).rdbuf();
+    if (document.str() != measured)
+        FAIL() << Missing("-", document.str(), measured) << Missing("+", measured, document.str())
+               << "docs/port-accesses.md is out of date. If the change is meant, renew it:\n"
+                  "    cmake --build --preset release --target port-accesses";
+}
+
+} // namespace Test
