@@ -6,7 +6,7 @@ namespace {
 
 /// The table of defect pixels: 128 pairs, the first two of which are in use.
 Value DefectPixels() {
-    std::vector<Words> entries(2 * 128, Words{0, 0, 0});
+    std::vector<Words> entries(256, Words{0, 0, 0});
     entries[0] = {12, 700, 1}; // column, line, how it is replaced
     entries[1] = {13, 700, 1};
     entries[2] = {512, 44, 2};

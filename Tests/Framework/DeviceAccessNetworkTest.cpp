@@ -186,11 +186,17 @@ TEST(DeviceAccessNetwork, TheBootstrapAnswersAsTheOtherFamilyDoesAndLogsNoCalls)
 
 TEST(RefusingPort, RefusesEveryAccess) {
     SDK4::IControlPort& port = *SDK4::RefusingPort::Instance();
-    for (const auto& access : std::initializer_list<void (*)(SDK4::IControlPort&)>{
-             [](auto& p) { p.WriteRegister(0, 0); }, [](auto& p) { p.ReadRegister(0); },
-             [](auto& p) { p.WriteRegisterPair(0, 0); }, [](auto& p) { p.ReadRegisterPair(0); },
-             [](auto& p) { p.ReadBlock(0, 4); }, [](auto& p) { p.WriteBlock(0, nullptr, 0); },
-             [](auto& p) { p.ReadString(0, 4); }, [](auto& p) { p.WriteString(0, "", 0); },
-             [](auto& p) { p.ReadMem(0, nullptr, nullptr); }, [](auto& p) { p.WriteMem(0, nullptr, nullptr); }})
+    using Access = void (*)(SDK4::IControlPort&);
+    const Access accesses[] = {[](auto& p) { p.WriteRegister(0, 0); },
+                               [](auto& p) { p.ReadRegister(0); },
+                               [](auto& p) { p.WriteRegisterPair(0, 0); },
+                               [](auto& p) { p.ReadRegisterPair(0); },
+                               [](auto& p) { p.ReadBlock(0, 4); },
+                               [](auto& p) { p.WriteBlock(0, nullptr, 0); },
+                               [](auto& p) { p.ReadString(0, 4); },
+                               [](auto& p) { p.WriteString(0, "", 0); },
+                               [](auto& p) { p.ReadMem(0, nullptr, nullptr); },
+                               [](auto& p) { p.WriteMem(0, nullptr, nullptr); }};
+    for (const Access access : accesses)
         EXPECT_EQ(CodeOf([&] { access(port); }), "SDK4_ERR_INVALID_PARAMETER");
 }

@@ -35,7 +35,9 @@ public:
     void Set(std::uint32_t address, std::uint32_t word) { Set(address, Words({word})); }
 
     /// Sets one of several instances at an address: what a read delivers behind the index word that selected it.
-    void SetInstance(std::uint32_t address, std::uint32_t index, Bytes bytes) { instances[address][index] = bytes; }
+    void SetInstance(std::uint32_t address, std::uint32_t index, Bytes bytes) {
+        instances[address][index] = std::move(bytes);
+    }
 
     /// What lies at an address, as Set or a write left it.
     Bytes Get(std::uint32_t address) const;

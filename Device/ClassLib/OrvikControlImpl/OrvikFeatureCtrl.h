@@ -68,7 +68,7 @@ public:
                       std::int32_t cameraIndex, const char* model, const char* id);
 
     void Release() override;
-    virtual ~COrvikFeatureCtrl();
+    ~COrvikFeatureCtrl() override;
     const char* GetClassID() override;
     IMediaType* GetMediaType() override { return mediaType; }
 
