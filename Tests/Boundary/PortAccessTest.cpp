@@ -151,7 +151,7 @@ std::string PortAccessTest::Opening(const char* family, const State& state) {
         std::map<std::string, int> count;
         int all = 0;
         for (std::string access; std::getline(log >> std::ws, access, ';'); ++all) {
-            access = access.substr(0, access.find_first_of("=/"));
+            access.resize(std::min(access.find_first_of("=/"), access.size()));
             if (count[access]++ == 0)
                 order.push_back(access);
         }
@@ -193,6 +193,9 @@ std::string PortAccessTest::Document() {
 }
 
 TEST_F(PortAccessTest, TheDocumentTellsWhatEveryOperationCosts) {
+#ifdef QDV12_SANITIZED
+    GTEST_SKIP() << "the release build measures; the sanitizers see the same calls in OperationTest";
+#endif
     const std::string measured = Document();
     if (std::getenv("QDV12_RENEW") != nullptr) {
         std::ofstream(QDV12_PORT_ACCESSES) << measured;
