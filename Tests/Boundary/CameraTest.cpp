@@ -1,24 +1,8 @@
-#include "CameraTest.h"
+#include "Rows.h"
 
 #include <map>
 
 namespace Test {
-
-namespace {
-
-/// The rows of a family whose value the library remembers: getters whose repetition costs nothing. Width, height,
-/// format and time per frame of the video frame are other views of the same registers.
-std::vector<const Operation*> CachedGetters(bool ofM2VX) {
-    std::vector<const Operation*> getters;
-    for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() == ofM2VX && !row.accesses.firstUncached.empty() && row.accesses.again.empty() &&
-            !IsError(row.result) && !row.state.before && !InterfaceOf(row.name).ends_with("IVideoFrame"))
-            getters.push_back(&row);
-    }
-    return getters;
-}
-
-} // namespace
 
 CameraTest::Effect CameraTest::EffectOf(const Operation& row) {
     const Camera camera = Open(row.state, row.state.RememberingIndex());

@@ -10,7 +10,6 @@
 
 namespace Test {
 
-inline bool IsError(const std::string& outcome) { return outcome.starts_with("SDK4_ERR"); }
 inline std::string InterfaceOf(const std::string& row) { return row.substr(0, row.rfind("::")); }
 inline std::string WithoutInterface(const std::string& row) { return row.substr(row.rfind("::") + 2); }
 

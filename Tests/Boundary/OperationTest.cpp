@@ -1,41 +1,10 @@
 // Every row of the table of operations, and what holds for all of them.
 
-#include "CameraTest.h"
+#include "Rows.h"
 
-#include <algorithm>
-#include <cctype>
 #include <set>
 
 namespace Test {
-
-namespace {
-
-std::vector<std::string> Split(const std::string& text, const std::string& separator) {
-    std::vector<std::string> parts;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find(separator, at), text.size());
-        parts.push_back(text.substr(at, end - at));
-        at = end + separator.size();
-    }
-    return parts;
-}
-
-/// Whether a row belongs to an interface, of either family.
-bool IsOf(const char* interface, const Operation& row) { return InterfaceOf(row.name).ends_with(interface); }
-
-std::string TestName(const testing::TestParamInfo<Operation>& row) {
-    std::string name = row.param.name;
-    for (std::size_t at; (at = name.find("::")) != std::string::npos;)
-        name.replace(at, 2, "_");
-    std::replace(name.begin(), name.end(), '-', 'm');
-    std::replace_if(
-        name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
-    return name;
-}
-
-} // namespace
-
-void PrintTo(const Operation& operation, std::ostream* stream) { *stream << operation.name; }
 
 class OperationTest : public CameraTest, public testing::WithParamInterface<Operation> {
 protected:
