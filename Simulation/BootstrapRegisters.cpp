@@ -13,38 +13,43 @@ constexpr std::uint32_t Address(std::uint32_t a, std::uint32_t b, std::uint32_t 
 } // namespace
 
 std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial) {
+    const auto fixed = Role::Fixed;
+    const auto shown = Role::Shown;
     const auto kept = Role::Kept;
+    const auto passing = Role::Volatile;
     std::string file = model; // an address has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
     // clang-format off
     return {
-        // name                        address  role  kind and power-up value
-        {"gigeversion",                0x0000, kept, Word(0x00010002)},
-        {"devicemode",                 0x0004, kept, Word(0x80000001)},
-        {"machigh",                    0x0008, kept, Word(0x00000200)},          // locally administered
-        {"maclow",                     0x000C, kept, Word(0x12000000 | serial)},
-        {"supportedipconfig",          0x0010, kept, Word(7)},                   // persistent, DHCP, link-local
-        {"currentipconfig",            0x0014, kept, Word(6)},                   // DHCP, link-local
-        {"currentipaddress",           0x0024, kept, Word(Address(192, 168, 1, 10))},
-        {"currentsubnetmask",          0x0034, kept, Word(Address(255, 255, 255, 0))},
-        {"currentdefaultgateway",      0x0044, kept, Word(Address(192, 168, 1, 1))},
-        {"manufacturername",           0x0048, kept, Text(32, "Simulation")},
-        {"modelname",                  0x0068, kept, Text(32, model)},
-        {"deviceversion",              0x0088, kept, Text(32, "1.0")},
-        {"manufacturerinfo",           0x00A8, kept, Text(48, "A camera that lives in memory")},
-        {"bootstrapserialnumber",      0x00D8, kept, Text(16, std::to_string(serial))},
-        {"userdefinedname",            0x00E8, kept, Text(16, "")},
-        {"firsturl",                   0x0200, kept, Text(512, "Local:" + file + ".zip;10000;4A00")},
-        {"secondurl",                  0x0400, kept, Text(512, "http://192.168.1.10/" + file + ".xml")},
-        {"persistentipaddress",        0x064C, kept, Word(0)},
-        {"persistentsubnetmask",       0x065C, kept, Word(0)},
-        {"persistentdefaultgateway",   0x066C, kept, Word(0)},
-        {"gvcpcapability",             0x0934, kept, Word(0xC0000006)},          // names, resend, memory writes
-        {"gvcpconfiguration",          0x0954, kept, Word(0)},
-        {"packetsize",                 0x0D04, kept, Word(1404)},
-        {"packetdelay",                0x0D08, kept, Word(0)},
+        // name                        address role     kind and power-up value
+        {"gigeversion",                0x0000, fixed,   Word(0x00010002)},
+        {"devicemode",                 0x0004, fixed,   Word(0x80000001)},
+        {"machigh",                    0x0008, fixed,   Word(0x00000200)},          // locally administered
+        {"maclow",                     0x000C, fixed,   Word(0x12000000 | serial)},
+        {"supportedipconfig",          0x0010, fixed,   Word(7)},                   // persistent, DHCP, link-local
+        {"currentipconfig",            0x0014, kept,    Word(6)},                   // DHCP, link-local
+        {"currentipaddress",           0x0024, shown,   Word(Address(192, 168, 1, 10))},
+        {"currentsubnetmask",          0x0034, shown,   Word(Address(255, 255, 255, 0))},
+        {"currentdefaultgateway",      0x0044, shown,   Word(Address(192, 168, 1, 1))},
+        {"manufacturername",           0x0048, fixed,   Text(32, "Simulation")},
+        {"modelname",                  0x0068, fixed,   Text(32, model)},
+        {"deviceversion",              0x0088, fixed,   Text(32, "1.0")},
+        {"manufacturerinfo",           0x00A8, fixed,   Text(48, "A camera that lives in memory")},
+        {"bootstrapserialnumber",      0x00D8, fixed,   Text(16, std::to_string(serial))},
+        {"userdefinedname",            0x00E8, kept,    Text(16, "")},
+        {"firsturl",                   0x0200, fixed,   Text(512, "Local:" + file + ".zip;10000;4A00")},
+        {"secondurl",                  0x0400, fixed,   Text(512, "http://192.168.1.10/" + file + ".xml")},
+        {"persistentipaddress",        0x064C, kept,    Word(0)},
+        {"persistentsubnetmask",       0x065C, kept,    Word(0)},
+        {"persistentdefaultgateway",   0x066C, kept,    Word(0)},
+        {"gvcpcapability",             0x0934, fixed,   Word(0xC0000006)},          // names, resend, memory writes
+        {"gvcpconfiguration",          0x0954, passing, Word(0)},
+        {"packetsize",                 0x0D04, passing, Word(1404)},
+        {"packetdelay",                0x0D08, passing, Word(0)},
     };
     // clang-format on
 }
+
+void AddBootstrapBehaviour(SimulatedCamera&) {}
 
 } // namespace Simulation

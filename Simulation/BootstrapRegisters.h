@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Register.h"
+#include "SimulatedCamera.h"
 
 #include <cstdint>
 #include <string>
@@ -10,5 +10,7 @@ namespace Simulation {
 
 /// The bootstrap registers of the GigE Vision standard, the same for every camera but for its name and serial number.
 [[nodiscard]] std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial);
+/// What the network registers do by themselves.
+void AddBootstrapBehaviour(SimulatedCamera& camera);
 
 } // namespace Simulation

@@ -3,6 +3,7 @@
 #include "BootstrapRegisters.h"
 #include "M2VX.h"
 #include "Orvik.h"
+#include "World.h"
 
 #include <algorithm>
 
@@ -33,11 +34,10 @@ const M2VXModel m2vxModels[] = {
 };
 // clang-format on
 
-std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own,
-                                      void (&addBehaviour)(SimulatedCamera&)) {
+std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own) {
     registers.insert(registers.end(), own.begin(), own.end());
     auto camera = std::make_unique<SimulatedCamera>(registers);
-    addBehaviour(*camera);
+    AddBootstrapBehaviour(*camera);
     return camera;
 }
 
@@ -49,12 +49,17 @@ template <typename Models> auto Find(const Models& models, std::string_view name
 
 } // namespace
 
-std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name) {
+std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options) {
+    const World world(options.seed);
     if (const auto* const orvik = Find(orvikModels, name)) {
-        return Make(BootstrapRegisters(orvik->name, orvik->number), OrvikRegisters(*orvik), AddOrvikBehaviour);
+        auto camera = Make(BootstrapRegisters(orvik->name, orvik->number), OrvikRegisters(*orvik));
+        AddOrvikBehaviour(*camera, *orvik, world);
+        return camera;
     }
     if (const auto* const m2vx = Find(m2vxModels, name)) {
-        return Make(BootstrapRegisters(m2vx->name, m2vx->number), M2VXRegisters(*m2vx), AddM2VXBehaviour);
+        auto camera = Make(BootstrapRegisters(m2vx->name, m2vx->number), M2VXRegisters(*m2vx));
+        AddM2VXBehaviour(*camera, world);
+        return camera;
     }
     return nullptr;
 }

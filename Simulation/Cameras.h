@@ -2,12 +2,21 @@
 
 #include "SimulatedCamera.h"
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
 namespace Simulation {
 
+/// In what world a camera is switched on.
+struct Options {
+    /// Decides what no register does: how bright and how coloured the scene is, in what order the temperature's noise
+    /// comes, where defect pixels are found. Never the identity. The same seed and the same accesses give the same
+    /// values; 0 is the plainest world.
+    std::uint64_t seed = 0;
+};
+
 /// A simulated camera as it is after being switched on, or null when no model of that name is simulated.
-[[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name);
+[[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options = {});
 
 } // namespace Simulation

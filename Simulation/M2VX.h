@@ -2,6 +2,7 @@
 
 #include "Register.h"
 #include "SimulatedCamera.h"
+#include "World.h"
 
 #include <cstdint>
 #include <string>
@@ -16,6 +17,6 @@ struct M2VXModel {
 };
 
 [[nodiscard]] std::vector<Register> M2VXRegisters(const M2VXModel& model);
-void AddM2VXBehaviour(SimulatedCamera& camera);
+void AddM2VXBehaviour(SimulatedCamera& camera, const World& world);
 
 } // namespace Simulation

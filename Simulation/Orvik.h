@@ -2,6 +2,7 @@
 
 #include "Register.h"
 #include "SimulatedCamera.h"
+#include "World.h"
 
 #include <cstdint>
 #include <string>
@@ -21,6 +22,6 @@ struct OrvikModel {
 };
 
 [[nodiscard]] std::vector<Register> OrvikRegisters(const OrvikModel& model);
-void AddOrvikBehaviour(SimulatedCamera& camera);
+void AddOrvikBehaviour(SimulatedCamera& camera, const OrvikModel& model, const World& world);
 
 } // namespace Simulation

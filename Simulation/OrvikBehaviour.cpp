@@ -1,5 +1,4 @@
 #include "Orvik.h"
-#include "SettingsSets.h"
 
 namespace Simulation {
 
@@ -20,10 +19,14 @@ void FollowReadoutTime(RegisterSpace& space) {
 
 } // namespace
 
-void AddOrvikBehaviour(SimulatedCamera& camera) {
-    camera.AfterWrite("readoutarea", FollowReadoutArea);
-    camera.AfterWrite("readouttime", FollowReadoutTime);
-    AddSettingsSets(camera);
+void AddOrvikBehaviour(SimulatedCamera& camera, const OrvikModel&, const World&) {
+    const auto follow = [](RegisterSpace& space) {
+        FollowReadoutArea(space);
+        FollowReadoutTime(space);
+    };
+    camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { FollowReadoutArea(space); });
+    camera.AfterWrite("readouttime", [](RegisterSpace& space, const auto&) { FollowReadoutTime(space); });
+    camera.Derive(follow);
 }
 
 } // namespace Simulation

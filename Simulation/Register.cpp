@@ -1,6 +1,8 @@
 #include "Register.h"
 
+#include <algorithm>
 #include <cstring>
+#include <numeric>
 
 namespace Simulation {
 
@@ -62,6 +64,35 @@ Value LedText(std::size_t length, std::string_view text) {
     bytes.insert(bytes.end(), text.begin(), text.end());
     bytes.resize(length);
     return {{{{}, bytes}}};
+}
+
+Limits Range(std::int64_t lowest, std::int64_t highest) { return {lowest, highest, {}}; }
+
+Limits Codes(std::uint32_t first, std::uint32_t last) {
+    Words codes(std::size_t{last} - first + 1);
+    std::iota(codes.begin(), codes.end(), first);
+    return Codes(codes);
+}
+
+Limits Codes(const Words& codes) {
+    Limits limits;
+    limits.codes = codes;
+    return limits;
+}
+
+std::int64_t Number(std::uint32_t word, const Limits& limits) {
+    return limits.lowest < 0 ? static_cast<std::int32_t>(word) : std::int64_t{word};
+}
+
+bool Admit(const std::vector<Limits>& limits, Words& words) {
+    for (std::size_t i = 0; i < std::min(words.size(), limits.size()); ++i) {
+        const Limits& own = limits[i];
+        if (!own.codes.empty() && std::find(own.codes.begin(), own.codes.end(), words[i]) == own.codes.end()) {
+            return false;
+        }
+        words[i] = static_cast<std::uint32_t>(std::clamp(Number(words[i], own), own.lowest, own.highest));
+    }
+    return true;
 }
 
 } // namespace Simulation

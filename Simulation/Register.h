@@ -14,11 +14,17 @@ using Words = std::vector<std::uint32_t>;
 [[nodiscard]] Bytes ToBytes(const Words& words);
 [[nodiscard]] Words ToWords(const Bytes& bytes);
 
-/// Whether a register belongs to what a settings set saves and loads.
+/// Who changes a register, and what becomes of it when settings are loaded or the camera starts anew.
 enum class Role {
-    Setting,
-    Kept, ///< identity, network, commands, measurements: no settings set touches it
+    Fixed,    ///< identity: nobody changes it
+    Shown,    ///< the camera's own: it shows it, hosts read it
+    Setting,  ///< a settings set saves and loads it
+    Kept,     ///< permanent memory beside the settings sets
+    Volatile, ///< commands, and what a start forgets
 };
+
+/// Whether the camera ignores what a host writes.
+[[nodiscard]] constexpr bool IsReadOnly(Role role) { return role == Role::Fixed || role == Role::Shown; }
 
 /// One of the values behind an address, and the selector that leads to it.
 struct Instance {
@@ -43,12 +49,31 @@ struct Value {
 /// Values behind two words, row and column, exchanged when they are written alone; row by row from {0, 0} on.
 [[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
 
+/// What a word of a register admits: a number is moved to the nearest admitted one, a code that is not admitted has the
+/// whole write rejected.
+struct Limits {
+    std::int64_t lowest = 0; ///< a negative one makes the word a signed one
+    std::int64_t highest = 0xFFFFFFFF;
+    Words codes; ///< not empty: these alone are admitted
+};
+
+[[nodiscard]] Limits Range(std::int64_t lowest, std::int64_t highest);
+[[nodiscard]] Limits Codes(std::uint32_t first, std::uint32_t last);
+[[nodiscard]] Limits Codes(const Words& codes);
+
+/// The word as the number that it stands for.
+[[nodiscard]] std::int64_t Number(std::uint32_t word, const Limits& limits);
+/// Moves each word to the nearest admitted number. False if one is a code that is not admitted. Words beyond the limits
+/// given admit everything.
+[[nodiscard]] bool Admit(const std::vector<Limits>& limits, Words& words);
+
 /// One row of a camera's register table.
 struct Register {
     std::string name;
     std::uint32_t address;
     Role role;
     Value powerUp;
+    std::vector<Limits> limits = {}; ///< of each word
 };
 
 } // namespace Simulation

@@ -36,13 +36,21 @@ void RegisterSpace::Read(std::uint32_t address, std::span<std::uint8_t> bytes) c
     std::copy(block.begin(), block.end(), bytes.begin());
 }
 
-void RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> bytes) {
-    const auto found = indexed.find(address);
-    if (found == indexed.end()) {
-        memory.Write(address, bytes);
-        return;
+std::vector<RegisterSpace::Change> RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> bytes) {
+    std::vector<Change> changes;
+    for (const Register* entry : Touched(address, bytes.size())) {
+        if (indexed.contains(entry->address)) {
+            return WriteIndexed(*entry, bytes);
+        }
+        changes.push_back({*entry, 0, Get(entry->name)});
     }
-    IndexedRegister& target = found->second;
+    memory.Write(address, bytes);
+    return changes;
+}
+
+std::vector<RegisterSpace::Change> RegisterSpace::WriteIndexed(const Register& entry,
+                                                               std::span<const std::uint8_t> bytes) {
+    IndexedRegister& target = indexed.at(entry.address);
     const auto selector = bytes.first(std::min(bytes.size(), target.selectorBytes));
     target.selected.assign(selector.begin(), selector.end());
     target.selected.resize(target.selectorBytes);
@@ -52,11 +60,18 @@ void RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> b
             std::rotate(target.selected.begin(), target.selected.begin() + sizeof(std::uint32_t),
                         target.selected.end());
         }
-    } else {
-        Bytes& instance = target.instances[target.selected];
-        instance.resize(target.valueBytes);
-        std::copy_n(value.begin(), std::min(value.size(), instance.size()), instance.begin());
+        return {};
     }
+    const auto& known = entry.powerUp.instances;
+    const auto chosen = std::find_if(known.begin(), known.end(),
+                                     [&](const Instance& instance) { return instance.selector == target.selected; });
+    if (chosen == known.end()) {
+        return {};
+    }
+    Bytes& instance = target.instances.at(target.selected);
+    const Words before = ToWords(instance);
+    std::copy_n(value.begin(), std::min(value.size(), instance.size()), instance.begin());
+    return {{entry, static_cast<std::uint32_t>(chosen - known.begin()), before}};
 }
 
 std::uint32_t RegisterSpace::Count(const std::string& name) const {
@@ -73,48 +88,61 @@ void RegisterSpace::Set(const std::string& name, const Words& words, std::uint32
     SetValueOf(entry, entry.powerUp.instances.at(index).selector, ToBytes(words));
 }
 
+const Register* RegisterSpace::Find(const std::string& name) const {
+    const auto found = addresses.find(name);
+    return found == addresses.end() ? nullptr : &byAddress.at(found->second);
+}
+
 const Register* RegisterSpace::At(std::uint32_t address) const {
     const auto found = byAddress.find(address);
     return found == byAddress.end() ? nullptr : &found->second;
 }
 
-bool RegisterSpace::Touches(std::uint32_t address, std::size_t length, const std::string& name) const {
-    const Register& entry = Named(name);
-    const Instance& first = entry.powerUp.instances.front();
-    if (!first.selector.empty()) {
-        return address == entry.address;
+std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::size_t length) const {
+    if (indexed.contains(address)) {
+        return {At(address)};
     }
-    const std::uint64_t end = std::uint64_t{entry.address} + first.value.size();
-    return address < end && std::uint64_t{address} + length > entry.address;
+    std::vector<const Register*> touched;
+    auto next = byAddress.upper_bound(address);
+    if (next != byAddress.begin()) {
+        --next; // the only one that begins before the access and may reach into it: registers do not overlap
+    }
+    for (; next != byAddress.end() && next->first < std::uint64_t{address} + length; ++next) {
+        const Register& entry = next->second;
+        const std::uint64_t end = std::uint64_t{entry.address} + entry.powerUp.instances.front().value.size();
+        if (end > address && !indexed.contains(entry.address)) {
+            touched.push_back(&entry);
+        }
+    }
+    return touched;
 }
 
-RegisterSpace::Settings RegisterSpace::SaveSettings() const {
-    Settings settings;
+RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const {
+    Content content;
     for (const auto& [address, entry] : byAddress) {
-        if (entry.role == Role::Setting) {
-            std::vector<Instance>& instances = settings[entry.name];
-            for (const Instance& instance : entry.powerUp.instances) {
-                instances.push_back({instance.selector, ValueOf(entry, instance.selector)});
+        if (std::find(roles.begin(), roles.end(), entry.role) != roles.end()) {
+            for (std::uint32_t i = 0; i < entry.powerUp.instances.size(); ++i) {
+                content[entry.name].push_back(Get(entry.name, i));
             }
         }
     }
-    return settings;
+    return content;
 }
 
-void RegisterSpace::LoadSettings(const Settings& settings) {
-    for (const auto& [name, instances] : settings) {
-        for (const Instance& instance : instances) {
-            SetValueOf(Named(name), instance.selector, instance.value);
+void RegisterSpace::Load(const Content& content) {
+    for (const auto& [name, instances] : content) {
+        for (std::uint32_t i = 0; i < instances.size(); ++i) {
+            Set(name, instances[i], i);
         }
     }
 }
 
 const Register& RegisterSpace::Named(const std::string& name) const {
-    const auto found = addresses.find(name);
-    if (found == addresses.end()) {
+    const Register* const found = Find(name);
+    if (found == nullptr) {
         throw std::logic_error("no register is named " + name);
     }
-    return byAddress.at(found->second);
+    return *found;
 }
 
 Bytes RegisterSpace::ValueOf(const Register& entry, const Bytes& selector) const {

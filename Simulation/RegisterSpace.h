@@ -4,7 +4,6 @@
 #include "Register.h"
 
 #include <map>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -16,14 +15,22 @@ namespace Simulation {
 /// Every access of the port is a read or a write of some bytes at an address; whether they came as a word, a pair, a
 /// block, a text or memory makes no difference. Plain registers, and every address that no register claims, are memory.
 /// An indexed register is a selector and a value: a write of the selector alone chooses an instance, a longer write
-/// sets the instance that it names, and a read gives the chosen selector back, followed by its value. Some registers
-/// take a selector of two words with its halves exchanged when it is written alone.
+/// sets the instance that it names, if there is one, and a read gives the chosen selector back, followed by its value.
+/// Some registers take a selector of two words with its halves exchanged when it is written alone.
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
 
+    /// A register whose value a write has reached.
+    struct Change {
+        const Register& entry;
+        std::uint32_t index; ///< which instance
+        Words before;        ///< what it held until then
+    };
+
     void Read(std::uint32_t address, std::span<std::uint8_t> bytes) const;
-    void Write(std::uint32_t address, std::span<const std::uint8_t> bytes);
+    /// Writes without asking what the registers admit, and says which of them it reached.
+    std::vector<Change> Write(std::uint32_t address, std::span<const std::uint8_t> bytes);
 
     /// How many instances of a register there are.
     [[nodiscard]] std::uint32_t Count(const std::string& name) const;
@@ -31,15 +38,18 @@ public:
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const;
     void Set(const std::string& name, const Words& words, std::uint32_t index = 0);
 
-    /// The register that lies at the address, if one begins there.
+    /// The table's row of that name, or null.
+    [[nodiscard]] const Register* Find(const std::string& name) const;
+    /// The register that lies at the address, or null if none begins there.
     [[nodiscard]] const Register* At(std::uint32_t address) const;
-    /// Whether an access of that many bytes touches the register.
-    [[nodiscard]] bool Touches(std::uint32_t address, std::size_t length, const std::string& name) const;
+    /// The registers that an access of that many bytes touches.
+    [[nodiscard]] std::vector<const Register*> Touched(std::uint32_t address, std::size_t length) const;
 
-    /// All registers of role Setting with what they hold.
-    using Settings = std::map<std::string, std::vector<Instance>>;
-    [[nodiscard]] Settings SaveSettings() const;
-    void LoadSettings(const Settings& settings);
+    /// What registers hold: per name the words of each instance.
+    using Content = std::map<std::string, std::vector<Words>>;
+    /// What all registers of the roles hold.
+    [[nodiscard]] Content Save(const std::vector<Role>& roles) const;
+    void Load(const Content& content);
 
 private:
     struct IndexedRegister {
@@ -50,6 +60,7 @@ private:
         std::map<Bytes, Bytes> instances; ///< by selector; one that is missing reads as zeros
     };
 
+    [[nodiscard]] std::vector<Change> WriteIndexed(const Register& entry, std::span<const std::uint8_t> bytes);
     [[nodiscard]] const Register& Named(const std::string& name) const;
     [[nodiscard]] Bytes ValueOf(const Register& entry, const Bytes& selector) const;
     void SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value);

@@ -1,28 +1,33 @@
 #pragma once
 
 #include "RegisterSpace.h"
-#include "SimulatedCamera.h"
 
+#include <cstdint>
 #include <map>
-#include <memory>
+#include <utility>
 
 namespace Simulation {
 
-/// The settings sets in a camera's permanent memory. A set that was never saved holds the power-up settings; so does
+/// The settings sets in a camera's permanent memory. A set that was never saved holds the factory's settings; so does
 /// set 0, which cannot be saved to.
 class SettingsSets {
 public:
-    explicit SettingsSets(const RegisterSpace& space) : powerUp(space.SaveSettings()) {}
+    using Saved = std::map<std::uint32_t, RegisterSpace::Content>; ///< by number
 
-    void Save(std::uint32_t number, const RegisterSpace& space) { saved[number] = space.SaveSettings(); }
-    void Load(std::uint32_t number, RegisterSpace& space) const;
+    explicit SettingsSets(RegisterSpace::Content factorySettings) : factory(std::move(factorySettings)) {}
+
+    void Save(std::uint32_t number, RegisterSpace::Content settings) { saved[number] = std::move(settings); }
+    [[nodiscard]] const RegisterSpace::Content& At(std::uint32_t number) const {
+        const auto found = saved.find(number);
+        return found == saved.end() ? factory : found->second;
+    }
+
+    [[nodiscard]] const Saved& All() const { return saved; }
+    void Replace(Saved sets) { saved = std::move(sets); }
 
 private:
-    RegisterSpace::Settings powerUp;
-    std::map<std::uint32_t, RegisterSpace::Settings> saved;
+    RegisterSpace::Content factory;
+    Saved saved;
 };
-
-/// Has the camera save and load the set whose number is written to "savesettings" and "loadsettings".
-std::shared_ptr<SettingsSets> AddSettingsSets(SimulatedCamera& camera);
 
 } // namespace Simulation

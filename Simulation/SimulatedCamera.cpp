@@ -1,6 +1,8 @@
 #include "SimulatedCamera.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <stdexcept>
 
 namespace Simulation {
@@ -15,72 +17,147 @@ template <typename T> void RefuseNull(const T* pointer) {
 
 } // namespace
 
-void SimulatedCamera::Write(std::uint32_t address, const void* data, std::uint64_t length) {
-    RefuseNull(data);
-    space.Write(address, {static_cast<const std::uint8_t*>(data), static_cast<std::size_t>(length)});
-    for (const auto& [name, behaviour] : behaviours) {
-        if (space.Touches(address, static_cast<std::size_t>(length), name)) {
-            behaviour(space);
+SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
+    : space(registers),
+      powerUp(space.Save({Role::Volatile})),
+      sets(space.Save({Role::Setting})) {
+    AfterWrite("stopacquisition", [](RegisterSpace& own, const auto&) { own.Set("startacquisition", {0}); });
+    AfterWrite("savesettings", [this](RegisterSpace& own, const auto&) {
+        sets.Save(own.Get("savesettings")[0], own.Save({Role::Setting}));
+    });
+    AfterWrite("loadsettings", [this](RegisterSpace& own, const auto&) { LoadSettings(own.Get("loadsettings")[0]); });
+    AfterWrite("restart", [this](RegisterSpace&, const auto&) { Restart(); });
+}
+
+void SimulatedCamera::Pass(std::chrono::microseconds time) {
+    const auto before = now / stepTime;
+    now += time;
+    for (auto step = before + 1; step <= now / stepTime; ++step) {
+        for (const Step& work : steps) {
+            work(space, static_cast<std::uint64_t>(step));
         }
     }
 }
 
-void SimulatedCamera::Read(std::uint32_t address, void* data, std::uint64_t length) const {
+void SimulatedCamera::AfterWrite(const std::string& name, Behaviour behaviour) {
+    behaviours.emplace_back(name, std::move(behaviour));
+}
+
+void SimulatedCamera::Derive(Derivation derivation) {
+    derivation(space);
+    derivations.push_back(std::move(derivation));
+}
+
+void SimulatedCamera::LoadSettings(std::uint32_t number) {
+    RegisterSpace::Content settings = sets.At(number);
+    std::erase_if(settings, [&](const auto& entry) {
+        return faults.IsStale(entry.first) || (IsAcquiring() && locked.contains(entry.first));
+    });
+    space.Load(settings);
+    for (const Derivation& derivation : derivations) {
+        derivation(space);
+    }
+}
+
+void SimulatedCamera::Restart() {
+    space.Load(powerUp); // which ends the acquisition, too
+    LoadSettings(space.Get("startupsettings")[0]);
+}
+
+bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
+    const Register& entry = change.entry;
+    Words words = space.Get(entry.name, change.index);
+    if (IsReadOnly(entry.role) || faults.Ignores(entry.name) || (locked.contains(entry.name) && IsAcquiring()) ||
+        !Admit(entry.limits, words)) {
+        space.Set(entry.name, change.before, change.index);
+        return false;
+    }
+    faults.Distort(entry, words);
+    space.Set(entry.name, words, change.index);
+    return true;
+}
+
+void SimulatedCamera::Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length) {
     RefuseNull(data);
-    space.Read(address, {static_cast<std::uint8_t*>(data), static_cast<std::size_t>(length)});
+    Pass(accessTime);
+    const auto size = static_cast<std::size_t>(length);
+    faults.Check(operation, true, address, size);
+    const auto changes = space.Write(address, {static_cast<const std::uint8_t*>(data), size});
+    for (const auto& change : changes) {
+        if (Takes(change)) {
+            for (const auto& [name, behaviour] : behaviours) {
+                if (name == change.entry.name) {
+                    behaviour(space, change);
+                }
+            }
+        }
+    }
+}
+
+void SimulatedCamera::Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length) {
+    RefuseNull(data);
+    Pass(accessTime);
+    const auto size = static_cast<std::size_t>(length);
+    faults.Check(operation, false, address, size);
+    space.Read(address, {static_cast<std::uint8_t*>(data), size});
 }
 
 void SimulatedCamera::WriteRegister(std::uint32_t address, std::uint32_t value) {
-    Write(address, &value, sizeof value);
+    Write("WriteRegister", address, &value, sizeof value);
 }
 
 std::uint32_t SimulatedCamera::ReadRegister(std::uint32_t address) {
     std::uint32_t value = 0;
-    Read(address, &value, sizeof value);
+    Read("ReadRegister", address, &value, sizeof value);
     return value;
 }
 
 void SimulatedCamera::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
     const std::uint32_t words[] = {static_cast<std::uint32_t>(value), static_cast<std::uint32_t>(value >> 32)};
-    Write(address, words, sizeof words);
+    Write("WriteRegisterPair", address, words, sizeof words);
 }
 
 std::uint64_t SimulatedCamera::ReadRegisterPair(std::uint32_t address) {
     std::uint32_t words[2] = {};
-    Read(address, words, sizeof words);
+    Read("ReadRegisterPair", address, words, sizeof words);
     return std::uint64_t{words[1]} << 32 | words[0];
 }
 
 unsigned char* SimulatedCamera::ReadBlock(std::uint32_t address, std::uint32_t length) {
-    auto* const block = static_cast<unsigned char*>(std::malloc(length)); // the caller frees it, as the port demands
-    if (block != nullptr) {
-        Read(address, block, length);
+    if (faults.AnswersNothing(address)) {
+        return nullptr;
     }
-    return block;
+    // From malloc: the caller frees it, as the port demands.
+    std::unique_ptr<unsigned char, decltype(&std::free)> block(static_cast<unsigned char*>(std::malloc(length)),
+                                                               &std::free);
+    if (block != nullptr) {
+        Read("ReadBlock", address, block.get(), length);
+    }
+    return block.release();
 }
 
 void SimulatedCamera::WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) {
-    Write(address, buffer, length);
+    Write("WriteBlock", address, buffer, length);
 }
 
 char* SimulatedCamera::ReadString(std::uint32_t address, std::uint32_t length) {
     text.assign(std::size_t{length} + 1, '\0');
-    Read(address, text.data(), length);
+    Read("ReadString", address, text.data(), length);
     return text.data();
 }
 
 void SimulatedCamera::WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) {
-    Write(address, buffer, length);
+    Write("WriteString", address, buffer, length);
 }
 
 void SimulatedCamera::ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
     RefuseNull(length);
-    Read(address, buffer, *length);
+    Read("ReadMem", address, buffer, *length);
 }
 
 void SimulatedCamera::WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
     RefuseNull(length);
-    Write(address, buffer, *length);
+    Write("WriteMem", address, buffer, *length);
 }
 
 } // namespace Simulation

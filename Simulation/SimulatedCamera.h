@@ -1,32 +1,87 @@
 #pragma once
 
+#include "Faults.h"
 #include "RegisterSpace.h"
+#include "SettingsSets.h"
 
 #include <SDK4/IControlPort.h>
 
+#include <chrono>
+#include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace Simulation {
 
 /// A camera that lives in memory: the port that a host hands to the library, with a register space behind it.
+///
+/// What a host writes passes the camera before it is held: a read-only register, an instance that does not exist and a
+/// code that is not admitted change nothing, a number is moved to the nearest admitted one. Then the camera acts on it.
+///
+/// The camera lives in a time of its own: each port access takes half a millisecond of it, and nothing else does unless
+/// a host lets time pass. So the same accesses always meet the same camera.
 class SimulatedCamera final : public SDK4::IControlPort {
 public:
     /// What the camera does by itself after a register was written: adjust the value, or others that follow from it.
-    using Behaviour = std::function<void(RegisterSpace&)>;
-
-    explicit SimulatedCamera(const std::vector<Register>& registers) : space(registers) {}
-
-    /// Has the camera act after each write that reaches the named register, in the order in which this was called.
     /// What a behaviour sets itself calls no further behaviour.
-    void AfterWrite(const std::string& name, Behaviour behaviour) {
-        behaviours.emplace_back(name, std::move(behaviour));
-    }
+    using Behaviour = std::function<void(RegisterSpace&, const RegisterSpace::Change&)>;
+    /// What the camera does by itself as time goes by. The step is counted from the first start.
+    using Step = std::function<void(RegisterSpace&, std::uint64_t step)>;
+    /// What the camera works out anew after many registers have changed at once.
+    using Derivation = std::function<void(RegisterSpace&)>;
+
+    static constexpr std::chrono::microseconds accessTime{500};
+    static constexpr std::chrono::milliseconds stepTime{32}; ///< between two steps of the camera's own work
+
+    explicit SimulatedCamera(const std::vector<Register>& registers);
+
+    // For hosts.
+
+    /// Lets time pass without an access, as it does for a camera while its host waits.
+    void Pass(std::chrono::microseconds time);
+
+    /// Has the camera work wrongly from now on, to see whether a host notices. One text plants one fault; a register is
+    /// named, or given by its address (0x14010000):
+    ///
+    /// | Text                | The camera ...                                                                     |
+    /// |---------------------|------------------------------------------------------------------------------------|
+    /// | ignore:gain         | ignores what is written to the register; a command is not carried out              |
+    /// | clamp:exposure=1000 | holds 1000 when more is written (each word of the register)                        |
+    /// | offset:gain=1       | holds more than was written (each word), past the limit too; may be negative       |
+    /// | fail:0x14010000     | does not answer: accesses that touch the register, or any address, throw PortError |
+    /// | failread:, failwrite: | the same for one direction                                                       |
+    /// | null:measurewindow  | answers the read of a block that begins there with nothing                         |
+    /// | endless:agc         | does not stop the automatic mode once it was on                                    |
+    /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
+    ///
+    /// @throw FaultError for a text that is none of these, or a register that this camera does not have.
+    void PlantFault(std::string_view fault) { faults.Plant(fault, space); }
 
     /// What the camera holds, for a look past the port.
     [[nodiscard]] RegisterSpace& Registers() { return space; }
+    [[nodiscard]] const RegisterSpace& Registers() const { return space; }
+
+    // For those who build cameras.
+
+    /// Has the camera act after each write that the named register has taken, in the order in which this was called.
+    void AfterWrite(const std::string& name, Behaviour behaviour);
+    /// Has the camera act in each step of its time.
+    void EachStep(Step step) { steps.push_back(std::move(step)); }
+    /// Has the camera work out what follows from the settings, now and after each settings load and start.
+    void Derive(Derivation derivation);
+    /// Has the camera refuse to change the register while it acquires images.
+    void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
+    /// Whether the automatic mode of that register is on, or goes on although it should not.
+    [[nodiscard]] bool Runs(const std::string& mode) { return faults.Runs(mode, space.Get(mode)[0] != 0); }
+
+    [[nodiscard]] SettingsSets& Sets() { return sets; }
+    [[nodiscard]] const SettingsSets& Sets() const { return sets; }
+    [[nodiscard]] std::chrono::microseconds Time() const { return now; }
+    void SetTime(std::chrono::microseconds time) { now = time; }
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
     std::uint32_t ReadRegister(std::uint32_t address) override;
@@ -41,11 +96,23 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    void Write(std::uint32_t address, const void* data, std::uint64_t length);
-    void Read(std::uint32_t address, void* data, std::uint64_t length) const;
+    void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
+    void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
+    [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
+    /// Whether the register takes what was written to it, of which the camera makes what it admits.
+    [[nodiscard]] bool Takes(const RegisterSpace::Change& change);
+    void LoadSettings(std::uint32_t number);
+    void Restart();
 
     RegisterSpace space;
+    const RegisterSpace::Content powerUp;
+    SettingsSets sets;
+    Faults faults;
+    std::chrono::microseconds now{0};
     std::vector<std::pair<std::string, Behaviour>> behaviours;
+    std::vector<Step> steps;
+    std::vector<Derivation> derivations;
+    std::set<std::string> locked;
     std::vector<char> text; ///< what ReadString handed out last
 };
 

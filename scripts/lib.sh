@@ -9,7 +9,8 @@ jobs=$(nproc)
 # Debian 12 packages: what a build needs, and what the sanitizers and the static analysis need beyond it. clang-14
 # brings neither the sanitizers' run-time libraries nor llvm-symbolizer, without which no leak has a name and no
 # suppression matches.
-build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev binutils)
+build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
+    nlohmann-json3-dev binutils)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-tidy-14 cppcheck shellcheck)
 

@@ -1,0 +1,204 @@
+#include "CameraState.h"
+
+#include <nlohmann/json.hpp>
+
+#include <unistd.h>
+
+#include <fstream>
+#include <limits>
+#include <string>
+#include <system_error>
+
+namespace Simulation {
+
+namespace {
+
+using Json = nlohmann::json;
+
+const char* const format = "simulated camera";
+constexpr int version = 1;
+const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Kept, Role::Volatile};
+
+std::string TextOf(const RegisterSpace& space, const char* name, std::size_t leading) {
+    const Bytes bytes = ToBytes(space.Get(name));
+    const std::string text(bytes.begin() + static_cast<std::ptrdiff_t>(leading), bytes.end());
+    return text.substr(0, text.find('\0'));
+}
+
+std::string Model(const RegisterSpace& space) { return TextOf(space, "modelname", 0); }
+std::string SerialNumber(const RegisterSpace& space) { return TextOf(space, "serialnumber", sizeof(std::uint32_t)); }
+
+/// Without what only a planted fault can have put there.
+RegisterSpace::Content Sane(const RegisterSpace& space, RegisterSpace::Content content) {
+    for (auto& [name, instances] : content) {
+        const Register& entry = *space.Find(name);
+        for (std::size_t i = 0; i < instances.size(); ++i) {
+            if (!Admit(entry.limits, instances[i])) {
+                instances[i] = ToWords(entry.powerUp.instances[i].value);
+            }
+        }
+    }
+    return content;
+}
+
+/// A line per register and per settings set, for those who look into the file.
+std::string Lines(const Json& value, int depth, const std::string& indent) {
+    if (depth == 0 || value.empty() || !value.is_object()) {
+        return value.dump();
+    }
+    std::string text;
+    for (const auto& [name, member] : value.items()) {
+        text += (text.empty() ? "{\n" : ",\n") + indent + "  " + Json(name).dump() + ": " +
+                Lines(member, depth - 1, indent + "  ");
+    }
+    return text + "\n" + indent + "}";
+}
+
+[[noreturn]] void Refuse(const std::filesystem::path& path, const std::string& reason) {
+    throw StateError("camera state " + path.string() + ": " + reason);
+}
+
+/// Throws std::runtime_error with the reason where the file is damaged; whoever calls knows the path.
+[[noreturn]] void Damaged(const std::string& reason) { throw std::runtime_error("damaged: " + reason); }
+
+const Json& Member(const Json& object, const char* name) {
+    const auto found = object.find(name);
+    if (found == object.end()) {
+        Damaged(std::string("\"") + name + "\" is missing");
+    }
+    return *found;
+}
+
+std::uint64_t Number(const Json& value, std::uint64_t highest, const std::string& where) {
+    if (!value.is_number_unsigned() || value.get<std::uint64_t>() > highest) {
+        Damaged(where + " holds " + value.dump());
+    }
+    return value.get<std::uint64_t>();
+}
+
+Words ReadWords(const Json& value, const Register& entry, const Words& model) {
+    if (!value.is_array() || value.size() != model.size()) {
+        Damaged("register " + entry.name + " has not the words that it should have");
+    }
+    Words words;
+    for (const Json& word : value) {
+        words.push_back(static_cast<std::uint32_t>(
+            Number(word, std::numeric_limits<std::uint32_t>::max(), "register " + entry.name)));
+    }
+    Words admitted = words;
+    if (!Admit(entry.limits, admitted) || admitted != words) {
+        Damaged("register " + entry.name + " holds " + value.dump() + ", which it does not admit");
+    }
+    return words;
+}
+
+/// The content, which must be of exactly the registers of the model.
+RegisterSpace::Content ReadContent(const Json& value, const RegisterSpace& space, const RegisterSpace::Content& model) {
+    if (!value.is_object() || value.size() != model.size()) {
+        Damaged("registers are missing, or there are others");
+    }
+    RegisterSpace::Content content;
+    for (const auto& [name, instances] : model) {
+        const Json& stored = Member(value, name.c_str());
+        if (!stored.is_array() || stored.size() != instances.size()) {
+            Damaged("register " + name + " has not the instances that it should have");
+        }
+        for (std::size_t i = 0; i < instances.size(); ++i) {
+            content[name].push_back(ReadWords(stored[i], *space.Find(name), instances[i]));
+        }
+    }
+    return content;
+}
+
+SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
+    if (!value.is_object()) {
+        Damaged("the settings sets are none");
+    }
+    SettingsSets::Saved sets;
+    const RegisterSpace::Content model = space.Save({Role::Setting});
+    for (const auto& [name, settings] : value.items()) {
+        if (name != "1" && name != "2") {
+            Damaged("there is no settings set " + name);
+        }
+        sets[name == "1" ? 1 : 2] = ReadContent(settings, space, model);
+    }
+    return sets;
+}
+
+void CheckOwner(const Json& file, const RegisterSpace& space) {
+    if (!file.is_object() || file.value("format", Json()) != format) {
+        throw std::runtime_error("this is not the memory of a simulated camera");
+    }
+    if (Member(file, "version") != version) {
+        throw std::runtime_error("it has format version " + Member(file, "version").dump() + ", known is " +
+                                 std::to_string(version));
+    }
+    if (Member(file, "model") != Model(space)) {
+        throw std::runtime_error("it belongs to a camera of model " + Member(file, "model").dump() + ", not " +
+                                 Model(space));
+    }
+    if (Member(file, "serial number") != SerialNumber(space)) {
+        throw std::runtime_error("it belongs to camera " + Member(file, "serial number").dump() + ", not " +
+                                 SerialNumber(space));
+    }
+}
+
+void Apply(const Json& file, SimulatedCamera& camera) {
+    RegisterSpace& space = camera.Registers();
+    CheckOwner(file, space);
+    const auto time = Number(Member(file, "microseconds"), std::numeric_limits<std::int64_t>::max(), "the time");
+    const auto content = ReadContent(Member(file, "registers"), space, space.Save(rememberedRoles));
+    auto sets = ReadSets(Member(file, "settings sets"), space);
+
+    space.Load(content);
+    space.Set("startacquisition", {0});
+    camera.Sets().Replace(std::move(sets));
+    camera.SetTime(std::chrono::microseconds(static_cast<std::int64_t>(time)));
+}
+
+} // namespace
+
+void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path) {
+    const RegisterSpace& space = camera.Registers();
+    Json sets = Json::object();
+    for (const auto& [number, settings] : camera.Sets().All()) {
+        sets[std::to_string(number)] = Sane(space, settings);
+    }
+    const Json file = {{"format", format},
+                       {"version", version},
+                       {"model", Model(space)},
+                       {"serial number", SerialNumber(space)},
+                       {"microseconds", static_cast<std::uint64_t>(camera.Time().count())},
+                       {"registers", Sane(space, space.Save(rememberedRoles))},
+                       {"settings sets", sets}};
+
+    const std::filesystem::path fresh = path.string() + ".new" + std::to_string(getpid());
+    std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
+    out << Lines(file, 3, "") << '\n';
+    out.close();
+    std::error_code error = out ? std::error_code() : std::make_error_code(std::errc::io_error);
+    if (!error) {
+        std::filesystem::rename(fresh, path, error);
+    }
+    if (error) {
+        std::error_code ignored;
+        std::filesystem::remove(fresh, ignored);
+        Refuse(path, "it cannot be written (" + error.message() + ")");
+    }
+}
+
+void LoadState(SimulatedCamera& camera, const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        Refuse(path, "it cannot be opened");
+    }
+    try {
+        Apply(Json::parse(in), camera);
+    } catch (const Json::exception& error) {
+        Refuse(path, std::string("damaged: ") + error.what());
+    } catch (const std::runtime_error& error) {
+        Refuse(path, error.what());
+    }
+}
+
+} // namespace Simulation

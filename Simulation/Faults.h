@@ -1,0 +1,65 @@
+#pragma once
+
+#include "RegisterSpace.h"
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Simulation {
+
+/// A fault that cannot be planted: its text is not understood, or the camera has no such register.
+class FaultError : public std::invalid_argument {
+public:
+    using std::invalid_argument::invalid_argument;
+};
+
+/// An access that the camera did not answer.
+class PortError : public std::runtime_error {
+public:
+    PortError(std::string operation, std::uint32_t address, std::string reason);
+
+    std::string operation; ///< of the port, such as "WriteRegister"
+    std::uint32_t address;
+    std::string reason;
+};
+
+/// The faults that were planted in a camera; SimulatedCamera::PlantFault tells what there is.
+class Faults {
+public:
+    /// @throw FaultError
+    void Plant(std::string_view text, const RegisterSpace& space);
+
+    /// @throw PortError if an access of these bytes is to fail.
+    void Check(const char* operation, bool writes, std::uint32_t address, std::size_t length) const;
+    /// Whether a block there is to be answered with nothing.
+    [[nodiscard]] bool AnswersNothing(std::uint32_t address) const { return mute.contains(address); }
+    [[nodiscard]] bool Ignores(const std::string& name) const { return ignored.contains(name); }
+    [[nodiscard]] bool IsStale(const std::string& name) const { return stale.contains(name); }
+    /// Whether the automatic mode runs that is on, or that was on and does not stop.
+    [[nodiscard]] bool Runs(const std::string& mode, bool on);
+    /// Makes of the words what the faulty register makes of them.
+    void Distort(const Register& entry, Words& words) const;
+
+private:
+    struct Extent {
+        std::uint64_t first;
+        std::uint64_t last;
+        bool reads;
+        bool writes;
+    };
+
+    std::vector<Extent> failing;
+    std::set<std::uint32_t> mute;
+    std::set<std::string> ignored;
+    std::set<std::string> stale;
+    std::map<std::string, bool> endless; ///< by the mode's register: whether it has been on
+    std::map<std::string, std::int64_t> highest;
+    std::map<std::string, std::int64_t> offset;
+};
+
+} // namespace Simulation
