@@ -10,6 +10,24 @@ constexpr std::uint32_t Address(std::uint32_t a, std::uint32_t b, std::uint32_t 
     return a << 24 | b << 16 | c << 8 | d;
 }
 
+/// The size is a multiple of 4 within the camera's limits; of the flags above it, the test packet's is a command.
+void RoundPacketSize(RegisterSpace& space) {
+    const std::uint32_t written = space.Get("packetsize")[0];
+    const std::uint32_t keptFlags = 0x60000000; // do not fragment, byte order of pixels
+    const std::uint32_t size = std::clamp(written & 0xFFFFU, 1404U, 65532U) & ~3U;
+    space.Set("packetsize", {(written & keptFlags) | size});
+}
+
+/// A camera that starts takes the persistent address if it has one that it is to use, and is given one otherwise.
+void TakeAddress(RegisterSpace& space) {
+    const std::uint32_t persistent = 1;
+    const bool own = (space.Get("currentipconfig")[0] & persistent) != 0 && space.Get("persistentipaddress")[0] != 0;
+    for (const std::string name : {"ipaddress", "subnetmask", "defaultgateway"}) {
+        const Words given = ToWords(space.Find("current" + name)->powerUp.instances.front().value);
+        space.Set("current" + name, own ? space.Get("persistent" + name) : given);
+    }
+}
+
 } // namespace
 
 std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial) {
@@ -50,6 +68,14 @@ std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t
     // clang-format on
 }
 
-void AddBootstrapBehaviour(SimulatedCamera&) {}
+void AddBootstrapBehaviour(SimulatedCamera& camera) {
+    camera.AfterWrite("packetsize", [](RegisterSpace& space, const auto&) { RoundPacketSize(space); });
+    camera.AfterWrite("currentipconfig", [](RegisterSpace& space, const auto&) {
+        const std::uint32_t linkLocal = 4; // the standard has it always on
+        space.Set("currentipconfig",
+                  {(space.Get("currentipconfig")[0] & space.Get("supportedipconfig")[0]) | linkLocal});
+    });
+    camera.AfterWrite("restart", [](RegisterSpace& space, const auto&) { TakeAddress(space); });
+}
 
 } // namespace Simulation

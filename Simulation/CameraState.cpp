@@ -17,7 +17,7 @@ using Json = nlohmann::json;
 
 const char* const format = "simulated camera";
 constexpr int version = 1;
-const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Kept, Role::Volatile};
+const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile};
 
 std::string TextOf(const RegisterSpace& space, const char* name, std::size_t leading) {
     const Bytes bytes = ToBytes(space.Get(name));
@@ -115,7 +115,7 @@ SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
         Damaged("the settings sets are none");
     }
     SettingsSets::Saved sets;
-    const RegisterSpace::Content model = space.Save({Role::Setting});
+    const RegisterSpace::Content model = space.Save({Role::Setting, Role::Note});
     for (const auto& [name, settings] : value.items()) {
         if (name != "1" && name != "2") {
             Damaged("there is no settings set " + name);

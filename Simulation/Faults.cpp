@@ -83,6 +83,26 @@ const std::string& NameOf(const Order& order, const RegisterSpace& space) {
     return target->name;
 }
 
+const std::string& SettingOf(const Order& order, const RegisterSpace& space) {
+    const std::string& name = NameOf(order, space);
+    if (space.Find(name)->role != Role::Setting) {
+        throw FaultError("fault \"" + order.text + "\": no settings set holds " + name);
+    }
+    return name;
+}
+
+const std::string& ModeOf(const Order& order, const RegisterSpace& space, const std::set<std::string>& automatics) {
+    const std::string& name = NameOf(order, space);
+    if (!automatics.contains(name)) {
+        std::string known;
+        for (const std::string& mode : automatics) {
+            known += (known.empty() ? "" : ", ") + mode;
+        }
+        throw FaultError("fault \"" + order.text + "\": " + name + " is no automatic mode; this camera has " + known);
+    }
+    return name;
+}
+
 std::pair<std::uint64_t, std::uint64_t> ExtentOf(const Order& order, const RegisterSpace& space) {
     if (const Register* const target = Target(order, space)) {
         const Instance& instance = target->powerUp.instances.front();
@@ -101,7 +121,7 @@ PortError::PortError(std::string failedOperation, std::uint32_t failedAddress, s
       address(failedAddress),
       reason(std::move(why)) {}
 
-void Faults::Plant(std::string_view text, const RegisterSpace& space) {
+void Faults::Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
     const Order order = Parse(text);
     if (order.kind == "fail" || order.kind == "failread" || order.kind == "failwrite") {
         const auto [first, last] = ExtentOf(order, space);
@@ -111,9 +131,9 @@ void Faults::Plant(std::string_view text, const RegisterSpace& space) {
     } else if (order.kind == "ignore") {
         ignored.insert(NameOf(order, space));
     } else if (order.kind == "stale") {
-        stale.insert(NameOf(order, space));
+        stale.insert(SettingOf(order, space));
     } else if (order.kind == "endless") {
-        endless[NameOf(order, space)] = false;
+        endless[ModeOf(order, space, automatics)] = false;
     } else if (order.kind == "clamp") {
         highest[NameOf(order, space)] = NumberOf(order);
     } else if (order.kind == "offset") {

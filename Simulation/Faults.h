@@ -32,7 +32,7 @@ public:
 class Faults {
 public:
     /// @throw FaultError
-    void Plant(std::string_view text, const RegisterSpace& space);
+    void Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics);
 
     /// @throw PortError if an access of these bytes is to fail.
     void Check(const char* operation, bool writes, std::uint32_t address, std::size_t length) const;

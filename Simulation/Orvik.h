@@ -21,7 +21,16 @@ struct OrvikModel {
     bool histogram; ///< can equalise histograms
 };
 
+constexpr std::uint32_t smallestArea = 64; ///< width and height that a readout area has at least, in pixels
+
+/// What a time of the camera, base and count, is in microseconds.
+[[nodiscard]] std::uint64_t MicrosecondsOf(const Words& time);
+/// Works out readout time and frame duration.
+void FollowTiming(RegisterSpace& space);
+
 [[nodiscard]] std::vector<Register> OrvikRegisters(const OrvikModel& model);
+void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model);
+void AddOrvikTiming(SimulatedCamera& camera);
 void AddOrvikBehaviour(SimulatedCamera& camera, const OrvikModel& model, const World& world);
 
 } // namespace Simulation

@@ -19,6 +19,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
     const auto setting = Role::Setting;
+    const auto note = Role::Note;
     const auto kept = Role::Kept;
     const auto passing = Role::Volatile;
     // What a model lacks is there to be read, and ignores what is written to it.
@@ -34,75 +35,72 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const std::uint32_t right = model.width - 1;
     const std::uint32_t bottom = model.height - 1;
     const Words whole = {0, 0, right, bottom};
-    const Words least = {0, 0, 63, 63}; // areas are 64 pixels at least, both ways
-    const Words most = {right - 63, bottom - 63, right, bottom};
-    const std::uint32_t readoutTime = model.width * model.height / 320U; // microseconds at 320 pixels each
-    const std::uint32_t coding = model.color ? 110 : 0;                  // RGB8 or Mono8
+    const std::uint32_t coding = model.color ? 110 : 0; // RGB8 or Mono8
     const std::string serial = model.name.substr(model.name.find('-') + 1) + "-0042";
 
     // clang-format off
     return {
-        // name                address     role     kind and power-up value                            what each word admits
-        {"startacquisition",   0x00088134, passing, Word(0),                                 {Codes({1})}},
+        // name                address     role     kind and power-up value  and what each word admits
+        {"startacquisition",   0x00088134, passing, Word(0),                {Codes({1})}},
         {"stopacquisition",    0x00088138, passing, Word(0)},
 
-        {"exposuremode",       0x0A020000, setting, Word(1),                                 {Codes(1, 4)}}, // free running
-        {"exposure",           0x0A030000, setting, Record({0, 20000}),                      {Range(0, 7)}}, // base, counter
+        {"exposuremode",       0x0A020000, setting, Word(1),                {Codes(1, 4)}}, // free running
+        {"exposure",           0x0A030000, setting, Record({0, 20000}),     {Range(0, 7)}}, // base, counter
         {"softtrigger",        0x0A070000, passing, Word(0)},
         {"triggertimer",       0x0A080000, setting, Word(0)},
         {"pixelclock",         0x0A090000, shown,   Word(160000000)},
-        {"readouttime",        0x0A0A0000, setting, Word(readoutTime)},
-        {"binning",            0x0A0B0000, mono,    Record({1, 1}),                          {Range(1, 8), Range(1, 8)}},
-        {"slowscan",           0x0A0E0000, setting, Word(0),                                 {Codes(0, 1)}},
-        {"triggerdelay",       0x0A100000, setting, Record({0, 0}),                          {Range(0, 7)}}, // base, counter
+        {"readouttime",        0x0A0A0000, setting, Word(0)},               // the fastest
+        {"binning",            0x0A0B0000, mono,    Record({1, 1}),         {Range(1, 8), Range(1, 8)}},
+        {"slowscan",           0x0A0E0000, setting, Word(0),                {Codes(0, 1)}},
+        {"triggerdelay",       0x0A100000, setting, Record({0, 0}),         {Range(0, 7)}}, // base, counter
 
-        {"gain",               0x14010000, setting, Word(0),                                 {Range(0, 511)}},
-        {"colorbalance",       0x15010000, color,   Record({128, 128, 128}),                 {byte, byte, byte}},
-        {"lightsource",        0x15020000, setting, Word(0),                                 {Codes(0, 3)}},
-        {"saturation",         0x15040000, color,   Word(128),                               {byte}},
+        {"gain",               0x14010000, setting, Word(0),                {Range(0, 511)}},
+        {"colorbalance",       0x15010000, color,   Record({128, 128, 128}), {byte, byte, byte}},
+        {"lightsource",        0x15020000, setting, Word(0),                {Codes(0, 3)}},
+        {"saturation",         0x15040000, color,   Word(128),              {byte}},
 
-        {"verticalflip",       0x16020000, memory,  Word(0),                                 {onOff}},
-        {"horizontalflip",     0x16030000, memory,  Word(0),                                 {onOff}},
-        {"lastimagehold",      0x16040000, memory,  Word(0),                                 {onOff}},
-        {"storeimage",         0x16050000, store,   Word(0),                                 {onOff}},
-        {"imagesubtraction",   0x16060000, memory,  Word(0),                                 {onOff}},
-        {"recursivefilter",    0x16070000, memory,  Word(0),                                 {Codes(0, 4)}},
+        {"verticalflip",       0x16020000, memory,  Word(0),                {onOff}},
+        {"horizontalflip",     0x16030000, memory,  Word(0),                {onOff}},
+        {"lastimagehold",      0x16040000, memory,  Word(0),                {onOff}},
+        {"storeimage",         0x16050000, store,   Word(0),                {onOff}},
+        {"imagesubtraction",   0x16060000, memory,  Word(0),                {onOff}},
+        {"recursivefilter",    0x16070000, memory,  Word(0),                {Codes(0, 4)}},
 
-        {"overlayshow",        0x17010000, setting, Indexed({{0}, {0}}),                     {onOff}}, // per line
+        {"overlayshow",        0x17010000, setting, Indexed({{0}, {0}}),    {onOff}}, // per line
         {"overlayposition",    0x17020000, setting, Indexed({{0, 0}, {0, 0}})},
         {"overlaystyle",       0x17030000, setting, Indexed({{0, 0}, {1, 0}})},
         {"overlaysize",        0x17040000, setting, Indexed({{1, 10}, {1, 10}})},
 
-        {"brightness",         0x18010000, setting, Word(0),                                 {Range(0, 2047)}},
-        {"contrast",           0x18020000, setting, Word(64),                                {Range(32, 255)}},
-        {"sharpness",          0x18030000, setting, Word(0),                                 {byte}},
-        {"lutindex",           0x19010000, setting, Word(0),                                 {Range(-8, 12)}},
-        {"lutmode",            0x19020000, setting, Word(0),                                 {onOff}},
-        {"negativeimage",      0x19030000, setting, Word(0),                                 {onOff}},
+        {"brightness",         0x18010000, setting, Word(0),                {Range(0, 2047)}},
+        {"contrast",           0x18020000, setting, Word(64),               {Range(32, 255)}},
+        {"sharpness",          0x18030000, setting, Word(0),                {byte}},
+        {"lutindex",           0x19010000, setting, Word(0),                {Range(-8, 12)}},
+        {"lutmode",            0x19020000, setting, Word(0),                {onOff}},
+        {"negativeimage",      0x19030000, setting, Word(0),                {onOff}},
 
-        {"measureframeshow",   0x1E010000, setting, Word(0),                                 {onOff}},
+        {"measureframeshow",   0x1E010000, setting, Word(0),                {onOff}},
         {"measureframecolor",  0x1E020000, setting, Word(0)},
         {"measurewindow",      0x1E030000, setting, Indexed({{0, 0, 63, 63}, {64, 64, 127, 127}})},
 
-        {"colorcoding",        0x28020000, setting, Word(coding),                            {Codes(codings)}},
+        {"colorcoding",        0x28020000, setting, Word(coding),           {Codes(codings)}},
         {"imagesize",          0x28030000, shown,   Record({model.width, model.height})},
-        {"frameduration",      0x28040000, shown,   Word(readoutTime + 100)},
+        {"frameduration",      0x28040000, shown,   Word(0)},
         {"readoutarea",        0x28050000, setting, Record(whole)},
-        {"readoutarealimits",  0x28090000, shown,   Indexed({least, most, whole})}, // least, most, active
+        {"readoutarealimits",  0x28090000, shown,   Indexed({whole, whole, whole})}, // least, most, active
 
-        {"aet",                0x46010000, setting, Word(0),                                 {Codes(0, 2)}},
-        {"agc",                0x46020000, setting, Word(0),                                 {Codes(0, 2)}},
-        {"autoexposurelevel",  0x46030000, setting, Word(128),                               {byte}},
-        {"awb",                0x46040000, color,   Word(0),                                 {Codes(0, 2)}},
-        {"acc",                0x46050000, setting, Word(0),                                 {Codes(0, 4)}},
+        {"aet",                0x46010000, setting, Word(0),                {Codes(0, 2)}},
+        {"agc",                0x46020000, setting, Word(0),                {Codes(0, 2)}},
+        {"autoexposurelevel",  0x46030000, setting, Word(128),              {byte}},
+        {"awb",                0x46040000, color,   Word(0),                {Codes(0, 2)}},
+        {"acc",                0x46050000, setting, Word(0),                {Codes(0, 4)}},
 
         {"restart",            0x51010000, passing, Word(0)},
-        {"loadsettings",       0x51020000, passing, Word(0),                                 {Codes(0, 2)}},
-        {"savesettings",       0x51030000, passing, Word(0),                                 {Codes(1, 2)}},
-        {"startupsettings",    0x51040000, kept,    Word(0),                                 {Codes(0, 2)}},
+        {"loadsettings",       0x51020000, passing, Word(0),                {Codes(0, 2)}},
+        {"savesettings",       0x51030000, passing, Word(0),                {Codes(1, 2)}},
+        {"startupsettings",    0x51040000, kept,    Word(0),                {Codes(0, 2)}},
         {"operationmode",      0x52020000, shown,   Word(1)},
-        {"patterngenerator",   0x5A010000, passing, Word(0),                                 {Codes(0, model.color ? 1 : 3)}}, // no settings set holds the pattern
-        {"temperature",        0x5A030000, shown,   Indexed({{41}})}, // degrees Celsius
+        {"patterngenerator",   0x5A010000, passing, Word(0),                {Codes(0, model.color ? 1 : 3)}},
+        {"temperature",        0x5A030000, shown,   Indexed({{41}})},       // degrees Celsius
 
         {"devicename",         0x64010000, fixed,   LedText(24, model.name)},
         {"serialnumber",       0x64020000, fixed,   LedText(16, serial)},
@@ -118,6 +116,13 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"ioport",             0x66030000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}}), {Codes(0, 4)}},
         {"iopolarity",         0x660F0000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}}), {onOff}},
         {"iodelay",            0x66110000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}})},
+
+        // The camera's own notes, where no host looks.
+        {"asked readoutarea",     0xE0010000, note,  Record(whole)},        // in pixels of the sensor
+        {"asked readouttime",     0xE0020000, note,  Word(0)},
+        {"asked overlayposition", 0xE0030000, note,  Indexed({{0, 0}, {0, 0}})},
+        {"asked measurewindow",   0xE0040000, note,  Indexed({{0, 0, 63, 63}, {64, 64, 127, 127}})},
+        {"warmth",                0xE0050000, shown, Word(0)},              // tenths of a degree
     };
     // clang-format on
 }

@@ -19,12 +19,15 @@ enum class Role {
     Fixed,    ///< identity: nobody changes it
     Shown,    ///< the camera's own: it shows it, hosts read it
     Setting,  ///< a settings set saves and loads it
+    Note,     ///< what was asked of a setting that shows as much of it as it can for now: goes with the settings
     Kept,     ///< permanent memory beside the settings sets
     Volatile, ///< commands, and what a start forgets
 };
 
 /// Whether the camera ignores what a host writes.
-[[nodiscard]] constexpr bool IsReadOnly(Role role) { return role == Role::Fixed || role == Role::Shown; }
+[[nodiscard]] constexpr bool IsReadOnly(Role role) {
+    return role == Role::Fixed || role == Role::Shown || role == Role::Note;
+}
 
 /// One of the values behind an address, and the selector that leads to it.
 struct Instance {

@@ -9,6 +9,8 @@ namespace Simulation {
 
 namespace {
 
+const std::vector<Role> settingRoles = {Role::Setting, Role::Note};
+
 template <typename T> void RefuseNull(const T* pointer) {
     if (pointer == nullptr) {
         throw std::invalid_argument("simulated camera: null buffer or length");
@@ -20,10 +22,10 @@ template <typename T> void RefuseNull(const T* pointer) {
 SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
     : space(registers),
       powerUp(space.Save({Role::Volatile})),
-      sets(space.Save({Role::Setting})) {
+      sets(space.Save(settingRoles)) {
     AfterWrite("stopacquisition", [](RegisterSpace& own, const auto&) { own.Set("startacquisition", {0}); });
     AfterWrite("savesettings", [this](RegisterSpace& own, const auto&) {
-        sets.Save(own.Get("savesettings")[0], own.Save({Role::Setting}));
+        sets.Save(own.Get("savesettings")[0], own.Save(settingRoles));
     });
     AfterWrite("loadsettings", [this](RegisterSpace& own, const auto&) { LoadSettings(own.Get("loadsettings")[0]); });
     AfterWrite("restart", [this](RegisterSpace&, const auto&) { Restart(); });
@@ -49,9 +51,11 @@ void SimulatedCamera::Derive(Derivation derivation) {
 }
 
 void SimulatedCamera::LoadSettings(std::uint32_t number) {
+    const std::string_view asked = "asked "; // how the name of a setting's note begins
     RegisterSpace::Content settings = sets.At(number);
     std::erase_if(settings, [&](const auto& entry) {
-        return faults.IsStale(entry.first) || (IsAcquiring() && locked.contains(entry.first));
+        const std::string setting = entry.first.starts_with(asked) ? entry.first.substr(asked.size()) : entry.first;
+        return faults.IsStale(setting) || IsLocked(setting);
     });
     space.Load(settings);
     for (const Derivation& derivation : derivations) {
@@ -67,8 +71,7 @@ void SimulatedCamera::Restart() {
 bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
     const Register& entry = change.entry;
     Words words = space.Get(entry.name, change.index);
-    if (IsReadOnly(entry.role) || faults.Ignores(entry.name) || (locked.contains(entry.name) && IsAcquiring()) ||
-        !Admit(entry.limits, words)) {
+    if (IsReadOnly(entry.role) || faults.Ignores(entry.name) || IsLocked(entry.name) || !Admit(entry.limits, words)) {
         space.Set(entry.name, change.before, change.index);
         return false;
     }

@@ -38,6 +38,8 @@ public:
     static constexpr std::chrono::milliseconds stepTime{32}; ///< between two steps of the camera's own work
 
     explicit SimulatedCamera(const std::vector<Register>& registers);
+    SimulatedCamera(const SimulatedCamera&) = delete; // its behaviours know it
+    SimulatedCamera& operator=(const SimulatedCamera&) = delete;
 
     // For hosts.
 
@@ -59,7 +61,7 @@ public:
     /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
     ///
     /// @throw FaultError for a text that is none of these, or a register that this camera does not have.
-    void PlantFault(std::string_view fault) { faults.Plant(fault, space); }
+    void PlantFault(std::string_view fault) { faults.Plant(fault, space, automatics); }
 
     /// What the camera holds, for a look past the port.
     [[nodiscard]] RegisterSpace& Registers() { return space; }
@@ -75,6 +77,8 @@ public:
     void Derive(Derivation derivation);
     /// Has the camera refuse to change the register while it acquires images.
     void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
+    /// Makes the register known as one that switches an automatic mode.
+    void DeclareAutomatic(const std::string& mode) { automatics.insert(mode); }
     /// Whether the automatic mode of that register is on, or goes on although it should not.
     [[nodiscard]] bool Runs(const std::string& mode) { return faults.Runs(mode, space.Get(mode)[0] != 0); }
 
@@ -99,6 +103,7 @@ private:
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
+    [[nodiscard]] bool IsLocked(const std::string& name) const { return locked.contains(name) && IsAcquiring(); }
     /// Whether the register takes what was written to it, of which the camera makes what it admits.
     [[nodiscard]] bool Takes(const RegisterSpace::Change& change);
     void LoadSettings(std::uint32_t number);
@@ -112,6 +117,7 @@ private:
     std::vector<std::pair<std::string, Behaviour>> behaviours;
     std::vector<Step> steps;
     std::vector<Derivation> derivations;
+    std::set<std::string> automatics;
     std::set<std::string> locked;
     std::vector<char> text; ///< what ReadString handed out last
 };

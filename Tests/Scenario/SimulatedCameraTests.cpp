@@ -72,10 +72,10 @@ TEST_F(SimulatedOrvik, IsMemoryWhereNoRegisterIsIndexed) {
 }
 
 TEST_F(SimulatedOrvik, ActsAfterAWriteOfAnyStyle) {
-    WriteBlock(*camera, 0x28050000, {0, 0, 99, 49});
-    EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 50ULL << 32 | 100);
+    WriteBlock(*camera, 0x28050000, {0, 0, 99, 79});
+    EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 80ULL << 32 | 100);
     camera->WriteRegister(0x28050008, 199); // one word within the area
-    EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 50ULL << 32 | 200);
+    EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 80ULL << 32 | 200);
     camera->WriteRegister(0x51020000, 0);
     EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 2208ULL << 32 | 3208);
 }

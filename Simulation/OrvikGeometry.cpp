@@ -1,0 +1,96 @@
+// Readout area, binning, and what must lie within the image: all of it in binned pixels.
+//
+// What does not fit at the moment is not forgotten. The camera notes what it was asked for, the readout area in pixels
+// of its sensor, and shows as much of it as the image admits: a change of binning or area that is taken back leaves
+// nothing changed.
+
+#include "Orvik.h"
+
+#include <algorithm>
+
+namespace Simulation {
+
+namespace {
+
+enum { Least, Most, Active }; // the readout area's limits, by index
+
+/// The area within its limits, and not smaller than the smallest.
+Words Fit(const RegisterSpace& space, Words area) {
+    const Words least = space.Get("readoutarealimits", Least);
+    const Words most = space.Get("readoutarealimits", Most);
+    for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
+        area[start] = std::clamp(area[start], least[start], most[start]);
+        area[end] = std::clamp(area[end], least[end] - least[start] + area[start], most[end]);
+    }
+    return area;
+}
+
+Words InSensorPixels(const Words& area, const Words& binning) {
+    return {area[0] * binning[0], area[1] * binning[1], (area[2] + 1) * binning[0] - 1, (area[3] + 1) * binning[1] - 1};
+}
+
+Words InBinnedPixels(const Words& area, const Words& binning) {
+    return {area[0] / binning[0], area[1] / binning[1], (area[2] + 1) / binning[0] - 1, (area[3] + 1) / binning[1] - 1};
+}
+
+void ShowOverlay(RegisterSpace& space, std::uint32_t line) {
+    const Words size = space.Get("imagesize");
+    const Words asked = space.Get("asked overlayposition", line);
+    space.Set("overlayposition", {std::min(asked[0], size[0] - 1), std::min(asked[1], size[1] - 1)}, line);
+}
+
+void ShowWindow(RegisterSpace& space, std::uint32_t window) {
+    const Words size = space.Get("imagesize");
+    Words area = space.Get("asked measurewindow", window);
+    for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
+        area[start] = std::min(area[start], size[start] - 1);
+        area[end] = std::clamp(area[end], area[start], size[start] - 1);
+    }
+    space.Set("measurewindow", area, window);
+}
+
+void Show(RegisterSpace& space, const Words& area) {
+    space.Set("readoutarea", area);
+    space.Set("readoutarealimits", area, Active);
+    space.Set("imagesize", {area[2] - area[0] + 1, area[3] - area[1] + 1});
+    for (std::uint32_t i = 0; i < 2; ++i) {
+        ShowOverlay(space, i);
+        ShowWindow(space, i);
+    }
+}
+
+void FollowBinning(RegisterSpace& space, const OrvikModel& model) {
+    const Words binning = space.Get("binning");
+    const std::uint32_t width = model.width / binning[0];
+    const std::uint32_t height = model.height / binning[1];
+    space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, Least);
+    space.Set("readoutarealimits", {width - smallestArea, height - smallestArea, width - 1, height - 1}, Most);
+    Show(space, Fit(space, InBinnedPixels(space.Get("asked readoutarea"), binning)));
+}
+
+void TakeReadoutArea(RegisterSpace& space) {
+    const Words area = Fit(space, space.Get("readoutarea"));
+    space.Set("asked readoutarea", InSensorPixels(area, space.Get("binning")));
+    Show(space, area);
+}
+
+} // namespace
+
+void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model) {
+    camera.Derive([model](RegisterSpace& space) { FollowBinning(space, model); });
+    camera.AfterWrite("binning", [model](RegisterSpace& space, const auto&) { FollowBinning(space, model); });
+    camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { TakeReadoutArea(space); });
+    camera.AfterWrite("overlayposition", [](RegisterSpace& space, const auto& change) {
+        space.Set("asked overlayposition", space.Get("overlayposition", change.index), change.index);
+        ShowOverlay(space, change.index);
+    });
+    camera.AfterWrite("measurewindow", [](RegisterSpace& space, const auto& change) {
+        space.Set("asked measurewindow", space.Get("measurewindow", change.index), change.index);
+        ShowWindow(space, change.index);
+    });
+    for (const char* name : {"readoutarea", "binning", "colorcoding"}) {
+        camera.LockWhileAcquiring(name);
+    }
+}
+
+} // namespace Simulation

@@ -1,0 +1,72 @@
+// Readout time and frame duration follow from what is read out, how long it is exposed and how many bytes are sent.
+
+#include "Orvik.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace Simulation {
+
+namespace {
+
+constexpr std::uint64_t pixelsPerMicrosecond = 320;
+constexpr std::uint64_t bytesPerMicrosecond = 500; // of the link
+constexpr std::uint64_t pause = 100;               // microseconds from one readout to the next
+
+std::uint32_t Bounded(std::uint64_t number) {
+    return static_cast<std::uint32_t>(std::min<std::uint64_t>(number, std::numeric_limits<std::uint32_t>::max()));
+}
+
+std::uint64_t BytesOf(std::uint64_t pixels, std::uint32_t coding) {
+    switch (coding) {
+    case 0:
+        return pixels; // Mono8
+    case 14:
+        return pixels * 3 / 2; // Mono12Packed
+    case 110:                  // RGB8
+    case 111:
+        return pixels * 3; // BGR8
+    default:
+        return pixels * 2; // YUV422, 14 bits
+    }
+}
+
+} // namespace
+
+std::uint64_t MicrosecondsOf(const Words& exposure) {
+    std::uint64_t unit = 1;
+    for (std::uint32_t base = 0; base < exposure[0]; ++base) {
+        unit *= 10;
+    }
+    return exposure[1] * unit;
+}
+
+void FollowTiming(RegisterSpace& space) {
+    const Words size = space.Get("imagesize");
+    const std::uint64_t pixels = std::uint64_t{size[0]} * size[1];
+    const bool slow = space.Get("slowscan")[0] != 0;
+    const std::uint64_t fastest = pixels * (slow ? 2 : 1) / pixelsPerMicrosecond;
+    const std::uint64_t readout = std::max<std::uint64_t>(space.Get("asked readouttime")[0], fastest);
+    const std::uint64_t exposure = MicrosecondsOf(space.Get("exposure"));
+    const std::uint64_t sending = BytesOf(pixels, space.Get("colorcoding")[0]) / bytesPerMicrosecond;
+    const bool freeRunning = space.Get("exposuremode")[0] <= 2; // the next image is exposed while this one is read out
+
+    space.Set("pixelclock", {slow ? 80000000U : 160000000U});
+    space.Set("readouttime", {Bounded(readout)});
+    const std::uint64_t frame = (freeRunning ? std::max(exposure, readout) : exposure + readout) + pause;
+    space.Set("frameduration", {Bounded(std::max(frame, sending))});
+}
+
+void AddOrvikTiming(SimulatedCamera& camera) {
+    camera.Derive(FollowTiming);
+    camera.AfterWrite("readouttime", [](RegisterSpace& space, const auto&) {
+        space.Set("asked readouttime", space.Get("readouttime"));
+    });
+    for (const char* name :
+         {"readouttime", "readoutarea", "binning", "colorcoding", "exposure", "exposuremode", "slowscan"}) {
+        camera.AfterWrite(name, [](RegisterSpace& space, const auto&) { FollowTiming(space); });
+    }
+    camera.LockWhileAcquiring("slowscan");
+}
+
+} // namespace Simulation
