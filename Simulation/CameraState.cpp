@@ -76,8 +76,9 @@ std::uint64_t Number(const Json& value, std::uint64_t highest, const std::string
     return value.get<std::uint64_t>();
 }
 
-Words ReadWords(const Json& value, const Register& entry, const Words& model) {
-    if (!value.is_array() || value.size() != model.size()) {
+Words ReadWords(const Json& value, const Register& entry, std::size_t instance) {
+    const Words powerUp = ToWords(entry.powerUp.instances[instance].value);
+    if (!value.is_array() || value.size() != powerUp.size()) {
         Damaged("register " + entry.name + " has not the words that it should have");
     }
     Words words;
@@ -86,7 +87,8 @@ Words ReadWords(const Json& value, const Register& entry, const Words& model) {
             Number(word, std::numeric_limits<std::uint32_t>::max(), "register " + entry.name)));
     }
     Words admitted = words;
-    if (!Admit(entry.limits, admitted) || admitted != words) {
+    // A command that was never given is held as what nobody could write.
+    if (words != powerUp && (!Admit(entry.limits, admitted) || admitted != words)) {
         Damaged("register " + entry.name + " holds " + value.dump() + ", which it does not admit");
     }
     return words;
@@ -104,7 +106,7 @@ RegisterSpace::Content ReadContent(const Json& value, const RegisterSpace& space
             Damaged("register " + name + " has not the instances that it should have");
         }
         for (std::size_t i = 0; i < instances.size(); ++i) {
-            content[name].push_back(ReadWords(stored[i], *space.Find(name), instances[i]));
+            content[name].push_back(ReadWords(stored[i], *space.Find(name), i));
         }
     }
     return content;

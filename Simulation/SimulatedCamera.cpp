@@ -50,6 +50,12 @@ void SimulatedCamera::Derive(Derivation derivation) {
     derivations.push_back(std::move(derivation));
 }
 
+void SimulatedCamera::DeclareAutomatic(const std::string& mode) {
+    automatics.insert(mode);
+    AfterWrite(mode,
+               [this, mode](RegisterSpace&, const auto&) { (void)Runs(mode); }); // so that no short time is missed
+}
+
 void SimulatedCamera::LoadSettings(std::uint32_t number) {
     const std::string_view asked = "asked "; // how the name of a setting's note begins
     RegisterSpace::Content settings = sets.At(number);

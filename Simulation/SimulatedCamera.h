@@ -78,7 +78,7 @@ public:
     /// Has the camera refuse to change the register while it acquires images.
     void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
     /// Makes the register known as one that switches an automatic mode.
-    void DeclareAutomatic(const std::string& mode) { automatics.insert(mode); }
+    void DeclareAutomatic(const std::string& mode);
     /// Whether the automatic mode of that register is on, or goes on although it should not.
     [[nodiscard]] bool Runs(const std::string& mode) { return faults.Runs(mode, space.Get(mode)[0] != 0); }
 

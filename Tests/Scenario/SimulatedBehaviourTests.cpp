@@ -1,0 +1,282 @@
+// What simulated cameras do by themselves. They are driven through the port and looked at past it.
+
+#include <Cameras.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Scenario {
+
+using Simulation::Words;
+using namespace std::chrono_literals;
+
+class Simulated {
+public:
+    explicit Simulated(const char* model, std::uint64_t seed = 0) : camera(Simulation::MakeCamera(model, {seed})) {}
+
+    void Write(std::uint32_t address, const Words& words) const {
+        camera->WriteBlock(address, reinterpret_cast<const unsigned char*>(words.data()),
+                           static_cast<std::uint32_t>(words.size() * sizeof words[0]));
+    }
+    [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const {
+        return camera->Registers().Get(name, index);
+    }
+    void Pass(std::chrono::microseconds time) const { camera->Pass(time); }
+
+    std::unique_ptr<Simulation::SimulatedCamera> camera;
+};
+
+TEST(SimulatedGeometry, FollowsBinningAndAreaAndGoesBackWithThem) {
+    const Simulated camera("Orvik-710M");                 // 3208 x 2208
+    camera.Write(0x1E030000, {1, 2000, 100, 3000, 2000}); // the second measure window
+    camera.Write(0x17020000, {1, 1700, 1200});            // the second overlay line
+    camera.Write(0x0A0B0000, {2, 3});
+    EXPECT_EQ(camera.Get("readoutarealimits", 0), (Words{0, 0, 63, 63}));
+    EXPECT_EQ(camera.Get("readoutarealimits", 1), (Words{1540, 672, 1603, 735}));
+    EXPECT_EQ(camera.Get("readoutarealimits", 2), (Words{0, 0, 1603, 735}));
+    EXPECT_EQ(camera.Get("readoutarea"), (Words{0, 0, 1603, 735}));
+    EXPECT_EQ(camera.Get("imagesize"), (Words{1604, 736}));
+    EXPECT_EQ(camera.Get("overlayposition", 1), (Words{1603, 735}));
+    EXPECT_EQ(camera.Get("measurewindow", 1), (Words{1603, 100, 1603, 735}));
+
+    camera.Write(0x28050000, {1600, 100, 9999, 110}); // too far to the right, and too low
+    EXPECT_EQ(camera.Get("readoutarea"), (Words{1540, 100, 1603, 163}));
+    EXPECT_EQ(camera.Get("readoutarealimits", 2), (Words{1540, 100, 1603, 163}));
+    camera.Write(0x0A0B0000, {1, 1});
+    EXPECT_EQ(camera.Get("readoutarea"), (Words{3080, 300, 3207, 491}));
+
+    camera.Write(0x28050000, {0, 0, 3207, 2207});
+    EXPECT_EQ(camera.Get("overlayposition", 1), (Words{1700, 1200}));
+    EXPECT_EQ(camera.Get("measurewindow", 1), (Words{2000, 100, 3000, 2000}));
+    camera.Write(0x0A0B0000, {9, 0}); // a factor of 8, and one of 1
+    EXPECT_EQ(camera.Get("imagesize"), (Words{401, 2208}));
+
+    const Simulated color("Orvik-710C"); // which cannot bin
+    color.Write(0x0A0B0000, {2, 2});
+    EXPECT_EQ(color.Get("binning"), (Words{1, 1}));
+}
+
+TEST(SimulatedTiming, FollowsWhatIsReadOutExposedAndSent) {
+    const Simulated camera("Orvik-710M");
+    EXPECT_EQ(camera.Get("readouttime"), Words{22135}); // 3208 x 2208 at 320 pixels per microsecond
+    EXPECT_EQ(camera.Get("frameduration"), Words{22235});
+    camera.Write(0x28020000, {6}); // two bytes per pixel, at 500 bytes per microsecond
+    EXPECT_EQ(camera.Get("frameduration"), Words{28333});
+    camera.Write(0x0A030000, {3, 50}); // 50 ms
+    EXPECT_EQ(camera.Get("frameduration"), Words{50100});
+    camera.Write(0x0A020000, {3}); // triggered: no image is exposed while another is read out
+    EXPECT_EQ(camera.Get("frameduration"), Words{72235});
+
+    camera.Write(0x0A0A0000, {12000});
+    EXPECT_EQ(camera.Get("readouttime"), Words{22135});
+    camera.Write(0x28050000, {0, 0, 639, 479});
+    EXPECT_EQ(camera.Get("readouttime"), Words{12000});
+    camera.Write(0x0A0A0000, {0});
+    EXPECT_EQ(camera.Get("readouttime"), Words{960});
+    camera.Write(0x0A030000, {7, 0xFFFFFFFF});
+    EXPECT_EQ(camera.Get("frameduration"), Words{0xFFFFFFFF});
+}
+
+TEST(SimulatedAutomatic, MovesWhatItOwnsStepByStepWhileItIsOn) {
+    const Simulated camera("Orvik-520C");
+    camera.Write(0x46010000, {1});
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 20000}));
+    camera.Pass(32ms);
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 22800})); // half of the way to 25600, which gives a level of 128
+    for (int i = 0; i < 64; ++i) {
+        (void)camera.camera->ReadRegister(0x46010000);
+    }
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 24200})); // as many accesses take as long
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 25600}));
+    EXPECT_EQ(camera.Get("frameduration"), Words{31228}); // three bytes per pixel, longer than the exposure
+    camera.Write(0x0A030000, {3, 1});
+    EXPECT_EQ(camera.Get("exposure"), (Words{3, 13})); // written in milliseconds: it goes on from there
+    camera.Write(0x46010000, {0});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("exposure"), (Words{3, 13}));
+
+    camera.Write(0x46020000, {2});
+    camera.Write(0x46050000, {2});
+    camera.Write(0x46040000, {1});
+    camera.Write(0x15020000, {1});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("gain"), Words{124}); // 128 is 1.97 times as bright as 13 ms are
+    EXPECT_EQ(camera.Get("brightness"), Words{200});
+    EXPECT_EQ(camera.Get("contrast"), Words{96});
+    EXPECT_EQ(camera.Get("colorbalance"), (Words{104, 128, 176}));
+}
+
+TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
+    const Simulated camera("Cerix-MV7");
+    camera.Write(0x46020000, {2});
+    EXPECT_EQ(camera.Get("gain"), Words{120});
+    camera.Write(0x46030000, {50});
+    EXPECT_EQ(camera.Get("gain"), Words{160}); // on the way to 200
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("gain"), Words{200});
+
+    camera.Write(0x0A020000, {3}); // exposure times are the host's
+    camera.Write(0x0A030000, {66});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("gain"), Words{100});
+    camera.Write(0x46090000, {1}); // what is found is kept, ...
+    camera.Write(0x0A030000, {99});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("gain"), Words{100});
+    camera.Write(0x46030000, {90}); // ... until something else is to be looked for
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("gain"), Words{120});
+    camera.Write(0x0A020000, {1});
+    EXPECT_EQ(camera.Get("exposure"), Words{33});
+    camera.Write(0x0A020000, {3});
+    EXPECT_EQ(camera.Get("exposure"), Words{99});
+    EXPECT_EQ(camera.Get("frameduration"), Words{99000});
+
+    EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
+    camera.Write(0x47090000, {0, 600});
+    camera.Write(0x47090000, {1, 500});
+    camera.Write(0x47040000, {1});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("abcxrlevel"), Words{550});
+    camera.Write(0x47040000, {0});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
+}
+
+TEST(SimulatedRegister, IgnoresWhatItDoesNotTake) {
+    const Simulated camera("Orvik-390M");
+    camera.Write(0x64020000, {1, 2, 3, 4});    // serial number
+    camera.Write(0x28030000, {10, 10});        // image size
+    camera.Write(0x5A030000, {0, 99});         // temperature
+    camera.Write(0x28090000, {1, 0, 0, 9, 9}); // limits of the readout area
+    camera.Write(0x46010000, {3});             // automatic exposure has no mode 3
+    camera.Write(0x28020000, {110});           // nor has a monochrome camera a coding RGB8
+    camera.Write(0x66020000, {6, 1});          // nor any camera a line 6
+    camera.Write(0x51030000, {0});             // nor can the factory's settings be saved to
+    EXPECT_EQ(std::string(camera.camera->ReadString(0x64020000, 16) + 4), "390M-0042");
+    EXPECT_EQ(camera.Get("imagesize"), (Words{2256, 1728}));
+    EXPECT_EQ(camera.Get("temperature"), Words{41});
+    EXPECT_EQ(camera.Get("readoutarealimits", 1), (Words{2192, 1664, 2255, 1727}));
+    EXPECT_EQ(camera.Get("aet"), Words{0});
+    EXPECT_EQ(camera.Get("colorcoding"), Words{0});
+    EXPECT_EQ(camera.Get("savesettings"), Words{0});
+    camera.Write(0x66020000, {6});
+    EXPECT_EQ(camera.camera->ReadRegisterPair(0x66020000), 6U);
+
+    camera.Write(0x19010000, {0xFFFFFFF0}); // look-up table index -16
+    EXPECT_EQ(camera.Get("lutindex"), Words{0U - 8U});
+    camera.Write(0x0D04, {0x800001F7}); // a test packet of 503 bytes
+    EXPECT_EQ(camera.Get("packetsize"), Words{1404});
+}
+
+TEST(SimulatedAcquisition, ShowsAndLocksGeometryUntilItStops) {
+    const Simulated camera("Orvik-530M");
+    camera.Write(0x0A0B0000, {2, 2});
+    camera.Write(0x51030000, {1});
+    camera.Write(0x0A0B0000, {1, 1});
+    camera.Write(0x14010000, {7});
+    camera.Write(0x00088134, {1});
+    EXPECT_EQ(camera.Get("startacquisition"), Words{1});
+    camera.Write(0x28050000, {0, 0, 99, 99});
+    camera.Write(0x28020000, {6});
+    camera.Write(0x51020000, {1}); // the rest of the set is loaded
+    EXPECT_EQ(camera.Get("imagesize"), (Words{2592, 2048}));
+    EXPECT_EQ(camera.Get("colorcoding"), Words{0});
+    EXPECT_EQ(camera.Get("gain"), Words{0});
+
+    camera.Pass(60s); // and it gets warm
+    EXPECT_GE(camera.Get("temperature")[0], 45U);
+    camera.Write(0x00088138, {0});
+    EXPECT_EQ(camera.Get("startacquisition"), Words{0});
+    camera.Write(0x51020000, {1});
+    EXPECT_EQ(camera.Get("imagesize"), (Words{1296, 1024}));
+    camera.Pass(60s);
+    EXPECT_LE(camera.Get("temperature")[0], 42U);
+
+    const Simulated other("Sollux G");
+    other.Write(0x14010000, {7});
+    other.Write(0x00088134, {1});
+    other.Write(0x51020000, {0});
+    EXPECT_EQ(other.Get("gain"), Words{7});
+}
+
+TEST(SimulatedRestart, TakesTheStartUpSetAndThePersistentAddress) {
+    for (const char* model : {"Orvik-31200C", "Cerix7-MV"}) {
+        const Simulated camera(model);
+        camera.Write(0x14010000, {40});
+        camera.Write(0x51030000, {2}); // saved,
+        camera.Write(0x51040000, {2}); // and to be started with
+        camera.Write(0x14010000, {50});
+        camera.Write(0x0014, {7});
+        camera.Write(0x064C, {0xC0A80114, 0, 0, 0, 0xFFFF0000}); // with the mask
+        camera.Write(0x0D04, {8000});
+        camera.Write(0x00088134, {1});
+        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A8010A});
+        camera.Write(0x51010000, {0});
+        EXPECT_EQ(camera.Get("gain"), Words{40}) << model;
+        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A80114});
+        EXPECT_EQ(camera.Get("currentsubnetmask"), Words{0xFFFF0000});
+        EXPECT_EQ(camera.Get("packetsize"), Words{1404});
+        EXPECT_EQ(camera.Get("startacquisition"), Words{0});
+        camera.Write(0x0014, {0}); // link-local stays
+        camera.Write(0x51010000, {0});
+        EXPECT_EQ(camera.Get("currentipconfig"), Words{4});
+        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A8010A});
+    }
+}
+
+TEST(SimulatedMotor, TravelsToWhereItIsSent) {
+    const Simulated camera("Cerix7-MV");
+    camera.Write(0x6E140000, {255, 40000});
+    camera.Write(0x6E140000, {3, 5});
+    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{8192});
+    EXPECT_EQ(camera.Get("motorcontrol", 3), Words{5});
+    camera.Pass(64ms);
+    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{24576});
+    camera.Write(0x6E140000, {255, 100}); // sent back on its way
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{100});
+    camera.Write(0x0C080000, {1, 2000});
+    camera.Pass(1s);
+    EXPECT_EQ(camera.Get("lenscontrol", 1), Words{2000});
+}
+
+TEST(SimulatedDefectPixels, AreCountedUpToTheLastPairInUse) {
+    const Simulated camera("Cerix7-MV");
+    camera.Write(0x0B020000, {9, 1, 50, 60, 2});
+    EXPECT_EQ(camera.Get("defectpixelcount"), Words{10});
+    camera.Write(0x0B020000, {9, 1, 50, 60, 0});
+    EXPECT_EQ(camera.Get("defectpixelcount"), Words{2});
+    camera.Write(0x0B020000, {9, 1, 50, 60, 3}); // there is no mode 3
+    camera.Write(0x0B030000, {0});
+    EXPECT_EQ(camera.Get("defectpixelcount"), Words{3});
+}
+
+/// What a camera holds after some time with its automatic modes on.
+Simulation::RegisterSpace::Content Afternoon(const char* model, std::uint64_t seed) {
+    const Simulated camera(model, seed);
+    for (const std::uint32_t mode : {0x46010000U, 0x46020000U, 0x46040000U, 0x46050000U, 0x47040000U, 0x0B030000U}) {
+        camera.Write(mode, {1});
+    }
+    camera.Pass(100s);
+    return camera.camera->Registers().Save(
+        {Simulation::Role::Shown, Simulation::Role::Setting, Simulation::Role::Kept, Simulation::Role::Fixed});
+}
+
+TEST(SimulatedWorld, IsDecidedByItsSeedAlone) {
+    for (const char* model : {"Orvik-710C", "Sollux G"}) {
+        auto one = Afternoon(model, 1);
+        auto two = Afternoon(model, 2);
+        EXPECT_EQ(one, Afternoon(model, 1));
+        EXPECT_NE(one["gain"], two["gain"]);
+        EXPECT_EQ(one["serialnumber"], two["serialnumber"]);
+    }
+    EXPECT_NE(Afternoon("Sollux G", 1)["defectpixel"], Afternoon("Sollux G", 2)["defectpixel"]);
+}
+
+} // namespace Scenario

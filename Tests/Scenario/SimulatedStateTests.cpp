@@ -1,0 +1,226 @@
+// A simulated camera's memory in a file, and the faults that can be planted in it.
+
+#include <CameraState.h>
+#include <Cameras.h>
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace Scenario {
+
+using Simulation::MakeCamera;
+using Simulation::Role;
+using Simulation::Words;
+
+class CameraState : public testing::Test {
+protected:
+    CameraState() {
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directory(folder);
+    }
+    ~CameraState() override { std::filesystem::remove_all(folder); }
+
+    [[nodiscard]] std::string Content() const {
+        std::ostringstream text;
+        text << std::ifstream(file).rdbuf();
+        return text.str();
+    }
+    /// Why the file is not loaded, empty if it is; and a camera that refuses it holds what it held.
+    [[nodiscard]] std::string Refusal(const std::string& content, const char* model = "Orvik-710M") const {
+        std::ofstream(file) << content;
+        const auto camera = MakeCamera(model);
+        const auto before =
+            camera->Registers().Save({Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile});
+        try {
+            Simulation::LoadState(*camera, file);
+            return "";
+        } catch (const Simulation::StateError& error) {
+            EXPECT_EQ(camera->Registers().Save({Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile}),
+                      before);
+            EXPECT_TRUE(camera->Sets().All().empty());
+            return error.what();
+        }
+    }
+
+    const std::filesystem::path folder = testing::TempDir() + "qdv12_camera_state_" + std::to_string(getpid());
+    const std::filesystem::path file = folder / "camera.json";
+};
+
+std::string Replaced(std::string text, const std::string& old, const std::string& fresh) {
+    const auto at = text.find(old);
+    EXPECT_NE(at, std::string::npos) << old;
+    return at == std::string::npos ? text : text.replace(at, old.size(), fresh);
+}
+
+TEST_F(CameraState, IsKeptWholeForEveryModel) {
+    for (const char* model :
+         {"Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M", "Orvik-390C", "Orvik-520M",
+          "Orvik-520C", "Orvik-530M", "Orvik-530C", "Cerix7-MV", "Cerix-MV7", "Sollux G"}) {
+        const auto camera = MakeCamera(model);
+        camera->WriteRegister(0x14010000, 11);
+        camera->WriteRegister(0x51030000, 2);
+        camera->WriteRegister(0x51040000, 2);
+        camera->WriteRegister(0x14010000, 12);
+        camera->WriteRegister(0x00088134, 1);
+        camera->WriteString(0x00E8, "door\xFF\0\0\0\0\0\0\0\0\0\0\0", 16);
+        camera->Pass(std::chrono::seconds(10));
+        Simulation::SaveState(*camera, file);
+        const std::string saved = Content();
+
+        const auto next = MakeCamera(model);
+        Simulation::LoadState(*next, file);
+        EXPECT_STREQ(next->ReadString(0x00E8, 16), "door\xFF");
+        EXPECT_EQ(next->Registers().Get("gain"), Words{12}) << model;
+        EXPECT_EQ(next->Registers().Get("startacquisition"), Words{0}); // nobody is connected any more
+        next->WriteRegister(0x51010000, 0);
+        EXPECT_EQ(next->Registers().Get("gain"), Words{11});
+
+        Simulation::LoadState(*next, file);
+        next->Registers().Set("startacquisition", {1});
+        Simulation::SaveState(*next, file);
+        EXPECT_EQ(Content(), saved);
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1); // nothing else is left behind
+}
+
+TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
+    const auto camera = MakeCamera("Orvik-710M");
+    camera->WriteRegister(0x51030000, 1);
+    Simulation::SaveState(*camera, file);
+    const std::string good = Content();
+    EXPECT_EQ(Refusal(good), "");
+
+    const auto has = [](const std::string& text, const char* part) {
+        return text.find(part) != std::string::npos ? testing::AssertionSuccess() : testing::AssertionFailure() << text;
+    };
+    EXPECT_TRUE(has(Refusal(good, "Orvik-710C"), "model \"Orvik-710M\", not Orvik-710C"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "710M-0042", "710M-0043")), "camera \"710M-0043\", not 710M-0042"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"version\": 1", "\"version\": 2")), "format version 2, known is 1"));
+    EXPECT_TRUE(has(Refusal("{}"), "not the memory of a simulated camera"));
+    EXPECT_TRUE(has(Refusal("[1]"), "not the memory of a simulated camera"));
+    EXPECT_TRUE(has(Refusal(""), "damaged"));
+    EXPECT_TRUE(has(Refusal(good.substr(0, good.size() / 2)), "damaged"));
+    for (const char* gain :
+         {"[[512]]", "[[-1]]", "[[1.5]]", "[[4294967296]]", "[[\"0\"]]", "[[0,0]]", "[[0],[0]]", "0", "[]"}) {
+        EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\": [[0]]", "\"gain\": " + std::string(gain))), "register gain"))
+            << gain;
+    }
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"agc\": [[0]]", "\"agc\": [[3]]")), "register agc holds [3]"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\"")), "\"gain\" is missing"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\": 1, \"gain\"")), "there are others"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"1\": {", "\"3\": {")), "no settings set 3"));
+    std::filesystem::remove(file);
+    EXPECT_THROW(Simulation::LoadState(*camera, file), Simulation::StateError);
+}
+
+TEST_F(CameraState, StaysAsItWasWhenItCannotBeWritten) {
+    const auto camera = MakeCamera("Sollux G");
+    EXPECT_THROW(Simulation::SaveState(*camera, folder / "none" / "camera.json"), Simulation::StateError);
+    std::filesystem::create_directories(file / "in the way");
+    EXPECT_THROW(Simulation::SaveState(*camera, file), Simulation::StateError);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
+}
+
+TEST(PlantedFault, ChangesWhatTheCameraHolds) {
+    const auto camera = MakeCamera("Orvik-710C");
+    const auto& held = camera->Registers();
+    camera->WriteRegister(0x51030000, 1);
+    for (const char* fault : {"ignore:gain", "clamp:contrast=100", "offset:sharpness=1", "clamp:lutindex=-2",
+                              "ignore:0x51020000", "stale:saturation"}) {
+        camera->PlantFault(fault);
+    }
+    camera->WriteRegister(0x14010000, 5);
+    camera->WriteRegister(0x18020000, 101);
+    camera->WriteRegister(0x18030000, 255);
+    camera->WriteRegister(0x19010000, 3);
+    camera->WriteRegister(0x18010000, 9);
+    EXPECT_EQ(held.Get("gain"), Words{0});
+    EXPECT_EQ(held.Get("contrast"), Words{100});
+    EXPECT_EQ(held.Get("sharpness"), Words{256});
+    EXPECT_EQ(held.Get("lutindex"), Words{0U - 2U});
+    camera->WriteRegister(0x51020000, 1); // ignored
+    EXPECT_EQ(held.Get("brightness"), Words{9});
+
+    const auto other = MakeCamera("Orvik-710C");
+    other->PlantFault("stale:saturation");
+    other->WriteRegister(0x15040000, 9);
+    other->WriteRegister(0x18010000, 9);
+    other->WriteRegister(0x51020000, 0);
+    EXPECT_EQ(other->Registers().Get("saturation"), Words{9});
+    EXPECT_EQ(other->Registers().Get("brightness"), Words{0});
+}
+
+TEST(PlantedFault, KeepsAnAutomaticModeFromStopping) {
+    for (const char* model : {"Orvik-710M", "Cerix-MV7"}) {
+        const auto camera = MakeCamera(model);
+        camera->PlantFault("endless:agc");
+        camera->WriteRegister(0x14010000, 500);
+        EXPECT_EQ(camera->Registers().Get("gain"), Words{500}) << model; // it was not on yet
+        camera->WriteRegister(0x46020000, 1);
+        camera->WriteRegister(0x46020000, 0);
+        camera->WriteRegister(0x14010000, 500);
+        EXPECT_LT(camera->Registers().Get("gain")[0], 400U) << model;
+    }
+}
+
+TEST(PlantedFault, FailsAccesses) {
+    const auto camera = MakeCamera("Cerix7-MV");
+    camera->PlantFault("fail:0x14010000");
+    camera->PlantFault("fail:305419896"); // 0x12345678, where no register is
+    camera->PlantFault("failwrite:exposure");
+    camera->PlantFault("failread:overlayposition");
+    camera->PlantFault("null:measurewindow");
+    try {
+        camera->WriteRegister(0x14010000, 1);
+        ADD_FAILURE();
+    } catch (const Simulation::PortError& error) {
+        EXPECT_EQ(error.operation, "WriteRegister");
+        EXPECT_EQ(error.address, 0x14010000U);
+        EXPECT_EQ(error.reason, "no answer from the camera");
+        EXPECT_STREQ(error.what(), "WriteRegister at 0x14010000 failed: no answer from the camera");
+    }
+    EXPECT_EQ(camera->Registers().Get("gain"), Words{0});
+    std::uint8_t bytes[16] = {};
+    std::uint64_t length = sizeof bytes;
+    EXPECT_THROW(camera->ReadMem(0x1400FFF8, bytes, &length), Simulation::PortError); // which reaches over it
+    EXPECT_THROW((void)camera->ReadRegister(0x12345678), Simulation::PortError);
+    EXPECT_EQ(camera->ReadRegister(0x0A030000), 33U);
+    EXPECT_THROW(camera->WriteRegister(0x0A030000, 34), Simulation::PortError);
+    camera->WriteRegister(0x17020000, 1);
+    EXPECT_THROW((void)camera->ReadBlock(0x17020000, 12), Simulation::PortError);
+    EXPECT_EQ(camera->ReadBlock(0x1E030000, 20), nullptr);
+}
+
+TEST(PlantedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
+    const auto camera = MakeCamera("Orvik-710M");
+    const auto reason = [&](const char* fault) -> std::string {
+        try {
+            camera->PlantFault(fault);
+            return "";
+        } catch (const Simulation::FaultError& error) {
+            return error.what();
+        }
+    };
+    // clang-format off
+    EXPECT_EQ(reason("ignore:gian"),       "fault \"ignore:gian\": this camera has no register \"gian\"");
+    EXPECT_EQ(reason("ignore"),            "fault \"ignore\": this camera has no register \"\"");
+    EXPECT_EQ(reason("ignore:0x14010004"), "fault \"ignore:0x14010004\": no register of this camera begins at 0x14010004");
+    EXPECT_EQ(reason("fail:0x114010000"),  "fault \"fail:0x114010000\": this camera has no register \"0x114010000\"");
+    EXPECT_EQ(reason("clamp:gain"),        "fault \"clamp:gain\": clamp needs a number, as in \"clamp:gain=1\"");
+    EXPECT_EQ(reason("clamp:gain=ten"),    "fault \"clamp:gain=ten\": what stands behind = is not a number");
+    EXPECT_EQ(reason("endless:gain"),      "fault \"endless:gain\": gain is no automatic mode; this camera has acc, aet, agc, awb");
+    EXPECT_EQ(reason("stale:temperature"), "fault \"stale:temperature\": no settings set holds temperature");
+    EXPECT_EQ(reason("break:gain"),        "fault \"break:gain\": there is no kind \"break\", but clamp, endless, fail, failread, "
+                                           "failwrite, ignore, null, offset, stale");
+    // clang-format on
+}
+
+} // namespace Scenario
