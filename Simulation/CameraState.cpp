@@ -17,6 +17,7 @@ using Json = nlohmann::json;
 
 const char* const format = "simulated camera";
 constexpr int version = 1;
+constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
 const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile};
 
 std::string TextOf(const RegisterSpace& space, const char* name, std::size_t leading) {
@@ -148,7 +149,7 @@ void CheckOwner(const Json& file, const RegisterSpace& space) {
 void Apply(const Json& file, SimulatedCamera& camera) {
     RegisterSpace& space = camera.Registers();
     CheckOwner(file, space);
-    const auto time = Number(Member(file, "microseconds"), std::numeric_limits<std::int64_t>::max(), "the time");
+    const auto time = Number(Member(file, "microseconds"), longestTime, "the time");
     const auto content = ReadContent(Member(file, "registers"), space, space.Save(rememberedRoles));
     auto sets = ReadSets(Member(file, "settings sets"), space);
 

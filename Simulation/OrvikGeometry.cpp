@@ -19,8 +19,8 @@ Words Fit(const RegisterSpace& space, Words area) {
     const Words least = space.Get("readoutarealimits", Least);
     const Words most = space.Get("readoutarealimits", Most);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
-        area[start] = std::clamp(area[start], least[start], most[start]);
-        area[end] = std::clamp(area[end], least[end] - least[start] + area[start], most[end]);
+        area[start] = std::min(std::max(area[start], least[start]), most[start]);
+        area[end] = std::min(std::max(area[end], area[start] + smallestArea - 1), most[end]);
     }
     return area;
 }
@@ -44,7 +44,7 @@ void ShowWindow(RegisterSpace& space, std::uint32_t window) {
     Words area = space.Get("asked measurewindow", window);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
         area[start] = std::min(area[start], size[start] - 1);
-        area[end] = std::clamp(area[end], area[start], size[start] - 1);
+        area[end] = std::min(std::max(area[end], area[start]), size[start] - 1);
     }
     space.Set("measurewindow", area, window);
 }

@@ -116,6 +116,7 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"agc\": [[0]]", "\"agc\": [[3]]")), "register agc holds [3]"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\"")), "\"gain\" is missing"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\": 1, \"gain\"")), "there are others"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"microseconds\": ", "\"microseconds\": -")), "the time holds -"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"1\": {", "\"3\": {")), "no settings set 3"));
     std::filesystem::remove(file);
     EXPECT_THROW(Simulation::LoadState(*camera, file), Simulation::StateError);
