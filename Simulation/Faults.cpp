@@ -123,6 +123,9 @@ PortError::PortError(std::string failedOperation, std::uint32_t failedAddress, s
 
 void Faults::Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
     const Order order = Parse(text);
+    if (order.number && order.kind != "clamp" && order.kind != "offset") {
+        throw FaultError("fault \"" + order.text + "\": only clamp and offset take a number");
+    }
     if (order.kind == "fail" || order.kind == "failread" || order.kind == "failwrite") {
         const auto [first, last] = ExtentOf(order, space);
         failing.push_back({first, last, order.kind != "failwrite", order.kind != "failread"});

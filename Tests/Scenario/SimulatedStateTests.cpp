@@ -216,6 +216,7 @@ TEST(PlantedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
     EXPECT_EQ(reason("ignore:0x14010004"), "fault \"ignore:0x14010004\": no register of this camera begins at 0x14010004");
     EXPECT_EQ(reason("fail:0x114010000"),  "fault \"fail:0x114010000\": this camera has no register \"0x114010000\"");
     EXPECT_EQ(reason("clamp:gain"),        "fault \"clamp:gain\": clamp needs a number, as in \"clamp:gain=1\"");
+    EXPECT_EQ(reason("ignore:gain=1"),     "fault \"ignore:gain=1\": only clamp and offset take a number");
     EXPECT_EQ(reason("clamp:gain=ten"),    "fault \"clamp:gain=ten\": what stands behind = is not a number");
     EXPECT_EQ(reason("endless:gain"),      "fault \"endless:gain\": gain is no automatic mode; this camera has acc, aet, agc, awb");
     EXPECT_EQ(reason("stale:temperature"), "fault \"stale:temperature\": no settings set holds temperature");
