@@ -175,8 +175,7 @@ TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
         interface.pop_back();
         if (kind != "slots" || notForTheTable.contains(interface))
             continue;
-        for (const char* outer : {"SDK4::", "Control::", "M2VX::"})
-            interface.erase(0, interface.starts_with(outer) ? std::string(outer).size() : 0);
+        interface.erase(0, interface.rfind(':') + 1);
         const bool ofM2VXOnly =
             line.find(" SDK4::Control::M2VX::") != std::string::npos || interface.starts_with("IProperty");
         for (std::string operation; words >> operation;) {

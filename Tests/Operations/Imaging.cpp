@@ -14,7 +14,7 @@ Call SetCoding(int coding) { return On(&ISignalFormat::SetColorCoding, static_ca
 
 Call SetArea(SDK4_KAREA area) { return On(&IRoa::SetReadoutArea, area); }
 
-State Limits(std::vector<std::uint32_t> min, std::vector<std::uint32_t> max) {
+State Limits(const std::vector<std::uint32_t>& min, const std::vector<std::uint32_t>& max) {
     return {{{roaLimits, Words(min), 0}, {roaLimits, Words(max), 1}, {roaLimits, Words({7, 7, 70, 70}), 2}}};
 }
 
