@@ -50,7 +50,7 @@ void Play(Input& input) {
     const char* model = input.One(models);
     const std::int32_t index = input.One(indices);
     // Debug lines make an execution many times as long, so they are rare, and a camera with them is called less.
-    const bool debug = input.Byte() == 0xDB;
+    const bool debug = input.Byte() >= 0xF0;
     Logger()->setLevel(debug ? log4cxx::Level::getDebug() : log4cxx::Level::getOff());
 
     Session session{input};
@@ -59,7 +59,7 @@ void Play(Input& input) {
     if (session.camera == nullptr)
         return;
     session.port.opening = false;
-    for (unsigned int calls = debug ? 8 : 256; calls > 0 && !input.AtEnd(); --calls)
+    for (unsigned int calls = debug ? 16 : 256; calls > 0 && !input.AtEnd(); --calls)
         CallAny(session);
     const unsigned long before = session.port.Accesses();
     session.failures.Watch([&] { session.camera->Release(); });
