@@ -1,4 +1,5 @@
-// Everything that a host can call, on either family: an operation that is new to an interface enters its list here.
+// Everything that a host can call, on either family. A new interface goes to the end of the last list: then the inputs
+// that there are keep their meaning.
 
 #include "Session.h"
 

@@ -48,6 +48,7 @@ public:
             Require(!foreign, "a foreign exception was replaced");
             Require(error.value_or(caught.code) == caught.code, "an error was replaced");
             Require(error || SDK4::ErrorName(caught.code) != std::string_view("unknown error"), "an unknown code");
+            Require(error || caught.code != SDK4_ERR_INVALID_INTERFACE, "an operation names a feature that is none");
         } catch (const Unplugged& caught) {
             Require(foreign == caught.number && !error, "an exception was replaced by an earlier one");
         }
