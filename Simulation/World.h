@@ -15,7 +15,7 @@ public:
         return seed == 0 ? 0 : Noise(what, 0, range);
     }
     [[nodiscard]] std::int32_t Noise(std::uint32_t what, std::uint64_t when, std::int32_t range) const {
-        const auto span = static_cast<std::uint64_t>(2 * range + 1);
+        const std::uint64_t span = 2 * static_cast<std::uint64_t>(range) + 1;
         return static_cast<std::int32_t>(Mix(Mix(seed ^ std::uint64_t{what} << 32) + when) % span) - range;
     }
 

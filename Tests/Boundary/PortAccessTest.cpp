@@ -84,6 +84,11 @@ protected:
     std::string Document();
     std::string Opening(const char* family, const State& state);
     std::string Family(bool ofM2VX);
+    struct Cost {
+        std::string outcome;
+        std::vector<std::string> accesses;
+    };
+    Cost CostOf(const Operation& row);
     std::string Interface(const std::string& name, const std::vector<const Operation*>& rows);
     std::string Noticing(const Operation& row);
 
@@ -105,27 +110,33 @@ std::string PortAccessTest::Noticing(const Operation& row) {
     return "all but " + Joined(untouched) + (beyond.empty() ? "" : "; besides " + Joined(beyond));
 }
 
+/// What a row's call costs: remembering, again, reading, again.
+PortAccessTest::Cost PortAccessTest::CostOf(const Operation& row) {
+    Cost cost;
+    for (const int index : {row.state.RememberingIndex(), row.state.ReadingIndex()}) {
+        OnNewCamera([&] {
+            const Camera camera = Open(row.state, index);
+            for (int repetition = 0; repetition < 2; ++repetition) {
+                Observed observed = Observe(camera, row.call);
+                cost.accesses.push_back(std::move(observed.accesses));
+                cost.outcome = std::move(observed.outcome);
+            }
+        });
+    }
+    return cost;
+}
+
 std::string PortAccessTest::Interface(const std::string& name, const std::vector<const Operation*>& rows) {
-    std::string table, withoutAccess;
+    std::string table;
+    std::vector<std::string> withoutAccess;
     for (const Operation* row : rows) {
-        std::string outcome;
-        std::vector<std::string> accesses;
-        for (const int index : {row->state.RememberingIndex(), row->state.ReadingIndex()}) {
-            OnNewCamera([&] {
-                const Camera camera = Open(row->state, index);
-                for (int repetition = 0; repetition < 2; ++repetition) {
-                    Observed observed = Observe(camera, row->call);
-                    accesses.push_back(observed.accesses);
-                    outcome = observed.outcome;
-                }
-            });
-        }
+        const auto [outcome, accesses] = CostOf(*row);
         std::string operation = WithoutInterface(row->name);
         if (IsError(outcome))
             operation += " (" + outcome.substr(std::string("SDK4_ERR_").size()) + ")";
         const std::string noticing = Noticing(*row);
-        if (noticing == "-" && std::all_of(accesses.begin(), accesses.end(), [](auto& text) { return text.empty(); }))
-            withoutAccess += (withoutAccess.empty() ? "" : ", ") + operation;
+        if (noticing == "-" && accesses == std::vector<std::string>(accesses.size()))
+            withoutAccess.push_back(operation);
         else
             table += "| " + operation + " |" + Cells(accesses) + " " + noticing + " |\n";
     }
@@ -134,7 +145,7 @@ std::string PortAccessTest::Interface(const std::string& name, const std::vector
         text +=
             "\n| Operation | Remembering | Again | Reading | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
     if (!withoutAccess.empty())
-        text += "\nWithout access: " + withoutAccess + ".\n";
+        text += "\nWithout access: " + Joined(withoutAccess) + ".\n";
     return text;
 }
 
@@ -155,11 +166,12 @@ std::string PortAccessTest::Opening(const char* family, const State& state) {
             if (count[access]++ == 0)
                 order.push_back(access);
         }
-        std::vector<std::string> parts;
-        for (const std::string& access : order)
-            parts.push_back(Code(access) + (count[access] > 1 ? " x " + std::to_string(count[access]) : ""));
+        for (std::string& access : order) {
+            const int times = count[access];
+            access = Code(access) + (times > 1 ? " x " + std::to_string(times) : "");
+        }
         text += std::string("| ") + family + " | " + std::to_string(index) + " | " + std::to_string(all) + " | " +
-                (parts.empty() ? "-" : Joined(parts)) + " |\n";
+                (order.empty() ? "-" : Joined(order)) + " |\n";
     }
     return text;
 }

@@ -27,7 +27,7 @@
 namespace {
 
 /// What a camera may leave behind when it is released, in bytes ("Who owns what" in ARCHITECTURE.md).
-constexpr long orvikRemainder = 24 * 1024, m2vxRemainder = 0;
+constexpr long orvikRemainder = 24 * 1024L, m2vxRemainder = 0;
 
 constexpr int rounds = 1000;
 constexpr int firstSteadyRound = 100; ///< by then all that log4cxx and the loader keep has been made
