@@ -62,7 +62,7 @@ const char* Arguments::Text() {
 
 unsigned char* Arguments::Buffer() {
     length = session.input.Word() & 0xFF;
-    buffer.reset(new unsigned char[length]());
+    buffer = std::make_unique<unsigned char[]>(length);
     return buffer.get();
 }
 
