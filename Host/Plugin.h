@@ -1,20 +1,16 @@
 #pragma once
 
+#include "Errors.h"
+
 #include <SDK4/SDK4.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace Host {
-
-/// Why the plug-in or a camera could not be opened, in words for the user.
-struct OpenError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// What CreateObject made, given back through Release.
 struct ReleaseControl {

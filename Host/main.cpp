@@ -11,12 +11,7 @@
 
 namespace {
 
-enum ExitCode {
-    AllWell = 0,
-    Refused = 1,    ///< the camera or the library refused something unexpectedly
-    WrongUsage = 2, ///< of the command line
-    NotOpened = 3,  ///< the plug-in or the camera
-};
+using namespace Host;
 
 int ListModels(const Host::Plugin& plugin) {
     for (const Host::Model& model : plugin.Models()) {

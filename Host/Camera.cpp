@@ -1,0 +1,162 @@
+#include "Camera.h"
+
+#include "Errors.h"
+#include "Functions/Tables.h"
+#include "Nearest.h"
+
+#include <SDK4/IControl.h>
+
+#include <algorithm>
+#include <charconv>
+
+namespace Host {
+
+Camera::Camera(IDynamicObject& opened, std::string modelName)
+    : control(opened),
+      model(std::move(modelName)),
+      functions(nullptr),
+      properties(As<SDK4::Control::IPropertyState>()) {
+    auto* const identity = As<SDK4::IControl>();
+    const std::string family = identity == nullptr ? "" : identity->GetClassID();
+    functions = TableOf(family);
+    if (functions == nullptr) {
+        throw OpenError("the functions of a control \"" + family + "\" are not known");
+    }
+}
+
+std::vector<Instance> Camera::All(bool oneByOne) const {
+    std::vector<Instance> all;
+    for (const Function& function : *functions) {
+        auto instances = InstancesOf(function);
+        if (!oneByOne && function.count > fewInstances) {
+            instances.resize(1);
+        }
+        all.insert(all.end(), instances.begin(), instances.end());
+    }
+    return all;
+}
+
+std::vector<Instance> Camera::Find(std::string_view name) const {
+    const std::string_view row = name.substr(0, name.find('.'));
+    const auto found = std::find_if(functions->begin(), functions->end(),
+                                    [&](const Function& function) { return function.name == row; });
+    if (found == functions->end()) {
+        std::vector<std::string> known;
+        for (const Function& function : *functions) {
+            known.emplace_back(function.name);
+        }
+        throw UsageError("unknown function \"" + std::string(name) + '"' + Suggestion(row, known));
+    }
+    if (row.size() == name.size()) {
+        return InstancesOf(*found);
+    }
+    std::uint32_t index = 0;
+    const auto [end, error] = std::from_chars(name.data() + row.size() + 1, name.data() + name.size(), index);
+    if (!found->indexed || error != std::errc() || end != name.data() + name.size() || index >= found->count) {
+        throw UsageError("unknown function \"" + std::string(name) + "\": there is " + std::string(row) +
+                         (found->indexed ? ".0 to ." + std::to_string(found->count - 1) : ", without a number"));
+    }
+    return {{&*found, index}};
+}
+
+Instance Camera::FindOne(std::string_view name) const {
+    const auto found = Find(name);
+    if (found.size() > 1) {
+        throw UsageError("\"" + std::string(name) + "\" is several: " + found.front().Name() + " to " +
+                         found.back().Name());
+    }
+    return found.front();
+}
+
+Value Camera::Read(const Instance& instance) const {
+    if (instance->get == nullptr) {
+        throw SDK4::X4Error(SDK4_ERR_CANTGETFEATURE);
+    }
+    return instance->get(control, instance.index);
+}
+
+void Camera::Write(const Instance& instance, const Value& value) const {
+    if (instance->set == nullptr) {
+        throw SDK4::X4Error(SDK4_ERR_CANTSETFEATURE);
+    }
+    instance->set(control, instance.index, value);
+}
+
+Reading Camera::Look(const Instance& instance) const {
+    Reading reading;
+    try {
+        if (instance->get != nullptr) {
+            reading.value = Read(instance);
+        } else if (!instance->presence.empty()) {
+            static_cast<void>(Read(FindOne(instance->presence)));
+        }
+        reading.lockedBy = LockedBy(instance);
+        reading.moved = !reading.lockedBy.empty() && instance->lock && instance->lock->moves;
+    } catch (const SDK4::X4Error& error) {
+        reading.error = error.code;
+    }
+    return reading;
+}
+
+std::string Camera::LockedBy(const Instance& instance) const {
+    const auto& lock = instance->lock;
+    if (!lock) {
+        return "";
+    }
+    const Instance mode = FindOne(lock->mode);
+    const Value value = Read(mode);
+    const bool open = std::find(lock->open.begin(), lock->open.end(), value.numbers.at(0)) != lock->open.end();
+    return open ? "" : mode.Name() + "=" + mode.Print(value);
+}
+
+Limits Camera::LimitsOf(const Instance& instance) const {
+    if (instance->limitsReader != nullptr) {
+        return instance->limitsReader(control, model);
+    }
+    Limits published = PublishedLimits(instance);
+    return published.empty() ? instance->limits : published;
+}
+
+Limits Camera::PublishedLimits(const Instance& instance) const {
+    Limits limits;
+    if (properties == nullptr) {
+        return limits;
+    }
+    const std::string base(instance->property.empty() ? instance->name : instance->property);
+    for (const Field& field : instance->shape.fields) {
+        const std::string full = base + (*field.name == '\0' ? "" : ".") + field.name;
+        const char* const name = full.c_str();
+        if (!properties->GetImplemented(name)) {
+            return {};
+        }
+        const bool plain = properties->IsUnsigned(name);
+        FieldLimits& found = limits.emplace_back();
+        found.min = plain ? std::int64_t{properties->GetUIntMin(name)} : properties->GetIntMin(name);
+        found.max = plain ? std::int64_t{properties->GetUIntMax(name)} : properties->GetIntMax(name);
+        if (instance.index == 0) { // the defaults of the others are not published
+            found.standard = plain ? std::int64_t{properties->GetUIntDefault(name)} : properties->GetIntDefault(name);
+        }
+        if (properties->IsEnumerated(name)) { // the codes of such a family have no gaps
+            for (std::int64_t code = found.min; code <= found.max; ++code) {
+                found.admitted.push_back(code);
+            }
+        }
+    }
+    return limits;
+}
+
+Refusal Camera::RefusalOf(const Instance& instance) const {
+    if (instance->refusal) {
+        return *instance->refusal;
+    }
+    const Limits limits = LimitsOf(instance);
+    const bool enumerated = !limits.empty() && std::all_of(limits.begin(), limits.end(), [](const FieldLimits& field) {
+        return !field.admitted.empty();
+    });
+    if (!enumerated) {
+        return {SDK4_ERR_OUTOFRANGE, false};
+    }
+    return {properties == nullptr ? SDK4_ERR_INVALID_PARAMETER : SDK4_ERR_OUTOFRANGE, true};
+}
+
+} // namespace Host

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Function.h"
+
+#include <SDK4/IPropertyState.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Host {
+
+/// What reading a function tells.
+struct Reading {
+    Value value;            ///< valid unless there is an error, and for what has a getter
+    std::int32_t error = 0; ///< of the getter: SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED, ...
+    std::string lockedBy;   ///< "agc=1" while that keeps it from being set, else empty
+    bool moved = false;     ///< and the camera moves it by itself
+};
+
+/// An opened control, seen through the table of its family.
+class Camera {
+public:
+    /// @throw OpenError for a control of a family that has no table
+    Camera(IDynamicObject& opened, std::string modelName);
+
+    [[nodiscard]] const std::string& Model() const { return model; }
+    [[nodiscard]] const Functions& Table() const { return *functions; }
+
+    /// Every instance of every row, in the order of the table. Rows of many instances stand for themselves (index 0)
+    /// unless they are wanted one by one.
+    [[nodiscard]] std::vector<Instance> All(bool oneByOne = true) const;
+
+    /// The function of that name; all its instances for an indexed one without index.
+    /// @throw UsageError for an unknown name, with the nearest known one
+    [[nodiscard]] std::vector<Instance> Find(std::string_view name) const;
+    /// Exactly one.
+    /// @throw UsageError also for an indexed one without index
+    [[nodiscard]] Instance FindOne(std::string_view name) const;
+
+    /// Calls the getter. @throw X4Error
+    [[nodiscard]] Value Read(const Instance& instance) const;
+    /// Calls the setter. @throw X4Error
+    void Write(const Instance& instance, const Value& value) const;
+
+    /// Reads a function without ever throwing X4Error, and what locks it. Writes nothing.
+    [[nodiscard]] Reading Look(const Instance& instance) const;
+
+    /// Whether a mode keeps the function from being set now: "agc=1", or empty. Reads the mode.
+    [[nodiscard]] std::string LockedBy(const Instance& instance) const;
+
+    /// What the function admits now; from the family where it publishes it, else from the row.
+    [[nodiscard]] Limits LimitsOf(const Instance& instance) const;
+
+    /// What happens to a value that it does not admit.
+    [[nodiscard]] Refusal RefusalOf(const Instance& instance) const;
+
+    template <typename Interface> [[nodiscard]] Interface* As() const { return dynamic_cast<Interface*>(&control); }
+
+private:
+    [[nodiscard]] Limits PublishedLimits(const Instance& instance) const;
+
+    IDynamicObject& control;
+    std::string model;
+    const Functions* functions;
+    SDK4::Control::IPropertyState* properties; ///< null for a family that publishes nothing
+};
+
+/// Rows with more instances than this are not listed one by one unless asked for.
+constexpr std::uint32_t fewInstances = 8;
+
+} // namespace Host

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace Host {
+
+/// How the program ends.
+enum ExitCode {
+    AllWell = 0,
+    Refused = 1,    ///< the camera or the library refused
+    WrongUsage = 2, ///< of the command line; an unknown function, an unreadable value
+    NotOpened = 3,  ///< the plug-in or the camera; an unknown model
+};
+
+/// Why the plug-in or a camera could not be opened, in words for the user.
+struct OpenError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// What is wrong with what the user asked for, in words.
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace Host

@@ -1,0 +1,110 @@
+#include "Function.h"
+
+#include <algorithm>
+
+namespace Host {
+
+bool FieldLimits::Admits(std::int64_t number) const {
+    return admitted.empty() ? number >= min && number <= max
+                            : std::find(admitted.begin(), admitted.end(), number) != admitted.end();
+}
+
+Function& Function::Unit(std::string_view text) {
+    unit = text;
+    return *this;
+}
+
+Function& Function::Hexadecimal() {
+    shape.hexadecimal = true;
+    return *this;
+}
+
+Function& Function::Range(std::int64_t min, std::int64_t max) {
+    limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .standard = {}});
+    return *this;
+}
+
+Function& Function::LimitsFrom(LimitsReader reader) {
+    limitsReader = reader;
+    return *this;
+}
+
+Function& Function::OneOf(std::int64_t first, std::int64_t last) {
+    Range(first, last);
+    for (FieldLimits& field : limits) {
+        for (std::int64_t number = first; number <= last; ++number) {
+            field.admitted.push_back(number);
+        }
+    }
+    return *this;
+}
+
+Function& Function::OneOf(Host::Codes named) {
+    OneOf(named.front().value, named.back().value);
+    for (FieldLimits& field : limits) {
+        field.admitted.clear();
+        for (const Code& code : named) {
+            field.admitted.push_back(code.value);
+        }
+    }
+    return Named(named);
+}
+
+Function& Function::Named(Host::Codes names) {
+    codes = names;
+    return *this;
+}
+
+Function& Function::Keeps(std::int32_t code) {
+    refusal = Refusal{code, true};
+    return *this;
+}
+
+Function& Function::Rounds() {
+    rounds = true;
+    return *this;
+}
+
+Function& Function::MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open) {
+    lock = Lock{mode, open, true};
+    return *this;
+}
+
+Function& Function::Needs(std::string_view mode, std::initializer_list<std::int64_t> open) {
+    lock = Lock{mode, open, false};
+    return *this;
+}
+
+Function& Function::Instances(std::uint32_t number) {
+    count = number;
+    return *this;
+}
+
+Function& Function::Restored(Restore how) {
+    restore = how;
+    return *this;
+}
+
+Function& Function::PublishedAs(std::string_view propertyName) {
+    property = propertyName;
+    return *this;
+}
+
+Function& Function::PresentWith(std::string_view other) {
+    presence = other;
+    return *this;
+}
+
+std::string Instance::Name() const {
+    return std::string(function->name) + (function->indexed ? "." + std::to_string(index) : "");
+}
+
+std::vector<Instance> InstancesOf(const Function& function) {
+    std::vector<Instance> instances;
+    for (std::uint32_t index = 0; index < function.count; ++index) {
+        instances.push_back({&function, index});
+    }
+    return instances;
+}
+
+} // namespace Host

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "Value.h"
+
+#include <SDK4/IDynamicObject.h>
+#include <SDK4/X4Error.h>
+
+#include <cstdint>
+#include <deque>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Host {
+
+/// What a field admits: everything between the bounds, or single values where there are any.
+struct FieldLimits {
+    std::int64_t min = 0;
+    std::int64_t max = 0;
+    std::vector<std::int64_t> admitted;
+    std::optional<std::int64_t> standard; ///< the default, where the family publishes one
+
+    [[nodiscard]] bool Admits(std::int64_t number) const;
+};
+/// One per field of the value, or none at all: then every value is passed on to the camera.
+using Limits = std::vector<FieldLimits>;
+
+/// What may become of a function when settings are restored.
+enum class Restore {
+    Never,   ///< what the camera reports, or does when written
+    Setting, ///< written in the order of the table
+    Mode,    ///< moves other settings by itself: off first, the saved mode last
+    Output,  ///< reaches what is wired to the camera: I/O lines, motor, lens
+    Network, ///< how the camera is reached
+};
+
+/// Another function decides whether this one can be set: its value must be one of those.
+struct Lock {
+    std::string_view mode;
+    std::vector<std::int64_t> open;
+    bool moves; ///< while it is closed the camera moves the value by itself
+};
+
+/// How a value is refused that is not admitted.
+struct Refusal {
+    std::int32_t code;
+    bool keeps; ///< the camera holds what it held; otherwise the nearest admitted value
+};
+
+/// One row of the table: a camera function as one family of cameras has it. Rows are made by FunctionTable.
+struct Function {
+    using Getter = Value (*)(IDynamicObject& control, std::uint32_t index);
+    using Setter = void (*)(IDynamicObject& control, std::uint32_t index, const Value& value);
+    /// Limits that the camera tells, or that its model decides.
+    using LimitsReader = Host::Limits (*)(IDynamicObject& control, std::string_view model);
+
+    std::string_view name;
+    std::string interfaceName;
+    Shape shape;
+    Getter get = nullptr; ///< null: can only be written
+    Setter set = nullptr; ///< null: can only be read
+    std::string_view unit;
+    bool indexed = false;
+    std::uint32_t count = 1; ///< how many there are of it, from index 0
+    Host::Limits limits;     ///< for a family that does not publish them
+    LimitsReader limitsReader = nullptr;
+    Host::Codes codes; ///< names of its numbers; some may have none
+    std::optional<Lock> lock;
+    std::optional<Refusal> refusal; ///< where it is not the family's usual one
+    Restore restore = Restore::Never;
+    bool rounds = false;       ///< the camera may make another value of an admitted one
+    bool trigger = false;      ///< has no value: writing it, whatever is written, is the command
+    std::string_view property; ///< what IPropertyState calls it, if it knows it
+    std::string_view presence; ///< the function whose reading tells whether the camera has this one, which none reads
+
+    // What a row says beyond its name, getter and setter.
+    Function& Unit(std::string_view text);
+    Function& Hexadecimal();
+    Function& Range(std::int64_t min, std::int64_t max); ///< of every field
+    Function& LimitsFrom(LimitsReader reader);
+    Function& OneOf(std::int64_t first, std::int64_t last); ///< single values without a gap
+    Function& OneOf(Host::Codes named);                     ///< single values, all of which have names
+    Function& Named(Host::Codes names);                     ///< names of some of its values
+    Function& Keeps(std::int32_t code);                     ///< refuses with that code and keeps its value
+    Function& Rounds();
+    Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0});
+    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open);
+    Function& Instances(std::uint32_t number);
+    Function& Restored(Restore how);
+    Function& PublishedAs(std::string_view propertyName);
+    Function& PresentWith(std::string_view other);
+};
+
+/// The rows of a family, in dependency order: a function stands behind those that limit or disable it.
+using Functions = std::deque<Function>;
+
+/// A function, or one of the several that a row stands for. Its name ends in the index then: "iomode.3".
+struct Instance {
+    const Function* function;
+    std::uint32_t index = 0;
+
+    const Function* operator->() const { return function; }
+    [[nodiscard]] std::string Name() const;
+    [[nodiscard]] std::string Print(const Value& value) const {
+        return Host::Print(value, function->shape, function->codes);
+    }
+    [[nodiscard]] std::optional<Value> Parse(std::string_view text) const {
+        return ParseValue(text, function->shape, function->codes);
+    }
+};
+
+/// All instances of a row.
+[[nodiscard]] std::vector<Instance> InstancesOf(const Function& function);
+
+} // namespace Host

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string_view>
+
+/// The names of functions that more than one row refers to: the row of each family that has it, and what it locks.
+namespace Host::Name {
+
+// clang-format off
+inline constexpr std::string_view acc                   = "acc";
+inline constexpr std::string_view aet                   = "aet";
+inline constexpr std::string_view agc                   = "agc";
+inline constexpr std::string_view awb                   = "awb";
+inline constexpr std::string_view abc                   = "abc";
+inline constexpr std::string_view brightness            = "brightness";
+inline constexpr std::string_view circularBlankingMode  = "circularblankingmode";
+inline constexpr std::string_view colorCoding           = "colorcoding";
+inline constexpr std::string_view contrast              = "contrast";
+inline constexpr std::string_view exposure              = "exposure";
+inline constexpr std::string_view exposureMode          = "exposuremode";
+inline constexpr std::string_view gain                  = "gain";
+inline constexpr std::string_view histogramEqualization = "histogramequalization";
+inline constexpr std::string_view measureFrameShow      = "measureframeshow";
+inline constexpr std::string_view measureWindow         = "measurewindow";
+inline constexpr std::string_view overlayPosition       = "overlayposition";
+inline constexpr std::string_view overlayShow           = "overlayshow";
+inline constexpr std::string_view overlaySize           = "overlaysize";
+inline constexpr std::string_view overlayStyle          = "overlaystyle";
+inline constexpr std::string_view recursiveFilter       = "recursivefilter";
+inline constexpr std::string_view shadingCorrectionMode = "shadingcorrectionmode";
+inline constexpr std::string_view verticalFlip          = "verticalflip";
+// clang-format on
+
+} // namespace Host::Name

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <SDK4/Records.h>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Host {
+
+/// One 32-bit field of a value; the only field of a plain number has no name.
+struct Field {
+    const char* name;
+    bool isSigned = false;
+};
+
+/// What a value is made of, and what stands between its fields in text. A text has no fields.
+struct Shape {
+    std::span<const Field> fields;
+    char separator = ',';
+    bool hexadecimal = false; ///< numbers are printed so
+};
+
+/// What a camera function holds: a number, the numbers of a record in field order, or a text.
+struct Value {
+    std::vector<std::int64_t> numbers; ///< each within the 32 bits of its field, whichever sign that has
+    std::string text;
+
+    bool operator==(const Value&) const = default;
+};
+
+/// A name for a number: "off" for 0.
+struct Code {
+    std::int64_t value;
+    const char* name;
+};
+using Codes = std::span<const Code>;
+
+[[nodiscard]] Value FromMemory(const void* memory, const Shape& shape);
+void ToMemory(const Value& value, const Shape& shape, void* memory);
+
+/// "1:2000", "0,0,1279,1023", "off", or the text itself. What this prints, ParseValue reads.
+[[nodiscard]] std::string Print(const Value& value, const Shape& shape, Codes codes = {});
+/// One number of a value, by its name if it has one.
+[[nodiscard]] std::string Print(std::int64_t number, const Shape& shape, Codes codes = {});
+
+/// Reads a value from text. Numbers are decimal or hexadecimal with 0x, codes are names or numbers, and the fields of a
+/// record stand apart by commas or colons.
+/// @return nothing if the text is no such value
+[[nodiscard]] std::optional<Value> ParseValue(std::string_view text, const Shape& shape, Codes codes = {});
+
+// The shape of what the interfaces pass: plain numbers, texts, records. The argument only names the type.
+[[nodiscard]] Shape ShapeOf(const std::int32_t* number);
+[[nodiscard]] Shape ShapeOf(const std::uint32_t* number);
+[[nodiscard]] Shape ShapeOf(const char* const* text);
+[[nodiscard]] Shape ShapeOf(const SDK4_KAREA* area);
+[[nodiscard]] Shape ShapeOf(const SDK4_KSIZE* size);
+[[nodiscard]] Shape ShapeOf(const SDK4_KRGB* gains);
+[[nodiscard]] Shape ShapeOf(const SDK4_KPOSITION* position);
+[[nodiscard]] Shape ShapeOf(const SDK4_KSTYLE* style);
+[[nodiscard]] Shape ShapeOf(const SDK4_KOVERLAYSIZE* size);
+[[nodiscard]] Shape ShapeOf(const SDK4_KEXPOSURE* exposure);
+[[nodiscard]] Shape ShapeOf(const SDK4_KBINNING* binning);
+[[nodiscard]] Shape ShapeOf(const SDK4_KVERSION* version);
+[[nodiscard]] Shape ShapeOf(const SDK4_KREVISION* revision);
+[[nodiscard]] Shape ShapeOf(const SDK4_KCIRCULARPOSITION* position);
+[[nodiscard]] Shape ShapeOf(const SDK4_KMWCIRCLE* window);
+[[nodiscard]] Shape ShapeOf(const SDK4_KDEFECTPIXEL* pixel);
+
+} // namespace Host
