@@ -11,13 +11,23 @@
 
 namespace Host {
 
+namespace {
+
+/// What the family calls the property behind a field.
+std::string PropertyOf(const Function& function, const Field& field) {
+    const std::string_view base = function.property.empty() ? function.name : function.property;
+    return std::string(base) + (*field.name == '\0' ? "" : ".") + field.name;
+}
+
+} // namespace
+
 Camera::Camera(IDynamicObject& opened, std::string modelName)
     : control(opened),
       model(std::move(modelName)),
       functions(nullptr),
       properties(As<SDK4::Control::IPropertyState>()) {
     auto* const identity = As<SDK4::IControl>();
-    const std::string family = identity == nullptr ? "" : identity->GetClassID();
+    family = identity == nullptr ? "" : identity->GetClassID();
     functions = TableOf(family);
     if (functions == nullptr) {
         throw OpenError("the functions of a control \"" + family + "\" are not known");
@@ -82,7 +92,14 @@ void Camera::Write(const Instance& instance, const Value& value) const {
     instance->set(control, instance.index, value);
 }
 
-Reading Camera::Look(const Instance& instance) const {
+void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const {
+    if (properties != nullptr && !LockedBy(instance).empty()) {
+        throw SDK4::X4Error(SDK4_ERR_DISABLED);
+    }
+    Write(instance, value);
+}
+
+Reading Camera::Try(const Instance& instance, bool andItsLock) const {
     Reading reading;
     try {
         if (instance->get != nullptr) {
@@ -90,23 +107,38 @@ Reading Camera::Look(const Instance& instance) const {
         } else if (!instance->presence.empty()) {
             static_cast<void>(Read(FindOne(instance->presence)));
         }
-        reading.lockedBy = LockedBy(instance);
-        reading.moved = !reading.lockedBy.empty() && instance->lock && instance->lock->moves;
+        if (andItsLock) {
+            reading.lockedBy = LockedBy(instance);
+            reading.moved = !reading.lockedBy.empty() && instance->lock && instance->lock->moves;
+        }
     } catch (const SDK4::X4Error& error) {
         reading.error = error.code;
+        reading.errorText = SDK4::ErrorName(error.code);
+    } catch (const std::exception& error) {
+        reading.error = SDK4_ERR_ERROR;
+        reading.errorText = error.what();
     }
     return reading;
 }
 
+Reading Camera::TryRead(const Instance& instance) const { return Try(instance, false); }
+
+Reading Camera::Look(const Instance& instance) const { return Try(instance, true); }
+
 std::string Camera::LockedBy(const Instance& instance) const {
-    const auto& lock = instance->lock;
-    if (!lock) {
+    if (const auto& lock = instance->lock) {
+        const Instance mode = FindOne(lock->mode);
+        const Value value = Read(mode);
+        if (std::find(lock->open.begin(), lock->open.end(), value.numbers.at(0)) == lock->open.end()) {
+            return mode.Name() + "=" + mode.Print(value);
+        }
+    }
+    if (properties == nullptr || instance->set == nullptr || instance->shape.fields.empty()) {
         return "";
     }
-    const Instance mode = FindOne(lock->mode);
-    const Value value = Read(mode);
-    const bool open = std::find(lock->open.begin(), lock->open.end(), value.numbers.at(0)) != lock->open.end();
-    return open ? "" : mode.Name() + "=" + mode.Print(value);
+    const std::string property = PropertyOf(*instance.function, instance->shape.fields.front());
+    const bool disabled = properties->GetImplemented(property.c_str()) && !properties->GetEnabled(property.c_str());
+    return disabled ? "the control" : "";
 }
 
 Limits Camera::LimitsOf(const Instance& instance) const {
@@ -119,12 +151,11 @@ Limits Camera::LimitsOf(const Instance& instance) const {
 
 Limits Camera::PublishedLimits(const Instance& instance) const {
     Limits limits;
-    if (properties == nullptr) {
+    if (properties == nullptr || instance->trigger) {
         return limits;
     }
-    const std::string base(instance->property.empty() ? instance->name : instance->property);
     for (const Field& field : instance->shape.fields) {
-        const std::string full = base + (*field.name == '\0' ? "" : ".") + field.name;
+        const std::string full = PropertyOf(*instance.function, field);
         const char* const name = full.c_str();
         if (!properties->GetImplemented(name)) {
             return {};

@@ -13,7 +13,9 @@ namespace Host {
 /// What reading a function tells.
 struct Reading {
     Value value;            ///< valid unless there is an error, and for what has a getter
-    std::int32_t error = 0; ///< of the getter: SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED, ...
+    std::int32_t error = 0; ///< of the getter: SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED, ...; of what it throws that
+                            ///< has no code, SDK4_ERR_ERROR
+    std::string errorText;  ///< the name of the code, or what the port said
     std::string lockedBy;   ///< "agc=1" while that keeps it from being set, else empty
     bool moved = false;     ///< and the camera moves it by itself
 };
@@ -25,6 +27,8 @@ public:
     Camera(IDynamicObject& opened, std::string modelName);
 
     [[nodiscard]] const std::string& Model() const { return model; }
+    /// The design of the control: "Orvik" or "M2VX".
+    [[nodiscard]] const std::string& Family() const { return family; }
     [[nodiscard]] const Functions& Table() const { return *functions; }
 
     /// Every instance of every row, in the order of the table. Rows of many instances stand for themselves (index 0)
@@ -43,7 +47,14 @@ public:
     /// Calls the setter. @throw X4Error
     void Write(const Instance& instance, const Value& value) const;
 
-    /// Reads a function without ever throwing X4Error, and what locks it. Writes nothing.
+    /// Calls the setter, unless a mode locks the function. An M2VX control that reads through learns of a mode when it
+    /// is set through it; of one that was set before, the host has to know.
+    /// @throw X4Error
+    void SetUnlessLocked(const Instance& instance, const Value& value) const;
+
+    /// Reads a function without throwing.
+    [[nodiscard]] Reading TryRead(const Instance& instance) const;
+    /// The same, and finds out what locks it. Nothing is written.
     [[nodiscard]] Reading Look(const Instance& instance) const;
 
     /// Whether a mode keeps the function from being set now: "agc=1", or empty. Reads the mode.
@@ -58,10 +69,12 @@ public:
     template <typename Interface> [[nodiscard]] Interface* As() const { return dynamic_cast<Interface*>(&control); }
 
 private:
+    [[nodiscard]] Reading Try(const Instance& instance, bool andItsLock) const;
     [[nodiscard]] Limits PublishedLimits(const Instance& instance) const;
 
     IDynamicObject& control;
     std::string model;
+    std::string family;
     const Functions* functions;
     SDK4::Control::IPropertyState* properties; ///< null for a family that publishes nothing
 };

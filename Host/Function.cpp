@@ -19,6 +19,11 @@ Function& Function::Hexadecimal() {
     return *this;
 }
 
+Function& Function::Fields(std::span<const Field> fields) {
+    shape.fields = fields;
+    return *this;
+}
+
 Function& Function::Range(std::int64_t min, std::int64_t max) {
     limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .standard = {}});
     return *this;

@@ -57,6 +57,7 @@ struct Function {
     using LimitsReader = Host::Limits (*)(IDynamicObject& control, std::string_view model);
 
     std::string_view name;
+    std::string_view topic; ///< what it belongs to: "identity", "exposure", ...
     std::string interfaceName;
     Shape shape;
     Getter get = nullptr; ///< null: can only be written
@@ -78,6 +79,7 @@ struct Function {
     // What a row says beyond its name, getter and setter.
     Function& Unit(std::string_view text);
     Function& Hexadecimal();
+    Function& Fields(std::span<const Field> fields);     ///< where they are called otherwise than in the record
     Function& Range(std::int64_t min, std::int64_t max); ///< of every field
     Function& LimitsFrom(LimitsReader reader);
     Function& OneOf(std::int64_t first, std::int64_t last); ///< single values without a gap

@@ -1,17 +1,31 @@
 #include "Logging.h"
 
+#include "Errors.h"
+
 #include <log4cxx/consoleappender.h>
 #include <log4cxx/level.h>
 #include <log4cxx/logger.h>
 #include <log4cxx/patternlayout.h>
+#include <log4cxx/propertyconfigurator.h>
+
+#include <filesystem>
 
 namespace Host {
 
-void ConfigureLogging(const std::string& level) {
-    const auto layout = std::make_shared<log4cxx::PatternLayout>(LOG4CXX_STR("%-5p %F:%L  %m%n"));
+void ConfigureLogging(const std::string& level, const std::string& configuration) {
     const auto root = log4cxx::Logger::getRootLogger();
-    root->addAppender(std::make_shared<log4cxx::ConsoleAppender>(layout, log4cxx::ConsoleAppender::getSystemErr()));
-    root->setLevel(log4cxx::Level::toLevel(level, log4cxx::Level::getOff()));
+    if (configuration.empty()) {
+        const auto layout = std::make_shared<log4cxx::PatternLayout>(LOG4CXX_STR("%-5p %F:%L  %m%n"));
+        root->addAppender(std::make_shared<log4cxx::ConsoleAppender>(layout, log4cxx::ConsoleAppender::getSystemErr()));
+    } else {
+        if (!std::filesystem::is_regular_file(configuration)) {
+            throw UsageError("no such log4cxx configuration: " + configuration);
+        }
+        log4cxx::PropertyConfigurator::configure(configuration);
+    }
+    if (configuration.empty() || !level.empty()) {
+        root->setLevel(log4cxx::Level::toLevel(level, log4cxx::Level::getOff()));
+    }
 }
 
 } // namespace Host

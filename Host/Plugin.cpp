@@ -1,6 +1,10 @@
 #include "Plugin.h"
 
+#include <SDK4/IModelRegistry.h>
+
 #include <dlfcn.h>
+
+#include <filesystem>
 
 namespace Host {
 
@@ -30,36 +34,57 @@ private:
     std::vector<Model>& models;
 };
 
-[[noreturn]] void Refuse(const std::string& path, const std::string& reason) {
-    throw OpenError("cannot load the plug-in\n  path:   " + path + "\n" + reason);
-}
-
 } // namespace
 
-Plugin::Plugin(const std::filesystem::path& path) {
-    // A bare name that is a file here means that file, not one on the loader's search path.
-    const std::string file = std::filesystem::exists(path) ? std::filesystem::absolute(path).string() : path.string();
-    library.reset(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | stayLoaded));
-    if (!library) {
-        Refuse(file, std::string("  loader: ") + dlerror());
+std::string PluginCheck::Fault() const {
+    if (!loader.empty()) {
+        return "cannot load " + path + ": " + loader + (advice.empty() ? "" : "; " + advice);
     }
+    for (const auto& [name, found] : exports) {
+        if (!found) {
+            return path + " is no camera plug-in: it does not export " + name;
+        }
+    }
+    return models.empty() ? path + " registers no models" : "";
+}
 
-    std::string missing;
+PluginCheck CheckPlugin(const std::string& path) {
+    Plugin plugin;
+    plugin.Load(path);
+    return plugin.check;
+}
+
+Plugin::Plugin(const std::string& path) {
+    Load(path);
+    if (const std::string fault = check.Fault(); !fault.empty()) {
+        throw OpenError(fault);
+    }
+}
+
+void Plugin::Load(const std::string& path) {
+    // A bare name that is a file here means that file, not one on the loader's search path.
+    check.path = std::filesystem::exists(path) ? std::filesystem::absolute(path).string() : path;
+    library.reset(dlopen(check.path.c_str(), RTLD_NOW | RTLD_LOCAL | stayLoaded));
+    if (!library) {
+        check.loader = dlerror();
+        if (check.loader.find("undefined symbol") != std::string::npos &&
+            check.loader.find("log4cxx") != std::string::npos) {
+            check.advice = "the plug-in takes log4cxx from the program that loads it: link that with the shared "
+                           "log4cxx that the plug-in was built with (-Wl,--no-as-needed -llog4cxx)";
+        }
+        return;
+    }
     const auto find = [&](const char* name) {
         void* const symbol = dlsym(library.get(), name);
-        if (symbol == nullptr) {
-            missing += std::string("\n  missing export: ") + name;
-        }
+        check.exports.emplace_back(name, symbol != nullptr);
         return symbol;
     };
     auto* const init = reinterpret_cast<InitLibrary*>(find("InitLibrary"));
     create = reinterpret_cast<CreateObject*>(find("CreateObject"));
-    if (!missing.empty()) {
-        Refuse(file, "  it is a shared library, but no camera plug-in" + missing);
+    if (init != nullptr) {
+        Registry registry(check.models);
+        init(static_cast<IModelRegistry*>(&registry));
     }
-
-    Registry registry(models);
-    init(static_cast<IModelRegistry*>(&registry));
 }
 
 void Plugin::CloseLibrary::operator()(void* handle) const { dlclose(handle); }
@@ -68,9 +93,12 @@ Control Plugin::Create(const char* model, SDK4::IControlPort& port, std::int32_t
     return Control(static_cast<IDynamicObject*>(create(model, &port, index)));
 }
 
-std::filesystem::path PluginBesideProgram() {
+std::string DefaultPlugin() {
+    const std::filesystem::path name = "libqdv12ctrl.so";
     std::error_code ignored; // without it the name alone remains, for the loader to find
-    return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "libqdv12ctrl.so";
+    const auto folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
+    const auto installed = folder.parent_path() / "lib" / "qdv12" / name;
+    return (std::filesystem::exists(installed, ignored) ? installed : folder / name).string();
 }
 
 } // namespace Host

@@ -1,22 +1,17 @@
 #pragma once
 
+#include "Control.h"
 #include "Errors.h"
 
-#include <SDK4/SDK4.h>
+#include <SDK4/IControlPort.h>
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Host {
-
-/// What CreateObject made, given back through Release.
-struct ReleaseControl {
-    void operator()(IDynamicObject* control) const { control->Release(); }
-};
-using Control = std::unique_ptr<IDynamicObject, ReleaseControl>;
 
 /// A model name and the key of the library that serves it, as InitLibrary registers them.
 struct Model {
@@ -24,14 +19,29 @@ struct Model {
     std::string key;
 };
 
+/// What loading a plug-in tells.
+struct PluginCheck {
+    std::string path;
+    std::string loader;                                ///< why the loader refused it, in the loader's words, else empty
+    std::string advice;                                ///< what to do about that, if it is known
+    std::vector<std::pair<std::string, bool>> exports; ///< by name, whether each is there; none if it was not loaded
+    std::vector<Model> models;
+
+    /// What is wrong with the plug-in, in a line; empty if it can be used.
+    [[nodiscard]] std::string Fault() const;
+};
+
+/// Loads a plug-in and finds out all there is to know.
+[[nodiscard]] PluginCheck CheckPlugin(const std::string& path);
+
 /// A loaded camera plug-in. It must outlive every control that it creates.
 class Plugin {
 public:
     /// Loads the plug-in and asks it for its models.
-    /// @throw OpenError with the path, the loader's words or the exports that are missing.
-    explicit Plugin(const std::filesystem::path& path);
+    /// @throw OpenError with what is wrong with it
+    explicit Plugin(const std::string& path);
 
-    [[nodiscard]] const std::vector<Model>& Models() const { return models; }
+    [[nodiscard]] const std::vector<Model>& Models() const { return check.models; }
 
     /// Opens a camera.
     /// @param model what the camera calls itself; the control keeps the pointer
@@ -42,6 +52,10 @@ public:
     [[nodiscard]] Control Create(const char* model, SDK4::IControlPort& port, std::int32_t index) const;
 
 private:
+    friend PluginCheck CheckPlugin(const std::string& path);
+    Plugin() = default;
+    void Load(const std::string& path);
+
     using InitLibrary = void(void* registry);
     using CreateObject = void*(const char* model, void* port, std::int32_t index);
 
@@ -51,10 +65,10 @@ private:
 
     std::unique_ptr<void, CloseLibrary> library;
     CreateObject* create = nullptr;
-    std::vector<Model> models;
+    PluginCheck check;
 };
 
-/// The plug-in that lies beside the running program.
-[[nodiscard]] std::filesystem::path PluginBesideProgram();
+/// The plug-in that belongs to the running program: that of the installed module folder, or of the build folder.
+[[nodiscard]] std::string DefaultPlugin();
 
 } // namespace Host

@@ -1,27 +1,50 @@
 #include "TracingPort.h"
 
+#include <chrono>
+
 namespace Host {
 
-void TracingPort::Reading(const char* operation, std::uint32_t address) {
-    accesses.push_back({operation, address, false, true, {}});
-}
+namespace {
 
-void TracingPort::Complete(const void* data, std::uint64_t length) {
-    Access& access = accesses.back();
-    access.failed = data == nullptr;
-    if (data != nullptr) {
-        const auto* const bytes = static_cast<const std::uint8_t*>(data);
-        access.data.assign(bytes, bytes + length);
+using Clock = std::chrono::steady_clock;
+
+} // namespace
+
+template <typename Call> void TracingPort::Make(Access access, const Call& call, const std::uint64_t& length) {
+    const auto start = Clock::now();
+    const auto end = [&](const void* data) {
+        access.microseconds = std::chrono::duration<double, std::micro>(Clock::now() - start).count();
+        access.failed = data == nullptr;
+        if (data != nullptr && !access.write) {
+            const auto* const bytes = static_cast<const std::uint8_t*>(data);
+            access.data.assign(bytes, bytes + length);
+        }
+        observer ? observer(access) : accesses.push_back(std::move(access));
+    };
+    const void* data = nullptr;
+    try {
+        data = call();
+    } catch (...) {
+        end(nullptr);
+        throw;
     }
+    end(data);
 }
 
+template <typename Call>
+void TracingPort::Read(const char* operation, std::uint32_t address, const std::uint64_t& length, const Call& read) {
+    Make({operation, address, false, true, {}, 0}, read, length);
+}
+
+template <typename Call>
 void TracingPort::Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length,
-                        const std::function<void()>& write) {
-    accesses.push_back({operation, address, true, true, {}});
-    Complete(data, length);
-    accesses.back().failed = true;
-    write();
-    accesses.back().failed = false;
+                        const Call& write) {
+    const auto* const bytes = static_cast<const std::uint8_t*>(data);
+    const auto call = [&] {
+        write();
+        return data;
+    };
+    Make({operation, address, true, true, {bytes, bytes + length}, 0}, call, length);
 }
 
 void TracingPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
@@ -29,9 +52,11 @@ void TracingPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
 }
 
 std::uint32_t TracingPort::ReadRegister(std::uint32_t address) {
-    Reading("ReadRegister", address);
-    const std::uint32_t value = port.ReadRegister(address);
-    Complete(&value, sizeof value);
+    std::uint32_t value = 0;
+    Read("ReadRegister", address, sizeof value, [&] {
+        value = port.ReadRegister(address);
+        return &value;
+    });
     return value;
 }
 
@@ -40,16 +65,17 @@ void TracingPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) 
 }
 
 std::uint64_t TracingPort::ReadRegisterPair(std::uint32_t address) {
-    Reading("ReadRegisterPair", address);
-    const std::uint64_t value = port.ReadRegisterPair(address);
-    Complete(&value, sizeof value);
+    std::uint64_t value = 0;
+    Read("ReadRegisterPair", address, sizeof value, [&] {
+        value = port.ReadRegisterPair(address);
+        return &value;
+    });
     return value;
 }
 
 unsigned char* TracingPort::ReadBlock(std::uint32_t address, std::uint32_t length) {
-    Reading("ReadBlock", address);
-    unsigned char* const block = port.ReadBlock(address, length);
-    Complete(block, length);
+    unsigned char* block = nullptr;
+    Read("ReadBlock", address, length, [&] { return block = port.ReadBlock(address, length); });
     return block;
 }
 
@@ -58,9 +84,8 @@ void TracingPort::WriteBlock(std::uint32_t address, const unsigned char* buffer,
 }
 
 char* TracingPort::ReadString(std::uint32_t address, std::uint32_t length) {
-    Reading("ReadString", address);
-    char* const text = port.ReadString(address, length);
-    Complete(text, length);
+    char* text = nullptr;
+    Read("ReadString", address, length, [&] { return text = port.ReadString(address, length); });
     return text;
 }
 
@@ -69,9 +94,10 @@ void TracingPort::WriteString(std::uint32_t address, const char* buffer, std::ui
 }
 
 void TracingPort::ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
-    Reading("ReadMem", address);
-    port.ReadMem(address, buffer, length);
-    Complete(buffer, *length);
+    Read("ReadMem", address, *length, [&] {
+        port.ReadMem(address, buffer, length);
+        return buffer;
+    });
 }
 
 void TracingPort::WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <utility>
 #include <vector>
 
@@ -17,14 +16,19 @@ struct Access {
     bool write;
     bool failed; ///< the port threw, or had no block to give
     std::vector<std::uint8_t> data;
+    double microseconds; ///< that the access took
 };
 
-/// A port that hands every access on to another one and remembers it.
+/// A port that hands every access on to another one, and then tells an observer of it or remembers it.
 class TracingPort final : public SDK4::IControlPort {
 public:
-    explicit TracingPort(SDK4::IControlPort& traced) : port(traced) {}
+    using Observer = void (*)(const Access&);
 
-    /// What was accessed since the last call.
+    explicit TracingPort(SDK4::IControlPort& traced, Observer told = nullptr)
+        : port(traced),
+          observer(std::move(told)) {}
+
+    /// Without an observer: what was accessed since the last call.
     [[nodiscard]] std::vector<Access> Take() { return std::exchange(accesses, {}); }
 
     /// How many accesses Take would give back.
@@ -43,14 +47,16 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    /// Enters a read as failed; Complete makes it good.
-    void Reading(const char* operation, std::uint32_t address);
-    void Complete(const void* data, std::uint64_t length);
-    /// Enters a write, and it as failed if the port throws.
-    void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length,
-               const std::function<void()>& write);
+    /// Makes an access, which is told also if the port throws. What the call returns, null for nothing, is the data;
+    /// how long it is is known behind the call.
+    template <typename Call> void Make(Access access, const Call& call, const std::uint64_t& length);
+    template <typename Call>
+    void Read(const char* operation, std::uint32_t address, const std::uint64_t& length, const Call& read);
+    template <typename Call>
+    void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length, const Call& write);
 
     SDK4::IControlPort& port;
+    Observer observer;
     std::vector<Access> accesses;
 };
 

@@ -4,7 +4,7 @@
 
 #include <SDK4/Enums.h>
 
-/// The names of numbers, as they are read and printed.
+/// The names of numbers and fields, as they are read and printed.
 namespace Host::Named {
 
 // clang-format off
@@ -36,6 +36,8 @@ inline constexpr Code colorCodings[] = {
     {SDK4_COLORCODING_RAW12,        "raw12"},
     {SDK4_COLORCODING_RAW14,        "raw14"},
 };
+
+inline constexpr Field centredPosition[] = {{"posx", true}, {"posy", true}};
 // clang-format on
 
 } // namespace Host::Named

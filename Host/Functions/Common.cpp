@@ -7,6 +7,7 @@
 namespace Host {
 
 using namespace SDK4::Control;
+using enum Restore;
 
 namespace {
 
@@ -20,47 +21,92 @@ SDK4::IVideoFrame& Frame(IDSMediaType& stream) {
 unsigned int PixelFormat(IDSMediaType& stream) { return Frame(stream).GetFormat(); }
 unsigned int TimePerFrame(IDSMediaType& stream) { return Frame(stream).GetTimePerFrame(); }
 
+constexpr unsigned int dhcpBit = 2;
 SDK4_ENUM_SWITCH GetDHCP(IGigECamera& camera) {
-    return (camera.GetCurrentIPConfig() & 2U) != 0 ? SDK4_SWITCH_ON : SDK4_SWITCH_OFF;
+    return (camera.GetCurrentIPConfig() & dhcpBit) != 0 ? SDK4_SWITCH_ON : SDK4_SWITCH_OFF;
 }
 void SetDHCP(IGigECamera& camera, SDK4_ENUM_SWITCH on) {
     on == SDK4_SWITCH_OFF ? camera.DisableDHCP() : camera.EnableDHCP();
 }
+
+int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the one sensor of either family
 
 } // namespace
 
 // clang-format off
 
 void AddIdentity(FunctionTable& table) {
-    table.ReadOnly<&IGufi::GetDeviceName>           ("devicename");
-    table.ReadOnly<&IGufi::GetSerialNumber>         ("serialnumber");
-    table.ReadOnly<&IGufi::GetFunctionModelID>      ("functionmodelid").Hexadecimal();
-    table.ReadOnly<&IGufi::GetFunctionModelVersion> ("functionmodelversion");
-    table.ReadOnly<&IGufi::GetRevision>             ("revision");
-    table.ReadOnly<&IGufi::GetSoftwareBuild>        ("softwarebuild");
-    table.ReadOnly<&IGufi::GetSoftwareVersion>      ("softwareversion");
-    table.ReadOnly<&IGufi::GetFirmwareVersion>      ("firmwareversion");
-    table.ReadOnly<&IGufi::GetHardwareVersion>      ("hardwareversion");
+    using I = IGufi;
+    table.Topic(Topic::identity);
+    table.ReadOnly<&I::GetDeviceName>           ("devicename");
+    table.ReadOnly<&I::GetSerialNumber>         ("serialnumber");
+    table.ReadOnly<&I::GetFunctionModelID>      ("functionmodelid").Hexadecimal();
+    table.ReadOnly<&I::GetFunctionModelVersion> ("functionmodelversion");
+    table.ReadOnly<&I::GetRevision>             ("revision");
+    table.ReadOnly<&I::GetSoftwareBuild>        ("softwarebuild");
+    table.ReadOnly<&I::GetSoftwareVersion>      ("softwareversion");
+    table.ReadOnly<&I::GetFirmwareVersion>      ("firmwareversion");
+    table.ReadOnly<&I::GetHardwareVersion>      ("hardwareversion");
 }
 
 void AddNetwork(FunctionTable& table) {
     using I = IGigECamera;
-    table.ReadOnly<&I::GetMacAddress>                           ("macaddress");
-    table.ReadOnly<&I::GetCurrentIPAddress>                     ("ipaddress");
-    table.ReadOnly<&I::GetCurrentSubnetmask>                    ("subnetmask");
-    table.ReadOnly<&I::GetCurrentDefaultGateway>                ("gateway");
-    table.ReadOnly<&I::GetGigEVersion>                          ("gigeversion")  .Hexadecimal();
-    table.Row<&I::GetUserDefinedName, &I::SetUserDefinedName>   ("username")     .Restored(Restore::Network);
-    table.Row<&GetDHCP, &SetDHCP>                               ("dhcp")         .OneOf(Named::onOff).Restored(Restore::Network);
-    table.Row<&I::GetPacketSize, &I::SetPacketSize>             ("packetsize")   .Unit("bytes").Range(1404, 65532).Rounds().Restored(Restore::Network);
-    table.Row<&I::GetPacketDelay, &I::SetPacketDelay>           ("packetdelay")  .Unit("ticks").Restored(Restore::Network);
+    table.Topic(Topic::network);
+    table.ReadOnly<&I::GetMacAddress>                         ("macaddress");
+    table.ReadOnly<&I::GetCurrentIPAddress>                   ("ipaddress");
+    table.ReadOnly<&I::GetCurrentSubnetmask>                  ("subnetmask");
+    table.ReadOnly<&I::GetCurrentDefaultGateway>              ("gateway");
+    table.ReadOnly<&I::GetCurrentIPConfig>                    ("ipconfig")    .Hexadecimal();
+    table.ReadOnly<&I::GetGigEVersion>                        ("gigeversion") .Hexadecimal();
+    table.ReadOnly<&I::GetFirstUrl>                           ("firsturl");
+    table.ReadOnly<&I::GetSecondUrl>                          ("secondurl");
+    table.Row<&I::GetUserDefinedName, &I::SetUserDefinedName> ("username")                                          .Restored(Network);
+    table.Row<&GetDHCP, &SetDHCP>                             ("dhcp")        .OneOf(Named::onOff)                  .Restored(Network);
+    table.Row<&I::GetPacketSize, &I::SetPacketSize>           ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds().Restored(Network);
+    table.Row<&I::GetPacketDelay, &I::SetPacketDelay>         ("packetdelay") .Unit("ticks")                        .Restored(Network);
 }
 
-/// What the camera delivers, once coding and readout area are chosen.
 void AddFrames(FunctionTable& table) {
-    table.ReadOnly<&ISignalFormat::GetImageSize>                ("imagesize")    .Unit("px");
-    table.ReadOnly<&PixelFormat>                                ("pixelformat")  .Hexadecimal();
-    table.ReadOnly<&TimePerFrame>                               ("timeperframe") .Unit("ns");
+    table.Topic(Topic::image);
+    table.ReadOnly<&ISignalFormat::GetImageSize> ("imagesize")    .Unit("px");
+    table.ReadOnly<&PixelFormat>                 ("pixelformat")  .Hexadecimal();
+    table.ReadOnly<&TimePerFrame>                ("timeperframe") .Unit("ns");
+}
+
+void AddProcessing(FunctionTable& table) {
+    using I = ILookUpTable;
+    using E = IDigitalEnhancement;
+    table.Topic(Topic::processing);
+    table.Row<&E::GetSharpness, &E::SetSharpness>                             ("sharpness")     .Range(0, 255)      .Restored(Setting);
+    table.Row<&I::GetLUTMode, &I::SetLUTMode>                                 ("lutmode")       .OneOf(0, 1)        .Restored(Setting);
+    table.Row<&I::GetNegativeImage, &I::SetNegativeImage>                     ("negativeimage") .OneOf(Named::onOff).Restored(Setting);
+}
+
+void AddMemory(FunctionTable& table) {
+    using I = IMemory;
+    table.Topic(Topic::memory);
+    table.Row<&I::GetVerticalFlip, &I::SetVerticalFlip>               (Name::verticalFlip)    .OneOf(Named::onOff)          .Restored(Setting);
+    table.Row<&I::GetHorizontalFlip, &I::SetHorizontalFlip>           ("horizontalflip")      .OneOf(Named::onOff)          .Restored(Setting);
+    table.Row<&I::GetLastImageHold, &I::SetLastImageHold>             ("lastimagehold")       .OneOf(Named::onOff)          .Restored(Setting);
+    table.Row<&I::GetImageSubtraction, &I::SetImageSubtraction>       ("imagesubtraction")    .OneOf(Named::onOff)          .Restored(Setting);
+    table.Row<&I::GetRecursiveFilter, &I::SetRecursiveFilter>         (Name::recursiveFilter) .OneOf(0, 4).Named(Named::off).Restored(Setting);
+    table.Row<&I::GetAutoMotionDetection, &I::SetAutoMotionDetection> ("automotiondetection") .OneOf(Named::onOff).Needs(Name::recursiveFilter, {1, 2, 3, 4}).Restored(Setting);
+    table.WriteOnly<&I::StoreImage>                                   ("storeimage")          .OneOf(Named::onOff).PresentWith(Name::verticalFlip).PublishedAs("imagestore");
+}
+
+void AddSettingsSets(FunctionTable& table) {
+    using I = IBasicSettings;
+    table.Topic(Topic::settings);
+    table.Row<&I::GetStartupSettings, &I::SetStartupSettings> ("startupsettings") .OneOf(0, 2);
+    table.WriteOnly<&I::LoadSettings>                         ("loadsettings")    .OneOf(0, 2);
+    table.WriteOnly<&I::SaveSettings>                         ("savesettings")    .OneOf(1, 2); // set 0 is the factory's
+    table.ReadOnly<&I::GetOperationMode>                      ("operationmode");
+    table.ReadOnly<&I::GetErrorRegisterStatus>                ("errorregister")   .Hexadecimal();
+}
+
+void AddTests(FunctionTable& table) {
+    table.Topic(Topic::tests);
+    table.ReadOnly<&BoardTemperature>                         ("temperature")     .Unit("degC");
 }
 
 // clang-format on

@@ -27,6 +27,7 @@ Function& FunctionTable::Add(std::string_view name, const FunctionKind& kind, Fu
                              Function::Setter set) {
     Function& function = functions.emplace_back();
     function.name = name;
+    function.topic = topic;
     function.interfaceName = NameOf(kind.interface);
     function.shape = kind.shape;
     function.get = get;

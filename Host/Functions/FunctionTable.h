@@ -8,6 +8,15 @@
 
 namespace Host {
 
+/// @throw X4Error if the control does not have the interface
+template <typename Interface> Interface& InterfaceOf(IDynamicObject& control) {
+    auto* const found = dynamic_cast<Interface*>(&control);
+    if (found == nullptr) {
+        throw SDK4::X4Error(SDK4_ERR_INVALID_INTERFACE);
+    }
+    return *found;
+}
+
 /// Makes the rows of the table out of the getters and setters of the interfaces:
 ///
 ///     table.Row<&IGain::GetGain, &IGain::SetGain>(Name::gain).Range(0, 511).MovedBy(Name::agc);
@@ -17,6 +26,9 @@ namespace Host {
 class FunctionTable {
 public:
     explicit FunctionTable(Functions& rows) : functions(rows) {}
+
+    /// What the next rows belong to.
+    void Topic(std::string_view name) { topic = name; }
 
     template <auto Get, auto Set> Function& Row(std::string_view name) {
         return Add(name, Operation<Get>::Kind(), &CallGetter<Get>, &CallSetter<Set>);
@@ -72,14 +84,6 @@ private:
     static Parts<!std::is_void_v<R>, I, R, A...> PartsOf(R (*)(I&, A...));
     template <auto Called> using Operation = decltype(PartsOf(Called));
 
-    template <typename Interface> static Interface& Of(IDynamicObject& control) {
-        auto* const found = dynamic_cast<Interface*>(&control);
-        if (found == nullptr) {
-            throw SDK4::X4Error(SDK4_ERR_INVALID_INTERFACE);
-        }
-        return *found;
-    }
-
     template <auto Called, typename Interface, typename... Arguments>
     static auto Call(Interface& interface, Arguments... arguments) {
         if constexpr (std::is_member_function_pointer_v<decltype(Called)>) {
@@ -99,7 +103,7 @@ private:
 
     template <auto Get> static Value CallGetter(IDynamicObject& control, [[maybe_unused]] std::uint32_t index) {
         using Parts = Operation<Get>;
-        auto& interface = Of<typename Parts::Interface>(control);
+        auto& interface = InterfaceOf<typename Parts::Interface>(control);
         Plain<typename Parts::Type> value{};
         if constexpr (Parts::indexed) {
             value = Call<Get>(interface, IndexAs<typename Parts::Index>(index));
@@ -117,7 +121,7 @@ private:
     static void CallSetter(IDynamicObject& control, [[maybe_unused]] std::uint32_t index,
                            [[maybe_unused]] const Value& value) {
         using Parts = Operation<Set>;
-        auto& interface = Of<typename Parts::Interface>(control);
+        auto& interface = InterfaceOf<typename Parts::Interface>(control);
         if constexpr (Parts::trigger) {
             Call<Set>(interface);
         } else {
@@ -137,6 +141,7 @@ private:
     }
 
     Functions& functions;
+    std::string_view topic;
 };
 
 } // namespace Host

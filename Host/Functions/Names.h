@@ -19,6 +19,7 @@ inline constexpr std::string_view exposure              = "exposure";
 inline constexpr std::string_view exposureMode          = "exposuremode";
 inline constexpr std::string_view gain                  = "gain";
 inline constexpr std::string_view histogramEqualization = "histogramequalization";
+inline constexpr std::string_view lutIndex              = "lutindex";
 inline constexpr std::string_view measureFrameShow      = "measureframeshow";
 inline constexpr std::string_view measureWindow         = "measurewindow";
 inline constexpr std::string_view overlayPosition       = "overlayposition";
@@ -31,3 +32,21 @@ inline constexpr std::string_view verticalFlip          = "verticalflip";
 // clang-format on
 
 } // namespace Host::Name
+
+/// What functions belong to.
+namespace Host::Topic {
+
+inline constexpr std::string_view identity = "identity";
+inline constexpr std::string_view network = "network";
+inline constexpr std::string_view image = "image";
+inline constexpr std::string_view exposure = "exposure";
+inline constexpr std::string_view processing = "processing";
+inline constexpr std::string_view color = "color";
+inline constexpr std::string_view overlay = "overlay";
+inline constexpr std::string_view memory = "memory";
+inline constexpr std::string_view settings = "settings";
+inline constexpr std::string_view tests = "tests";
+inline constexpr std::string_view outputs = "outputs";
+inline constexpr std::string_view correction = "correction";
+
+} // namespace Host::Topic

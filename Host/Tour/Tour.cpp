@@ -1,6 +1,9 @@
 #include "Tour.h"
 
+#include "../Session.h"
 #include "Topics.h"
+
+#include <SimulatedCamera.h>
 
 #include <algorithm>
 #include <exception>
@@ -24,7 +27,21 @@ std::span<const Topic> TopicsOf(std::string_view classId) {
     return classId == "M2VX" ? M2VXTopics() : std::span<const Topic>();
 }
 
+std::string Describe(const Access& access, Session& session) {
+    const auto* const entry = session.Camera().Registers().At(access.address);
+    return Pad(access.operation, 17) + "  " + Hex(access.address) + "  " +
+           Pad(entry == nullptr ? "" : entry->name, 25) + (access.write ? "<- " : "-> ") + FormatBytes(access.data) +
+           (access.failed ? " (failed)" : "");
+}
+
 } // namespace
+
+Tour::Tour(Session& opened, std::ostream& stream)
+    : session(opened),
+      control(opened.As<IDynamicObject>()),
+      out(stream) {}
+
+void Tour::Tell(const std::string& text) { remarks.emplace_back(session.Port().Count(), text); }
 
 bool Tour::Run() {
     const std::string classId = Get<SDK4::IControl>().GetClassID();
@@ -96,14 +113,14 @@ void Tour::PrintOpening(const std::string& what) {
     out << ".\n";
 }
 
-void Tour::RunStep(std::int32_t expected, const char* text, const std::function<std::string()>& call) {
+void Tour::Expect(std::int32_t expected, const Step& step) {
     ++steps;
     std::int32_t code = 0;
     std::string result;
     bool foreign = false;
     out.flush(); // keeps its place among the log lines on standard error
     try {
-        result = call();
+        result = step.run(step.call);
     } catch (const SDK4::X4Error& error) {
         ++refusals;
         code = error.code;
@@ -112,7 +129,7 @@ void Tour::RunStep(std::int32_t expected, const char* text, const std::function<
         foreign = true;
         result = "! " + std::string(error.what());
     }
-    out << "  " << Pad(text, callWidth) << "  " << result;
+    out << "  " << Pad(step.text, callWidth) << "  " << result;
     if (foreign || code != expected) {
         ++unexpected;
         out << "   <-- unexpected, should be " << (expected == 0 ? "accepted" : SDK4::ErrorName(expected));
@@ -135,17 +152,10 @@ void Tour::PrintAccesses() {
     };
     for (std::size_t i = 0; i < taken.size(); ++i) {
         printRemarks(i);
-        PrintAccess(taken[i]);
+        out << "      " << Describe(taken[i], session) << '\n';
     }
     printRemarks(taken.size());
     remarks.clear();
-}
-
-void Tour::PrintAccess(const Access& access) {
-    const auto* const entry = session.Camera().Registers().At(access.address);
-    out << "      " << Pad(access.operation, 17) << "  " << Hex(access.address) << "  "
-        << Pad(entry == nullptr ? "" : entry->name, 25) << (access.write ? "<- " : "-> ") << FormatBytes(access.data)
-        << (access.failed ? " (failed)" : "") << '\n';
 }
 
 } // namespace Host

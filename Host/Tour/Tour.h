@@ -1,10 +1,9 @@
 #pragma once
 
+#include "../Control.h"
 #include "../Format.h"
-#include "../Session.h"
 
 #include <cstdint>
-#include <functional>
 #include <iosfwd>
 #include <string>
 #include <type_traits>
@@ -13,17 +12,32 @@
 
 namespace Host {
 
-/// One call of the tour: how a host would write it, and the call itself.
-template <typename Call> struct Step {
+/// One call of the tour: how a host would write it, and the call itself. Steps are many: no more than the call and one
+/// small function is made for each.
+struct Step {
     const char* text;
-    Call call;
+    const void* call;
+    std::string (*run)(const void* call); ///< makes the call and tells its result
 };
-template <typename Call> Step(const char*, Call) -> Step<Call>;
 
-/// Makes both parts of a step from one expression, so that what is printed is what is called.
+template <typename Call> std::string RunCall(const void* call) {
+    const Call& made = *static_cast<const Call*>(call);
+    if constexpr (std::is_void_v<decltype(made())>) {
+        made();
+        return "ok";
+    } else {
+        return "= " + Format(made());
+    }
+}
+template <typename Call> Step MakeStep(const char* text, const Call& call) { return {text, &call, &RunCall<Call>}; }
+
+/// Makes both parts of a step from one expression, so that what is printed is what is called. A step is good within the
+/// expression that it stands in.
 // clang-format off
-#define STEP(...) ::Host::Step { #__VA_ARGS__, [&] { return __VA_ARGS__; } }
+#define STEP(...) ::Host::MakeStep(#__VA_ARGS__, [&] { return __VA_ARGS__; })
 // clang-format on
+
+class Session;
 
 /// A walk through the interfaces of an opened camera. Each step prints the call, its result or the name of the error,
 /// and under it the port accesses that it cost. A step that does not end as it should is marked and counted.
@@ -31,7 +45,7 @@ class Tour {
 public:
     struct MissingInterface {};
 
-    Tour(Session& opened, std::ostream& stream) : session(opened), out(stream) {}
+    Tour(Session& opened, std::ostream& stream);
 
     /// Walks the topics of the camera's family, then prints a summary.
     /// @return whether every step ended as it should
@@ -45,7 +59,7 @@ public:
     }
 
     /// Another interface, needed within a section.
-    template <typename Interface> Interface& Get() { return Existing(session.As<Interface>()); }
+    template <typename Interface> Interface& Get() { return Existing(dynamic_cast<Interface*>(control)); }
 
     /// Opens the camera once more and tells what that cost.
     [[nodiscard]] Control OpenAgain(std::int32_t index);
@@ -64,18 +78,16 @@ public:
     void Line(const std::string& text);
 
     /// Tells of what happens in the middle of a call, in its place among the call's port accesses.
-    void Tell(const std::string& text) { remarks.emplace_back(session.Port().Count(), text); }
+    void Tell(const std::string& text);
 
     /// A call that ends well.
-    template <typename Call> void Do(const Step<Call>& step) { Expect(0, step); }
+    void Do(const Step& step) { Expect(0, step); }
 
     /// A call that is refused with that error.
-    template <typename Call> void Refused(SDK4_ERR code, const Step<Call>& step) { Expect(code, step); }
+    void Refused(SDK4_ERR code, const Step& step) { Expect(code, step); }
 
     /// A call that ends well on some cameras and is refused on the others.
-    template <typename Call> void DoIf(bool admitted, SDK4_ERR otherwise, const Step<Call>& step) {
-        Expect(admitted ? 0 : otherwise, step);
-    }
+    void DoIf(bool admitted, SDK4_ERR otherwise, const Step& step) { Expect(admitted ? 0 : otherwise, step); }
 
     // What the camera is, known once its function-model identifier was read.
     bool color = false;
@@ -89,24 +101,13 @@ private:
         return *found;
     }
 
-    template <typename Call> void Expect(std::int32_t expected, const Step<Call>& step) {
-        RunStep(expected, step.text, [&]() -> std::string {
-            if constexpr (std::is_void_v<decltype(step.call())>) {
-                step.call();
-                return "ok";
-            } else {
-                return "= " + Format(step.call());
-            }
-        });
-    }
-
-    void RunStep(std::int32_t expected, const char* text, const std::function<std::string()>& call);
+    void Expect(std::int32_t expected, const Step& step);
     void PrintOpening(const std::string& what);
     void PrintAccesses();
-    void PrintAccess(const Access& access);
     void RunTopic(void (*topic)(Tour&));
 
     Session& session;
+    IDynamicObject* control;
     std::ostream& out;
     std::vector<std::pair<std::size_t, std::string>> remarks; ///< of this call, behind how many of its accesses
     unsigned steps = 0;

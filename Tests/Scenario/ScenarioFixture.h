@@ -2,6 +2,7 @@
 
 #include <Logging.h>
 #include <Session.h>
+#include <SimulatedCamera.h>
 
 #include <SDK4/SDK4.h>
 

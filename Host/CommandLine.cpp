@@ -1,0 +1,115 @@
+#include "CommandLine.h"
+
+#include "Trace.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace Host {
+
+namespace {
+
+/// What CLI11 filled in for the parameters of a command.
+struct Filled {
+    CLI::App* app;
+    const Command* command;
+    std::vector<std::pair<std::string, CLI::Option*>> options; ///< by the parameter's name
+};
+
+CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter) {
+    std::string name = parameter.name;
+    if (name.starts_with("--")) {
+        const std::size_t blank = name.find(' ');
+        return blank == std::string::npos
+                   ? app.add_flag(name, parameter.about)
+                   : app.add_option(name.substr(0, blank), parameter.about)->type_name(name.substr(blank + 1));
+    }
+    const bool optional = name.starts_with('[');
+    const bool several = name.find("...") != std::string::npos;
+    std::erase_if(name,
+                  [](char character) { return std::string_view("[].").find(character) != std::string_view::npos; });
+    CLI::Option* const option = app.add_option(name, parameter.about)->type_name("")->required(!optional);
+    return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
+}
+
+Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
+    Filled filled{app.add_subcommand(command.name, command.about), &command, {}};
+    for (const Parameter& parameter : command.parameters) {
+        if (!inShell || parameter.name != std::string_view(modelParameter)) {
+            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter));
+        }
+    }
+    return filled;
+}
+
+void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
+    app.add_option("--plugin", options.plugin, "The plug-in to load (default: the installed one, else the built one)")
+        ->type_name("PATH");
+    app.add_option("--index", options.camera.index,
+                   "Camera index; with 2, the default, every value is read from the camera each time")
+        ->type_name("N");
+    app.add_flag("--trace", trace, "Show each port access on standard error");
+    app.add_option("--log", options.logLevel, "What log4cxx writes to standard error")
+        ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
+        ->type_name("LEVEL");
+    app.add_option("--config", options.logConfig, "A configuration file for log4cxx")->type_name("FILE");
+    app.add_option("--seed", options.camera.seed, "Chooses the world around the simulated camera")->type_name("N");
+    app.add_option("--state", options.camera.state, "Keeps the simulated camera in a file between two runs")
+        ->type_name("FILE");
+    app.add_option("--fault", options.camera.faults, "Plants a fault in the simulated camera, such as ignore:gain")
+        ->type_name("TEXT")
+        ->expected(1)
+        ->take_all();
+}
+
+Request Parse(std::vector<std::string> arguments, bool inShell) {
+    CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, on simulated cameras.",
+                 inShell ? "" : "qdv12host");
+    app.require_subcommand(1);
+    app.fallthrough(); // common options may stand behind the command
+    Request request;
+    bool trace = false;
+    app.add_flag("--json", request.options.json, "Print results as JSON");
+    if (!inShell) {
+        app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
+        AddCommonOptions(app, request.options, trace);
+        app.footer("Exit codes: 0 all well; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
+    }
+    std::vector<Filled> commands;
+    for (const Command& command : Commands()) {
+        commands.push_back(AddCommand(app, command, inShell));
+    }
+    try {
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        app.parse(std::move(arguments));
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() != 0) {
+            throw UsageError(error.what() + std::string(inShell ? "" : " (qdv12host --help says more)"));
+        }
+        app.exit(error);
+        return request;
+    }
+    if (trace) {
+        request.options.camera.accesses = PrintAccess;
+    }
+    for (const Filled& filled : commands) {
+        if (filled.app->parsed()) {
+            request.command = filled.command;
+            for (const auto& [name, option] : filled.options) {
+                if (option->count() != 0) {
+                    request.given[name] = option->results();
+                }
+            }
+        }
+    }
+    return request;
+}
+
+} // namespace
+
+Request ParseCommandLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), false); }
+
+Request ParseShellLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), true); }
+
+} // namespace Host

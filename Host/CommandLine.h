@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Command.h"
+
+#include <string>
+#include <vector>
+
+namespace Host {
+
+/// A command line that was understood.
+struct Request {
+    const Command* command = nullptr; ///< null when only help was asked for, which is printed then
+    Invocation::Given given;
+    Options options;
+};
+
+/// Reads the arguments of the program, and prints its help if they ask for it.
+/// @throw UsageError for what is wrong with them
+[[nodiscard]] Request ParseCommandLine(std::vector<std::string> arguments);
+
+/// Reads a line of a shell: a command without MODEL, and of the common options --json alone.
+/// @throw UsageError as above
+[[nodiscard]] Request ParseShellLine(std::vector<std::string> arguments);
+
+} // namespace Host

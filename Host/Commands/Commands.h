@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Command.h"
+
+namespace Host {
+
+// What each command does; Commands.cpp says what it is called and takes.
+int Check(const Invocation& invocation);
+int Models(const Invocation& invocation);
+int Info(const Invocation& invocation);
+int List(const Invocation& invocation);
+int Get(const Invocation& invocation);
+int Set(const Invocation& invocation);
+int RunTour(const Invocation& invocation);
+
+} // namespace Host

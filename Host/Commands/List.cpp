@@ -1,0 +1,144 @@
+#include "Commands.h"
+
+#include "Describe.h"
+#include "Format.h"
+#include "Style.h"
+
+#include <iostream>
+
+namespace Host {
+
+namespace {
+
+struct Row {
+    std::string name;
+    std::string value;
+    std::string standard;
+    std::string limits;
+    std::string state;
+};
+
+/// The defaults of all fields, where the family publishes them.
+std::optional<Value> DefaultOf(const Limits& limits) {
+    Value value;
+    for (const FieldLimits& field : limits) {
+        if (!field.standard) {
+            return std::nullopt;
+        }
+        value.numbers.push_back(*field.standard);
+    }
+    return limits.empty() ? std::nullopt : std::optional(value);
+}
+
+/// Whether a row stands for many instances, of which the first alone was read.
+bool StandsForMany(const Instance& instance, bool all) { return !all && instance->count > fewInstances; }
+
+bool HasValue(const Instance& instance, const Reading& reading) {
+    return reading.error == 0 && instance->get != nullptr;
+}
+
+Row Describe(const Camera& camera, const Instance& instance, bool all) {
+    const Reading reading = camera.Look(instance);
+    const bool many = StandsForMany(instance, all);
+    Row row;
+    row.name = instance.Name() + (many ? ".." + std::to_string(instance->count - 1) : "");
+    row.value = !HasValue(instance, reading) ? "-"
+                : many                       ? std::to_string(instance->count) + " values"
+                                             : PrintWithUnit(instance, reading.value);
+    row.state = DescribeState(instance, reading);
+    const Limits limits = reading.error == 0 ? camera.LimitsOf(instance) : Limits();
+    const auto standard = DefaultOf(limits);
+    row.standard = standard ? instance.Print(*standard) : "";
+    row.limits = instance->set != nullptr ? DescribeLimits(instance, limits) : "";
+    return row;
+}
+
+/// What is too long for its column pushes the next ones aside, no further than it must.
+void Print(const Row& row) {
+    std::string line = row.name;
+    const auto add = [&](std::size_t column, const std::string& cell) {
+        if (!cell.empty()) {
+            line = Pad(line + "  ", column) + cell;
+        }
+    };
+    add(26, row.value);
+    add(50, row.standard);
+    add(66, row.limits);
+    add(92, row.state);
+    const bool missing = row.state.find('(') != std::string::npos;
+    std::cout << (missing ? Dim(line) : row.state.starts_with("locked") ? Yellow(line) : line) << '\n';
+}
+
+void PrintTable(const Camera& camera, bool all) {
+    Print({"NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"});
+    for (const Instance& instance : camera.All(all)) {
+        Print(Describe(camera, instance, all));
+    }
+}
+
+Json LimitsToJson(const Instance& instance, const Limits& limits) {
+    Json fields(Json::List{});
+    for (std::size_t i = 0; i < limits.size(); ++i) {
+        Json field;
+        if (instance->shape.fields.size() > 1) {
+            field.Add("field", instance->shape.fields[i].name);
+        }
+        field.Add("min", limits[i].min);
+        field.Add("max", limits[i].max);
+        if (!limits[i].admitted.empty()) {
+            Json admitted;
+            for (const std::int64_t number : limits[i].admitted) {
+                admitted.Add(number);
+            }
+            field.Add("admitted", admitted);
+        }
+        fields.Add(field);
+    }
+    return fields;
+}
+
+Json Document(const Camera& camera, const Instance& instance, bool all) {
+    const Reading reading = camera.Look(instance);
+    const Limits limits = reading.error == 0 ? camera.LimitsOf(instance) : Limits();
+    const auto standard = DefaultOf(limits);
+    const bool many = StandsForMany(instance, all);
+    Json codes(Json::Object{});
+    for (const Code& code : instance->codes) {
+        codes.Add(code.name, code.value);
+    }
+    Json document{{"name", many ? std::string(instance->name) : instance.Name()},
+                  {"interface", instance->interfaceName},
+                  {"topic", instance->topic},
+                  {"value", HasValue(instance, reading) && !many ? ToJson(instance, reading.value) : Json()},
+                  {"unit", instance->unit},
+                  {"default", standard ? ToJson(instance, *standard) : Json()},
+                  {"limits", LimitsToJson(instance, limits)},
+                  {"codes", codes},
+                  {"readable", instance->get != nullptr},
+                  {"writable", instance->set != nullptr},
+                  {"lockedBy", reading.lockedBy.empty() ? Json() : Json(reading.lockedBy)},
+                  {"error", reading.error == 0 ? Json() : Json(reading.errorText)}};
+    if (many) {
+        document.Add("count", instance->count);
+    }
+    return document;
+}
+
+} // namespace
+
+int List(const Invocation& invocation) {
+    const Camera camera = invocation.OpenCamera();
+    const bool all = invocation.Has("--all");
+    if (!invocation.Program().Json()) {
+        PrintTable(camera, all);
+        return AllWell;
+    }
+    Json document(Json::List{});
+    for (const Instance& instance : camera.All(all)) {
+        document.Add(Document(camera, instance, all));
+    }
+    std::cout << document.Print() << '\n';
+    return AllWell;
+}
+
+} // namespace Host

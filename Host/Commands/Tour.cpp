@@ -1,0 +1,17 @@
+#include "Tour/Tour.h"
+
+#include "Commands.h"
+
+#include <iostream>
+
+namespace Host {
+
+int RunTour(const Invocation& invocation) {
+    CameraOptions options = invocation.Program().Options().camera;
+    options.index = 0;          // the tour shows what the caches save
+    options.accesses = nullptr; // and every access
+    Session session(invocation.Program().LoadedPlugin(), invocation.Text(modelParameter), options);
+    return Tour(session, std::cout).Run() ? AllWell : Refused;
+}
+
+} // namespace Host

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <SDK4/IDynamicObject.h>
+
+#include <memory>
+
+namespace Host {
+
+/// What CreateObject made, given back through Release.
+struct ReleaseControl {
+    void operator()(IDynamicObject* control) const { control->Release(); }
+};
+using Control = std::unique_ptr<IDynamicObject, ReleaseControl>;
+
+} // namespace Host

@@ -1,0 +1,116 @@
+#include "Describe.h"
+
+#include <algorithm>
+
+namespace Host {
+
+namespace {
+
+Json ToJson(const Instance& instance, std::int64_t number) {
+    for (const Code& code : instance->codes) {
+        if (code.value == number) {
+            return code.name;
+        }
+    }
+    return number;
+}
+
+bool IsRecord(const Instance& instance) { return instance->shape.fields.size() > 1; }
+
+std::string Range(const Instance& instance, const FieldLimits& field) {
+    const auto print = [&](std::int64_t number) { return Print(number, instance->shape, instance->codes); };
+    const auto& admitted = field.admitted;
+    const bool plain = std::all_of(admitted.begin(), admitted.end(),
+                                   [&](std::int64_t number) { return print(number) == std::to_string(number); });
+    const bool gapless = field.max - field.min + 1 == static_cast<std::int64_t>(admitted.size());
+    if (admitted.empty() || (plain && gapless && admitted.size() > 2)) {
+        return print(field.min) + ".." + print(field.max);
+    }
+    std::string text;
+    for (const std::int64_t number : admitted) {
+        text += (text.empty() ? "" : "|") + print(number);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string PrintWithUnit(const Instance& instance, const Value& value) {
+    return instance.Print(value) + (instance->unit.empty() ? "" : " " + std::string(instance->unit));
+}
+
+Json ToJson(const Instance& instance, const Value& value) {
+    if (instance->shape.fields.empty()) {
+        return value.text;
+    }
+    if (!IsRecord(instance)) {
+        return ToJson(instance, value.numbers.at(0));
+    }
+    Json record;
+    for (std::size_t i = 0; i < value.numbers.size(); ++i) {
+        record.Add(instance->shape.fields[i].name, ToJson(instance, value.numbers[i]));
+    }
+    return record;
+}
+
+std::optional<Value> FromJson(const Instance& instance, const Json& json) {
+    const auto textOf = [](const Json& element) -> std::optional<std::string> {
+        if (const auto* const number = element.Number()) {
+            return std::to_string(*number);
+        }
+        return element.Text() == nullptr ? std::nullopt : std::optional(*element.Text());
+    };
+    if (!IsRecord(instance)) {
+        const auto text = textOf(json);
+        return text ? instance.Parse(*text) : std::nullopt;
+    }
+    std::string all;
+    for (const Field& field : instance->shape.fields) {
+        const auto text = textOf(json[field.name]);
+        if (!text) {
+            return std::nullopt;
+        }
+        all += (all.empty() ? "" : ",") + *text;
+    }
+    return instance.Parse(all);
+}
+
+std::string DescribeLimits(const Instance& instance, const Limits& limits) {
+    std::vector<std::string> ranges;
+    for (const FieldLimits& field : limits) {
+        ranges.push_back(Range(instance, field));
+    }
+    if (std::adjacent_find(ranges.begin(), ranges.end(), std::not_equal_to<>()) == ranges.end()) {
+        ranges.resize(std::min<std::size_t>(ranges.size(), 1));
+    }
+    std::string text;
+    for (const std::string& range : ranges) {
+        text += (text.empty() ? "" : ",") + range;
+    }
+    return text;
+}
+
+std::string DescribeState(const Instance& instance, const Reading& reading) {
+    if (reading.error != 0) {
+        const bool missing = reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE;
+        const char* const what = missing                              ? "not implemented"
+                                 : reading.error == SDK4_ERR_DISABLED ? "not available"
+                                                                      : "not readable";
+        return what + std::string(" (") + reading.errorText + ")";
+    }
+    if (!reading.lockedBy.empty()) {
+        return "locked by " + reading.lockedBy;
+    }
+    return instance->set == nullptr ? "read-only" : instance->get == nullptr ? "write-only" : "";
+}
+
+std::string DescribeForm(const Instance& instance, const Limits& limits) {
+    std::string form;
+    for (const Field& field : instance->shape.fields) {
+        form += (form.empty() ? "" : std::string(1, instance->shape.separator)) + field.name;
+    }
+    const std::string admitted = DescribeLimits(instance, limits);
+    return form + (form.empty() || admitted.empty() ? "" : ": ") + admitted;
+}
+
+} // namespace Host

@@ -1,0 +1,30 @@
+#include "Guarded.h"
+
+#include "Command.h"
+
+#include <SDK4/X4Error.h>
+
+#include <exception>
+#include <string>
+
+namespace Host {
+
+int Guarded(const std::function<int()>& action) {
+    try {
+        return action();
+    } catch (const UsageError& error) {
+        Complain(error.what());
+        return WrongUsage;
+    } catch (const OpenError& error) {
+        Complain(error.what());
+        return NotOpened;
+    } catch (const SDK4::X4Error& error) {
+        Complain(std::string(SDK4::ErrorName(error.code)) + " (" + std::to_string(error.code) + ")");
+        return Refused;
+    } catch (const std::exception& error) { // of the port, for one
+        Complain(error.what());
+        return Refused;
+    }
+}
+
+} // namespace Host

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Session.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Host {
+
+/// The options that every command takes.
+struct Options {
+    std::string plugin = DefaultPlugin();
+    CameraOptions camera{.index = 2}; ///< 2 has every value read from the camera, with either family
+    bool json = false;
+    std::string logLevel;  ///< empty: off, or what the configuration says
+    std::string logConfig; ///< a configuration file of log4cxx, or empty
+};
+
+/// What a run of the program has at hand. Plug-in and camera are opened when they are first asked for.
+class Program {
+public:
+    explicit Program(Host::Options given) : options(std::move(given)) {}
+
+    [[nodiscard]] const Host::Options& Options() const { return options; }
+    /// Whether results go out as JSON.
+    [[nodiscard]] bool Json() const { return options.json; }
+    void SetJson(bool json) { options.json = json; }
+
+    /// @throw OpenError
+    [[nodiscard]] const Plugin& LoadedPlugin();
+    /// Opens a camera, or gives back the one that is open.
+    /// @throw OpenError
+    [[nodiscard]] Session& Open(const std::string& model);
+    /// Has the state file, if there is one, hold the camera that was opened.
+    void SaveState() const;
+
+private:
+    Host::Options options;
+    std::optional<Plugin> plugin; // before the session, which needs it to the end
+    std::optional<Session> session;
+};
+
+} // namespace Host

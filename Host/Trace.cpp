@@ -1,0 +1,17 @@
+#include "Trace.h"
+
+#include "Format.h"
+
+#include <cmath>
+#include <iostream>
+
+namespace Host {
+
+void PrintAccess(const Access& access) {
+    std::cout.flush(); // an access stands behind the results that came before it
+    std::cerr << (access.write ? "write " : "read  ") << Pad(access.operation, 18) << Hex(access.address) << "  "
+              << FormatBytes(access.data) << (access.failed ? " (failed)" : "") << "  "
+              << std::lround(access.microseconds) << " us\n";
+}
+
+} // namespace Host

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "TracingPort.h"
+
+namespace Host {
+
+/// One line on standard error for a port access: direction, operation, address, data, duration.
+void PrintAccess(const Access& access);
+
+} // namespace Host
