@@ -1,0 +1,281 @@
+#include "HostProcess.h"
+
+#include <Json.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace Scenario {
+
+struct Run {
+    const char* arguments;
+    int code;
+    const char* out; ///< all of it
+    const char* err;
+};
+
+void ExpectRuns(const std::vector<Run>& runs) {
+    for (const Run& run : runs) {
+        const Outcome outcome = RunHost(run.arguments);
+        EXPECT_EQ(outcome.code, run.code) << run.arguments;
+        EXPECT_EQ(outcome.out, run.out) << run.arguments;
+        EXPECT_EQ(outcome.err, run.err) << run.arguments;
+    }
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+TEST(HostCommand, GetPrintsWhatFunctionsHold) {
+    ExpectRuns({
+        {"get Orvik-710C gain exposure exposuremode readoutarea functionmodelid", 0,
+         "gain=0\nexposure=0:20000\nexposuremode=freerunning\nreadoutarea=0,0,3207,2207\nfunctionmodelid=0x00070710\n",
+         ""},
+        {"get Orvik-390M overlaysize iomode.3", 0, "overlaysize.0=1,10\noverlaysize.1=1,10\niomode.3=1\n", ""},
+        {"get 'Sollux G' defectpixel.2 colorcoding --json", 0,
+         "{\n  \"defectpixel.2\": {\n    \"xpos\": 512,\n    \"ypos\": 44,\n    \"mode\": 2\n  },\n"
+         "  \"colorcoding\": \"mono14\"\n}\n",
+         ""},
+        {"get Orvik-710C gain triggerdelay lutmode", 1, "gain=0\nlutmode=0\n",
+         "qdv12host: triggerdelay: SDK4_ERR_DISABLED\n"},
+        {"get Orvik-31200M verticalflip", 1, "", "qdv12host: verticalflip: SDK4_ERR_NOT_IMPLEMENTED\n"},
+    });
+}
+
+TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
+    ExpectRuns({
+        {"set Orvik-710C gain=100 exposure=1:2000 readoutarea=0,0,1279,1023 exposuremode=resetrestart iomode.0=0x1", 0,
+         "gain=100\nexposure=1:2000\nreadoutarea=0,0,1279,1023\nexposuremode=resetrestart\niomode.0=1\n", ""},
+        {"set Orvik-710C gain=600", 1, "gain=511\n",
+         "qdv12host: gain: SDK4_ERR_OUTOFRANGE: 600 was clamped, the camera now holds 511\n"},
+        {"set Cerix-MV7 overlayposition.1=-501,7", 1, "overlayposition.1=-500,7\n",
+         "qdv12host: overlayposition.1: SDK4_ERR_OUTOFRANGE: -501,7 was clamped, the camera now holds -500,7\n"},
+        {"set Orvik-710C agc=7", 1, "agc=off\n",
+         "qdv12host: agc: SDK4_ERR_INVALID_PARAMETER: 7 was refused, the camera still holds off\n"},
+        {"set Cerix-MV7 agc=7", 1, "agc=off\n",
+         "qdv12host: agc: SDK4_ERR_OUTOFRANGE: 7 was refused, the camera still holds off\n"},
+        {"set Orvik-710C packetsize=1501", 0, "packetsize=1500\n",
+         "qdv12host: packetsize: 1501 was accepted, but the camera now holds 1500\n"},
+        {"set Orvik-710C gain=5 --fault ignore:gain", 1, "gain=0\n",
+         "qdv12host: gain: 5 was accepted, but the camera now holds 0\n"},
+        {"set Cerix-MV7 storeimage=on restart --json", 0,
+         "[\n  {\n    \"name\": \"storeimage\",\n    \"asked\": \"on\",\n    \"value\": null,\n    \"error\": null\n  "
+         "},\n"
+         "  {\n    \"name\": \"restart\",\n    \"asked\": null,\n    \"value\": null,\n    \"error\": null\n  }\n]\n",
+         ""},
+    });
+}
+
+TEST(HostCommand, SetTellsWhatLocksAFunction) {
+    for (const char* model : {"Orvik-710C", "'Sollux G'"}) {
+        const Outcome run = RunHost(std::string("set ") + model + " agc=1 gain=5 exposuremode=freerunning");
+        EXPECT_EQ(run.code, 1);
+        EXPECT_TRUE(Has(run.err, model[0] == 'O' ? "gain: SDK4_ERR_CANTSETFEATURE (locked by agc=1)"
+                                                 : "gain: SDK4_ERR_DISABLED (locked by agc=1)"));
+        EXPECT_TRUE(Has(run.out, "exposuremode=freerunning\n")); // goes on with the rest
+    }
+    // A mode that an earlier run has set locks too.
+    const std::string state = " --state " + TemporaryFile("state");
+    EXPECT_EQ(RunHost("set 'Sollux G' circularblankingsize=80" + state).code, 1);
+    EXPECT_EQ(RunHost("set 'Sollux G' agc=1" + state).code, 0);
+    EXPECT_TRUE(Has(RunHost("set 'Sollux G' gain=5" + state).err, "SDK4_ERR_DISABLED (locked by agc=1)"));
+    EXPECT_EQ(RunHost("set 'Sollux G' gain=5 --index 3" + state).code, 1);
+    std::filesystem::remove(TemporaryFile("state"));
+}
+
+TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
+    ExpectRuns({
+        {"get Orvik-710C gian", 2, "", "qdv12host: unknown function \"gian\"; did you mean \"gain\"?\n"},
+        {"get Orvik-710C overlayshow.2", 2, "",
+         "qdv12host: unknown function \"overlayshow.2\": there is overlayshow.0 to .1\n"},
+        {"get Orvik-710C gain.0", 2, "", "qdv12host: unknown function \"gain.0\": there is gain, without a number\n"},
+        {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" can only be written\n"},
+        {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" can only be read\n"},
+        {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is wanted\n"},
+        {"set Orvik-710C overlayshow=on", 2, "",
+         "qdv12host: \"overlayshow\" is several: overlayshow.0 to overlayshow.1\n"},
+        {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: \"abc\" is no value of gain (0..511)\n"},
+        {"set Orvik-710C gain=-1", 2, "", "qdv12host: \"-1\" is no value of gain (0..511)\n"},
+        {"set Orvik-710C exposure=5", 2, "", "qdv12host: \"5\" is no value of exposure (base:counter)\n"},
+        {"set Orvik-710C exposure=1:2:3", 2, "", "qdv12host: \"1:2:3\" is no value of exposure (base:counter)\n"},
+        {"get Orvik-710C gain --fault nonsense:gain", 2, "",
+         "qdv12host: fault \"nonsense:gain\": there is no kind \"nonsense\", but clamp, endless, fail, failread, "
+         "failwrite, ignore, null, offset, stale\n"},
+        {"get Orvik-710 gain", 3, "", "qdv12host: unknown model \"Orvik-710\"; did you mean \"Orvik-710M\"?\n"},
+        {"get Orvik-710C gain --fault fail:gain", 1, "",
+         "qdv12host: gain: ReadMem at 0x14010000 failed: no answer from the camera\n"},
+    });
+    for (const char* arguments : {"", "tour", "frobnicate", "--log loud models", "models --plugin", "tour a b", "get",
+                                  "get Orvik-710C", "models --config /nowhere"}) {
+        const Outcome run = RunHost(arguments);
+        EXPECT_EQ(run.code, 2) << arguments;
+        EXPECT_EQ(Lines(run.err).size(), 1) << run.err;
+        EXPECT_TRUE(run.err.starts_with("qdv12host: ")) << run.err;
+    }
+    EXPECT_EQ(RunHost("--help").code, 0);
+    EXPECT_TRUE(Has(RunHost("set --help").out, "qdv12host set [OPTIONS] MODEL NAME=VALUE..."));
+}
+
+TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
+    const Outcome orvik = RunHost("list Orvik-530M");
+    EXPECT_EQ(orvik.code, 0);
+    EXPECT_EQ(orvik.err, "");
+    EXPECT_FALSE(Has(orvik.out, "\033"));
+    for (const char* line :
+         {"NAME                      VALUE                   DEFAULT         LIMITS                    STATE\n",
+          "\nserialnumber              530M-0042                                                         read-only\n",
+          "\nreadoutarea               0,0,2591,2047 px                        0..2528,0..1984,63..2591,63..2047\n",
+          "\ncontrast                  64                                      32..255\n",
+          "\ntriggerdelay              -                                                                 "
+          "not available (SDK4_ERR_DISABLED)\n",
+          "\ncolorbalance              -                                                                 "
+          "not implemented (SDK4_ERR_NOT_IMPLEMENTED)\n",
+          "\nloadsettings              -                                       0..2                      "
+          "write-only\n"}) {
+        EXPECT_TRUE(Has(orvik.out, line));
+    }
+    const Outcome m2vx = RunHost("list Cerix7-MV");
+    EXPECT_EQ(m2vx.code, 0);
+    for (const char* line :
+         {"\nautomaticlevel            30                      30              0..100                    "
+          "locked by agc=off\n",
+          "\nmeasurewindow             100,2,0,0,128 px        0,2,0,0,128     "
+          "0..511,1..3,-511..511,-511..511,1..512\n",
+          "\nmotorcontrol.0..255       256 values              0               0..65535\n"}) {
+        EXPECT_TRUE(Has(m2vx.out, line));
+    }
+    const Outcome all = RunHost("list Cerix7-MV --all");
+    EXPECT_TRUE(Has(all.out, "\ndefectpixel.2             512,44,2 "));
+    EXPECT_TRUE(Has(all.out, "\nmotorcontrol.255          0 "));
+}
+
+/// The one thing that a look at a camera writes is which instance of a register the next read is for.
+TEST(HostCommand, ListNeverTriesAWrite) {
+    std::set<std::string> written;
+    for (const std::string& line : Lines(RunHost("list Orvik-710C --trace").err)) {
+        if (line.starts_with("write")) {
+            written.insert(line.substr(line.find("0x"), 10));
+        }
+    }
+    const std::set<std::string> indexed = {"0x17010000", "0x17020000", "0x17030000", "0x17040000",
+                                           "0x1E030000", "0x28090000", "0x5A030000", "0x66020000",
+                                           "0x66030000", "0x660F0000", "0x66110000"};
+    EXPECT_EQ(written, indexed);
+}
+
+TEST(HostCommand, EveryModelListsAllItsFunctions) {
+    std::size_t models = 0;
+    for (const std::string& line : Lines(RunHost("models").out)) {
+        const std::string model = line.substr(0, line.find("  "));
+        const Outcome run = RunHost("list '" + model + "' --json");
+        EXPECT_EQ(run.code, 0) << model;
+        const Host::Json document = Host::Json::Parse(run.out);
+        std::set<std::string> names;
+        for (const Host::Json& function : *document.Elements()) {
+            EXPECT_TRUE(names.insert(*function["name"].Text()).second) << *function["name"].Text() << " twice";
+            const std::string* const error = function["error"].Text();
+            EXPECT_TRUE(error == nullptr || *error == "SDK4_ERR_NOT_IMPLEMENTED" || *error == "SDK4_ERR_DISABLED")
+                << model << ' ' << *function["name"].Text() << ' ' << *error;
+        }
+        EXPECT_GT(names.size(), 80U) << model;
+        ++models;
+    }
+    EXPECT_EQ(models, 13U);
+}
+
+TEST(HostCommand, ModelsAndInfoTellWhoACameraIs) {
+    const Outcome models = RunHost("models");
+    EXPECT_TRUE(models.out.starts_with("Orvik-31200M    qdv12   Orvik\nOrvik-31200C    qdv12   Orvik\n"));
+    EXPECT_TRUE(models.out.ends_with("Cerix-MV7       qdv12   M2VX\nSollux G        qdv12   M2VX\n"));
+
+    const Outcome info = RunHost("info Orvik-390C");
+    EXPECT_EQ(info.code, 0);
+    for (const char* line : {"model                 Orvik-390C\n", "family                Orvik\n",
+                             "softwarebuild         build 1207\n", "macaddress            02:00:12:00:03:90\n",
+                             "imagesize             2256,1728 px\n", "pixelformat           0x02180014\n"}) {
+        EXPECT_TRUE(Has(info.out, line));
+    }
+    EXPECT_TRUE(Has(RunHost("info 'Sollux G' --json").out, "\"hardwareversion\": null"));
+}
+
+TEST(HostCommand, CheckSaysWhyAPluginCannotBeUsed) {
+    const Outcome good = RunHost("check " QDV12_PLUGIN);
+    EXPECT_EQ(good.code, 0);
+    EXPECT_EQ(good.err, "");
+    EXPECT_TRUE(Has(good.out, "path    " QDV12_PLUGIN "\nloader  loaded\nexport  InitLibrary   found\n"
+                              "export  CreateObject  found\nmodel   Orvik-31200M  qdv12\n"));
+
+    const Outcome other = RunHost("check libm.so.6");
+    EXPECT_EQ(other.code, 3);
+    EXPECT_TRUE(Has(other.out, "export  InitLibrary   missing\nexport  CreateObject  missing\n"));
+    EXPECT_EQ(other.err, "qdv12host: libm.so.6 is no camera plug-in: it does not export InitLibrary\n");
+
+    for (const char* arguments : {"check /nowhere/p.so", "models --plugin /nowhere/p.so"}) {
+        const Outcome absent = RunHost(arguments);
+        EXPECT_EQ(absent.code, 3);
+        EXPECT_EQ(absent.err, "qdv12host: cannot load /nowhere/p.so: /nowhere/p.so: cannot open shared object file: "
+                              "No such file or directory\n");
+    }
+    const Outcome without = RunHost("check " QDV12_PLUGIN_WITHOUT_LOG4CXX);
+    EXPECT_EQ(without.code, 3);
+    EXPECT_TRUE(Has(without.err, "undefined symbol: log4cxx_of_another_version; the plug-in takes log4cxx from the "
+                                 "program that loads it: "));
+}
+
+TEST(HostCommand, TheInstalledProgramLoadsTheInstalledPlugin) {
+    namespace fs = std::filesystem;
+    const fs::path prefix = TemporaryFile("prefix");
+    fs::create_directories(prefix / "bin");
+    fs::create_directories(prefix / "lib/qdv12");
+    fs::copy_file(QDV12_HOST, prefix / "bin/qdv12host");
+    fs::create_symlink(QDV12_PLUGIN, prefix / "lib/qdv12/libqdv12ctrl.so");
+    const Outcome run = RunHost("check", prefix / "bin/qdv12host");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_TRUE(run.out.starts_with("path    " + (prefix / "lib/qdv12/libqdv12ctrl.so").string() + "\n")) << run.out;
+    fs::remove_all(prefix);
+}
+
+TEST(HostCommand, AStateFileKeepsTheCameraBetweenRuns) {
+    const std::string file = TemporaryFile("state");
+    const std::string state = " --state " + file;
+    EXPECT_EQ(RunHost("set Orvik-710C gain=600 saturation=9" + state).code, 1); // what was done is kept all the same
+    EXPECT_EQ(RunHost("get Orvik-710C gain saturation" + state).out, "gain=511\nsaturation=9\n");
+
+    const Outcome other = RunHost("get Orvik-710M gain" + state);
+    EXPECT_EQ(other.code, 3);
+    EXPECT_TRUE(Has(other.err, "it belongs to a camera of model \"Orvik-710C\""));
+    std::ofstream(file) << "{";
+    EXPECT_EQ(RunHost("get Orvik-710C gain" + state).code, 3);
+    EXPECT_EQ(RunHost("get Orvik-710C gain --state /nowhere/state").code, 1);
+    std::filesystem::remove(file);
+}
+
+TEST(HostCommand, TraceAndLogGoToStandardError) {
+    const Outcome trace = RunHost("get Orvik-710C gain --trace");
+    EXPECT_EQ(trace.out, "gain=0\n");
+    EXPECT_TRUE(trace.err.starts_with("read  ReadMem           0x14010000  0  ")) << trace.err;
+    EXPECT_TRUE(trace.err.ends_with(" us\n")) << trace.err;
+
+    const std::string config = TemporaryFile("log.properties");
+    const std::string log = TemporaryFile("log");
+    std::ofstream(config) << "log4j.rootLogger=INFO, file\nlog4j.appender.file=org.apache.log4j.FileAppender\n"
+                          << "log4j.appender.file.File=" << log
+                          << "\nlog4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
+                          << "log4j.appender.file.layout.ConversionPattern=%p %m%n\n";
+    EXPECT_EQ(RunHost("get Orvik-710C gain --config " + config).err, "");
+    EXPECT_TRUE(Has(Content(log), "INFO QDV12: CreateObject(Orvik-710C)\n"));
+    std::filesystem::remove(config);
+    std::filesystem::remove(log);
+}
+
+} // namespace Scenario
