@@ -3,16 +3,19 @@
 #include "Log.h"
 
 #include <cstring>
+#include <string_view>
 
 namespace SDK4::Control {
 
 CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(const char* name) {
     SDK4_LOG_CALL();
+    const bool logging = logger->isDebugEnabled(); // one test for a thousand lines
+    const std::string_view wanted = name == nullptr ? "" : name;
     for (CPropertyParams* property : properties) {
-        SDK4_LOG(Debug, property->Name());
-        if (name != nullptr && property->Name() == name) {
+        if (logging)
+            SDK4_LOG(Debug, property->Name());
+        if (name != nullptr && property->Name() == wanted)
             return property;
-        }
     }
     return nullptr;
 }

@@ -4,7 +4,7 @@
 
 #include <SDK4/IPropertyState.h>
 
-#include <list>
+#include <vector>
 
 namespace SDK4::Control {
 
@@ -54,7 +54,7 @@ private:
     Observer observer;
 
 protected:
-    std::list<CPropertyParams*> properties; ///< not owned: the control deletes them
+    std::vector<CPropertyParams*> properties; ///< not owned: the control deletes them
 };
 
 } // namespace SDK4::Control

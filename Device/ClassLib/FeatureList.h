@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -61,12 +62,25 @@ public:
     [[nodiscard]] bool AnyHolds(const std::vector<std::string>& conditions) const;
 
 private:
-    std::map<std::string, IFeature*, std::less<>> entries;
+    /// A feature, and what the last cast of it gave: casts across its bases cost more than all the rest of a read.
+    struct Entry {
+        IFeature* feature;
+        const std::type_info* asked = nullptr; ///< the interface that was asked for
+        void* answer = nullptr;                ///< the feature as that interface, or null
+    };
+    mutable std::map<std::string, Entry, std::less<>> entries;
 };
 
 template <class Interface> Interface* CFeatureList::Find(std::string_view name) const {
     const auto found = entries.find(name);
-    return found == entries.end() ? nullptr : dynamic_cast<Interface*>(found->second);
+    if (found == entries.end())
+        return nullptr;
+    Entry& entry = found->second;
+    if (entry.asked != &typeid(Interface)) {
+        entry.asked = &typeid(Interface);
+        entry.answer = dynamic_cast<Interface*>(entry.feature);
+    }
+    return static_cast<Interface*>(entry.answer);
 }
 
 template <class T> T CFeatureList::GetValue(std::string_view name) const {

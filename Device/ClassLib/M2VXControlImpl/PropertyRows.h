@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <deque>
 #include <initializer_list>
-#include <list>
+#include <vector>
 
 namespace SDK4::Control {
 
-using PropertyList = std::list<CPropertyParams*>;
+using PropertyList = std::vector<CPropertyParams*>;
 
 /// Admits any value between its limits, both included.
 struct UnsignedProperty : CPropertyParams {
