@@ -14,20 +14,17 @@ std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
 }
 
-void PrepareOrvik(RecordingPort& port) {
+template <class Port> void PrepareOrvik(Port& port) {
     constexpr std::uint32_t colorCoding = 0x28020000;
     constexpr std::uint32_t aet = 0x46010000, agc = 0x46020000, awb = 0x46040000, acc = 0x46050000;
-    port.Set(functionModel, 0x00020000);
+    port.Set(functionModel, 0x00020000u);
     for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc})
-        port.Set(address, 0);
+        port.Set(address, 0u);
 }
 
-void PrepareM2VX(RecordingPort& port) {
+template <class Port> void PrepareM2VXModes(Port& port) {
     constexpr std::uint32_t colorCoding = 0x28020000, exposureMode = 0x0A020000, agc = 0x46020000, abc = 0x47040000,
                             filter = 0x16070000, histogram = 0x180C0000, shading = 0x1B010000, blanking = 0x1B030000;
-    constexpr std::uint32_t overlayShow = 0x17010000, overlayPosition = 0x17020000, overlayStyle = 0x17030000,
-                            overlaySize = 0x17040000, shadingCorrection = 0x1B020000, abcThreshold = 0x47090000,
-                            testPattern = 0x5A010000, motor = 0x6E140000;
     for (const auto& [mode, value] : {std::pair{colorCoding, 6u},
                                       {exposureMode, 3u},
                                       {agc, 0u},
@@ -37,6 +34,13 @@ void PrepareM2VX(RecordingPort& port) {
                                       {shading, 1u},
                                       {blanking, 1u}})
         port.Set(mode, value);
+}
+
+void PrepareM2VX(RecordingPort& port) {
+    PrepareM2VXModes(port);
+    constexpr std::uint32_t overlayShow = 0x17010000, overlayPosition = 0x17020000, overlayStyle = 0x17030000,
+                            overlaySize = 0x17040000, shadingCorrection = 0x1B020000, abcThreshold = 0x47090000,
+                            testPattern = 0x5A010000, motor = 0x6E140000;
     for (const std::uint32_t indexed : {overlayShow, overlayPosition, overlayStyle, overlaySize, shadingCorrection,
                                         abcThreshold, testPattern, motor}) {
         for (const std::uint32_t i : {0u, 1u, 2u, 3u, 255u})
@@ -120,6 +124,17 @@ void Prepare(RecordingPort& port, const State& state) {
             port.Set(address, bytes);
         else
             port.SetInstance(address, static_cast<std::uint32_t>(index), bytes);
+    }
+}
+
+void Prepare(FlatPort& port, const State& state) {
+    if (state.IsM2VX())
+        PrepareM2VXModes(port);
+    else
+        PrepareOrvik(port);
+    for (const auto& [address, bytes, index] : state.presets) {
+        if (index < 0)
+            port.Set(address, bytes);
     }
 }
 

@@ -6,6 +6,7 @@
 // Every row holds for two ways to open the camera, by family: remembering what it can (Orvik index 0, M2VX index 3),
 // and reading the camera every time (Orvik index 2, M2VX index 0).
 
+#include "FlatPort.h"
 #include "RecordingPort.h"
 
 #include <SDK4/SDK4.h>
@@ -91,6 +92,9 @@ const Operation& FindOperation(const std::string& name);
 
 /// Brings the camera behind @p port into the state before the call, except for State::before.
 void Prepare(RecordingPort& port, const State& state);
+
+/// The same, but for the values of instances.
+void Prepare(FlatPort& port, const State& state);
 
 /// The result of a call, or the name of the code of the X4Error that it threw.
 std::string Outcome(const Call& call, IDynamicObject& camera);

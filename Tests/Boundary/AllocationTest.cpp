@@ -1,0 +1,73 @@
+// With logging off, what a host calls most asks for no memory: getters that answer from the cache, and setters.
+
+#include "Allocations.h"
+#include "FlatPort.h"
+#include "Rows.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace Test {
+
+namespace {
+
+/// Results of more characters make the table's own call ask for memory; they are texts and wide records.
+constexpr std::size_t withoutAllocation = 15;
+
+/// A text of more characters than a std::string holds itself: its end is not cut off.
+constexpr const char* longText = "IGufi::GetDeviceName";
+
+/// What the flat port cannot tell apart.
+bool NeedsInstances(const State& state) {
+    return std::ranges::any_of(state.presets, [](const Preset& preset) { return preset.index >= 0; });
+}
+
+/// How often the repeated call asks for memory.
+std::uint64_t AllocationsOf(const Operation& row, const Camera& camera) {
+    Outcome(row.call, *camera.Object());
+    const std::uint64_t before = Allocations();
+    const std::string outcome = Outcome(row.call, *camera.Object());
+    const std::uint64_t after = Allocations();
+    EXPECT_FALSE(IsError(outcome)) << row.name << ": " << outcome;
+    return after - before;
+}
+
+} // namespace
+
+TEST_F(CameraTest, AllocationsAreCounted) {
+    const std::uint64_t before = Allocations();
+    const auto block = std::make_unique<int>();
+    EXPECT_GT(Allocations(), before);
+    const Camera camera(plugin, "Orvik-31200M", &port);
+    EXPECT_GT(Allocations(), before + 100) << "those of the plug-in";
+}
+
+TEST_F(CameraTest, CachedGettersAllocateNothing) {
+    std::size_t tested = 0;
+    for (const bool ofM2VX : {false, true}) {
+        for (const Operation* row : CachedGetters(ofM2VX)) {
+            if (row->result.size() > withoutAllocation || row->name == longText)
+                continue;
+            const Camera camera = Open(row->state, row->state.RememberingIndex());
+            EXPECT_EQ(AllocationsOf(*row, camera), 0u) << row->name;
+            ++tested;
+        }
+    }
+    EXPECT_GT(tested, 90u);
+}
+
+TEST_F(CameraTest, SettersAllocateNothing) {
+    std::size_t tested = 0;
+    for (const Operation& row : Operations()) {
+        if (row.result != Done || row.accesses.again.empty() || row.state.before || NeedsInstances(row.state))
+            continue;
+        FlatPort flat;
+        Prepare(flat, row.state);
+        const Camera camera(plugin, row.state.model, &flat, row.state.RememberingIndex());
+        EXPECT_EQ(AllocationsOf(row, camera), 0u) << row.name;
+        ++tested;
+    }
+    EXPECT_GT(tested, 90u);
+}
+
+} // namespace Test
