@@ -6,13 +6,15 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit
 jobs=$(nproc)
 
-# Debian 12 packages: what a build needs, and what the sanitizers and the static analysis need beyond it. clang-14
-# brings neither the sanitizers' run-time libraries nor llvm-symbolizer, without which no leak has a name and no
-# suppression matches.
+# Debian 12 packages: what a build needs, and what the tests, the sanitizers, the static analysis and the benchmarks need
+# beyond it. clang-14 brings neither the sanitizers' run-time libraries nor llvm-symbolizer, without which no leak has a
+# name and no suppression matches; Aravis' own description asks for libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
     nlohmann-json3-dev binutils)
+test_packages=(valgrind)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-tidy-14 cppcheck shellcheck)
+bench_packages=(libbenchmark-dev libaravis-dev libusb-1.0-0-dev gnuplot-nox)
 
 say() { printf '\n== %s\n' "$*"; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }

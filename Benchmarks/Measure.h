@@ -1,0 +1,62 @@
+#pragma once
+
+// How every row is measured: calls are timed in batches of some microseconds, and what counts is the median batch of a
+// repetition. A batch that another program interrupted is one of many.
+
+#include "Allocations.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace Bench {
+
+/// Counts something until now, for example port accesses.
+using Counter = std::function<std::uint64_t()>;
+
+/// What is done before each batch, without being measured.
+using Preparation = std::function<void()>;
+
+template <class Number> Number Median(std::vector<Number> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// The seconds that a call takes, on the average of a batch.
+template <class Call> double Time(unsigned batch, Call& call) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point start = Clock::now();
+    for (unsigned i = 0; i < batch; ++i)
+        call();
+    return std::chrono::duration<double>(Clock::now() - start).count() / batch;
+}
+
+/// Measures a call: its time, and what it costs in port accesses and allocations. A call that needs a preparation is
+/// timed alone, with the clock's own some 25 ns.
+template <class Call>
+void Measure(benchmark::State& state, Call call, const Counter& accesses, const Preparation& prepare) {
+    constexpr double batchTime = 10e-6;
+    const unsigned batch = prepare ? 1 : static_cast<unsigned>(std::max(1.0, batchTime / Time(100, call)));
+    std::vector<double> times;
+    times.reserve(static_cast<std::size_t>(state.max_iterations));
+    for ([[maybe_unused]] auto unused : state) {
+        if (prepare)
+            prepare();
+        times.push_back(Time(batch, call));
+    }
+    state.SetIterationTime(Median(times) * static_cast<double>(state.iterations()));
+
+    if (prepare)
+        prepare();
+    const std::uint64_t accessesBefore = accesses(), allocationsBefore = Test::Allocations();
+    call();
+    state.counters["allocations"] = static_cast<double>(Test::Allocations() - allocationsBefore);
+    state.counters["accesses"] = static_cast<double>(accesses() - accessesBefore);
+}
+
+} // namespace Bench

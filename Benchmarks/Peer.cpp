@@ -1,0 +1,81 @@
+#include "Peer.h"
+
+#include <arv.h>
+
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+
+namespace Bench {
+
+namespace {
+
+constexpr const char* Feature = "GainRaw";      // the cheapest: one register, limits that are constants
+constexpr const char* BoundedFeature = "Width"; // its greatest value is another feature's
+constexpr guint32 GainRegister = 0x110;
+
+/// Calls with a place for an error as the last argument. An error would hide what is measured.
+template <class Function, class... Arguments> auto Call(Function function, Arguments... arguments) {
+    GError* error = nullptr;
+    const auto require = [&error] {
+        if (error != nullptr)
+            throw std::runtime_error(std::string("Aravis: ") + error->message);
+    };
+    if constexpr (std::is_void_v<decltype(function(arguments..., &error))>) {
+        function(arguments..., &error);
+        require();
+    } else {
+        auto result = function(arguments..., &error);
+        require();
+        return result;
+    }
+}
+
+gint64 Get(ArvDevice* device, const char* feature) {
+    return Call(arv_device_get_integer_feature_value, device, feature);
+}
+
+void Set(ArvDevice* device, const char* feature, gint64 value) {
+    Call(arv_device_set_integer_feature_value, device, feature, value);
+}
+
+/// The cache answers when a change behind its back goes unnoticed.
+void RequireCache(ArvDevice* device) {
+    ArvFakeCamera* camera = arv_fake_device_get_fake_camera(ARV_FAKE_DEVICE(device));
+    Set(device, Feature, 3);
+    Get(device, Feature);
+    arv_fake_camera_write_register(camera, GainRegister, 7);
+    if (Get(device, Feature) != 3)
+        throw std::runtime_error("Aravis does not answer from its register cache");
+    arv_fake_camera_write_register(camera, GainRegister, 3);
+}
+
+void RequireRangeCheck(ArvDevice* device) {
+    GError* error = nullptr;
+    arv_device_set_integer_feature_value(device, Feature, 11, &error);
+    if (error == nullptr)
+        throw std::runtime_error("Aravis does not check the range");
+    g_error_free(error);
+}
+
+} // namespace
+
+void AddPeer(Table& table) {
+    ArvDevice* device = Call(arv_fake_device_new, "benchmark");
+    arv_device_set_register_cache_policy(device, ARV_REGISTER_CACHE_POLICY_ENABLE);
+    arv_device_set_range_check_policy(device, ARV_RANGE_CHECK_POLICY_ENABLE);
+    RequireCache(device);
+    RequireRangeCheck(device);
+
+    auto* node = ARV_GC_INTEGER(arv_device_get_feature(device, Feature));
+    const gint64 width = Get(device, BoundedFeature);
+    table.Add({PeerRead}, [=] { Get(device, Feature); });
+    table.Add({PeerWrite}, [=] { Set(device, Feature, 5); });
+    table.Add({"Aravis: cached integer read, its node held"}, [=] { Call(arv_gc_integer_get_value, node); });
+    table.Add({"Aravis: range-checked integer write, its node held"},
+              [=] { Call(arv_gc_integer_set_value, node, gint64{5}); });
+    table.Add({"Aravis: range-checked integer write, one limit from another feature"},
+              [=] { Set(device, BoundedFeature, width); });
+}
+
+} // namespace Bench

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Measure.h"
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Bench {
+
+/// An operation to be measured. Its time may be limited to so many times that of another row.
+struct Row {
+    std::string name;
+    const char* peer = nullptr;
+    double limit = 0; ///< 0: none
+};
+
+/// What was measured of a row: medians of the repetitions.
+struct Result {
+    double nanoseconds = 0, accesses = 0, allocations = 0;
+};
+
+/// Rows to be measured, and what came out. They are repeated in random order, so that what disturbs the machine for a
+/// while disturbs all of them.
+class Table {
+public:
+    explicit Table(Counter portAccesses) : accesses(std::move(portAccesses)) {}
+
+    template <class Call> void Add(Row row, Call call, Preparation prepare = {}) {
+        const auto measure = [this, call, prepare = std::move(prepare)](benchmark::State& state) {
+            Measure(state, call, accesses, prepare);
+        };
+        benchmark::RegisterBenchmark(row.name.c_str(), measure)
+            ->Iterations(Batches)
+            ->Repetitions(Repetitions)
+            ->Unit(benchmark::kNanosecond)
+            ->UseManualTime();
+        rows.push_back(std::move(row));
+    }
+
+    /// Measures all rows.
+    void Run();
+
+    [[nodiscard]] const std::vector<Row>& Rows() const { return rows; }
+
+    /// What was measured of the row of that name. @throws std::out_of_range
+    [[nodiscard]] const Result& At(const std::string& name) const { return results.at(name); }
+
+    static constexpr int Batches = 300, Repetitions = 25;
+
+private:
+    Counter accesses;
+    std::vector<Row> rows;
+    std::map<std::string, Result> results;
+};
+
+} // namespace Bench
