@@ -14,12 +14,20 @@ std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
 }
 
-template <class Port> void PrepareOrvik(Port& port) {
+template <class Port> void PrepareOrvikModes(Port& port) {
     constexpr std::uint32_t colorCoding = 0x28020000;
     constexpr std::uint32_t aet = 0x46010000, agc = 0x46020000, awb = 0x46040000, acc = 0x46050000;
     port.Set(functionModel, 0x00020000u);
     for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc})
         port.Set(address, 0u);
+}
+
+void PrepareOrvik(RecordingPort& port) {
+    PrepareOrvikModes(port);
+    // Of these there are several, each with a value of its own.
+    for (const std::uint32_t indexed : {0x17010000u, 0x17020000u, 0x17030000u, 0x17040000u, 0x1E030000u, 0x66020000u,
+                                        0x66030000u, 0x660F0000u, 0x66110000u})
+        port.SetInstance(indexed, 0, {});
 }
 
 template <class Port> void PrepareM2VXModes(Port& port) {
@@ -131,7 +139,7 @@ void Prepare(FlatPort& port, const State& state) {
     if (state.IsM2VX())
         PrepareM2VXModes(port);
     else
-        PrepareOrvik(port);
+        PrepareOrvikModes(port);
     for (const auto& [address, bytes, index] : state.presets) {
         if (index < 0)
             port.Set(address, bytes);
