@@ -9,7 +9,6 @@ namespace Test {
 class OperationTest : public CameraTest, public testing::WithParamInterface<Operation> {
 protected:
     std::set<std::string> ExpectedAffected(const std::set<std::string>& valid) const;
-    void ExpectPortFailuresPass(int index, const std::string& accesses);
 
     const Operation& row = GetParam();
 };
@@ -41,29 +40,6 @@ TEST_P(OperationTest, AffectsWhatDependsOnItAndNothingElse) {
     const Effect effect = EffectOf(row);
     EXPECT_EQ(effect.outcome, row.result);
     EXPECT_EQ(effect.affected, ExpectedAffected(effect.valid));
-}
-
-void OperationTest::ExpectPortFailuresPass(int index, const std::string& text) {
-    const std::vector<std::string> accesses = Split(text, "; ");
-    for (unsigned int nth = 1; nth <= accesses.size(); ++nth) {
-        SCOPED_TRACE(accesses[nth - 1]);
-        port = {};
-        const Camera camera = Open(row.state, index);
-        port.FailAt(nth, [nth] { throw Unplugged{static_cast<int>(nth)}; });
-        try {
-            row.call(*camera.Object());
-            ADD_FAILURE() << "nothing was thrown";
-        } catch (const Unplugged& failure) {
-            EXPECT_EQ(failure.reason, static_cast<int>(nth));
-        }
-        EXPECT_EQ(Split(port.TakeLog(), "; "), std::vector(accesses.begin(), accesses.begin() + nth));
-        EXPECT_EQ(Outcome(row.call, *camera.Object()), row.result) << "after the failure";
-    }
-}
-
-TEST_P(OperationTest, PassesPortFailuresAndStaysUsable) {
-    ExpectPortFailuresPass(row.state.RememberingIndex(), row.accesses.first);
-    ExpectPortFailuresPass(row.state.ReadingIndex(), row.accesses.firstUncached);
 }
 
 TEST_P(OperationTest, LogsItsEntryAndOneLineForAThrow) {

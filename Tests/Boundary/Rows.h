@@ -40,6 +40,15 @@ inline std::vector<const Operation*> CachedGetters(bool ofM2VX) {
     return getters;
 }
 
+/// What a camera answers to these rows, "IGain::GetGain: 5".
+inline std::vector<std::string> Outcomes(const Camera& camera, const std::vector<const Operation*>& rows) {
+    std::vector<std::string> outcomes;
+    outcomes.reserve(rows.size());
+    for (const Operation* row : rows)
+        outcomes.push_back(row->name + ": " + Outcome(row->call, *camera.Object()));
+    return outcomes;
+}
+
 inline void PrintTo(const Operation& operation, std::ostream* stream) { *stream << operation.name; }
 
 inline std::string TestName(const testing::TestParamInfo<Operation>& row) {

@@ -1,0 +1,119 @@
+#pragma once
+
+// Failures of the port, one access at a time.
+
+#include "Allocations.h"
+#include "Observed.h"
+#include "Rows.h"
+
+#include <optional>
+#include <stdexcept>
+
+namespace Test {
+
+/// An exception of the host's own, as its port would throw it.
+struct CableOut : std::runtime_error {
+    explicit CableOut(unsigned int nth) : std::runtime_error("cable out"), access(nth) {}
+    unsigned int access;
+};
+
+/// What reaches the host.
+struct Thrown {
+    const char* type = "nothing";
+    int value = 0;
+    bool operator==(const Thrown& other) const { return std::string(type) == other.type && value == other.value; }
+    friend std::ostream& operator<<(std::ostream& stream, const Thrown& thrown) {
+        return stream << thrown.type << " " << thrown.value;
+    }
+};
+
+template <class Function> Thrown ThrownBy(const Function& function) {
+    try {
+        function();
+    } catch (const SDK4::X4Error& error) {
+        return {"X4Error", error.code};
+    } catch (const CableOut& failure) {
+        return {"CableOut", static_cast<int>(failure.access)};
+    }
+    return {};
+}
+
+/// One failure: an access, how it fails, and whether the library logs meanwhile.
+struct Failure {
+    unsigned int nth;
+    bool foreign, logging;
+
+    [[nodiscard]] Thrown Expected() const {
+        const int value = static_cast<int>(nth);
+        return foreign ? Thrown{"CableOut", value} : Thrown{"X4Error", -40000 - value};
+    }
+
+    void operator()() const {
+        if (foreign)
+            throw CableOut(nth);
+        throw SDK4::X4Error(Expected().value);
+    }
+
+    friend std::ostream& operator<<(std::ostream& stream, const Failure& failure) {
+        return stream << "access " << failure.nth << " fails by " << failure.Expected()
+                      << (failure.logging ? ", logging" : ", log off");
+    }
+};
+
+inline std::size_t CountOf(const std::string& accesses) { return Split(accesses, "; ").size(); }
+
+/// The first accesses, up to one of them.
+inline std::string UpTo(unsigned int nth, const std::string& accesses) {
+    std::size_t end = 0;
+    for (; nth > 0; --nth)
+        end = accesses.find(';', end + 1);
+    return accesses.substr(0, end);
+}
+
+/// Four failures of each access.
+inline std::vector<Failure> FailuresOf(std::size_t accesses) {
+    std::vector<Failure> failures;
+    for (unsigned int nth = 1; nth <= accesses; ++nth) {
+        for (const bool foreign : {false, true}) {
+            for (const bool logging : {false, true})
+                failures.push_back({nth, foreign, logging});
+        }
+    }
+    return failures;
+}
+
+class Failing : public CameraTest {
+protected:
+    /// The first log line starts log4cxx's own buffers.
+    static void SetUpTestSuite() {
+        const Plugin plugin;
+        const LogCapture log;
+        plugin.CreateObject("", nullptr, 0);
+    }
+
+    /// The blocks on the heap but for those of the port, which remembers what it is told.
+    [[nodiscard]] long LiveBeyondThePort() const {
+        const long live = LiveAllocations();
+        const RecordingPort copy(port);
+        return live - (LiveAllocations() - live);
+    }
+
+    /// Calls @p call, whose access of that number fails. @returns what it threw
+    /// @param accesses those that it must come to
+    template <class Function> Thrown Fail(const Failure& failure, const std::string& accesses, const Function& call) {
+        std::optional<LogCapture> log;
+        if (failure.logging)
+            log.emplace();
+        port.TakeLog();
+        port.FailAt(failure.nth, failure);
+        const Thrown thrown = ThrownBy(call);
+        EXPECT_EQ(port.TakeLog(), accesses);
+        if (log) {
+            for (const LogCapture::Line& line : log->Lines())
+                EXPECT_EQ(line.text.find("SDK4Exception"), std::string::npos) << line.text;
+        }
+        return thrown;
+    }
+};
+
+} // namespace Test
