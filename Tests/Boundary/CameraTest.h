@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <set>
 
 namespace Test {
@@ -70,8 +71,11 @@ protected:
 
     /// The values that a setter accepts. The others must be refused with @p refusal, and not be written.
     std::string AdmittedBy(const Setter& set, const Camera& camera, const std::string& refusal) {
+        std::vector<int> values{INT_MIN, -65536, 256, 257, 65536, 65537, INT_MAX};
+        for (int value = -2; value < 160; ++value)
+            values.push_back(value);
         std::string accepted;
-        for (int value = -2; value < 160; ++value) {
+        for (const int value : values) {
             const auto [outcome, accesses] =
                 Observe(camera, [&](IDynamicObject& object) { return set(object, value), Done; });
             if (outcome == Done)
