@@ -1,25 +1,23 @@
 #include "Format.h"
 
+#include "Value.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstring>
-#include <initializer_list>
-#include <utility>
 
 namespace Host {
 
 namespace {
 
-struct Field {
-    const char* name;
-    std::int64_t value;
-};
-
-std::string Fields(std::initializer_list<Field> fields) {
+/// A record, field by field.
+template <typename Record> std::string Fields(const Record& record) {
+    const Shape shape = ShapeOf(&record);
+    const Value value = FromMemory(&record, shape);
     std::string text;
-    for (const Field& field : fields) {
-        text += (text.empty() ? "" : ", ") + std::string(field.name) + " " + std::to_string(field.value);
+    for (std::size_t i = 0; i < value.numbers.size(); ++i) {
+        text += (text.empty() ? "" : ", ") + std::string(shape.fields[i].name) + " " + std::to_string(value.numbers[i]);
     }
     return text;
 }
@@ -64,25 +62,19 @@ std::string Format(const char* text) { return text == nullptr ? "null" : Quoted(
 std::string Format(const SDK4::IMediaType* media) { return media == nullptr ? "null" : "an IMediaType"; }
 
 // clang-format off
-std::string Format(const SDK4_KAREA& a)        { return Fields({{"startx", a.startx}, {"starty", a.starty},
-                                                                {"endx", a.endx}, {"endy", a.endy}}); }
-std::string Format(const SDK4_KSIZE& s)        { return Fields({{"width", s.width}, {"height", s.height}}); }
-std::string Format(const SDK4_KRGB& g)         { return Fields({{"red", g.red}, {"green", g.green},
-                                                                {"blue", g.blue}}); }
-std::string Format(const SDK4_KPOSITION& p)    { return Fields({{"posx", p.posx}, {"posy", p.posy}}); }
-std::string Format(const SDK4_KSTYLE& s)       { return Fields({{"color", s.color}, {"style", s.style}}); }
-std::string Format(const SDK4_KOVERLAYSIZE& s) { return Fields({{"width", s.width}, {"length", s.length}}); }
-std::string Format(const SDK4_KEXPOSURE& e)    { return Fields({{"base", e.base}, {"counter", e.counter}}); }
-std::string Format(const SDK4_KBINNING& b)     { return Fields({{"horizontal", b.horizontal},
-                                                                {"vertical", b.vertical}}); }
-std::string Format(const SDK4_KVERSION& v)     { return Fields({{"value1", v.value1}, {"value2", v.value2}}); }
-std::string Format(const SDK4_KREVISION& r)    { return Fields({{"value1", r.value1}, {"value2", r.value2}}); }
-std::string Format(const SDK4_KCIRCULARPOSITION& p) { return Fields({{"xpos", p.xpos}, {"ypos", p.ypos}}); }
-std::string Format(const SDK4_KMWCIRCLE& w)    { return Fields({{"radius", w.radius}, {"width", w.width},
-                                                                {"xpos", w.xpos}, {"ypos", w.ypos},
-                                                                {"vstretch", w.vstretch}}); }
-std::string Format(const SDK4_KDEFECTPIXEL& p) { return Fields({{"xpos", p.xpos}, {"ypos", p.ypos},
-                                                                {"mode", p.mode}}); }
+std::string Format(const SDK4_KAREA& record)             { return Fields(record); }
+std::string Format(const SDK4_KSIZE& record)             { return Fields(record); }
+std::string Format(const SDK4_KRGB& record)              { return Fields(record); }
+std::string Format(const SDK4_KPOSITION& record)         { return Fields(record); }
+std::string Format(const SDK4_KSTYLE& record)            { return Fields(record); }
+std::string Format(const SDK4_KOVERLAYSIZE& record)      { return Fields(record); }
+std::string Format(const SDK4_KEXPOSURE& record)         { return Fields(record); }
+std::string Format(const SDK4_KBINNING& record)          { return Fields(record); }
+std::string Format(const SDK4_KVERSION& record)          { return Fields(record); }
+std::string Format(const SDK4_KREVISION& record)         { return Fields(record); }
+std::string Format(const SDK4_KCIRCULARPOSITION& record) { return Fields(record); }
+std::string Format(const SDK4_KMWCIRCLE& record)         { return Fields(record); }
+std::string Format(const SDK4_KDEFECTPIXEL& record)      { return Fields(record); }
 // clang-format on
 
 std::string FormatBytes(std::span<const std::uint8_t> bytes) {

@@ -36,8 +36,9 @@ Assignment ParseAssignment(const Camera& camera, const std::string& text) {
 }
 
 struct Result {
-    std::int32_t code = 0;     ///< of the refusal
-    std::string reason;        ///< its name, and what is known beyond it
+    std::int32_t code = 0;     ///< of the refusal; of what has no code, SDK4_ERR_ERROR
+    std::string reason;        ///< its name, or what the port said
+    std::string lockedBy;      ///< if that is the reason
     std::optional<Value> held; ///< by the camera, afterwards
 };
 
@@ -48,9 +49,10 @@ Result Perform(const Camera& camera, const Assignment& assignment) {
     } catch (const SDK4::X4Error& error) {
         result.code = error.code;
         result.reason = SDK4::ErrorName(error.code);
-        if (const std::string lock = camera.Look(assignment.instance).lockedBy; !lock.empty()) {
-            result.reason += " (locked by " + lock + ")";
-        }
+        result.lockedBy = camera.Look(assignment.instance).lockedBy;
+    } catch (const std::exception& error) { // of the port
+        result.code = SDK4_ERR_ERROR;
+        result.reason = error.what();
     }
     if (assignment.instance->get != nullptr) {
         const Reading reading = camera.TryRead(assignment.instance);
@@ -82,7 +84,7 @@ bool Report(const Camera& camera, const Assignment& assignment, const Result& re
     }
     std::string text = assignment.instance.Name();
     if (result.code != 0) {
-        text += ": " + result.reason;
+        text += ": " + result.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
     }
     if (differs) {
         text += ": " + DescribeFate(camera, assignment, result);
@@ -96,7 +98,7 @@ Json ToJson(const Assignment& assignment, const Result& result) {
     return Json{{"name", instance.Name()},
                 {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
                 {"value", result.held ? ToJson(instance, *result.held) : Json()},
-                {"error", result.code == 0 ? Json() : Json(SDK4::ErrorName(result.code))}};
+                {"error", result.code == 0 ? Json() : Json(result.reason)}};
 }
 
 } // namespace

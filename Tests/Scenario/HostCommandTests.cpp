@@ -66,6 +66,9 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
          "qdv12host: agc: SDK4_ERR_OUTOFRANGE: 7 was refused, the camera still holds off\n"},
         {"set Orvik-710C packetsize=1501", 0, "packetsize=1500\n",
          "qdv12host: packetsize: 1501 was accepted, but the camera now holds 1500\n"},
+        {"set Orvik-710C gain=5 lutmode=1 --fault failwrite:gain", 1, "gain=0\nlutmode=1\n",
+         "qdv12host: gain: WriteMem at 0x14010000 failed: no answer from the camera: 5 was refused, the camera still "
+         "holds 0\n"},
         {"set Orvik-710C gain=5 --fault ignore:gain", 1, "gain=0\n",
          "qdv12host: gain: 5 was accepted, but the camera now holds 0\n"},
         {"set Cerix-MV7 storeimage=on restart --json", 0,
