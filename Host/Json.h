@@ -10,11 +10,17 @@
 
 namespace Host {
 
+/// A member of an object of JSON. A template, so that the document can hold members of its own kind.
+template <typename Document> struct JsonMember {
+    std::string name;
+    Document value;
+};
+
 /// A JSON document. It is written and read by nlohmann-json, which costs seconds wherever it is included; so it is
 /// included in Json.cpp alone.
 class Json {
 public:
-    struct Member;
+    using Member = JsonMember<Json>;
     using List = std::vector<Json>;
     using Object = std::vector<Member>; ///< in the order of their adding
 
@@ -52,11 +58,6 @@ public:
 
 private:
     std::variant<std::monostate, bool, std::int64_t, std::string, List, Object> content;
-};
-
-struct Json::Member {
-    std::string name;
-    Json value;
 };
 
 } // namespace Host
