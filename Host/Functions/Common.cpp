@@ -39,7 +39,7 @@ void AddIdentity(FunctionTable& table) {
     using I = IGufi;
     table.Topic(Topic::identity);
     table.ReadOnly<&I::GetDeviceName>           ("devicename");
-    table.ReadOnly<&I::GetSerialNumber>         ("serialnumber");
+    table.ReadOnly<&I::GetSerialNumber>         (Name::serialNumber);
     table.ReadOnly<&I::GetFunctionModelID>      ("functionmodelid").Hexadecimal();
     table.ReadOnly<&I::GetFunctionModelVersion> ("functionmodelversion");
     table.ReadOnly<&I::GetRevision>             ("revision");

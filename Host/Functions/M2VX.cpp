@@ -79,7 +79,7 @@ void AddM2VXDevice(FunctionTable& table) {
     table.WriteOnly<&D::SetDefectPixelAutoCompensation>                        ("defectpixelautocompensation");
     table.Topic(Topic::outputs);
     table.Row<&M::GetMotorControl, &M::SetMotorControl>                        ("motorcontrol")           .Instances(256).Keeps(SDK4_ERR_OUTOFRANGE).Restored(Output);
-    table.Row<&L::GetLensControl, &L::SetLensControl>                          ("lenscontrol")            .Instances(256).Restored(Output); // takes any number; as many as of motors
+    table.Row<&L::GetLensControl, &L::SetLensControl>                          ("lenscontrol")            .Instances(4)                        .Restored(Output); // takes any number; a camera drives four
 }
 
 // clang-format on
