@@ -52,6 +52,7 @@ struct Command {
     const char* about;
     std::vector<Parameter> parameters;
     int (*run)(const Invocation& invocation);
+    bool inShell = true; ///< whether a shell has it too
 };
 
 /// All commands, in the order of the help: the one place where a command is registered.

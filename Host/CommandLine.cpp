@@ -59,8 +59,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->type_name("FILE");
     app.add_option("--fault", options.camera.faults, "Plants a fault in the simulated camera, such as ignore:gain")
         ->type_name("TEXT")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false); // else it would take the model for a fault too
 }
 
 Request Parse(std::vector<std::string> arguments, bool inShell) {
@@ -78,7 +77,9 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
     }
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
-        commands.push_back(AddCommand(app, command, inShell));
+        if (command.inShell || !inShell) {
+            commands.push_back(AddCommand(app, command, inShell));
+        }
     }
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them

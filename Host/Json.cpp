@@ -98,6 +98,10 @@ std::string Json::Print() const {
     return ToDocument(*this).dump(2, ' ', false, Document::error_handler_t::replace); // a camera's text may be anything
 }
 
+std::string Json::PrintInOneLine() const {
+    return ToDocument(*this).dump(-1, ' ', false, Document::error_handler_t::replace);
+}
+
 Json Json::Parse(const std::string& text) { return FromDocument(Document::parse(text)); }
 
 } // namespace Host

@@ -52,6 +52,7 @@ public:
 
     /// The document as text, indented by two, without a line feed at the end.
     [[nodiscard]] std::string Print() const;
+    [[nodiscard]] std::string PrintInOneLine() const;
 
     /// @throw std::runtime_error that says where a text is no JSON, or holds a number that is no integer
     [[nodiscard]] static Json Parse(const std::string& text);

@@ -12,7 +12,8 @@ namespace Host {
 /// The options that every command takes.
 struct Options {
     std::string plugin = DefaultPlugin();
-    CameraOptions camera{.index = 2}; ///< 2 has every value read from the camera, with either family
+    /// With index 2 every value is read from the camera, with either family. Nobody asks the port what it remembers.
+    CameraOptions camera{.index = 2, .accesses = [](const Access&) {}};
     bool json = false;
     std::string logLevel;  ///< empty: off, or what the configuration says
     std::string logConfig; ///< a configuration file of log4cxx, or empty
@@ -33,6 +34,7 @@ public:
     /// Opens a camera, or gives back the one that is open.
     /// @throw OpenError
     [[nodiscard]] Session& Open(const std::string& model);
+    [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     /// Has the state file, if there is one, hold the camera that was opened.
     void SaveState() const;
 

@@ -7,6 +7,9 @@ const std::vector<Command>& Commands() {
     static const Parameter names{"NAME...",
                                  "Functions, as list names them; without its number an indexed one is meant whole"};
     static const Parameter all{"--all", "Also list one by one what there are many of"};
+    static const Parameter file{"FILE", "A file with settings"};
+    static const Parameter outputs{"--outputs", "Also I/O lines, motors and lenses, which move what is wired to the camera"};
+    static const Parameter dryRun{"--dry-run", "Say what would be set, and set nothing"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",  "Find out whether a plug-in can be used, and why not", {{"[PLUGIN]", "The plug-in (default: that of --plugin)"}}, Check},
@@ -15,7 +18,15 @@ const std::vector<Command>& Commands() {
         {"list",   "List every function of a camera",                     {model, all},   List},
         {"get",    "Print what functions hold",                           {model, names}, Get},
         {"set",    "Set functions, such as gain=100 exposure=1:2000",     {model, {"NAME=VALUE...", "What to set, in this order"}}, Set},
-        {"tour",   "Walk through every interface of a camera, with its port accesses", {model}, RunTour},
+        {"save",   "Save the settings of a camera as JSON",               {model, file},  Save},
+        {"diff",   "Compare saved settings with others; exit code 1 if they differ",
+                   {{"A", "A file with settings"}, {"[B]", "Another one"}, {"--live MODEL", "Instead of another one, a camera"}}, Diff},
+        {"restore", "Set a camera to saved settings",                     {model, file, outputs, dryRun}, RunRestore},
+        {"watch",  "Show what changes, until interrupted",
+                   {model, {"[NAME=VALUE...]", "What to set when it has begun"}, {"--seconds N", "Ends after that time"}}, Watch},
+        {"selftest", "Test every function that can be set, and put all settings back", {model, outputs}, RunSelftest},
+        {"shell",  "Run these commands at a prompt, on one camera",       {model}, Shell, false},
+        {"tour",   "Walk through every interface of a camera, with its port accesses", {model}, RunTour, false},
     };
     // clang-format on
     return commands;

@@ -11,6 +11,12 @@ int Info(const Invocation& invocation);
 int List(const Invocation& invocation);
 int Get(const Invocation& invocation);
 int Set(const Invocation& invocation);
+int Save(const Invocation& invocation);
+int Diff(const Invocation& invocation);
+int RunRestore(const Invocation& invocation);
+int Watch(const Invocation& invocation);
+int RunSelftest(const Invocation& invocation);
+int Shell(const Invocation& invocation);
 int RunTour(const Invocation& invocation);
 
 } // namespace Host

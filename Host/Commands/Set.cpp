@@ -1,39 +1,14 @@
 #include "Commands.h"
 
+#include "Assignment.h"
 #include "Describe.h"
+#include "Settings/ReadThrough.h"
 
 #include <iostream>
 
 namespace Host {
 
 namespace {
-
-struct Assignment {
-    Instance instance;
-    Value value;
-};
-
-/// Reads "gain=100", or the mere name of what has no value.
-Assignment ParseAssignment(const Camera& camera, const std::string& text) {
-    const std::size_t equals = text.find('=');
-    const std::string name = text.substr(0, equals);
-    const Instance instance = camera.FindOne(name);
-    if (instance->set == nullptr) {
-        throw UsageError("\"" + name + "\" can only be read");
-    }
-    if (instance->trigger) {
-        return {instance, {}};
-    }
-    if (equals == std::string::npos) {
-        throw UsageError("no value for \"" + name + "\": NAME=VALUE is wanted");
-    }
-    const std::string given = text.substr(equals + 1);
-    if (const auto value = instance.Parse(given)) {
-        return {instance, *value};
-    }
-    const std::string form = DescribeForm(instance, camera.LimitsOf(instance));
-    throw UsageError("\"" + given + "\" is no value of " + name + (form.empty() ? "" : " (" + form + ")"));
-}
 
 struct Result {
     std::int32_t code = 0;     ///< of the refusal; of what has no code, SDK4_ERR_ERROR
@@ -42,7 +17,8 @@ struct Result {
     std::optional<Value> held; ///< by the camera, afterwards
 };
 
-Result Perform(const Camera& camera, const Assignment& assignment) {
+/// @param reader tells what the camera holds, whatever the other control remembers
+Result Perform(const Camera& camera, const Camera& reader, const Assignment& assignment) {
     Result result;
     try {
         camera.SetUnlessLocked(assignment.instance, assignment.value);
@@ -55,7 +31,7 @@ Result Perform(const Camera& camera, const Assignment& assignment) {
         result.reason = error.what();
     }
     if (assignment.instance->get != nullptr) {
-        const Reading reading = camera.TryRead(assignment.instance);
+        const Reading reading = reader.TryRead(assignment.instance);
         if (reading.error == 0) {
             result.held = reading.value;
         }
@@ -105,14 +81,12 @@ Json ToJson(const Assignment& assignment, const Result& result) {
 
 int Set(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
-    std::vector<Assignment> assignments; // all are understood before the first is carried out
-    for (const std::string& text : invocation.Texts("NAME=VALUE...")) {
-        assignments.push_back(ParseAssignment(camera, text));
-    }
+    const auto assignments = ParseAssignments(camera, invocation.Texts("NAME=VALUE..."));
+    const ReadThrough reader(invocation.Open());
     Json document;
     bool refused = false;
     for (const Assignment& assignment : assignments) {
-        const Result result = Perform(camera, assignment);
+        const Result result = Perform(camera, reader.Camera(), assignment);
         if (invocation.Program().Json()) {
             document.Add(ToJson(assignment, result));
         } else if (result.held) {

@@ -1,0 +1,37 @@
+#include "Assignment.h"
+
+#include "Describe.h"
+#include "Errors.h"
+
+namespace Host {
+
+Assignment ParseAssignment(const Camera& camera, const std::string& text) {
+    const std::size_t equals = text.find('=');
+    const std::string name = text.substr(0, equals);
+    const Instance instance = camera.FindOne(name);
+    if (instance->set == nullptr) {
+        throw UsageError("\"" + name + "\" can only be read");
+    }
+    if (instance->trigger) {
+        return {instance, {}};
+    }
+    if (equals == std::string::npos) {
+        throw UsageError("no value for \"" + name + "\": NAME=VALUE is wanted");
+    }
+    const std::string given = text.substr(equals + 1);
+    if (const auto value = instance.Parse(given)) {
+        return {instance, *value};
+    }
+    const std::string form = DescribeForm(instance, camera.LimitsOf(instance));
+    throw UsageError("\"" + given + "\" is no value of " + name + (form.empty() ? "" : " (" + form + ")"));
+}
+
+std::vector<Assignment> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts) {
+    std::vector<Assignment> assignments;
+    for (const std::string& text : texts) {
+        assignments.push_back(ParseAssignment(camera, text));
+    }
+    return assignments;
+}
+
+} // namespace Host

@@ -1,0 +1,195 @@
+#include "Selftest/Selftest.h"
+
+#include "Commands.h"
+#include "Format.h"
+#include "Interrupts.h"
+#include "Json.h"
+#include "Settings/ReadThrough.h"
+#include "Settings/Restorer.h"
+#include "Style.h"
+
+#include <SimulatedCamera.h>
+
+#include <unistd.h>
+
+#include <iostream>
+
+namespace Host {
+
+namespace {
+
+/// How far the run is; on a terminal alone.
+class Progress {
+public:
+    explicit Progress(std::size_t totalSteps) : total(totalSteps), shown(isatty(STDERR_FILENO) == 1) {}
+    ~Progress() {
+        if (shown) {
+            std::cerr << "\r\033[K" << std::flush;
+        }
+    }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    void Step(const std::string& name) {
+        const std::size_t width = 40;
+        const std::size_t filled = width * done++ / total;
+        if (shown) {
+            std::cerr << "\r[" << std::string(filled, '#') << std::string(width - filled, ' ') << "] " << name
+                      << "\033[K" << std::flush;
+        }
+    }
+
+private:
+    std::size_t total;
+    std::size_t done = 0;
+    bool shown;
+};
+
+/// Keeps what the camera is set to, and sets it back, however the test ends.
+class Preserved {
+public:
+    Preserved(Session& openSession, bool withOutputs) : session(openSession), outputs(withOutputs), before(Take()) {}
+    ~Preserved() {
+        try {
+            static_cast<void>(PutBack());
+        } catch (const std::exception& error) {
+            Complain(std::string("the settings could not be put back: ") + error.what());
+        }
+    }
+    Preserved(const Preserved&) = delete;
+    Preserved& operator=(const Preserved&) = delete;
+
+    /// @return what is not as it was
+    std::vector<Difference> PutBack() {
+        if (std::exchange(isBack, true)) {
+            return {};
+        }
+        const ReadThrough setter(session);
+        const ReadThrough reader(session);
+        static_cast<void>(Restorer(setter.Camera(), reader.Camera(), outputs).Restore(before));
+        if (outputs) {
+            session.Camera().Pass(Selftest::travel);
+        }
+        now = Take();
+        return Compare(before, now);
+    }
+
+private:
+    /// What cannot be read fails its test, and is not put back.
+    [[nodiscard]] Settings Take() const {
+        const ReadThrough reader(session);
+        return TakeSettings(reader.Camera(), [](const Instance&, const Reading&) {});
+    }
+
+    Session& session;
+    bool outputs;
+    Settings before;
+    Settings now;
+    bool isBack = false;
+};
+
+/// The instances of a row as one.
+void Merge(std::vector<Tested>& results, Tested tested) {
+    const Instance instance = tested.instance;
+    for (std::string& failure : tested.failures) {
+        failure.insert(0, instance->indexed ? std::to_string(instance.index) + ": " : "");
+    }
+    if (results.empty() || results.back().instance.function != instance.function) {
+        results.push_back(std::move(tested));
+        return;
+    }
+    Tested& row = results.back();
+    row.checks += tested.checks;
+    row.failures.insert(row.failures.end(), tested.failures.begin(), tested.failures.end());
+}
+
+std::vector<Tested> TestAll(Session& session, bool outputs) {
+    const ReadThrough setter(session);
+    const ReadThrough reader(session);
+    const Selftest test(
+        setter.Camera(), reader.Camera(), [&](auto time) { session.Camera().Pass(time); }, outputs);
+    test.SwitchOffModes();
+    const auto instances = setter.Camera().All();
+    Progress progress(instances.size());
+    std::vector<Tested> results;
+    for (const Instance& instance : instances) {
+        if (Interrupts::Came()) {
+            break;
+        }
+        progress.Step(instance.Name());
+        Merge(results, test.Test(instance));
+    }
+    return results;
+}
+
+bool HasValueToSet(const Tested& tested) { return tested.instance->set != nullptr; }
+
+void Print(const Tested& tested) {
+    std::cout << Pad(std::string(tested.instance->name), 24) << "  " << Pad(std::to_string(tested.checks), 6) << "  ";
+    if (!tested.leftOut.empty()) {
+        std::cout << Dim("left out (" + tested.leftOut + ")") << '\n';
+        return;
+    }
+    std::cout << (tested.failures.empty() ? Green("passed") : Red("FAILED")) << '\n';
+    for (const std::string& failure : tested.failures) {
+        std::cout << "    " << failure << '\n';
+    }
+}
+
+Json ToJson(const Tested& tested) {
+    Json failures(Json::List{});
+    for (const std::string& failure : tested.failures) {
+        failures.Add(failure);
+    }
+    return Json{{"name", tested.instance->name},
+                {"checks", tested.checks},
+                {"failures", failures},
+                {"leftOut", tested.leftOut.empty() ? Json() : Json(tested.leftOut)}};
+}
+
+/// @return how many checks failed
+int Report(const std::vector<Tested>& results, bool json) {
+    int checks = 0;
+    int failures = 0;
+    Json document(Json::List{});
+    if (!json) {
+        std::cout << Pad("FUNCTION", 24) << "  CHECKS  RESULT\n";
+    }
+    for (const Tested& tested : results) {
+        checks += tested.checks;
+        failures += static_cast<int>(tested.failures.size());
+        if (json) {
+            document.Add(ToJson(tested));
+        } else if (HasValueToSet(tested) || !tested.failures.empty()) {
+            Print(tested);
+        }
+    }
+    if (json) {
+        std::cout << document.Print() << '\n';
+    } else {
+        std::cout << checks << " checks, " << failures << " failures\n";
+    }
+    return failures;
+}
+
+} // namespace
+
+int RunSelftest(const Invocation& invocation) {
+    Session& session = invocation.Open();
+    const bool outputs = invocation.Has("--outputs");
+    const Interrupts interrupts;
+    Preserved preserved(session, outputs);
+    const auto results = TestAll(session, outputs);
+    const auto left = preserved.PutBack();
+    const int failures = Report(results, invocation.Program().Json());
+    for (const Difference& difference : left) {
+        Complain("not put back: " + difference.instance.Name());
+    }
+    if (Interrupts::Came()) {
+        Complain(left.empty() ? "interrupted; the settings are put back" : "interrupted");
+        return Refused;
+    }
+    return failures == 0 && left.empty() ? AllWell : Refused;
+}
+
+} // namespace Host

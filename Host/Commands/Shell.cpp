@@ -1,0 +1,133 @@
+#include "Commands.h"
+
+#include "CommandLine.h"
+#include "Guarded.h"
+#include "Interrupts.h"
+#include "LineReader.h"
+#include "Nearest.h"
+
+#include <algorithm>
+#include <csignal>
+#include <iostream>
+
+namespace Host {
+
+namespace {
+
+constexpr const char* help = "help";
+constexpr const char* quit = "quit";
+
+/// Splits a line at blanks; what stands in quotes stays together.
+std::vector<std::string> WordsOf(const std::string& line) {
+    std::vector<std::string> words;
+    bool inWord = false;
+    char quote = '\0';
+    for (const char character : line) {
+        if (quote == '\0' && (character == ' ' || character == '\t' || character == '\r')) {
+            inWord = false;
+            continue;
+        }
+        if (!inWord) {
+            words.emplace_back();
+            inWord = true;
+        }
+        if (character == quote) {
+            quote = '\0';
+        } else if (quote == '\0' && (character == '"' || character == '\'')) {
+            quote = character;
+        } else {
+            words.back() += character;
+        }
+    }
+    if (quote != '\0') {
+        throw UsageError(std::string("there is no second ") + quote);
+    }
+    return words;
+}
+
+std::vector<std::string> CommandNames() {
+    std::vector<std::string> names{help, quit};
+    for (const Command& command : Commands()) {
+        if (command.inShell) {
+            names.emplace_back(command.name);
+        }
+    }
+    return names;
+}
+
+/// Commands first; what follows those that take functions are their names.
+std::vector<std::string> Completions(const Camera& camera, const std::string& before) {
+    const std::size_t first = before.find_first_not_of(" \t");
+    if (first == std::string::npos) {
+        return CommandNames();
+    }
+    std::vector<std::string> found;
+    const std::string name = before.substr(first, before.find_first_of(" \t", first) - first);
+    for (const Command& command : Commands()) {
+        for (const Parameter& parameter : command.parameters) {
+            const std::string_view given = parameter.name;
+            if (command.name != name || given.find("NAME") == given.npos || before.ends_with('=')) {
+                continue;
+            }
+            const bool assigns = given.find('=') != given.npos;
+            for (const Instance& instance : camera.All(false)) {
+                if (!assigns || instance->set != nullptr) {
+                    found.push_back(instance.Name() + (assigns ? "=" : ""));
+                }
+            }
+        }
+    }
+    return found;
+}
+
+int RunLine(Program& program, std::vector<std::string> words, bool json) {
+    if (words.front() == help) {
+        words.erase(words.begin());
+        words.emplace_back("--help");
+    }
+    if (const auto names = CommandNames();
+        std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
+        throw UsageError("unknown command \"" + words.front() + '"' + Suggestion(words.front(), names));
+    }
+    const Request request = ParseShellLine(words);
+    if (request.command == nullptr) {
+        if (words.size() == 1) {
+            std::cout << "\nhelp COMMAND says more about a command; quit leaves the shell.\n";
+        }
+        return AllWell;
+    }
+    program.SetJson(json || request.options.json);
+    return request.command->run(Invocation(program, request.given));
+}
+
+} // namespace
+
+int Shell(const Invocation& invocation) {
+    Program& program = invocation.Program();
+    const bool json = program.Json();
+    const Camera camera = invocation.OpenCamera();
+    LineReader lines(camera.Model() + "> ", [&](const std::string& before) { return Completions(camera, before); });
+    if (lines.IsTerminal()) {
+        std::signal(SIGINT, SIG_IGN); // ends what runs, not the shell
+    }
+    int firstFailure = AllWell;
+    while (const auto line = lines.Next()) {
+        bool leaves = false;
+        const int code = Guarded([&]() -> int {
+            const auto words = WordsOf(*line);
+            if (words.empty() || words.front().starts_with('#')) {
+                return AllWell;
+            }
+            leaves = words.front() == quit;
+            return leaves ? int{AllWell} : RunLine(program, words, json);
+        });
+        firstFailure = firstFailure == AllWell ? code : firstFailure;
+        if (leaves || (Interrupts::Came() && !lines.IsTerminal())) {
+            break;
+        }
+    }
+    program.SetJson(json);
+    return lines.IsTerminal() ? int{AllWell} : firstFailure;
+}
+
+} // namespace Host

@@ -1,0 +1,174 @@
+#include "Commands.h"
+
+#include "Assignment.h"
+#include "Describe.h"
+#include "Format.h"
+#include "Interrupts.h"
+#include "Settings/ReadThrough.h"
+
+#include <SimulatedCamera.h>
+
+#include <charconv>
+#include <iostream>
+
+namespace Host {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr milliseconds period{100}; ///< from one look at the camera to the next
+
+/// Prints what happens, with the time since the beginning.
+class Changes {
+public:
+    explicit Changes(bool asJson) : json(asJson) {}
+
+    /// @param what    the function, or what the family calls the property
+    /// @param source  "camera" for what was found there, "callback" for what the control told
+    void Print(const std::string& what, const char* source, const std::string& before, const std::string& now) const {
+        const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
+        if (json) {
+            std::cout << Json{
+                {"milliseconds", std::int64_t{time}},
+                {"name", what},
+                {"source", source},
+                {"before", before.empty() ? Json() : Json(before)},
+                {"value",
+                 now}}.PrintInOneLine();
+        } else {
+            const std::string fraction = std::to_string(1000 + time % 1000).substr(1);
+            std::cout << Pad(std::to_string(time / 1000) + "." + fraction + " s", 12) << Pad(source, 10)
+                      << Pad(what, 24) << before << (before.empty() ? "" : " -> ") << now;
+        }
+        std::cout << std::endl; // whoever reads it waits for it
+    }
+
+private:
+    bool json;
+    Clock::time_point start = Clock::now();
+};
+
+/// Hears of what this host sets, from a control that tells of it.
+class Listener {
+public:
+    Listener(const Camera& camera, const Changes& printed)
+        : properties(camera.As<SDK4::Control::IPropertyState>()),
+          changes(printed) {
+        if (properties != nullptr) {
+            properties->AddCallback(Told, this);
+        }
+    }
+    ~Listener() {
+        if (properties != nullptr) {
+            properties->RemoveCallback(Told);
+        }
+    }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+private:
+    static void Told(const char* name, const char* attribute, void* context) {
+        const auto* const self = static_cast<Listener*>(context);
+        self->changes.Print(name, "callback", "", std::string(attribute) + self->Describe(name, attribute));
+    }
+
+    [[nodiscard]] std::string Describe(const char* name, const std::string& attribute) const {
+        if (attribute == "enabled") {
+            return properties->GetEnabled(name) ? " = true" : " = false";
+        }
+        if (attribute != "value" || properties->IsIndexed(name)) { // which of several it was is not told
+            return "";
+        }
+        try {
+            return " = " + (properties->IsUnsigned(name) ? std::to_string(properties->GetUIntValue(name))
+                                                         : std::to_string(properties->GetIntValue(name)));
+        } catch (const SDK4::X4Error&) { // nothing may leave a callback
+            return "";
+        }
+    }
+
+    SDK4::Control::IPropertyState* properties;
+    const Changes& changes;
+};
+
+/// The functions that can be read one by one, and what they held at the last look.
+class Watched {
+public:
+    explicit Watched(const Camera& reading) : reader(reading) {
+        for (const Instance& instance : reader.All()) {
+            if (instance->get != nullptr && instance->count <= fewInstances) {
+                last.push_back({instance, Read(instance)});
+            }
+        }
+    }
+
+    void Look(const Changes& changes) {
+        for (auto& [instance, before] : last) {
+            if (const std::string now = Read(instance); now != before) {
+                changes.Print(instance.Name(), "camera", before, now);
+                before = now;
+            }
+        }
+    }
+
+private:
+    [[nodiscard]] std::string Read(const Instance& instance) const {
+        const Reading reading = reader.TryRead(instance);
+        return reading.error == 0 ? PrintWithUnit(instance, reading.value) : "(" + reading.errorText + ")";
+    }
+
+    const Camera& reader;
+    std::vector<std::pair<Instance, std::string>> last;
+};
+
+/// @return what was given for --seconds, or nothing if it was left out
+std::optional<milliseconds> DurationOf(const Invocation& invocation) {
+    const std::string text = invocation.Text("--seconds N");
+    if (text.empty()) {
+        return std::nullopt;
+    }
+    double seconds = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    if (error != std::errc() || end != text.data() + text.size() || !(seconds >= 0) || seconds > 1e9) {
+        throw UsageError("\"" + text + "\" is no number of seconds");
+    }
+    return milliseconds(static_cast<std::int64_t>(seconds * 1000));
+}
+
+} // namespace
+
+int Watch(const Invocation& invocation) {
+    const auto duration = DurationOf(invocation);
+    Session& session = invocation.Open();
+    const Camera camera = session.Functions();
+    const auto assignments = ParseAssignments(camera, invocation.Texts("[NAME=VALUE...]"));
+    const ReadThrough reader(session);
+    const Interrupts interrupts;
+    const Changes changes(invocation.Program().Json());
+    Watched watched(reader.Camera());
+    int code = AllWell;
+    {
+        const Listener listener(camera, changes);
+        for (const Assignment& assignment : assignments) {
+            try {
+                camera.SetUnlessLocked(assignment.instance, assignment.value);
+            } catch (const SDK4::X4Error& error) { // the camera is watched all the same
+                Complain(assignment.instance.Name() + ": " + SDK4::ErrorName(error.code));
+                code = Refused;
+            }
+        }
+    }
+    const auto end = Clock::now() + duration.value_or(milliseconds(0));
+    while (!Interrupts::Came() && (!duration || Clock::now() < end)) {
+        watched.Look(changes);
+        const auto before = Clock::now();
+        Interrupts::Sleep(period);
+        session.Camera().Pass(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
+    }
+    watched.Look(changes);
+    return code;
+}
+
+} // namespace Host

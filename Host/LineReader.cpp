@@ -1,0 +1,85 @@
+#include "LineReader.h"
+
+#include <editline/readline.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <memory>
+
+namespace Host {
+
+namespace {
+
+constexpr int longestHistory = 500;
+
+// The library of the line editor calls plain functions.
+LineReader::Completer complete;
+std::vector<std::string> candidates;
+
+char* NextMatch(const char* text, int state) {
+    static std::size_t next = 0;
+    next = state == 0 ? 0 : next;
+    while (next < candidates.size()) {
+        const std::string& candidate = candidates[next++];
+        if (candidate.starts_with(text)) {
+            return strdup(candidate.c_str()); // the caller frees it
+        }
+    }
+    return nullptr;
+}
+
+char** Complete(const char* text, int start, int /*end*/) {
+    candidates = complete(std::string(rl_line_buffer, static_cast<std::size_t>(start)));
+    const bool goesOn = !candidates.empty() && candidates.front().ends_with('=');
+    rl_completion_append_character = goesOn ? '\0' : ' ';
+    rl_attempted_completion_over = candidates.empty() ? 0 : 1; // else it may be the name of a file
+    return candidates.empty() ? nullptr : rl_completion_matches(text, NextMatch);
+}
+
+std::string HistoryFile() {
+    const char* const home = std::getenv("HOME");
+    return home == nullptr ? "" : std::string(home) + "/.qdv12host_history";
+}
+
+} // namespace
+
+LineReader::LineReader(std::string promptText, Completer completer)
+    : prompt(std::move(promptText)),
+      terminal(isatty(STDIN_FILENO) == 1) {
+    complete = std::move(completer);
+    if (terminal) {
+        rl_readline_name = "qdv12host";
+        rl_attempted_completion_function = Complete;
+        using_history();
+        stifle_history(longestHistory);
+        read_history(HistoryFile().c_str()); // there is none the first time
+    }
+}
+
+LineReader::~LineReader() {
+    if (terminal) {
+        write_history(HistoryFile().c_str());
+    }
+    complete = nullptr;
+}
+
+std::optional<std::string> LineReader::Next() {
+    if (!terminal) {
+        std::string line;
+        return std::getline(std::cin, line) ? std::optional(line) : std::nullopt;
+    }
+    std::cout.flush();
+    const std::unique_ptr<char, decltype(&std::free)> line(readline(prompt.c_str()), &std::free);
+    if (!line) {
+        std::cout << '\n'; // behind the prompt
+        return std::nullopt;
+    }
+    if (*line != '\0') {
+        add_history(line.get());
+    }
+    return line.get();
+}
+
+} // namespace Host

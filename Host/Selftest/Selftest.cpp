@@ -1,0 +1,201 @@
+#include "Selftest.h"
+
+#include "Settings/Unlock.h"
+
+#include <algorithm>
+
+namespace Host {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds glance{100};    ///< between two looks at what moves
+constexpr milliseconds automatic{500}; ///< in which an automatic mode moves what it owns
+
+std::string NameOf(std::int32_t code) { return code == 0 ? "no refusal" : SDK4::ErrorName(code); }
+
+bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code == SDK4_ERR_CANTSETFEATURE; }
+
+} // namespace
+
+void Selftest::SwitchOffModes() const {
+    for (const Instance& instance : setter.All(false)) {
+        if (instance->restore == Restore::Mode && reader.TryRead(instance).error == 0) {
+            try {
+                static_cast<void>(Write(instance, {{0}, {}}));
+            } catch (const std::exception&) { // the mode's own test fails, too
+            }
+        }
+    }
+}
+
+Tested Selftest::Test(const Instance& instance) const {
+    Tested tested{instance, 0, {}, WhyNot(instance)};
+    if (!tested.leftOut.empty()) {
+        return tested;
+    }
+    // One that is not available now may be so when it is unlocked.
+    if (const Reading reading = reader.TryRead(instance); IsAbsent(reading) && reading.error != SDK4_ERR_DISABLED) {
+        tested.leftOut = reading.errorText;
+        return tested;
+    }
+    try {
+        WhileUnlocked(setter, instance, [&] { TestUnlocked(tested); });
+        if (tested.leftOut.empty() && tested.failures.empty() && instance->lock && instance->set != nullptr) {
+            TestLock(tested);
+        }
+    } catch (const SDK4::X4Error& error) {
+        tested.failures.push_back(SDK4::ErrorName(error.code));
+    } catch (const std::exception& error) { // of the port
+        tested.failures.emplace_back(error.what());
+    }
+    return tested;
+}
+
+std::string Selftest::WhyNot(const Instance& instance) const {
+    if (instance->set == nullptr) {
+        return ""; // reading it does no harm
+    }
+    switch (instance->restore) {
+    case Restore::Setting:
+    case Restore::Mode:
+        return "";
+    case Restore::Output:
+        return outputs ? "" : "an output; --outputs includes it";
+    case Restore::Network:
+        return "network";
+    case Restore::Never:
+        break;
+    }
+    return "no setting";
+}
+
+void Selftest::TestUnlocked(Tested& tested) const {
+    const Instance& instance = tested.instance;
+    const Reading reading = reader.TryRead(instance);
+    if (IsAbsent(reading)) {
+        tested.leftOut = reading.errorText;
+        return;
+    }
+    ++tested.checks;
+    if (reading.error != 0) {
+        tested.failures.push_back("reading it: " + reading.errorText);
+        return;
+    }
+    if (instance->set == nullptr || reading.value.numbers.empty()) {
+        return;
+    }
+    const Limits limits = reader.LimitsOf(instance);
+    const Refusal refusal = reader.RefusalOf(instance);
+    for (const Trial& trial : TrialsOf(instance, limits, refusal, reading.value)) {
+        Try(tested, trial, limits, refusal);
+    }
+    if (limits.empty()) {
+        TryNeighbours(tested, reading.value);
+    }
+    static_cast<void>(Write(instance, reading.value));
+}
+
+void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, const Refusal& refusal) const {
+    ++tested.checks;
+    const Instance& instance = tested.instance;
+    const Value before = reader.Read(instance);
+    const std::int32_t code = Write(instance, trial.value);
+    const std::int32_t expectedCode = trial.admitted ? 0 : refusal.code;
+    const Value expected = trial.admitted ? trial.value : refusal.keeps ? before : Nearest(limits, trial.value);
+    const Value held = Settled(instance, expected);
+    const std::string what = trial.what + " (" + instance.Print(trial.value) + "): ";
+    if (code != expectedCode) {
+        tested.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
+    }
+    const bool mayDiffer = instance->rounds && trial.value != before;
+    if (held != expected && !mayDiffer) {
+        tested.failures.push_back(what + "the camera holds " + instance.Print(held) + " instead of " +
+                                  instance.Print(expected));
+    }
+}
+
+void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
+    const Instance& instance = tested.instance;
+    for (std::size_t field = 0; field < current.numbers.size(); ++field) {
+        ++tested.checks;
+        bool taken = false;
+        for (const Value& neighbour : Neighbours(instance, current, field)) {
+            if (const std::int32_t code = Write(instance, neighbour); code != 0) {
+                tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
+            }
+            taken = taken || Settled(instance, neighbour) != current;
+            static_cast<void>(Write(instance, current));
+            static_cast<void>(Settled(instance, current));
+        }
+        if (!taken) {
+            tested.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
+                                      (current.numbers.size() == 1 ? "it" : instance->shape.fields[field].name));
+        }
+    }
+}
+
+void Selftest::TestLock(Tested& tested) const {
+    const Instance& instance = tested.instance;
+    const Lock& lock = *instance->lock;
+    const Instance mode = setter.FindOne(lock.mode);
+    const Reading held = reader.TryRead(mode);
+    const Limits admitted = reader.LimitsOf(mode);
+    if (held.error != 0 || admitted.empty()) {
+        return;
+    }
+    const auto isOpen = [&](std::int64_t number) {
+        return std::find(lock.open.begin(), lock.open.end(), number) != lock.open.end();
+    };
+    const auto& numbers = admitted.front().admitted;
+    const auto closing = std::find_if_not(numbers.begin(), numbers.end(), isOpen);
+    if (closing == numbers.end()) {
+        return;
+    }
+    ++tested.checks;
+    const Value value = reader.TryRead(instance).value;
+    setter.Write(mode, {{*closing}, {}});
+    const std::string closed = mode.Name() + "=" + mode.Print({{*closing}, {}});
+    if (const std::int32_t code = value.numbers.empty() ? SDK4_ERR_DISABLED : Write(instance, value);
+        !IsLockCode(code)) {
+        tested.failures.push_back("under " + closed + ": " + NameOf(code));
+    }
+    wait(automatic);
+    setter.Write(mode, {{lock.open.front()}, {}});
+    if (lock.moves) {
+        ++tested.checks;
+        static_cast<void>(Write(instance, value));
+        const Value written = reader.Read(instance);
+        wait(automatic);
+        if (const Value now = reader.Read(instance); now != written) {
+            tested.failures.push_back("after " + closed + ": the camera still moves it, from " +
+                                      instance.Print(written) + " to " + instance.Print(now));
+        }
+    }
+    setter.Write(mode, held.value);
+}
+
+/// @return the code of the refusal, or 0
+std::int32_t Selftest::Write(const Instance& instance, const Value& value) const {
+    try {
+        setter.Write(instance, value);
+        return 0;
+    } catch (const SDK4::X4Error& error) {
+        return error.code;
+    }
+}
+
+/// What the camera holds; what is moved by a motor once it has arrived.
+Value Selftest::Settled(const Instance& instance, const Value& expected) const {
+    Value held = reader.Read(instance);
+    if (instance->restore == Restore::Output) {
+        for (milliseconds waited{0}; held != expected && waited < travel; waited += glance) {
+            wait(glance);
+            held = reader.Read(instance);
+        }
+    }
+    return held;
+}
+
+} // namespace Host

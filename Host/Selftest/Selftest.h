@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Settings/Settings.h"
+#include "Trials.h"
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Host {
+
+/// What the test of a function found.
+struct Tested {
+    Instance instance;
+    int checks = 0;
+    std::vector<std::string> failures;
+    std::string leftOut; ///< why it was not tested, else empty
+};
+
+/// A compliance run: whether the library and the camera do what the table says of each function. It changes settings;
+/// who runs it puts them back.
+class Selftest {
+public:
+    /// What a motor or lens needs at most, from one end to the other.
+    static constexpr std::chrono::milliseconds travel{4000};
+
+    using Wait = std::function<void(std::chrono::milliseconds)>;
+
+    /// @param setting sets the functions
+    /// @param reading reads them, from the camera each time; nothing else is set through it
+    /// @param waiting lets the camera's time pass
+    Selftest(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
+        : setter(setting),
+          reader(reading),
+          wait(std::move(waiting)),
+          outputs(withOutputs) {}
+
+    /// Automatic modes would move what is tested.
+    void SwitchOffModes() const;
+
+    /// Tests a function, or reads it if it can only be read. Throws nothing.
+    [[nodiscard]] Tested Test(const Instance& instance) const;
+
+private:
+    [[nodiscard]] std::string WhyNot(const Instance& instance) const;
+    void TestUnlocked(Tested& tested) const;
+    void Try(Tested& tested, const Trial& trial, const Limits& limits, const Refusal& refusal) const;
+    void TryNeighbours(Tested& tested, const Value& current) const;
+    void TestLock(Tested& tested) const;
+    [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
+    [[nodiscard]] Value Settled(const Instance& instance, const Value& expected) const;
+
+    const Camera& setter;
+    const Camera& reader;
+    Wait wait;
+    bool outputs;
+};
+
+} // namespace Host
