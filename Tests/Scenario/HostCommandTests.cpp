@@ -58,6 +58,8 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
          "gain=100\nexposure=1:2000\nreadoutarea=0,0,1279,1023\nexposuremode=resetrestart\niomode.0=1\n", ""},
         {"set Orvik-710C gain=600", 1, "gain=511\n",
          "qdv12host: gain: SDK4_ERR_OUTOFRANGE: 600 was clamped, the camera now holds 511\n"},
+        {"set Orvik-710C agc=off gain=100 --fault ignore:gain", 1, "agc=off\ngain=0\n", // not what the control caches
+         "qdv12host: gain: 100 was accepted, but the camera now holds 0\n"},
         {"set Cerix-MV7 overlayposition.1=-501,7", 1, "overlayposition.1=-500,7\n",
          "qdv12host: overlayposition.1: SDK4_ERR_OUTOFRANGE: -501,7 was clamped, the camera now holds -500,7\n"},
         {"set Orvik-710C agc=7", 1, "agc=off\n",

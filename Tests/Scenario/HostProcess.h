@@ -33,10 +33,12 @@ inline std::string TemporaryFile(const std::string& name) {
 }
 
 /// Runs the reference host, or another program, as a user does; the shell reads the arguments.
-inline Outcome RunHost(const std::string& arguments, const std::string& program = QDV12_HOST) {
+inline Outcome RunHost(const std::string& arguments, const std::string& program = QDV12_HOST,
+                       const std::string& input = "/dev/null") {
     const std::string out = TemporaryFile("out");
     const std::string err = TemporaryFile("err");
-    const int status = std::system((program + " " + arguments + " >" + out + " 2>" + err + " </dev/null").c_str());
+    const std::string files = " >" + out + " 2>" + err + " <" + input;
+    const int status = std::system((program + " " + arguments + files).c_str());
     const Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content(out), Content(err)};
     std::filesystem::remove(out);
     std::filesystem::remove(err);
