@@ -80,7 +80,7 @@ int RunRestore(const Invocation& invocation) {
     }
     const Camera camera = session.Functions();
     const ReadThrough reader(session);
-    const Restorer restorer(camera, reader.Camera(), invocation.Has("--outputs"));
+    const Restorer restorer(camera, reader.Camera(), WaitFor(session), invocation.Has("--outputs"));
     const auto results = invocation.Has("--dry-run") ? restorer.Plan(saved) : restorer.Restore(saved);
 
     if (invocation.Program().Json()) {

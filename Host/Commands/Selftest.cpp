@@ -8,8 +8,6 @@
 #include "Settings/Restorer.h"
 #include "Style.h"
 
-#include <SimulatedCamera.h>
-
 #include <unistd.h>
 
 #include <iostream>
@@ -66,10 +64,8 @@ public:
         }
         const ReadThrough setter(session);
         const ReadThrough reader(session);
-        static_cast<void>(Restorer(setter.Camera(), reader.Camera(), outputs).Restore(before));
-        if (outputs) {
-            session.Camera().Pass(Selftest::travel);
-        }
+        const Restorer restorer(setter.Camera(), reader.Camera(), WaitFor(session), outputs);
+        static_cast<void>(restorer.Restore(before));
         now = Take();
         return Compare(before, now);
     }
@@ -106,8 +102,7 @@ void Merge(std::vector<Tested>& results, Tested tested) {
 std::vector<Tested> TestAll(Session& session, bool outputs) {
     const ReadThrough setter(session);
     const ReadThrough reader(session);
-    const Selftest test(
-        setter.Camera(), reader.Camera(), [&](auto time) { session.Camera().Pass(time); }, outputs);
+    const Selftest test(setter.Camera(), reader.Camera(), WaitFor(session), outputs);
     test.SwitchOffModes();
     const auto instances = setter.Camera().All();
     Progress progress(instances.size());

@@ -3,6 +3,7 @@
 #include "Assignment.h"
 #include "Describe.h"
 #include "Settings/ReadThrough.h"
+#include "Settings/Settled.h"
 
 #include <iostream>
 
@@ -18,7 +19,7 @@ struct Result {
 };
 
 /// @param reader tells what the camera holds, whatever the other control remembers
-Result Perform(const Camera& camera, const Camera& reader, const Assignment& assignment) {
+Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, const Assignment& assignment) {
     Result result;
     try {
         camera.SetUnlessLocked(assignment.instance, assignment.value);
@@ -31,7 +32,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Assignment& ass
         result.reason = error.what();
     }
     if (assignment.instance->get != nullptr) {
-        const Reading reading = reader.TryRead(assignment.instance);
+        const Reading reading = Settled(reader, assignment.instance, assignment.value, wait);
         if (reading.error == 0) {
             result.held = reading.value;
         }
@@ -83,10 +84,11 @@ int Set(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
     const auto assignments = ParseAssignments(camera, invocation.Texts("NAME=VALUE..."));
     const ReadThrough reader(invocation.Open());
+    const Wait wait = WaitFor(invocation.Open());
     Json document;
     bool refused = false;
     for (const Assignment& assignment : assignments) {
-        const Result result = Perform(camera, reader.Camera(), assignment);
+        const Result result = Perform(camera, reader.Camera(), wait, assignment);
         if (invocation.Program().Json()) {
             document.Add(ToJson(assignment, result));
         } else if (result.held) {

@@ -3,6 +3,7 @@
 #include "Settings/Unlock.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace Host {
 
@@ -10,7 +11,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds glance{100};    ///< between two looks at what moves
 constexpr milliseconds automatic{500}; ///< in which an automatic mode moves what it owns
 
 std::string NameOf(std::int32_t code) { return code == 0 ? "no refusal" : SDK4::ErrorName(code); }
@@ -104,7 +104,7 @@ void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, con
     const std::int32_t code = Write(instance, trial.value);
     const std::int32_t expectedCode = trial.admitted ? 0 : refusal.code;
     const Value expected = trial.admitted ? trial.value : refusal.keeps ? before : Nearest(limits, trial.value);
-    const Value held = Settled(instance, expected);
+    const Value held = Held(instance, expected);
     const std::string what = trial.what + " (" + instance.Print(trial.value) + "): ";
     if (code != expectedCode) {
         tested.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
@@ -125,9 +125,9 @@ void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
             if (const std::int32_t code = Write(instance, neighbour); code != 0) {
                 tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
             }
-            taken = taken || Settled(instance, neighbour) != current;
+            taken = taken || Held(instance, neighbour) != current;
             static_cast<void>(Write(instance, current));
-            static_cast<void>(Settled(instance, current));
+            static_cast<void>(Held(instance, current));
         }
         if (!taken) {
             tested.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
@@ -186,16 +186,13 @@ std::int32_t Selftest::Write(const Instance& instance, const Value& value) const
     }
 }
 
-/// What the camera holds; what is moved by a motor once it has arrived.
-Value Selftest::Settled(const Instance& instance, const Value& expected) const {
-    Value held = reader.Read(instance);
-    if (instance->restore == Restore::Output) {
-        for (milliseconds waited{0}; held != expected && waited < travel; waited += glance) {
-            wait(glance);
-            held = reader.Read(instance);
-        }
+/// What the camera holds after a write. @throw std::runtime_error if it cannot be read any more
+Value Selftest::Held(const Instance& instance, const Value& expected) const {
+    const Reading reading = Settled(reader, instance, expected, wait);
+    if (reading.error != 0) {
+        throw std::runtime_error("reading it back: " + reading.errorText);
     }
-    return held;
+    return reading.value;
 }
 
 } // namespace Host

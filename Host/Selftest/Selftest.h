@@ -1,10 +1,9 @@
 #pragma once
 
 #include "Settings/Settings.h"
+#include "Settings/Settled.h"
 #include "Trials.h"
 
-#include <chrono>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,11 +21,6 @@ struct Tested {
 /// who runs it puts them back.
 class Selftest {
 public:
-    /// What a motor or lens needs at most, from one end to the other.
-    static constexpr std::chrono::milliseconds travel{4000};
-
-    using Wait = std::function<void(std::chrono::milliseconds)>;
-
     /// @param setting sets the functions
     /// @param reading reads them, from the camera each time; nothing else is set through it
     /// @param waiting lets the camera's time pass
@@ -49,7 +43,7 @@ private:
     void TryNeighbours(Tested& tested, const Value& current) const;
     void TestLock(Tested& tested) const;
     [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
-    [[nodiscard]] Value Settled(const Instance& instance, const Value& expected) const;
+    [[nodiscard]] Value Held(const Instance& instance, const Value& expected) const;
 
     const Camera& setter;
     const Camera& reader;

@@ -77,7 +77,7 @@ Restored Restorer::Set(const Setting& setting) const {
     } catch (const std::exception& error) { // of the port
         result.reason = error.what();
     }
-    const Reading reading = reader.TryRead(setting.instance);
+    const Reading reading = Settled(reader, setting.instance, setting.value, wait);
     if (reading.error != 0) {
         result.held.reset();
         result.reason = result.reason.empty() ? reading.errorText : result.reason;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Settings.h"
+#include "Settled.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,13 +37,11 @@ class Restorer {
 public:
     /// @param setting sets the functions
     /// @param reading reads them
-    Restorer(const Camera& setting, const Camera& reading, bool withOutputs)
+    Restorer(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
         : setter(setting),
           reader(reading),
+          wait(std::move(waiting)),
           outputs(withOutputs) {}
-
-    /// Tells of a function as soon as nothing more becomes of it.
-    using Observer = std::function<void(const Restored&)>;
 
     /// Automatic modes off, then the values in the order of the table, until one setting no longer moves another; last
     /// the modes as they were saved. What fails stops nothing.
@@ -61,6 +59,7 @@ private:
 
     const Camera& setter;
     const Camera& reader;
+    Wait wait;
     bool outputs;
 };
 

@@ -1,0 +1,32 @@
+#include "Settled.h"
+
+#include <SimulatedCamera.h>
+
+namespace Host {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds travel{4000}; ///< of the slowest motor
+constexpr milliseconds glance{100};  ///< between two looks at it
+
+} // namespace
+
+Wait WaitFor(Session& session) {
+    return [&session](milliseconds time) { session.Camera().Pass(time); };
+}
+
+Reading Settled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait) {
+    Reading reading = reader.TryRead(instance);
+    if (instance->restore == Restore::Output) {
+        for (milliseconds waited{0}; reading.error == 0 && reading.value != expected && waited < travel;
+             waited += glance) {
+            wait(glance);
+            reading = reader.TryRead(instance);
+        }
+    }
+    return reading;
+}
+
+} // namespace Host
