@@ -60,7 +60,7 @@ TEST_F(HostSettings, ComeBackAsTheyWereSaved) {
         {"'Sollux G'", "abc=1 abcthreshold.0=400 abc=0 agc=2 automaticlevel=55",
          "agc=1 exposuremode=resetrestart exposure=100 abc=1 abcthreshold.0=500 shadingcorrectionmode=on "
          "shadingcorrection.2=-7 histogramequalization=2",
-         "lenscontrol.1=100", "shadingcorrection.2       0                       -7\n"},
+         "lenscontrol.1=65000", "shadingcorrection.2       0                       -7\n"},
     };
     for (const Case& each : cases) {
         const std::string model = each.model;
@@ -125,6 +125,17 @@ TEST_F(HostSettings, OfAnAutomaticModeThatIsOnAreNotCompared) {
     ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
     Write(other, Replaced(Content(saved), "\"gain\": ", "\"gain\": 4"));
     EXPECT_EQ(Run("diff " + saved + " " + other).code, 0);
+
+    // They are restored all the same, under the mode that is switched off for that while.
+    const Outcome restored = Run("restore --trace Orvik-390M " + other);
+    EXPECT_EQ(restored.code, 0) << restored.out;
+    const std::size_t off = restored.err.find("write WriteMem          0x46020000  0  ");
+    const std::size_t gain = restored.err.find("write WriteMem          0x14010000  ");
+    const std::size_t on = restored.err.find("write WriteMem          0x46020000  1  ");
+    EXPECT_LT(off, gain);
+    EXPECT_LT(gain, on);
+    EXPECT_NE(on, std::string::npos) << restored.err;
+
     Write(other, Replaced(Content(other), "\"agc\": 1", "\"agc\": \"off\""));
     const Outcome run = Run("diff " + saved + " " + other);
     EXPECT_EQ(run.code, 1);
