@@ -70,21 +70,26 @@ private:
 
 } // namespace
 
-TEST(HostSelftest, PassesOnEveryModelAndLeavesItAsItWas) {
-    const std::string state = TemporaryFile("state");
-    const std::string saved = TemporaryFile("saved.json");
-    const char* const models[] = {"Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M",
-                                  "Orvik-390C",   "Orvik-520M",   "Orvik-520C", "Orvik-530M", "Orvik-530C",
-                                  "Cerix7-MV",    "Cerix-MV7",    "'Sollux G'"};
-    for (const std::string model : models) {
-        const std::string memory = " --state " + state;
-        std::filesystem::remove(state);
-        ASSERT_EQ(RunHost("set " + model + " gain=31 agc=2 sharpness=7" + memory).code, 0);
-        ASSERT_EQ(RunHost("save " + model + " " + saved + memory).code, 0);
-        const Outcome run = RunHost("selftest --outputs " + model + memory);
+TEST(HostSelftest, PassesOnEveryModel) {
+    for (const std::string model :
+         {"Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M", "Orvik-390C", "Orvik-520M",
+          "Orvik-520C", "Orvik-530M", "Orvik-530C", "Cerix7-MV", "Cerix-MV7", "'Sollux G'"}) {
+        const Outcome run = RunHost("selftest --outputs " + model);
         EXPECT_EQ(run.code, 0) << model;
         EXPECT_EQ(run.err, "") << model;
         EXPECT_TRUE(run.out.ends_with(" checks, 0 failures\n")) << run.out;
+    }
+}
+
+TEST(HostSelftest, LeavesTheCameraAsItWas) {
+    const std::string state = TemporaryFile("state");
+    const std::string saved = TemporaryFile("saved.json");
+    const std::string memory = " --state " + state;
+    for (const std::string model : {"Orvik-390C", "'Sollux G'"}) {
+        std::filesystem::remove(state);
+        ASSERT_EQ(RunHost("set " + model + " gain=31 agc=2 sharpness=7" + memory).code, 0);
+        ASSERT_EQ(RunHost("save " + model + " " + saved + memory).code, 0);
+        EXPECT_EQ(RunHost("selftest --outputs " + model + memory).code, 0);
         EXPECT_EQ(RunHost("diff " + saved + " --live " + model + memory).out, "") << model;
     }
     std::filesystem::remove(state);
