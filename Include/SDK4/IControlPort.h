@@ -44,10 +44,14 @@ public:
     virtual void WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) = 0;
 
     /// Reads memory into the caller's buffer.
+    /// @param address where the memory begins
+    /// @param buffer the caller's
     /// @param length in: the bytes wanted, the size of @p buffer; out: the bytes read.
     virtual void ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) = 0;
 
     /// Writes memory from the caller's buffer.
+    /// @param address where the memory begins
+    /// @param buffer the caller's
     /// @param length in: the bytes to write; out: the bytes written.
     virtual void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) = 0;
 };

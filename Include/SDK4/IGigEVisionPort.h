@@ -17,11 +17,15 @@ public:
     virtual void WriteRegister(unsigned int address, unsigned int value) = 0;
 
     /// Reads memory into @p buffer.
+    /// @param address where the memory begins
+    /// @param buffer the caller's
     /// @param length in: bytes wanted, the size of @p buffer; out: bytes read
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null @p buffer or @p length, before any access.
     virtual void ReadMem(unsigned int address, unsigned char* buffer, unsigned int* length) = 0;
 
     /// Writes memory from @p buffer.
+    /// @param address where the memory begins
+    /// @param buffer the caller's
     /// @param length in: bytes to write; out: bytes written
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null @p buffer or @p length, before any access.
     virtual void WriteMem(unsigned int address, unsigned char* buffer, unsigned int* length) = 0;

@@ -12,36 +12,48 @@ namespace SDK4::Control {
 ///
 /// A name that no property has (a null name is one) makes the operations throw SDK4_ERR_ERROR, except the five that
 /// answer false. Nothing here reads the camera.
+///
+/// The UInt operations answer from the unsigned side of a property, the Int operations from the signed side, whatever
+/// IsUnsigned says. While a property admits single values only, its limits are the smallest and the largest of these.
 class SDK4_PUBLIC IPropertyState {
 public:
-    /// Limits and defaults. While a property admits single values only, its limits are the smallest and the largest of
-    /// these. The UInt operations answer from the unsigned side of a property, the Int operations from the signed side,
-    /// whatever IsUnsigned says.
+    /// Smallest admitted value, unsigned side.
     virtual std::uint32_t GetUIntMin(const char* name) = 0;
+    /// Largest admitted value, unsigned side.
     virtual std::uint32_t GetUIntMax(const char* name) = 0;
+    /// The default, unsigned side.
     virtual std::uint32_t GetUIntDefault(const char* name) = 0;
 
-    /// The value as the control knows it.
-    /// Throws SDK4_ERR_NOT_IMPLEMENTED when the camera lacks the property, SDK4_ERR_DISABLED when it is disabled and
-    /// the camera does not move it on its own.
+    /// The value as the control knows it, unsigned side.
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED when the camera lacks the property.
+    /// @throws SDK4_ERR_DISABLED when it is disabled and the camera does not move it on its own.
     virtual std::uint32_t GetUIntValue(const char* name) = 0;
+    /// The value of one of several; refuses as above.
     virtual std::uint32_t GetUIntValue(int index, const char* name) = 0;
 
+    /// Smallest admitted value, signed side.
     virtual std::int32_t GetIntMin(const char* name) = 0;
+    /// Largest admitted value, signed side.
     virtual std::int32_t GetIntMax(const char* name) = 0;
+    /// The default, signed side.
     virtual std::int32_t GetIntDefault(const char* name) = 0;
+    /// The value as the control knows it, signed side; refuses as GetUIntValue.
     virtual std::int32_t GetIntValue(const char* name) = 0;
+    /// The value of one of several, signed side; refuses as GetUIntValue.
     virtual std::int32_t GetIntValue(int index, const char* name) = 0;
 
     /// Whether the property can be changed now. False for an unknown name.
     virtual bool GetEnabled(const char* name) = 0;
+    /// Enables or disables the property in this control; the camera is not told.
     virtual void SetEnabled(const char* name, bool enabled) = 0;
 
-    /// Whether the camera has the property, which side is in force, whether the property is one of several with its
-    /// name, whether it admits single values only. False for an unknown name.
+    /// Whether the camera has the property. False for an unknown name.
     virtual bool GetImplemented(const char* name) = 0;
+    /// Whether the unsigned side is in force. False for an unknown name.
     virtual bool IsUnsigned(const char* name) = 0;
+    /// Whether the property is one of several with its name. False for an unknown name.
     virtual bool IsIndexed(const char* name) = 0;
+    /// Whether it admits single values only. False for an unknown name.
     virtual bool IsEnumerated(const char* name) = 0;
 
     /// Registers the one observer of all properties, in place of an earlier one.

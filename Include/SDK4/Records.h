@@ -16,33 +16,33 @@ struct SDK4_KAREA {
 
 /// An image size in pixels.
 struct SDK4_KSIZE {
-    std::uint32_t width;
-    std::uint32_t height;
+    std::uint32_t width;  ///< columns
+    std::uint32_t height; ///< lines
 };
 
 /// The gains of the three colour channels.
 struct SDK4_KRGB {
-    std::uint32_t red;
-    std::uint32_t green;
-    std::uint32_t blue;
+    std::uint32_t red;   ///< gain of the red channel
+    std::uint32_t green; ///< gain of the green channel
+    std::uint32_t blue;  ///< gain of the blue channel
 };
 
 /// An overlay position in pixels from the upper left corner of the readout area.
 struct SDK4_KPOSITION {
-    std::uint32_t posx;
-    std::uint32_t posy;
+    std::uint32_t posx; ///< columns to the right
+    std::uint32_t posy; ///< lines down
 };
 
 /// How an overlay is drawn; the codes are the camera's.
 struct SDK4_KSTYLE {
-    std::uint32_t color;
-    std::uint32_t style;
+    std::uint32_t color; ///< code of the colour
+    std::uint32_t style; ///< code of the shape
 };
 
 /// The size of an overlay in pixels: stroke width and length.
 struct SDK4_KOVERLAYSIZE {
-    std::uint32_t width;
-    std::uint32_t length;
+    std::uint32_t width;  ///< stroke width
+    std::uint32_t length; ///< length of a stroke
 };
 
 /// A time as a base selector and a count of that base: exposure time, trigger delay.
@@ -53,35 +53,35 @@ struct SDK4_KEXPOSURE {
 
 /// Binning factors, 1 to 8 each.
 struct SDK4_KBINNING {
-    std::uint32_t horizontal;
-    std::uint32_t vertical;
+    std::uint32_t horizontal; ///< columns that become one
+    std::uint32_t vertical;   ///< lines that become one
 };
 
 /// A version number as the camera reports it.
 struct SDK4_KVERSION {
-    std::uint32_t value1;
-    std::uint32_t value2;
+    std::uint32_t value1; ///< first word
+    std::uint32_t value2; ///< second word
 };
 
 /// A revision number as the camera reports it.
 struct SDK4_KREVISION {
-    std::uint32_t value1;
-    std::uint32_t value2;
+    std::uint32_t value1; ///< first word
+    std::uint32_t value2; ///< second word
 };
 
 /// A position relative to the image centre or, for the circular blanking, its centre in pixels.
 struct SDK4_KCIRCULARPOSITION {
-    std::int32_t xpos;
-    std::int32_t ypos;
+    std::int32_t xpos; ///< columns to the right
+    std::int32_t ypos; ///< lines down
 };
 
 /// The circular measure window: sizes in pixels, centre relative to the image centre, vertical stretch (128 is none).
 struct SDK4_KMWCIRCLE {
-    std::uint32_t radius;
-    std::uint32_t width;
-    std::int32_t xpos;
-    std::int32_t ypos;
-    std::uint32_t vstretch;
+    std::uint32_t radius;   ///< of the circle
+    std::uint32_t width;    ///< of the stroke that shows it
+    std::int32_t xpos;      ///< columns to the right
+    std::int32_t ypos;      ///< lines down
+    std::uint32_t vstretch; ///< vertical stretch, 128 is none
 };
 
 /// One entry of the defect-pixel table.
@@ -99,20 +99,20 @@ struct SDK4_KDEFECTPIXELSELECT {
 
 /// Selects a device register of the camera; the three words are passed on unchanged.
 struct SDK4_KDEVICESELECT {
-    std::uint32_t value1;
-    std::uint32_t value2;
-    std::uint32_t value3;
+    std::uint32_t value1; ///< first word
+    std::uint32_t value2; ///< second word
+    std::uint32_t value3; ///< third word
 };
 
 /// Selects a parameter block of the analogue front end; the two words are passed on unchanged.
 struct SDK4_AFE_SELECT {
-    std::uint32_t value1;
-    std::uint32_t value2;
+    std::uint32_t value1; ///< first word
+    std::uint32_t value2; ///< second word
 };
 
 /// A parameter block of the analogue front end; the ten words are passed on unchanged.
 struct SDK4_AFE_PARAM {
-    std::uint32_t values[10];
+    std::uint32_t values[10]; ///< in the camera's order
 };
 
 #define SDK4_ASSERT_RECORD(record, size)                                                                               \

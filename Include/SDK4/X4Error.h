@@ -37,6 +37,7 @@ namespace SDK4 {
 /// The only exception type that the library throws itself, by value. An exception of the host's port passes through
 /// the library unchanged, whatever its type.
 struct SDK4_PUBLIC X4Error {
+    /// An error of that code.
     explicit X4Error(std::int32_t errorCode) noexcept : code(errorCode) {}
 
     std::int32_t code; ///< one of SDK4_ERR
