@@ -20,7 +20,7 @@ using namespace Host;
 /// A line of the document, and the models of its family that have the function, by their limits.
 struct Line {
     const Function* function;
-    std::string registers;
+    std::string reached;
     std::map<std::string, std::set<std::string>> modelsByLimits;
 };
 
@@ -36,64 +36,62 @@ void Unlock(const Camera& camera, const Instance& instance) {
     }
 }
 
-/// The registers that the host reaches by a call, without those that decide whether it may be called.
-std::string RegistersOf(Session& session, const Camera& camera, const Instance& instance) {
+/// The register that a call reaches last, behind those that decide whether it may be made.
+std::string RegisterOf(Session& session, const Function& function) {
+    const Camera camera = session.Functions();
+    const Instance instance{&function};
     Unlock(camera, instance);
     (void)session.Port().Take();
     if (instance->get != nullptr) {
         (void)camera.TryRead(instance);
     } else {
-        const Value one{.numbers = std::vector<std::int64_t>(instance->shape.fields.size(), 1), .text = "1"};
-        camera.Write(instance, one);
+        camera.Write(instance, {.numbers = std::vector<std::int64_t>(instance->shape.fields.size(), 1), .text = "1"});
     }
     std::vector<Access> accesses = session.Port().Take();
     return accesses.empty() ? "" : Hex(accesses.back().address);
 }
 
-void Look(Session& session, std::size_t row, const Instance& instance, Family& family) {
+/// Enters the model of the camera, if it has the function.
+/// @return whether it has
+bool Enter(Session& session, Line& line) {
     const Camera camera = session.Functions();
+    const Instance instance{line.function};
     const Reading reading = camera.Look(instance);
     if (reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE) {
-        return;
+        return false;
     }
-    Line& line = family.lines[row];
-    line.modelsByLimits[instance->set == nullptr ? "" : DescribeLimits(instance, camera.LimitsOf(instance))].insert(
-        session.Model());
-    if (line.registers.empty()) {
-        line.registers = RegistersOf(session, camera, instance);
-    }
+    const bool settable = instance->set != nullptr;
+    const std::string limits = settable ? DescribeLimits(instance, camera.LimitsOf(instance)) : "";
+    line.modelsByLimits[limits].insert(session.Model());
+    return true;
 }
 
-/// A camera for each function: one call must not decide what the next one meets.
+/// Cameras of their own for each function: one call must not decide what the next one meets.
 void AddModel(const Plugin& plugin, const std::string& model, std::map<std::string, Family>& families) {
     Session first(plugin, model, {.index = 2});
     const Camera camera = first.Functions();
     Family& family = families[camera.Family()];
     family.models.push_back(model);
-    const std::vector<Instance> instances = [&] {
-        std::vector<Instance> all;
-        for (const Function& function : camera.Table()) {
-            all.push_back({&function});
-        }
-        return all;
-    }();
     if (family.lines.empty()) {
-        for (const Instance& instance : instances) {
-            family.lines.push_back({instance.function, {}, {}});
+        for (const Function& function : camera.Table()) {
+            family.lines.push_back({&function, {}, {}});
         }
     }
-    for (std::size_t row = 0; row < instances.size(); ++row) {
-        Session session(plugin, model, {.index = 2});
-        Look(session, row, instances[row], family);
+    for (Line& line : family.lines) {
+        Session looked(plugin, model, {.index = 2});
+        if (Enter(looked, line) && line.reached.empty()) {
+            Session called(plugin, model, {.index = 2}); // one that remembers nothing yet
+            line.reached = RegisterOf(called, *line.function);
+        }
     }
 }
 
 /// Fewer words than a list of names: all, those with an "M" or a "C" for monochrome and colour, or all but a few.
 std::string Models(const std::set<std::string>& having, const std::vector<std::string>& all) {
     const auto isColor = [](const std::string& model) { return model.ends_with('C'); };
-    std::set<std::string> color, missing;
+    std::set<std::string> color, monochrome;
     for (const std::string& model : all) {
-        (isColor(model) ? color : missing).insert(model);
+        (isColor(model) ? color : monochrome).insert(model);
     }
     if (having.size() == all.size()) {
         return "all";
@@ -101,7 +99,7 @@ std::string Models(const std::set<std::string>& having, const std::vector<std::s
     if (having == color) {
         return "colour";
     }
-    if (having == missing) {
+    if (having == monochrome) {
         return "monochrome";
     }
     std::string names;
@@ -141,7 +139,7 @@ void Print(const Line& line, const Family& family) {
     const std::string name =
         std::string(function.name) + (function.indexed ? ".0-" + std::to_string(function.count - 1) : "");
     std::cout << "| `" << name << "` | " << function.interfaceName << " | " << use << " | " << function.unit << " | "
-              << Cell(Limits(line, family)) << " | " << line.registers << " | "
+              << Cell(Limits(line, family)) << " | " << line.reached << " | "
               << (having.empty() ? "none" : Models(having, family.models)) << " |\n";
 }
 
@@ -162,9 +160,10 @@ void Print(const std::string& name, const Family& family) {
 int main() {
     ConfigureLogging("off", "");
     std::cout
-        << "# Models and functions\n\nMade by `cmake --build --preset release --target functions` from the simulated "
-           "cameras: names and limits as `qdv12host list`\nshows them, the register that a call reaches last. "
-           "Functions that no model of a family has are refused with\n`SDK4_ERR_NOT_IMPLEMENTED`.\n";
+        << "# Models and functions\n\nMade by `cmake --build --preset release --target functions` from the simulated\n"
+           "cameras: names and limits as `qdv12host list` shows them, the register that a call reaches last. A "
+           "function\n"
+           "that no model of a family has is refused with `SDK4_ERR_NOT_IMPLEMENTED`.\n";
     const Plugin plugin(DefaultPlugin());
     std::map<std::string, Family> families;
     for (const Model& model : plugin.Models()) {
