@@ -19,6 +19,25 @@ std::string PropertyOf(const Function& function, const Field& field) {
     return std::string(base) + (*field.name == '\0' ? "" : ".") + field.name;
 }
 
+FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const char* name) {
+    FieldLimits limits;
+    if (properties.IsUnsigned(name)) {
+        limits.min = properties.GetUIntMin(name);
+        limits.max = properties.GetUIntMax(name);
+        limits.standard = properties.GetUIntDefault(name);
+    } else {
+        limits.min = properties.GetIntMin(name);
+        limits.max = properties.GetIntMax(name);
+        limits.standard = properties.GetIntDefault(name);
+    }
+    if (properties.IsEnumerated(name)) { // the codes of such a family have no gaps
+        for (std::int64_t code = limits.min; code <= limits.max; ++code) {
+            limits.admitted.push_back(code);
+        }
+    }
+    return limits;
+}
+
 } // namespace
 
 Camera::Camera(IDynamicObject& opened, std::string modelName)
@@ -150,27 +169,18 @@ Limits Camera::LimitsOf(const Instance& instance) const {
 }
 
 Limits Camera::PublishedLimits(const Instance& instance) const {
-    Limits limits;
     if (properties == nullptr || instance->trigger) {
-        return limits;
+        return {};
     }
+    Limits limits;
     for (const Field& field : instance->shape.fields) {
-        const std::string full = PropertyOf(*instance.function, field);
-        const char* const name = full.c_str();
-        if (!properties->GetImplemented(name)) {
+        const std::string name = PropertyOf(*instance.function, field);
+        if (!properties->GetImplemented(name.c_str())) {
             return {};
         }
-        const bool plain = properties->IsUnsigned(name);
-        FieldLimits& found = limits.emplace_back();
-        found.min = plain ? std::int64_t{properties->GetUIntMin(name)} : properties->GetIntMin(name);
-        found.max = plain ? std::int64_t{properties->GetUIntMax(name)} : properties->GetIntMax(name);
-        if (instance.index == 0) { // the defaults of the others are not published
-            found.standard = plain ? std::int64_t{properties->GetUIntDefault(name)} : properties->GetIntDefault(name);
-        }
-        if (properties->IsEnumerated(name)) { // the codes of such a family have no gaps
-            for (std::int64_t code = found.min; code <= found.max; ++code) {
-                found.admitted.push_back(code);
-            }
+        limits.push_back(LimitsOfProperty(*properties, name.c_str()));
+        if (instance.index != 0) { // the defaults of the others are not published
+            limits.back().standard.reset();
         }
     }
     return limits;

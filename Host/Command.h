@@ -31,7 +31,7 @@ public:
     /// What was given for a parameter, by its whole name in the command's list; nothing if it was left out.
     [[nodiscard]] const std::vector<std::string>& Texts(const std::string& parameter) const;
     [[nodiscard]] std::string Text(const std::string& parameter) const;
-    [[nodiscard]] bool Has(const std::string& parameter) const { return given.count(parameter) != 0; }
+    [[nodiscard]] bool Has(const std::string& parameter) const { return given.contains(parameter); }
 
     [[nodiscard]] Host::Program& Program() const { return program; }
 

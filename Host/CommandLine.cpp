@@ -62,6 +62,21 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->allow_extra_args(false); // else it would take the model for a fault too
 }
 
+/// Takes over what was given for the one command that was named.
+void TakeGiven(const std::vector<Filled>& commands, Request& request) {
+    for (const Filled& filled : commands) {
+        if (!filled.app->parsed()) {
+            continue;
+        }
+        request.command = filled.command;
+        for (const auto& [name, option] : filled.options) {
+            if (option->count() != 0) {
+                request.given[name] = option->results();
+            }
+        }
+    }
+}
+
 Request Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, on simulated cameras.",
                  inShell ? "" : "qdv12host");
@@ -94,16 +109,7 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
     if (trace) {
         request.options.camera.accesses = PrintAccess;
     }
-    for (const Filled& filled : commands) {
-        if (filled.app->parsed()) {
-            request.command = filled.command;
-            for (const auto& [name, option] : filled.options) {
-                if (option->count() != 0) {
-                    request.given[name] = option->results();
-                }
-            }
-        }
-    }
+    TakeGiven(commands, request);
     return request;
 }
 

@@ -100,7 +100,7 @@ using Functions = std::deque<Function>;
 
 /// A function, or one of the several that a row stands for. Its name ends in the index then: "iomode.3".
 struct Instance {
-    const Function* function;
+    const Function* function = nullptr;
     std::uint32_t index = 0;
 
     const Function* operator->() const { return function; }

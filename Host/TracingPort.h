@@ -24,9 +24,7 @@ class TracingPort final : public SDK4::IControlPort {
 public:
     using Observer = void (*)(const Access&);
 
-    explicit TracingPort(SDK4::IControlPort& traced, Observer told = nullptr)
-        : port(traced),
-          observer(std::move(told)) {}
+    explicit TracingPort(SDK4::IControlPort& traced, Observer told = nullptr) : port(traced), observer(told) {}
 
     /// Without an observer: what was accessed since the last call.
     [[nodiscard]] std::vector<Access> Take() { return std::exchange(accesses, {}); }

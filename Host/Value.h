@@ -13,7 +13,7 @@ namespace Host {
 
 /// One 32-bit field of a value; the only field of a plain number has no name.
 struct Field {
-    const char* name;
+    const char* name = "";
     bool isSigned = false;
 };
 

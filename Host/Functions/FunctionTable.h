@@ -47,8 +47,8 @@ private:
     struct FunctionKind {
         const std::type_info& interface;
         Shape shape;
-        bool indexed;
-        bool trigger;
+        bool indexed = false;
+        bool trigger = false;
     };
 
     Function& Add(std::string_view name, const FunctionKind& kind, Function::Getter get, Function::Setter set);

@@ -39,7 +39,7 @@ inline Outcome RunHost(const std::string& arguments, const std::string& program 
     const std::string err = TemporaryFile("err");
     const std::string files = " >" + out + " 2>" + err + " <" + input;
     const int status = std::system((program + " " + arguments + files).c_str());
-    const Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content(out), Content(err)};
+    Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content(out), Content(err)};
     std::filesystem::remove(out);
     std::filesystem::remove(err);
     return outcome;
