@@ -1,5 +1,7 @@
 #include "HostProcess.h"
 
+#include <fcntl.h>
+
 #include <array>
 #include <csignal>
 
@@ -24,7 +26,7 @@ public:
             dup2(ends[1], STDERR_FILENO);
             close(ends[0]);
             close(ends[1]);
-            close(STDOUT_FILENO);
+            dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
             execv(words[0], words.data());
             _exit(127);
         }
