@@ -25,22 +25,22 @@ class Changes {
 public:
     explicit Changes(bool asJson) : json(asJson) {}
 
-    /// @param what    the function, or what the family calls the property
-    /// @param source  "camera" for what was found there, "callback" for what the control told
-    void Print(const std::string& what, const char* source, const std::string& before, const std::string& now) const {
+    /// @param what     the function, or what the family calls the property
+    /// @param source   "camera" for what was found there, "callback" for what the control told
+    /// @param text     what happened, for people
+    /// @param members  and for programs
+    void Print(const std::string& what, const char* source, const std::string& text, Json::Object members) const {
         const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
         if (json) {
-            std::cout << Json{
-                {"milliseconds", std::int64_t{time}},
-                {"name", what},
-                {"source", source},
-                {"before", before.empty() ? Json() : Json(before)},
-                {"value",
-                 now}}.PrintInOneLine();
+            Json line{{"milliseconds", std::int64_t{time}}, {"name", what}, {"source", source}};
+            for (auto& [name, value] : members) {
+                line.Add(std::move(name), std::move(value));
+            }
+            std::cout << line.PrintInOneLine();
         } else {
             const std::string fraction = std::to_string(1000 + time % 1000).substr(1);
             std::cout << Pad(std::to_string(time / 1000) + "." + fraction + " s", 12) << Pad(source, 10)
-                      << Pad(what, 24) << before << (before.empty() ? "" : " -> ") << now;
+                      << Pad(what, 24) << text;
         }
         std::cout << std::endl; // whoever reads it waits for it
     }
@@ -71,21 +71,23 @@ public:
 private:
     static void Told(const char* name, const char* attribute, void* context) {
         const auto* const self = static_cast<Listener*>(context);
-        self->changes.Print(name, "callback", "", std::string(attribute) + self->Describe(name, attribute));
+        const auto now = self->Read(name, attribute);
+        self->changes.Print(name, "callback", attribute + (now ? " = " + now->Print() : ""),
+                            {{"attribute", attribute}, {"value", now.value_or(Json())}});
     }
 
-    [[nodiscard]] std::string Describe(const char* name, const std::string& attribute) const {
+    [[nodiscard]] std::optional<Json> Read(const char* name, const std::string& attribute) const {
         if (attribute == "enabled") {
-            return properties->GetEnabled(name) ? " = true" : " = false";
+            return properties->GetEnabled(name);
         }
         if (attribute != "value" || properties->IsIndexed(name)) { // which of several it was is not told
-            return "";
+            return std::nullopt;
         }
         try {
-            return " = " + (properties->IsUnsigned(name) ? std::to_string(properties->GetUIntValue(name))
-                                                         : std::to_string(properties->GetIntValue(name)));
+            return properties->IsUnsigned(name) ? Json(properties->GetUIntValue(name))
+                                                : Json(properties->GetIntValue(name));
         } catch (const SDK4::X4Error&) { // nothing may leave a callback
-            return "";
+            return std::nullopt;
         }
     }
 
@@ -106,21 +108,30 @@ public:
 
     void Look(const Changes& changes) {
         for (auto& [instance, before] : last) {
-            if (const std::string now = Read(instance); now != before) {
-                changes.Print(instance.Name(), "camera", before, now);
-                before = now;
+            if (Held now = Read(instance); now.text != before.text) {
+                changes.Print(instance.Name(), "camera", before.text + " -> " + now.text,
+                              {{"before", before.json}, {"value", now.json}});
+                before = std::move(now);
             }
         }
     }
 
 private:
-    [[nodiscard]] std::string Read(const Instance& instance) const {
+    struct Held {
+        std::string text;
+        Json json; ///< null if it could not be read
+    };
+
+    [[nodiscard]] Held Read(const Instance& instance) const {
         const Reading reading = reader.TryRead(instance);
-        return reading.error == 0 ? PrintWithUnit(instance, reading.value) : "(" + reading.errorText + ")";
+        if (reading.error != 0) {
+            return {"(" + reading.errorText + ")", {}};
+        }
+        return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value)};
     }
 
     const Camera& reader;
-    std::vector<std::pair<Instance, std::string>> last;
+    std::vector<std::pair<Instance, Held>> last;
 };
 
 /// @return what was given for --seconds, or nothing if it was left out
@@ -156,6 +167,9 @@ int Watch(const Invocation& invocation) {
                 camera.SetUnlessLocked(assignment.instance, assignment.value);
             } catch (const SDK4::X4Error& error) { // the camera is watched all the same
                 Complain(assignment.instance.Name() + ": " + SDK4::ErrorName(error.code));
+                code = Refused;
+            } catch (const std::exception& error) { // of the port
+                Complain(assignment.instance.Name() + ": " + error.what());
                 code = Refused;
             }
         }
