@@ -13,6 +13,9 @@ Assignment ParseAssignment(const Camera& camera, const std::string& text) {
         throw UsageError("\"" + name + "\" can only be read");
     }
     if (instance->trigger) {
+        if (equals != std::string::npos) {
+            throw UsageError("\"" + name + "\" takes no value: its name alone sets it off");
+        }
         return {instance, {}};
     }
     if (equals == std::string::npos) {

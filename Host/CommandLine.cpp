@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "Nearest.h"
 #include "Trace.h"
 
 #include <CLI/CLI.hpp>
@@ -77,6 +78,38 @@ void TakeGiven(const std::vector<Filled>& commands, Request& request) {
     }
 }
 
+std::vector<std::string> OptionNames(const CLI::App& app) {
+    std::vector<std::string> names;
+    for (const CLI::Option* option : app.get_options()) {
+        names.push_back(option->get_name());
+    }
+    return names;
+}
+
+/// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
+std::string Describe(CLI::App& app, const CLI::ParseError& error) {
+    const auto unknown = app.remaining(true);
+    const auto parsed = app.get_subcommands();
+    if (unknown.empty()) {
+        return error.what();
+    }
+    const std::string quoted = " \"" + unknown.front() + '"';
+    if (unknown.front().starts_with('-')) {
+        auto names = OptionNames(app);
+        const auto more = parsed.empty() ? std::vector<std::string>() : OptionNames(*parsed.front());
+        names.insert(names.end(), more.begin(), more.end());
+        return "unknown option" + quoted + Suggestion(unknown.front(), names);
+    }
+    if (!parsed.empty()) {
+        return quoted.substr(1) + " was not expected";
+    }
+    std::vector<std::string> names;
+    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        names.push_back(command->get_name());
+    }
+    return "unknown command" + quoted + Suggestion(unknown.front(), names);
+}
+
 Request Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, on simulated cameras.",
                  inShell ? "" : "qdv12host");
@@ -101,7 +134,7 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
-            throw UsageError(error.what() + std::string(inShell ? "" : " (qdv12host --help says more)"));
+            throw UsageError(Describe(app, error) + std::string(inShell ? "" : " (qdv12host --help says more)"));
         }
         app.exit(error);
         return request;

@@ -107,6 +107,12 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" can only be written\n"},
         {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" can only be read\n"},
         {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is wanted\n"},
+        {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: its name alone sets it off\n"},
+        {"lst Orvik-710C", 2, "",
+         "qdv12host: unknown command \"lst\"; did you mean \"list\"? (qdv12host --help says more)\n"},
+        {"selftest Orvik-710C --output --jsn", 2, "",
+         "qdv12host: unknown option \"--output\"; did you mean \"--outputs\"? (qdv12host --help says more)\n"},
+        {"tour a b c", 2, "", "qdv12host: \"b\" was not expected (qdv12host --help says more)\n"},
         {"set Orvik-710C overlayshow=on", 2, "",
          "qdv12host: \"overlayshow\" is several: overlayshow.0 to overlayshow.1\n"},
         {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: \"abc\" is no value of gain (0..511)\n"},
@@ -120,7 +126,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Orvik-710C gain --fault fail:gain", 1, "",
          "qdv12host: gain: ReadMem at 0x14010000 failed: no answer from the camera\n"},
     });
-    for (const char* arguments : {"", "tour", "frobnicate", "--log loud models", "models --plugin", "tour a b", "get",
+    for (const char* arguments : {"", "tour", "frobnicate", "--log loud models", "models --plugin", "get",
                                   "get Orvik-710C", "models --config /nowhere"}) {
         const Outcome run = RunHost(arguments);
         EXPECT_EQ(run.code, 2) << arguments;
@@ -129,6 +135,14 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
     }
     EXPECT_EQ(RunHost("--help").code, 0);
     EXPECT_TRUE(Has(RunHost("set --help").out, "qdv12host set [OPTIONS] MODEL NAME=VALUE..."));
+}
+
+TEST(HostCommand, ResultsThatCannotBeWrittenAreNoSuccess) {
+    for (const char* arguments : {"models", "get Orvik-710C gain --json", "--help"}) {
+        const Outcome run = RunHost("-c '" QDV12_HOST " " + std::string(arguments) + " >/dev/full'", "sh");
+        EXPECT_EQ(run.code, 1) << arguments;
+        EXPECT_EQ(run.err, "qdv12host: the results could not be written\n") << arguments;
+    }
 }
 
 TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
