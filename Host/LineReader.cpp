@@ -79,7 +79,7 @@ std::optional<std::string> LineReader::Next() {
     if (*line != '\0') {
         add_history(line.get());
     }
-    return line.get();
+    return std::string(line.get());
 }
 
 } // namespace Host
