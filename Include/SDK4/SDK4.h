@@ -9,9 +9,12 @@
 ///     void* CreateObject(const char* model, void* port, std::int32_t index);    // an IDynamicObject, or null
 ///
 /// InitLibrary tells the registry which models the library serves. CreateObject builds the control of one opened camera
-/// over an SDK4::IControlPort; it answers null for a model that it does not serve (a null name is one). The host casts
-/// the result to IDynamicObject*, reaches every other interface from it with dynamic_cast, and gives it back with
-/// Release. The slot order of every interface is fixed: operations are never moved, removed or inserted.
+/// over an SDK4::IControlPort; it answers null for a model that it does not serve (a null name is one). A null port is
+/// refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik model by the first access.
+/// What fails while an M2VX camera is read reaches the host from CreateObject, and there is nothing to give back then.
+/// The text of the model name must live as long as the control. The host casts the result to IDynamicObject*, reaches
+/// every other interface from it with dynamic_cast, and gives it back with Release. The slot order of every interface
+/// is fixed: operations are never moved, removed or inserted.
 ///
 /// Rules of every interface, told here once:
 ///
@@ -29,11 +32,18 @@
 ///   The Orvik family checks in the order of the table, so a lock is reported before a bad value; a value out of range
 ///   is reported *after* the clamped write. A bad index or a null pointer is SDK4_ERR_INVALID_PARAMETER before
 ///   everything else. Reading is never refused for a lock. The M2VX family reports a value that is not admitted as
-///   SDK4_ERR_OUTOFRANGE, and differs otherwise where an operation says so.
+///   SDK4_ERR_OUTOFRANGE, and differs otherwise where an operation says so. It alone also reports
+///   SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a property that does not exist), and SDK4_ERR_CANTGETFEATURE when the
+///   port delivers no block for a record (overlay position, style and size, measure window, defect pixel, device
+///   register), also when that is read back after a value out of range was written.
 /// - **Caching.** The Orvik family remembers what it read or wrote until something that may change it is written; a
 ///   camera index of exactly 2 switches the caches off. The M2VX family looks at the low four bits of the index: 0 to 2
-///   reads the camera on every call, more reads it once when it is opened. Values noted "read afresh" are fetched from
-///   the camera by the next read.
+///   reads the camera on every call, more reads it once when it is opened: "remembers" below. Values noted "read
+///   afresh" are fetched from the camera by the next read, and so is all that is noted as read afresh after them. The
+///   pages of the families tell the traps.
+/// - **Disabled settings.** A mode of an M2VX camera disables what it does not use, and so may the host
+///   (IPropertyState). A control that remembers then refuses to read it too, with SDK4_ERR_DISABLED, except gain and
+///   exposure; one that reads through reads it, and counts everything as enabled until a mode is set through it.
 /// - **Threads.** One thread at a time per object. The library starts none and takes no locks; callbacks and port
 ///   accesses happen inside the call that causes them.
 /// - **Texts** are valid until the next call on any object of the library: they lie in buffers that all objects share.

@@ -13,7 +13,7 @@ namespace SDK4::Control::M2VX {
 /// | 2      | enabled             | enabled       |
 ///
 /// The setters of both do not ask first: on a disabled property they reach the camera and then throw
-/// SDK4_ERR_DISABLED, and the property keeps its value.
+/// SDK4_ERR_DISABLED, and the property keeps its value. A control that remembers refuses their getters, too.
 class SDK4_PUBLIC IABC {
 public:
     /// Automatic brightness control: 0 is off. Register 0x47040000.
@@ -35,14 +35,14 @@ public:
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other threshold, before any access.
     virtual unsigned int GetABCThreshold(unsigned int index) = 0;
 
-    /// Sets a threshold, 0 to 1023.
+    /// Sets threshold 0 or 1, to a value from 0 to 1023.
     /// @throws SDK4_ERR_INVALID_PARAMETER for an index above 1, before any access.
     /// @throws SDK4_ERR_OUTOFRANGE for a value above: the camera was given it, and the "abcthreshold" of that index
     ///         holds what it made of it.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetABCThreshold(unsigned int index, unsigned int threshold) = 0;
 
-    /// Level of the control, 0 to 1023, as the camera reports it. Register 0x470A0000.
+    /// Level of the control in steps of the camera, 0 to 1023. Register 0x470A0000.
     virtual unsigned int GetABCXRLevel() = 0;
 };
 

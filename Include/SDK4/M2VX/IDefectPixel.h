@@ -10,7 +10,8 @@ namespace SDK4::Control::M2VX {
 /// a scalar, after the write where it is a part of the entry.
 class SDK4_PUBLIC IDefectPixel {
 public:
-    /// One entry of the table. Register 0x0B020000.
+    /// One entry of the table: column and line in pixels, and how it is replaced. A control that remembers has read the
+    /// pairs in use; of the others it knows what it set, else zeros. Register 0x0B020000.
     /// @throws SDK4_ERR_CANTGETFEATURE for a pair above 127 or a position above 1, before any access.
     virtual SDK4_KDEFECTPIXEL GetDefectPixel(SDK4_KDEFECTPIXELSELECT select) = 0;
 

@@ -21,7 +21,8 @@ public:
 
     /// Sets the exposure time, 1 to 2000.
     /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the value, and "exposure" holds what it made of it.
-    /// @throws SDK4_ERR_DISABLED after a mode other than 3 was set; nothing is written.
+    /// @throws SDK4_ERR_DISABLED after a mode other than 3 was set or, by a control that remembers, found at opening;
+    ///         nothing is written.
     virtual void SetExposure(unsigned int exposure) = 0;
 
     /// Status of the frame-on-demand unit, a word of the camera; always read from it. Register 0x0A0D0000.
@@ -32,7 +33,7 @@ public:
     virtual unsigned int GetTwinModeShutterOffset() = 0;
 
     /// Sets the offset of the shutter in twin mode. It has no property, hence no limits that the host could ask for.
-    /// @throws SDK4_ERR_OUTOFRANGE for an offset above the greatest exposure time; nothing is written.
+    /// @throws SDK4_ERR_OUTOFRANGE for an offset above the greatest exposure time, 2000; nothing is written.
     virtual void SetTwinModeShutterOffset(unsigned int offset) = 0;
 };
 

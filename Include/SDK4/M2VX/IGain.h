@@ -13,7 +13,8 @@ namespace SDK4::Control::M2VX {
 /// | 1, automatic | disabled | disabled         | enabled            |
 /// | 2, automatic | disabled | enabled          | enabled            |
 ///
-/// A setter of a disabled property throws SDK4_ERR_DISABLED and writes nothing.
+/// A setter of a disabled property throws SDK4_ERR_DISABLED and writes nothing. A control that remembers refuses the
+/// getters of "automaticlevel" and "autogainstopmode", too.
 class SDK4_PUBLIC IGain {
 public:
     /// Gain in steps of the camera, 0 to 568. Can be read in every mode. Register 0x14010000.
@@ -39,7 +40,7 @@ public:
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetAutoGainStopMode(unsigned int mode) = 0;
 
-    /// Brightness at which automatic gain aims, 0 to 100. Register 0x46030000.
+    /// Brightness at which automatic gain aims, in steps of the camera, 0 to 100. Register 0x46030000.
     virtual unsigned int GetAutomaticLevel() = 0;
 
     /// Sets the brightness at which automatic gain aims, 0 to 100.

@@ -6,7 +6,8 @@
 namespace SDK4::Control::M2VX {
 
 /// Shading correction and the blanking outside a circle. Each mode, 0 is off, switches the properties that it needs on
-/// or off; the setter of one that is off throws SDK4_ERR_DISABLED and writes nothing.
+/// or off; the setter of one that is off throws SDK4_ERR_DISABLED and writes nothing. A control that remembers refuses
+/// its getter, too.
 class SDK4_PUBLIC IImageCorrection {
 public:
     /// Whether shading is corrected, 0 or 1. Register 0x1B010000.
@@ -16,7 +17,7 @@ public:
     /// @throws SDK4_ERR_OUTOFRANGE for any other mode; nothing is written.
     virtual void SetShadingCorrectionMode(unsigned int mode) = 0;
 
-    /// Correction of channel 0 to 3. Register 0x1B020000, indexed.
+    /// Correction of channel 0 to 3 in steps of the camera. Register 0x1B020000, indexed.
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other channel, before any access.
     virtual int GetShadingCorrection(unsigned int channel) = 0;
 
