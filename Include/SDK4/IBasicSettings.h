@@ -14,7 +14,8 @@ namespace SDK4::Control {
 /// SDK4_ERR_OUTOFRANGE on M2VX.
 class SDK4_PUBLIC IBasicSettings {
 public:
-    /// Restarts the camera: writes 0 to register 0x51010000.
+    /// Restarts the camera: writes 0 to register 0x51010000. What a control remembers stays as it was, and so does
+    /// whether acquisition runs; open the camera again.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
     virtual void Restart() = 0;
 
@@ -35,9 +36,12 @@ public:
     /// Operation mode; a code of the camera. Register 0x52020000.
     virtual SDK4_ENUM_OPERATIONMODE GetOperationMode() = 0;
 
-    /// @throws SDK4_ERR_NOT_IMPLEMENTED always: neither family is updated through this library.
+    /// Hands the camera a new firmware of @p length bytes.
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always, whatever the arguments: neither family is updated
+    ///         through this library.
     virtual void SetUpdateFile(void* data, unsigned int length) = 0;
 
+    /// How far the firmware update is.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual std::uint64_t GetUpdateStatus() = 0;
 

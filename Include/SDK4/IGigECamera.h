@@ -5,7 +5,8 @@
 namespace SDK4::Control {
 
 /// How the camera sits on the network: bootstrap registers of the GigE Vision standard. Nothing is cached, every call
-/// goes to the camera. Addresses are texts like "192.168.0.10".
+/// goes to the camera. Addresses are texts like "192.168.0.10". A text noted as the port's is null if the port has
+/// none.
 class SDK4_PUBLIC IGigECamera {
 public:
     /// Version of the standard: major number in the upper 16 bits, minor in the lower. Register 0x0000.
@@ -23,7 +24,8 @@ public:
     /// Default gateway in use. Register 0x0044.
     virtual const char* GetCurrentDefaultGateway() = 0;
 
-    /// Sets the size of a stream packet in bytes, 1404 to 65532, rounded down to a multiple of 4. Register 0x0D04.
+    /// Sets the size of a stream packet in bytes, 1404 to 65532, rounded down to a multiple of 4. The whole register is
+    /// written: its flag bits become 0. Register 0x0D04.
     /// @throws SDK4_ERR_OUTOFRANGE after the nearest limit was written.
     /// @throws SDK4_ERR_ACQUISITIONRUNNING (M2VX) while acquisition runs; nothing is written.
     virtual void SetPacketSize(unsigned int size) = 0;
@@ -38,13 +40,14 @@ public:
     /// Pause between stream packets in timestamp ticks. Register 0x0D08.
     virtual unsigned int GetPacketDelay() = 0;
 
-    /// How the camera gets its address: bit 0 persistent IP, bit 1 DHCP. Register 0x0014.
+    /// How the camera gets its address: bit 0 persistent IP, bit 1 DHCP; the other bits as they are. Register 0x0014.
     virtual unsigned int GetCurrentIPConfig() = 0;
 
     /// Gives the camera a persistent address: sets bit 0 of 0x0014, then writes 0x064C (address), 0x065C (mask) and
     /// 0x066C (gateway). Silently does nothing when the camera supports no persistent address (bit 0 of 0x0010), or
     /// when address and mask name another subnet than the one through which the camera is reached now. Numbers are cut
-    /// to one octet; a text that is no address is not detected.
+    /// to one octet; a text that is no address is not detected: a number that it lacks is that of the text before it,
+    /// 0 for the first text.
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null text, before any access.
     virtual void EnablePersistentIP(const char* ip, const char* mask, const char* gateway) = 0;
 

@@ -12,12 +12,12 @@ public:
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (M2VX) always.
     virtual SDK4_ENUM_PATTERN GetPatternGenerator() = 0;
 
-    /// Chooses the test picture: 0 to 3 on a monochrome model, 0 or 1 on a colour model (a "C" in its name).
+    /// Chooses the test picture, 0 is none: 0 to 3 on a monochrome model, 0 or 1 on a colour model (a "C" in its name).
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other picture; nothing is written.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (M2VX) always.
     virtual void SetPatternGenerator(int pattern) = 0;
 
-    /// One of the two test patterns. Register 0x5A010000, indexed.
+    /// One of the two test patterns; a code of the camera. Register 0x5A010000, indexed.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
     /// @throws SDK4_ERR_INVALID_PARAMETER (M2VX) for an index above 1, before any access.
     virtual unsigned int GetTestPattern(unsigned int index) = 0;

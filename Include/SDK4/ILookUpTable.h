@@ -8,7 +8,7 @@ namespace SDK4::Control {
 /// Look-up table and negative image.
 class SDK4_PUBLIC ILookUpTable {
 public:
-    /// Look-up-table mode. Register 0x19020000.
+    /// Look-up-table mode, 0 or 1; a code of the camera. Register 0x19020000.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (M2VX) always.
     virtual SDK4_ENUM_LUTMODE GetLUTMode() = 0;
 
@@ -27,7 +27,7 @@ public:
     /// Whether the image is inverted. Register 0x19030000.
     virtual SDK4_ENUM_SWITCH GetNegativeImage() = 0;
 
-    /// Inverts the image (1) or not (0).
+    /// Inverts the image (1) or not (0). Orvik: read afresh afterwards.
     /// @throws SDK4_ERR_INVALID_PARAMETER (M2VX: SDK4_ERR_OUTOFRANGE) for any other value; nothing is written.
     virtual void SetNegativeImage(int negative) = 0;
 };

@@ -9,7 +9,7 @@ namespace SDK4::Control {
 /// SDK4_ERR_INVALID_PARAMETER on Orvik and SDK4_ERR_OUTOFRANGE on M2VX.
 ///
 /// Orvik: on a camera without image memory (bit 17 of the function model) every operation throws
-/// SDK4_ERR_NOT_IMPLEMENTED.
+/// SDK4_ERR_NOT_IMPLEMENTED. What was written is read afresh.
 class SDK4_PUBLIC IMemory {
 public:
     /// Whether the image is turned upside down. Register 0x16020000.
@@ -39,14 +39,16 @@ public:
     /// Strength of the recursive filter: 0 is off. Register 0x16070000.
     virtual SDK4_ENUM_RECURSIVEFILTER GetRecursiveFilter() = 0;
 
-    /// Sets the strength of the recursive filter, 0 to 4; any other throws as for a switch.
+    /// Sets the strength of the recursive filter, 0 to 4; any other throws as for a switch. M2VX: 0 disables automatic
+    /// motion detection, any other enables it.
     virtual void SetRecursiveFilter(int strength) = 0;
 
-    /// Stores the image (1). Register 0x16050000.
+    /// Stores the image (1); 0 is written as well. Register 0x16050000.
     virtual void StoreImage(int store) = 0;
 
     /// Automatic motion detection. Register 0x16080000.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
+    /// @throws SDK4_ERR_DISABLED (M2VX) from a control that remembers, while the recursive filter is off.
     virtual SDK4_ENUM_SWITCH GetAutoMotionDetection() = 0;
 
     /// Switches automatic motion detection.
