@@ -10,11 +10,12 @@ namespace SDK4::Control {
 /// function model), but for the light source: on a monochrome camera the other operations throw
 /// SDK4_ERR_NOT_IMPLEMENTED.
 ///
-/// While automatic white set is on the camera moves the colour balance by itself: writing it is locked and every read
-/// of it goes to the camera. Switching it off turns caching of the balance on, also for a control created with index 2.
+/// While automatic white set is on the camera moves the colour balance by itself: writing it is locked and, once the
+/// mode was set through this control, every read of it goes to the camera. Switching it off turns caching of the
+/// balance on, also for a control created with index 2.
 class SDK4_PUBLIC IColor {
 public:
-    /// Gains of the colour channels, 0 to 255 each. Register 0x15010000.
+    /// Gains of the colour channels in steps of the camera, 0 to 255 each. Register 0x15010000.
     virtual SDK4_KRGB GetColorBalance() = 0;
 
     /// Sets the gains of the colour channels, 0 to 255 each.
@@ -22,7 +23,7 @@ public:
     /// @throws SDK4_ERR_CANTSETFEATURE while automatic white set is on; nothing is written.
     virtual void SetColorBalance(SDK4_KRGB balance) = 0;
 
-    /// Light source preset. Register 0x15020000.
+    /// Light source preset; a code of the camera. Register 0x15020000.
     /// @throws SDK4_ERR_DISABLED in a raw colour coding (150, 151, 153).
     virtual SDK4_ENUM_LIGHTSOURCE GetLightSource() = 0;
 
@@ -31,7 +32,7 @@ public:
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other preset; nothing is written.
     virtual void SetLightSource(int source) = 0;
 
-    /// Saturation, 0 to 255. Register 0x15040000.
+    /// Saturation in steps of the camera, 0 to 255. Register 0x15040000.
     virtual unsigned int GetColorSaturation() = 0;
 
     /// Sets the saturation, 0 to 255.
@@ -41,7 +42,7 @@ public:
     /// Automatic white set: 0 is off. Never cached. Register 0x46040000.
     virtual SDK4_ENUM_WHITESET GetAutoWhiteset() = 0;
 
-    /// Switches automatic white set: 0 off, 1 or 2 on.
+    /// Switches automatic white set: 0 off, 1 or 2 on. The colour balance is read afresh afterwards.
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other mode; nothing is written and caching stays as it is.
     virtual void SetAutoWhiteset(int mode) = 0;
 };

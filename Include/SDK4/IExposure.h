@@ -8,20 +8,22 @@ namespace SDK4::Control {
 
 /// Exposure mode, exposure time, automatic exposure. Orvik only.
 ///
-/// While automatic exposure is on the camera moves the exposure by itself: writing it is locked and every read of it
-/// goes to the camera. Switching automatic exposure off turns caching of the exposure on, also for a control that was
-/// created with index 2, and from then on a read after SetExposure returns the value as it was written.
+/// While automatic exposure is on the camera moves the exposure by itself: writing it is locked and, once the mode was
+/// set through this control, every read of it goes to the camera. Switching automatic exposure off turns caching of the
+/// exposure on, also for a control that was created with index 2, and from then on a read after SetExposure returns the
+/// value as it was written.
 class SDK4_PUBLIC IExposure {
 public:
     /// How exposures are started. Register 0x0A020000.
     virtual SDK4_ENUM_EXPOSUREMODE GetExposureMode() = 0;
 
-    /// Sets how exposures are started, 1 to 4. The exposure is read afresh afterwards; the trigger delay exists in mode
-    /// 3 alone.
+    /// Sets how exposures are started, 1 to 4. The exposure is read afresh afterwards; the trigger delay is available
+    /// in mode 3 alone.
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other mode; nothing is written.
     virtual void SetExposureMode(int mode) = 0;
 
-    /// Exposure time: base and count. Register 0x0A030000.
+    /// Exposure time: time base and count of it. Read afresh after exposure mode, automatic exposure, readout time,
+    /// readout area or binning were set. Register 0x0A030000.
     virtual SDK4_KEXPOSURE GetExposure() = 0;
 
     /// Sets the exposure time; not checked. The camera may round it: until automatic exposure was switched for the
@@ -29,7 +31,7 @@ public:
     /// @throws SDK4_ERR_CANTSETFEATURE while automatic exposure is on; nothing is written.
     virtual void SetExposure(SDK4_KEXPOSURE exposure) = 0;
 
-    /// Brightness at which automatic exposure aims, 0 to 255. Register 0x46030000.
+    /// Brightness at which automatic exposure aims, in steps of the camera, 0 to 255. Register 0x46030000.
     virtual unsigned int GetAutoExposureLevel() = 0;
 
     /// Sets the brightness at which automatic exposure aims, 0 to 255.
@@ -39,7 +41,7 @@ public:
     /// Automatic exposure: 0 is off. Never cached. Register 0x46010000.
     virtual SDK4_ENUM_AET GetAET() = 0;
 
-    /// Switches automatic exposure: 0 off, 1 or 2 on.
+    /// Switches automatic exposure: 0 off, 1 or 2 on. The exposure is read afresh afterwards.
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other mode; nothing is written and caching stays as it is.
     virtual void SetAET(int mode) = 0;
 };

@@ -18,7 +18,8 @@ public:
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other value; nothing is written.
     virtual void SetOverlayShow(int line, int show) = 0;
 
-    /// Position in pixels within the readout area. Read afresh after the readout area was written. Register 0x17020000.
+    /// Position in pixels within the readout area. Read afresh after readout area or binning were set.
+    /// Register 0x17020000.
     virtual SDK4_KPOSITION GetOverlayPosition(int line) = 0;
 
     /// Moves the line. The greatest position is the extent of the readout area, endx - startx and endy - starty, which
@@ -32,10 +33,10 @@ public:
     /// Sets how the line is drawn; not checked.
     virtual void SetOverlayStyle(int line, SDK4_KSTYLE style) = 0;
 
-    /// Stroke width and length. Register 0x17040000.
+    /// Stroke width and length in pixels. Register 0x17040000.
     virtual SDK4_KOVERLAYSIZE GetOverlaySize(int line) = 0;
 
-    /// Sets stroke width and length; not checked.
+    /// Sets stroke width and length in pixels; not checked.
     virtual void SetOverlaySize(int line, SDK4_KOVERLAYSIZE size) = 0;
 };
 

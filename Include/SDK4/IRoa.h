@@ -13,15 +13,17 @@ public:
     virtual SDK4_KAREA GetReadoutArea() = 0;
 
     /// Sets the readout area. Each field is held between the same field of the limits MIN and MAX, which are asked
-    /// first. Image size, timing, exposure, overlay positions and measure windows are read afresh afterwards; the limit
-    /// ACTIVE is not.
+    /// first; start and end are not compared with one another. Image size, readout time, frame duration, exposure,
+    /// overlay positions and measure windows are read afresh afterwards; the limit ACTIVE is not.
     /// @throws SDK4_ERR_OUTOFRANGE after the area was written with the offending fields moved to their limits.
     /// @throws SDK4_ERR_CANTSETFEATURE while acquisition runs; nothing is written.
     virtual void SetReadoutArea(SDK4_KAREA area) = 0;
 
+    /// The part of the frame that is masked.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual SDK4_KAREA GetFrameMask() = 0;
 
+    /// Masks a part of the frame.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED always; nothing is written.
     virtual void SetFrameMask(SDK4_KAREA area) = 0;
 

@@ -24,7 +24,7 @@ public:
     /// @throws SDK4_ERR_DISABLED in a raw colour coding (150, 151, 153); nothing is written.
     virtual void SetMeasureFrameColor(int color) = 0;
 
-    /// A measure window in pixels. Read afresh after the readout area was written. Register 0x1E030000, indexed.
+    /// A measure window in pixels. Read afresh after readout area or binning were set. Register 0x1E030000, indexed.
     /// @throws SDK4_ERR_INVALID_PARAMETER for a window other than 0 and 1, before any access.
     virtual SDK4_KAREA GetMeasureWindow(int window) = 0;
 
@@ -32,6 +32,7 @@ public:
     /// @throws SDK4_ERR_INVALID_PARAMETER for a window other than 0 and 1, before any access.
     virtual void SetMeasureWindow(int window, SDK4_KAREA area) = 0;
 
+    /// What the camera measures in a window.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual unsigned int GetMeasureValue(int window) = 0;
 };

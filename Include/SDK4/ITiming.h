@@ -7,10 +7,10 @@ namespace SDK4::Control {
 /// Timing of the sensor. Orvik only.
 class SDK4_PUBLIC ITiming {
 public:
-    /// Pixel clock as the camera reports it. Register 0x0A090000.
+    /// Pixel clock in hertz. Read afresh after settings were loaded. Register 0x0A090000.
     virtual unsigned int GetPixelClock() = 0;
 
-    /// Time that one readout of the sensor takes, in microseconds. Read afresh after the readout area was written.
+    /// Time that one readout of the sensor takes, in microseconds. Read afresh after readout area or binning were set.
     /// Register 0x0A0A0000.
     virtual unsigned int GetReadoutTime() = 0;
 
@@ -19,7 +19,7 @@ public:
     virtual void SetReadoutTime(unsigned int microseconds) = 0;
 
     /// Time from frame to frame, in microseconds. Read afresh after exposure, readout time or colour coding were
-    /// written. Register 0x28040000.
+    /// written, and after all that makes one of these stale. Register 0x28040000.
     virtual unsigned int GetFrameDuration() = 0;
 };
 

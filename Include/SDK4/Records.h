@@ -20,7 +20,7 @@ struct SDK4_KSIZE {
     std::uint32_t height; ///< lines
 };
 
-/// The gains of the three colour channels.
+/// The gains of the three colour channels, in steps of the camera.
 struct SDK4_KRGB {
     std::uint32_t red;   ///< gain of the red channel
     std::uint32_t green; ///< gain of the green channel
