@@ -3,6 +3,7 @@
 #include <editline/readline.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
@@ -17,6 +18,9 @@ constexpr int longestHistory = 500;
 // The library of the line editor calls plain functions.
 LineReader::Completer complete;
 std::vector<std::string> candidates;
+
+/// Whether Ctrl-C was pressed since the prompt appeared.
+volatile std::sig_atomic_t givenUp = 0;
 
 char* NextMatch(const char* text, int state) {
     static std::size_t next = 0;
@@ -50,6 +54,9 @@ LineReader::LineReader(std::string promptText, Completer completer)
       terminal(isatty(STDIN_FILENO) == 1) {
     complete = std::move(completer);
     if (terminal) {
+        struct sigaction action {};
+        action.sa_handler = [](int) { givenUp = 1; }; // no SA_RESTART: the waiting for a key ends
+        sigaction(SIGINT, &action, nullptr);
         rl_readline_name = "qdv12host";
         rl_attempted_completion_function = Complete;
         using_history();
@@ -70,10 +77,16 @@ std::optional<std::string> LineReader::Next() {
         std::string line;
         return std::getline(std::cin, line) ? std::optional(line) : std::nullopt;
     }
-    std::cout.flush();
-    const std::unique_ptr<char, decltype(&std::free)> line(readline(prompt.c_str()), &std::free);
+    std::unique_ptr<char, decltype(&std::free)> line(nullptr, &std::free);
+    do {
+        givenUp = 0;
+        std::cout.flush();
+        line.reset(readline(prompt.c_str()));
+        if (!line) {
+            std::cout << '\n'; // behind the prompt
+        }
+    } while (!line && givenUp != 0);
     if (!line) {
-        std::cout << '\n'; // behind the prompt
         return std::nullopt;
     }
     if (*line != '\0') {

@@ -7,7 +7,6 @@
 #include "Nearest.h"
 
 #include <algorithm>
-#include <csignal>
 #include <iostream>
 
 namespace Host {
@@ -107,9 +106,6 @@ int Shell(const Invocation& invocation) {
     const bool json = program.Json();
     const Camera camera = invocation.OpenCamera();
     LineReader lines(camera.Model() + "> ", [&](const std::string& before) { return Completions(camera, before); });
-    if (lines.IsTerminal()) {
-        std::signal(SIGINT, SIG_IGN); // ends what runs, not the shell
-    }
     int firstFailure = AllWell;
     while (const auto line = lines.Next()) {
         bool leaves = false;
