@@ -2,6 +2,7 @@
 
 #include "Errors.h"
 #include "Functions/Tables.h"
+#include "Guarded.h"
 #include "Nearest.h"
 
 #include <SDK4/IControl.h>
@@ -120,7 +121,7 @@ void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const
 
 Reading Camera::Try(const Instance& instance, bool andItsLock) const {
     Reading reading;
-    try {
+    const Failure failure = Attempt([&] {
         if (instance->get != nullptr) {
             reading.value = Read(instance);
         } else if (!instance->presence.empty()) {
@@ -130,13 +131,9 @@ Reading Camera::Try(const Instance& instance, bool andItsLock) const {
             reading.lockedBy = LockedBy(instance);
             reading.moved = !reading.lockedBy.empty() && instance->lock && instance->lock->moves;
         }
-    } catch (const SDK4::X4Error& error) {
-        reading.error = error.code;
-        reading.errorText = SDK4::ErrorName(error.code);
-    } catch (const std::exception& error) {
-        reading.error = SDK4_ERR_ERROR;
-        reading.errorText = error.what();
-    }
+    });
+    reading.error = failure.code;
+    reading.errorText = failure.reason;
     return reading;
 }
 

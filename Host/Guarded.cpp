@@ -27,4 +27,15 @@ int Guarded(const std::function<int()>& action) {
     }
 }
 
+Failure Attempt(const std::function<void()>& calls) {
+    try {
+        calls();
+        return {};
+    } catch (const SDK4::X4Error& error) {
+        return {error.code, SDK4::ErrorName(error.code)};
+    } catch (const std::exception& error) {
+        return {SDK4_ERR_ERROR, error.what()};
+    }
+}
+
 } // namespace Host

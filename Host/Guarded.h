@@ -1,11 +1,22 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <string>
 
 namespace Host {
 
 /// Runs an action and reports what it throws.
 /// @return what the action returns, or the ExitCode that belongs to what it throws
 int Guarded(const std::function<int()>& action);
+
+/// How a call of the plug-in was refused.
+struct Failure {
+    std::int32_t code = 0; ///< 0: it was not; SDK4_ERR_ERROR for what the port said, which has no code
+    std::string reason;    ///< the name of the code, or what the port said
+};
+
+/// Runs calls of the plug-in.
+[[nodiscard]] Failure Attempt(const std::function<void()>& calls);
 
 } // namespace Host

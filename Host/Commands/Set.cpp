@@ -2,6 +2,7 @@
 
 #include "Assignment.h"
 #include "Describe.h"
+#include "Guarded.h"
 #include "Settings/ReadThrough.h"
 #include "Settings/Settled.h"
 
@@ -12,8 +13,7 @@ namespace Host {
 namespace {
 
 struct Result {
-    std::int32_t code = 0;     ///< of the refusal; of what has no code, SDK4_ERR_ERROR
-    std::string reason;        ///< its name, or what the port said
+    Failure failure;
     std::string lockedBy;      ///< if that is the reason
     std::optional<Value> held; ///< by the camera, afterwards
 };
@@ -21,15 +21,9 @@ struct Result {
 /// @param reader tells what the camera holds, whatever the other control remembers
 Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, const Assignment& assignment) {
     Result result;
-    try {
-        camera.SetUnlessLocked(assignment.instance, assignment.value);
-    } catch (const SDK4::X4Error& error) {
-        result.code = error.code;
-        result.reason = SDK4::ErrorName(error.code);
+    result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
+    if (result.failure.code != 0) {
         result.lockedBy = camera.Look(assignment.instance).lockedBy;
-    } catch (const std::exception& error) { // of the port
-        result.code = SDK4_ERR_ERROR;
-        result.reason = error.what();
     }
     if (assignment.instance->get != nullptr) {
         const Reading reading = Settled(reader, assignment.instance, assignment.value, wait);
@@ -44,10 +38,10 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
 std::string DescribeFate(const Camera& camera, const Assignment& assignment, const Result& result) {
     const std::string asked = assignment.instance.Print(assignment.value);
     const std::string held = assignment.instance.Print(*result.held);
-    if (result.code == 0) {
+    if (result.failure.code == 0) {
         return asked + " was accepted, but the camera now holds " + held;
     }
-    const bool clamped = result.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
+    const bool clamped = result.failure.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
     return clamped ? asked + " was clamped, the camera now holds " + held
                    : asked + " was refused, the camera still holds " + held;
 }
@@ -56,18 +50,18 @@ std::string DescribeFate(const Camera& camera, const Assignment& assignment, con
 /// @return whether it was refused
 bool Report(const Camera& camera, const Assignment& assignment, const Result& result) {
     const bool differs = result.held && *result.held != assignment.value;
-    if (result.code == 0 && !differs) {
+    if (result.failure.code == 0 && !differs) {
         return false;
     }
     std::string text = assignment.instance.Name();
-    if (result.code != 0) {
-        text += ": " + result.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
+    if (result.failure.code != 0) {
+        text += ": " + result.failure.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
     }
     if (differs) {
         text += ": " + DescribeFate(camera, assignment, result);
     }
     Complain(text);
-    return result.code != 0 || !assignment.instance->rounds;
+    return result.failure.code != 0 || !assignment.instance->rounds;
 }
 
 Json ToJson(const Assignment& assignment, const Result& result) {
@@ -75,7 +69,7 @@ Json ToJson(const Assignment& assignment, const Result& result) {
     return Json{{"name", instance.Name()},
                 {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
                 {"value", result.held ? ToJson(instance, *result.held) : Json()},
-                {"error", result.code == 0 ? Json() : Json(result.reason)}};
+                {"error", result.failure.code == 0 ? Json() : Json(result.failure.reason)}};
 }
 
 } // namespace

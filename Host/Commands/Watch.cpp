@@ -3,6 +3,7 @@
 #include "Assignment.h"
 #include "Describe.h"
 #include "Format.h"
+#include "Guarded.h"
 #include "Interrupts.h"
 #include "Settings/ReadThrough.h"
 
@@ -163,13 +164,9 @@ int Watch(const Invocation& invocation) {
     {
         const Listener listener(camera, changes);
         for (const Assignment& assignment : assignments) {
-            try {
-                camera.SetUnlessLocked(assignment.instance, assignment.value);
-            } catch (const SDK4::X4Error& error) { // the camera is watched all the same
-                Complain(assignment.instance.Name() + ": " + SDK4::ErrorName(error.code));
-                code = Refused;
-            } catch (const std::exception& error) { // of the port
-                Complain(assignment.instance.Name() + ": " + error.what());
+            const Failure failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
+            if (failure.code != 0) { // the camera is watched all the same
+                Complain(assignment.instance.Name() + ": " + failure.reason);
                 code = Refused;
             }
         }

@@ -1,5 +1,6 @@
 #include "Selftest.h"
 
+#include "Guarded.h"
 #include "Settings/Unlock.h"
 
 #include <algorithm>
@@ -40,15 +41,14 @@ Tested Selftest::Test(const Instance& instance) const {
         tested.leftOut = reading.errorText;
         return tested;
     }
-    try {
+    const Failure failure = Attempt([&] {
         WhileUnlocked(setter, instance, [&] { TestUnlocked(tested); });
         if (tested.leftOut.empty() && tested.failures.empty() && instance->lock && instance->set != nullptr) {
             TestLock(tested);
         }
-    } catch (const SDK4::X4Error& error) {
-        tested.failures.push_back(SDK4::ErrorName(error.code));
-    } catch (const std::exception& error) { // of the port
-        tested.failures.emplace_back(error.what());
+    });
+    if (failure.code != 0) {
+        tested.failures.push_back(failure.reason);
     }
     return tested;
 }

@@ -1,5 +1,6 @@
 #include "Restorer.h"
 
+#include "Guarded.h"
 #include "Unlock.h"
 
 #include <algorithm>
@@ -70,13 +71,8 @@ Restored Restorer::Set(const Setting& setting) const {
     if (result.fate != Fate::Planned) {
         return result;
     }
-    try {
-        WhileUnlocked(setter, setting.instance, [&] { setter.SetUnlessLocked(setting.instance, setting.value); });
-    } catch (const SDK4::X4Error& error) {
-        result.reason = SDK4::ErrorName(error.code);
-    } catch (const std::exception& error) { // of the port
-        result.reason = error.what();
-    }
+    const auto set = [&] { setter.SetUnlessLocked(setting.instance, setting.value); };
+    result.reason = Attempt([&] { WhileUnlocked(setter, setting.instance, set); }).reason;
     const Reading reading = Settled(reader, setting.instance, setting.value, wait);
     if (reading.error != 0) {
         result.held.reset();
