@@ -31,6 +31,7 @@ Assignment ParseAssignment(const Camera& camera, const std::string& text) {
 
 std::vector<Assignment> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts) {
     std::vector<Assignment> assignments;
+    assignments.reserve(texts.size());
     for (const std::string& text : texts) {
         assignments.push_back(ParseAssignment(camera, text));
     }

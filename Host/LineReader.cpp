@@ -37,7 +37,7 @@ char* NextMatch(const char* text, int state) {
 char** Complete(const char* text, int start, int /*end*/) {
     candidates = complete(std::string(rl_line_buffer, static_cast<std::size_t>(start)));
     const bool goesOn = !candidates.empty() && candidates.front().ends_with('=');
-    rl_completion_append_character = goesOn ? '\0' : ' ';
+    rl_completion_append_character = static_cast<unsigned char>(goesOn ? '\0' : ' ');
     rl_attempted_completion_over = candidates.empty() ? 0 : 1; // else it may be the name of a file
     return candidates.empty() ? nullptr : rl_completion_matches(text, NextMatch);
 }

@@ -54,29 +54,39 @@ std::vector<std::string> CommandNames() {
     return names;
 }
 
+/// What the command takes behind its name as functions, if it takes them: their names, or the beginnings of
+/// assignments.
+std::vector<std::string> FunctionsFor(const Command& command, const Camera& camera) {
+    std::vector<std::string> found;
+    for (const Parameter& parameter : command.parameters) {
+        const std::string_view given = parameter.name;
+        if (given.find("NAME") == given.npos) {
+            continue;
+        }
+        const bool assigns = given.find('=') != given.npos;
+        for (const Instance& instance : camera.All(false)) {
+            if (!assigns || instance->set != nullptr) {
+                found.push_back(instance.Name() + (assigns ? "=" : ""));
+            }
+        }
+    }
+    return found;
+}
+
 /// Commands first; what follows those that take functions are their names.
 std::vector<std::string> Completions(const Camera& camera, const std::string& before) {
     const std::size_t first = before.find_first_not_of(" \t");
     if (first == std::string::npos) {
         return CommandNames();
     }
-    std::vector<std::string> found;
     const std::string name = before.substr(first, before.find_first_of(" \t", first) - first);
-    for (const Command& command : Commands()) {
-        for (const Parameter& parameter : command.parameters) {
-            const std::string_view given = parameter.name;
-            if (command.name != name || given.find("NAME") == given.npos || before.ends_with('=')) {
-                continue;
-            }
-            const bool assigns = given.find('=') != given.npos;
-            for (const Instance& instance : camera.All(false)) {
-                if (!assigns || instance->set != nullptr) {
-                    found.push_back(instance.Name() + (assigns ? "=" : ""));
-                }
-            }
-        }
+    const auto& commands = Commands();
+    const auto command =
+        std::find_if(commands.begin(), commands.end(), [&](const Command& each) { return each.name == name; });
+    if (command == commands.end() || before.ends_with('=')) {
+        return {};
     }
-    return found;
+    return FunctionsFor(*command, camera);
 }
 
 int RunLine(Program& program, std::vector<std::string> words, bool json) {

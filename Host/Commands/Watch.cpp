@@ -30,12 +30,13 @@ public:
     /// @param source   "camera" for what was found there, "callback" for what the control told
     /// @param text     what happened, for people
     /// @param members  and for programs
-    void Print(const std::string& what, const char* source, const std::string& text, Json::Object members) const {
+    void Print(const std::string& what, const char* source, const std::string& text,
+               const Json::Object& members) const {
         const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
         if (json) {
             Json line{{"milliseconds", std::int64_t{time}}, {"name", what}, {"source", source}};
-            for (auto& [name, value] : members) {
-                line.Add(std::move(name), std::move(value));
+            for (const auto& [name, value] : members) {
+                line.Add(name, value);
             }
             std::cout << line.PrintInOneLine();
         } else {

@@ -14,6 +14,18 @@ constexpr int passes = 3; ///< more than one setting needs that is moved by one 
 /// What all automatic modes have in common.
 const Value off{{0}, {}};
 
+/// What became of a setting that was written, and then read.
+Fate FateOf(const Restored& result) {
+    const bool accepted = result.reason.empty();
+    if (result.held == result.saved) {
+        return accepted ? Fate::Done : Fate::Refused;
+    }
+    if (accepted && result.instance->rounds) {
+        return Fate::Rounded;
+    }
+    return result.held != result.before ? Fate::Clamped : Fate::Refused;
+}
+
 } // namespace
 
 const char* NameOf(Fate fate) {
@@ -81,12 +93,7 @@ Restored Restorer::Set(const Setting& setting) const {
         return result;
     }
     result.held = reading.value;
-    const bool asked = reading.value == setting.value;
-    const bool moved = !asked && reading.value != result.before;
-    result.fate = result.reason.empty() && asked                      ? Fate::Done
-                  : result.reason.empty() && setting.instance->rounds ? Fate::Rounded
-                  : moved                                             ? Fate::Clamped
-                                                                      : Fate::Refused;
+    result.fate = FateOf(result);
     if (result.fate == Fate::Refused && result.reason.empty()) {
         result.reason = "the camera does not take it";
     }
@@ -102,34 +109,38 @@ void Restorer::SwitchOff(const Settings& settings) const {
     }
 }
 
-std::vector<Restored> Restorer::Restore(const Settings& settings) const {
-    std::vector<Restored> before; // modes will be off, but it counts what they were
-    for (const Setting& setting : settings.values) {
-        before.push_back(Compare(setting));
-    }
-    SwitchOff(settings);
-    std::vector<Restored> results = before;
-    for (int pass = 0; pass < passes; ++pass) {
-        bool changed = false;
-        for (std::size_t i = 0; i < results.size(); ++i) {
-            Restored& result = results[i];
-            if (result.instance->restore == Restore::Mode || (pass != 0 && IsFailure(result.fate))) {
-                continue;
-            }
-            const Restored now = Set(settings.values[i]);
-            if (pass == 0 || now.fate != Fate::Unchanged) {
-                changed |= now.fate == Fate::Done;
-                result = now;
-            }
+bool Restorer::SetValues(const Settings& settings, bool again, std::vector<Restored>& results) const {
+    bool changed = false;
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        Restored& result = results[i];
+        if (result.instance->restore == Restore::Mode || (again && IsFailure(result.fate))) {
+            continue;
         }
-        if (!changed) {
-            break;
+        const Restored now = Set(settings.values[i]);
+        if (!again || now.fate != Fate::Unchanged) {
+            changed |= now.fate == Fate::Done;
+            result = now;
         }
     }
+    return changed;
+}
+
+void Restorer::SetModes(const Settings& settings, std::vector<Restored>& results) const {
     for (std::size_t i = 0; i < results.size(); ++i) {
         if (results[i].instance->restore == Restore::Mode) {
             results[i] = Set(settings.values[i]);
         }
+    }
+}
+
+std::vector<Restored> Restorer::Restore(const Settings& settings) const {
+    const std::vector<Restored> before = Plan(settings); // modes will be off, but it counts what they were
+    SwitchOff(settings);
+    std::vector<Restored> results = before;
+    for (int pass = 0; pass < passes && SetValues(settings, pass != 0, results); ++pass) {
+    }
+    SetModes(settings, results);
+    for (std::size_t i = 0; i < results.size(); ++i) {
         Restored& result = results[i];
         result.before = before[i].before;
         if (result.fate == Fate::Done && result.before == result.saved) {

@@ -56,6 +56,10 @@ private:
     [[nodiscard]] Restored Compare(const Setting& setting) const;
     [[nodiscard]] Restored Set(const Setting& setting) const;
     void SwitchOff(const Settings& settings) const;
+    /// Sets what is no mode; again, what did not fail.
+    /// @return whether that changed anything
+    bool SetValues(const Settings& settings, bool again, std::vector<Restored>& results) const;
+    void SetModes(const Settings& settings, std::vector<Restored>& results) const;
 
     const Camera& setter;
     const Camera& reader;

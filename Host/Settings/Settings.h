@@ -48,8 +48,8 @@ void WriteSettings(const Settings& settings, const std::filesystem::path& file);
 /// A function with which two settings differ; null where one of them has no value of it.
 struct Difference {
     Instance instance;
-    const Value* first;
-    const Value* second;
+    const Value* first = nullptr;
+    const Value* second = nullptr;
 };
 
 /// Compares settings of two cameras of one family; what an automatic mode moves in either of them is not compared.

@@ -17,6 +17,7 @@ public:
         EXPECT_EQ(pipe(ends.data()), 0);
         arguments.insert(arguments.begin(), QDV12_HOST);
         std::vector<char*> words;
+        words.reserve(arguments.size() + 1);
         for (std::string& argument : arguments) {
             words.push_back(argument.data());
         }
