@@ -1,6 +1,9 @@
 #include "BootstrapRegisters.h"
 
+#include "Description.h"
+
 #include <algorithm>
+#include <cstdio>
 
 namespace Simulation {
 
@@ -28,9 +31,20 @@ void TakeAddress(RegisterSpace& space) {
     }
 }
 
+/// The size that as many whole words have.
+std::size_t InWords(std::size_t bytes) { return (bytes + 3) / 4 * 4; }
+
+/// Where in the camera's memory the description is found, as the standard has it: in hexadecimal without prefix.
+std::string LocalUrl(const std::string& file, std::size_t length) {
+    char place[32];
+    std::snprintf(place, sizeof place, ";%X;%zX", descriptionAddress, length);
+    return "Local:" + file + ".xml" + place;
+}
+
 } // namespace
 
-std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial) {
+std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial,
+                                         const std::string& description) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
     const auto kept = Role::Kept;
@@ -55,15 +69,16 @@ std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t
         {"manufacturerinfo",           0x00A8, fixed,   Text(48, "A camera that lives in memory")},
         {"bootstrapserialnumber",      0x00D8, fixed,   Text(16, std::to_string(serial))},
         {"userdefinedname",            0x00E8, kept,    Text(16, "")},
-        {"firsturl",                   0x0200, fixed,   Text(512, "Local:" + file + ".zip;10000;4A00")},
+        {"firsturl",                   0x0200, fixed,   Text(512, LocalUrl(file, description.size()))},
         {"secondurl",                  0x0400, fixed,   Text(512, "http://192.168.1.10/" + file + ".xml")},
         {"persistentipaddress",        0x064C, kept,    Word(0)},
         {"persistentsubnetmask",       0x065C, kept,    Word(0)},
         {"persistentdefaultgateway",   0x066C, kept,    Word(0)},
-        {"gvcpcapability",             0x0934, fixed,   Word(0xC0000006)},          // names, resend, memory writes
+        {"gvcpcapability",             0x0934, fixed,   Word(0xC0000003)},          // names, memory writes, several at once
         {"gvcpconfiguration",          0x0954, passing, Word(0)},
         {"packetsize",                 0x0D04, passing, Word(1404)},
         {"packetdelay",                0x0D08, passing, Word(0)},
+        {"description",                descriptionAddress, fixed, Text(InWords(description.size()), description)},
     };
     // clang-format on
 }

@@ -1,6 +1,7 @@
 #include "Cameras.h"
 
 #include "BootstrapRegisters.h"
+#include "Description.h"
 #include "M2VX.h"
 #include "Orvik.h"
 #include "World.h"
@@ -52,12 +53,12 @@ template <typename Models> auto Find(const Models& models, std::string_view name
 std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options) {
     const World world(options.seed);
     if (const auto* const orvik = Find(orvikModels, name)) {
-        auto camera = Make(BootstrapRegisters(orvik->name, orvik->number), OrvikRegisters(*orvik));
+        auto camera = Make(BootstrapRegisters(orvik->name, orvik->number, Description(*orvik)), OrvikRegisters(*orvik));
         AddOrvikBehaviour(*camera, *orvik, world);
         return camera;
     }
     if (const auto* const m2vx = Find(m2vxModels, name)) {
-        auto camera = Make(BootstrapRegisters(m2vx->name, m2vx->number), M2VXRegisters(*m2vx));
+        auto camera = Make(BootstrapRegisters(m2vx->name, m2vx->number, Description(*m2vx)), M2VXRegisters(*m2vx));
         AddM2VXBehaviour(*camera, world);
         return camera;
     }
