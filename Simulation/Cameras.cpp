@@ -65,4 +65,15 @@ std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options
     return nullptr;
 }
 
+std::vector<std::string> ModelNames() {
+    std::vector<std::string> names;
+    for (const OrvikModel& model : orvikModels) {
+        names.push_back(model.name);
+    }
+    for (const M2VXModel& model : m2vxModels) {
+        names.push_back(model.name);
+    }
+    return names;
+}
+
 } // namespace Simulation

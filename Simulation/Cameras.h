@@ -4,7 +4,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace Simulation {
 
@@ -18,5 +20,8 @@ struct Options {
 
 /// A simulated camera as it is after being switched on, or null when no model of that name is simulated.
 [[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options = {});
+
+/// The models that are simulated.
+[[nodiscard]] std::vector<std::string> ModelNames();
 
 } // namespace Simulation

@@ -46,6 +46,9 @@ public:
     /// Lets time pass without an access, as it does for a camera while its host waits.
     void Pass(std::chrono::microseconds time);
 
+    /// Starts the camera anew: what is not in permanent memory is as after being switched on.
+    void Restart();
+
     /// Has the camera work wrongly from now on, to see whether a host notices. One text plants one fault; a register is
     /// named, or given by its address (0x14010000):
     ///
@@ -107,7 +110,6 @@ private:
     /// Whether the register takes what was written to it, of which the camera makes what it admits.
     [[nodiscard]] bool Takes(const RegisterSpace::Change& change);
     void LoadSettings(std::uint32_t number);
-    void Restart();
 
     RegisterSpace space;
     const RegisterSpace::Content powerUp;

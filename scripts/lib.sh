@@ -10,7 +10,7 @@ jobs=$(nproc)
 # beyond it. clang-14 brings neither the sanitizers' run-time libraries nor llvm-symbolizer, without which no leak has a
 # name and no suppression matches; Aravis' own description asks for libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
-    nlohmann-json3-dev libedit-dev binutils help2man dpkg-dev file)
+    nlohmann-json3-dev libedit-dev libasio-dev libpcap-dev binutils help2man dpkg-dev file)
 test_packages=(valgrind doxygen fakeroot)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-tidy-14 cppcheck shellcheck)

@@ -1,0 +1,94 @@
+#include "GigEVision/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <arpa/inet.h>
+
+#include <string_view>
+
+namespace Simulation::GigEVision {
+
+namespace {
+
+/// A share, checked: CLI11's own range lets pass what is not a number.
+CLI::Validator Share() {
+    return {[](const std::string& text) {
+                double share = -1;
+                return CLI::detail::lexical_cast(text, share) && share >= 0 && share <= 1
+                           ? std::string()
+                           : '"' + text + "\" is not a share between 0 and 1";
+            },
+            "P"};
+}
+
+std::uint32_t ParseAddress(const std::string& text) {
+    in_addr parsed{};
+    const bool isAddress = inet_pton(AF_INET, text.c_str(), &parsed) == 1;
+    const std::uint32_t address = ntohl(parsed.s_addr);
+    const std::uint32_t firstGroup = 0xE0000000; // from there on are groups and broadcasts
+    if (!isAddress || address == 0 || address >= firstGroup) {
+        throw UsageError("--address: \"" + text + "\" is not the IPv4 address of one device");
+    }
+    return address;
+}
+
+void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& delay, std::uint64_t& reboot) {
+    const char* const group = "What goes wrong";
+    const std::uint64_t longestDelay = 60000;
+    app.add_option("--drop", disturbances.drop, "Loses this share of the datagrams, in either direction")
+        ->check(Share())
+        ->group(group);
+    app.add_option("--duplicate", disturbances.duplicate, "Sends this share of the acknowledges twice")
+        ->check(Share())
+        ->group(group);
+    app.add_option("--nack", disturbances.nack, "Refuses this share of the requests as busy")
+        ->check(Share())
+        ->group(group);
+    app.add_option("--delay", delay, "Holds each acknowledge back for up to so many milliseconds")
+        ->check(CLI::Range(std::uint64_t{0}, longestDelay))
+        ->type_name("MS")
+        ->group(group);
+    app.add_option("--reboot-after", reboot, "Starts the camera anew, once, after so many requests; takes 5 seconds")
+        ->check(CLI::PositiveNumber)
+        ->type_name("N")
+        ->group(group);
+}
+
+} // namespace
+
+std::optional<Order> ParseCommandLine(int argc, char** argv) {
+    CLI::App app("A simulated camera as a GigE Vision device on UDP port 3956, until it is interrupted.", "qdv12sim");
+    app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
+    app.footer("Exit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
+    Order order;
+    std::string address = "127.0.0.1";
+    std::uint64_t delay = 0;
+    std::uint64_t reboot = 0;
+    app.add_option("MODEL", order.model, "The camera's model, such as Orvik-710C")->type_name("")->required();
+    app.add_option("--address", address, "The address of this machine that the camera takes (127.0.0.1)")
+        ->type_name("ADDRESS");
+    app.add_option("--seed", order.seed, "Chooses the world around the camera, and what goes wrong when")
+        ->type_name("N");
+    app.add_option("--state", order.state, "Keeps the camera in a file between two runs")->type_name("FILE");
+    app.add_option("--fault", order.faults, "Plants a fault in the camera, such as ignore:gain")
+        ->type_name("TEXT")
+        ->allow_extra_args(false); // else it would take the model for a fault too
+    app.add_option("--record", order.record, "Writes what is received and sent to a pcap file")->type_name("FILE");
+    AddDisturbances(app, order.disturbances, delay, reboot);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() != 0) {
+            throw UsageError(error.what() + std::string(" (qdv12sim --help says more)"));
+        }
+        app.exit(error);
+        return std::nullopt;
+    }
+    order.address = ParseAddress(address);
+    order.disturbances.delay = std::chrono::milliseconds(delay);
+    if (reboot != 0) {
+        order.disturbances.rebootAfter = reboot;
+    }
+    return order;
+}
+
+} // namespace Simulation::GigEVision

@@ -1,0 +1,186 @@
+#include "GigEVision/Device.h"
+
+namespace Simulation::GigEVision {
+
+namespace {
+
+/// The acknowledge of a write: how far it went.
+Bytes AcknowledgeWrite(const Request& request, Status status, std::size_t index) {
+    Bytes payload;
+    Put16(payload, 0); // reserved
+    Put16(payload, static_cast<std::uint32_t>(index));
+    return Acknowledge(request, status, payload);
+}
+
+} // namespace
+
+Device::Device(SimulatedCamera& served, const Network& place, Time now)
+    : camera(served),
+      network(place),
+      channel(served.Time()),
+      memory(served, channel),
+      start(now),
+      cameraStart(served.Time()) {
+    ShowAddress();
+    camera.AfterWrite("restart", [this](RegisterSpace&, const auto&) { ShowAddress(); });
+}
+
+void Device::ShowAddress() {
+    RegisterSpace& space = camera.Registers();
+    const bool reached = ((space.Get("currentdefaultgateway")[0] ^ network.address) & network.mask) == 0;
+    space.Set("currentipaddress", {network.address});
+    space.Set("currentsubnetmask", {network.mask});
+    if (!reached) {
+        space.Set("currentdefaultgateway", {0});
+    }
+}
+
+void Device::PassTime(Time now) {
+    const auto due = cameraStart + std::chrono::duration_cast<std::chrono::microseconds>(now - start);
+    if (due > camera.Time()) {
+        camera.Pass(due - camera.Time());
+    }
+    if (control.IsExpired(now)) {
+        EndControl();
+    }
+}
+
+void Device::EndControl() {
+    control.Release();
+    camera.Registers().Set("startacquisition", {0});
+    channel.CloseStream();
+}
+
+void Device::Reboot(Time now) {
+    backAt = now + bootTime;
+    control.Release();
+    lastAnswers.Forget();
+    camera.Restart();
+    channel = ChannelRegisters(camera.Time());
+    ShowAddress();
+}
+
+std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now) {
+    PassTime(now);
+    const auto request = Parse(datagram);
+    if (!request || IsStarting(now)) {
+        return std::nullopt;
+    }
+    control.Heard(from, now);
+    if (request->command ==
+        Command::Discovery) { // of those who do not know yet what there is: they all use the same id
+        return request->wantsAcknowledge ? std::optional(Discover(*request)) : std::nullopt;
+    }
+    if (const auto* const last = lastAnswers.Find(from, datagram)) {
+        return *last;
+    }
+    auto answer = CarryOut(from, *request, now);
+    if (!request->wantsAcknowledge) {
+        answer.reset();
+    }
+    lastAnswers.Remember(from, datagram, answer);
+    return answer;
+}
+
+std::optional<Bytes> Device::CarryOut(const Sender& from, const Request& request, Time now) {
+    switch (request.command) {
+    case Command::ReadRegister:
+        return ReadRegisters(from, request);
+    case Command::WriteRegister:
+        return WriteRegisters(from, request, now);
+    case Command::ReadMemory:
+        return ReadMemory(from, request);
+    case Command::WriteMemory:
+        return WriteMemory(from, request, now);
+    case Command::PacketResend: // there is no stream to resend
+    case Command::Action:
+        return std::nullopt;
+    case Command::Discovery:
+        break;
+    }
+    return Acknowledge(request, Status::NotImplemented);
+}
+
+Bytes Device::Discover(const Request& request) {
+    Bytes identity(discoverySize);
+    const Status status = request.payload.empty() ? memory.Read(0, identity) : Status::InvalidParameter;
+    return Acknowledge(request, status, status == Status::Success ? identity : Bytes());
+}
+
+Bytes Device::ReadRegisters(const Sender& from, const Request& request) {
+    const auto addresses = request.payload;
+    const bool wellFormed = !addresses.empty() && addresses.size() % 4 == 0;
+    Status status = wellFormed ? Status::Success : Status::InvalidParameter;
+    Bytes values; // as far as they could be read
+    for (std::size_t i = 0; i < addresses.size() && status == Status::Success; i += 4) {
+        const std::uint32_t address = Get32(addresses.subspan(i));
+        std::uint32_t value = 0;
+        status = control.MayRead(from, address, 4) ? memory.ReadWord(address, value) : Status::AccessDenied;
+        if (status == Status::Success) {
+            Put32(values, value);
+        }
+    }
+    return Acknowledge(request, status, values);
+}
+
+Bytes Device::WriteRegisters(const Sender& from, const Request& request, Time now) {
+    const auto pairs = request.payload;
+    const bool wellFormed = !pairs.empty() && pairs.size() % 8 == 0;
+    Status status = wellFormed ? Status::Success : Status::InvalidParameter;
+    std::size_t written = 0;
+    while (status == Status::Success && 8 * written < pairs.size()) {
+        const auto pair = pairs.subspan(8 * written);
+        status = WriteWord(from, Get32(pair), Get32(pair.subspan(4)), now);
+        written += status == Status::Success ? 1 : 0;
+    }
+    return AcknowledgeWrite(request, status, written);
+}
+
+Bytes Device::ReadMemory(const Sender& from, const Request& request) {
+    if (request.payload.size() != 8) {
+        return Acknowledge(request, Status::InvalidParameter);
+    }
+    const std::uint32_t address = Get32(request.payload);
+    const std::size_t count = Get16(request.payload.subspan(6));
+    if (count == 0 || count % 4 != 0 || count > largestMemory) {
+        return Acknowledge(request, Status::InvalidParameter);
+    }
+    Bytes bytes(count);
+    const Status status = control.MayRead(from, address, count) ? memory.Read(address, bytes) : Status::AccessDenied;
+    if (status != Status::Success) {
+        return Acknowledge(request, status);
+    }
+    Bytes payload;
+    Put32(payload, address);
+    payload.insert(payload.end(), bytes.begin(), bytes.end());
+    return Acknowledge(request, status, payload);
+}
+
+Bytes Device::WriteMemory(const Sender& from, const Request& request, Time now) {
+    if (request.payload.size() < 8 || request.payload.size() % 4 != 0) {
+        return AcknowledgeWrite(request, Status::InvalidParameter, 0);
+    }
+    const std::uint32_t address = Get32(request.payload);
+    const auto bytes = request.payload.subspan(4);
+    Status status = Status::AccessDenied;
+    if (address == privilegeAddress && bytes.size() == 4) {
+        status = WriteWord(from, address, Get32(bytes), now);
+    } else if (control.MayWrite(from)) {
+        status = memory.Write(address, bytes);
+    }
+    return AcknowledgeWrite(request, status, status == Status::Success ? bytes.size() : 0);
+}
+
+Status Device::WriteWord(const Sender& from, std::uint32_t address, std::uint32_t value, Time now) {
+    if (address == privilegeAddress) {
+        const bool wasHeld = control.IsHeld();
+        const Status status = control.SetPrivilege(from, value, now);
+        if (wasHeld && !control.IsHeld()) {
+            EndControl();
+        }
+        return status;
+    }
+    return control.MayWrite(from) ? memory.WriteWord(address, value) : Status::AccessDenied;
+}
+
+} // namespace Simulation::GigEVision

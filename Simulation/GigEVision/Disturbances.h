@@ -1,0 +1,52 @@
+#pragma once
+
+#include "GigEVision/Device.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <random>
+#include <span>
+#include <vector>
+
+namespace Simulation::GigEVision {
+
+/// How badly a network and a device behave; shares lie between 0 and 1.
+struct Disturbances {
+    double drop = 0;                            ///< share of the datagrams, in either direction, that get lost
+    double duplicate = 0;                       ///< share of the acknowledges that arrive twice
+    double nack = 0;                            ///< share of the requests that the device refuses as busy
+    std::chrono::milliseconds delay{0};         ///< the longest time for which an acknowledge is held back
+    std::optional<std::uint64_t> rebootAfter{}; ///< requests; the next one finds the device starting anew
+};
+
+/// A datagram that is to be sent some time later.
+struct Sending {
+    Bytes datagram;
+    std::chrono::microseconds delay;
+};
+
+/// A device behind all that can go wrong before it. The same seed and the same requests meet the same disturbances.
+class DisturbedDevice {
+public:
+    DisturbedDevice(Device& reached, const Disturbances& onTheWay, std::uint64_t seed)
+        : device(reached),
+          disturbances(onTheWay),
+          random(seed) {}
+
+    [[nodiscard]] std::vector<Sending> Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now);
+    void PassTime(Time now) { device.PassTime(now); }
+
+private:
+    [[nodiscard]] bool Happens(double share);
+    [[nodiscard]] std::chrono::microseconds Delay();
+    [[nodiscard]] std::optional<Bytes> AnswerAtDevice(const Sender& from, std::span<const std::uint8_t> datagram,
+                                                      Time now);
+
+    Device& device;
+    Disturbances disturbances;
+    std::mt19937_64 random;
+    std::uint64_t requests = 0;
+};
+
+} // namespace Simulation::GigEVision

@@ -1,0 +1,53 @@
+#include "GigEVision/Gvcp.h"
+
+namespace Simulation::GigEVision {
+
+namespace {
+
+constexpr std::uint8_t key = 0x42;
+constexpr std::uint8_t acknowledgeFlag = 0x01;
+
+} // namespace
+
+std::uint16_t Get16(std::span<const std::uint8_t> bytes) {
+    return static_cast<std::uint16_t>(bytes[0] << 8 | bytes[1]);
+}
+
+std::uint32_t Get32(std::span<const std::uint8_t> bytes) {
+    return std::uint32_t{Get16(bytes)} << 16 | Get16(bytes.subspan(2));
+}
+
+void Put16(Bytes& bytes, std::uint32_t value) {
+    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
+    bytes.push_back(static_cast<std::uint8_t>(value));
+}
+
+void Put32(Bytes& bytes, std::uint32_t value) {
+    Put16(bytes, value >> 16);
+    Put16(bytes, value);
+}
+
+std::optional<Request> Parse(std::span<const std::uint8_t> datagram) {
+    if (datagram.size() < headerSize || datagram.size() > largestPayload || datagram[0] != key) {
+        return std::nullopt;
+    }
+    const Request request{(datagram[1] & acknowledgeFlag) != 0, Command{Get16(datagram.subspan(2))},
+                          Get16(datagram.subspan(6)), datagram.subspan(headerSize)};
+    if (request.id == 0 || Get16(datagram.subspan(4)) != request.payload.size()) {
+        return std::nullopt;
+    }
+    return request;
+}
+
+Bytes Acknowledge(const Request& request, Status status, const Bytes& payload) {
+    Bytes bytes;
+    bytes.reserve(headerSize + payload.size());
+    Put16(bytes, static_cast<std::uint16_t>(status));
+    Put16(bytes, static_cast<std::uint32_t>(request.command) + 1); // as the standard numbers acknowledges
+    Put16(bytes, static_cast<std::uint32_t>(payload.size()));
+    Put16(bytes, request.id);
+    bytes.insert(bytes.end(), payload.begin(), payload.end());
+    return bytes;
+}
+
+} // namespace Simulation::GigEVision

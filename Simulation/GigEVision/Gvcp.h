@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Register.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+/// GVCP, the control protocol of the GigE Vision standard: its numbers and its packets.
+namespace Simulation::GigEVision {
+
+constexpr std::uint16_t port = 3956;
+constexpr std::size_t headerSize = 8;
+constexpr std::size_t largestPayload = 576 - 20 - 8; ///< of a UDP datagram: no packet needs to be fragmented anywhere
+constexpr std::size_t largestMemory = 536;           ///< that one packet reads or writes
+constexpr std::size_t discoverySize = 0xF8;        ///< the bootstrap registers that a discovery acknowledge is made of
+constexpr std::uint32_t bootstrapEnd = 0x00010000; ///< below it the standard rules, and words are big-endian
+constexpr std::uint32_t privilegeAddress = 0x00000A00; ///< of the control channel privilege
+
+enum class Command : std::uint16_t {
+    Discovery = 0x0002,
+    PacketResend = 0x0040,
+    ReadRegister = 0x0080,
+    WriteRegister = 0x0082,
+    ReadMemory = 0x0084,
+    WriteMemory = 0x0086,
+    Action = 0x0100,
+};
+
+enum class Status : std::uint16_t {
+    Success = 0x0000,
+    NotImplemented = 0x8001,
+    InvalidParameter = 0x8002,
+    InvalidAddress = 0x8003,
+    WriteProtected = 0x8004,
+    BadAlignment = 0x8005,
+    AccessDenied = 0x8006,
+    Busy = 0x8007,
+    Error = 0x8FFF,
+};
+
+// Numbers in packets are big-endian.
+[[nodiscard]] std::uint16_t Get16(std::span<const std::uint8_t> bytes);
+[[nodiscard]] std::uint32_t Get32(std::span<const std::uint8_t> bytes);
+void Put16(Bytes& bytes, std::uint32_t value);
+void Put32(Bytes& bytes, std::uint32_t value);
+
+/// A packet of an application.
+struct Request {
+    bool wantsAcknowledge;
+    Command command; ///< perhaps none of the known ones
+    std::uint16_t id;
+    std::span<const std::uint8_t> payload; ///< in the datagram
+};
+
+/// The packet in a datagram, or nothing when it is none: another key, no id, a length that is not the datagram's, too
+/// long.
+[[nodiscard]] std::optional<Request> Parse(std::span<const std::uint8_t> datagram);
+
+/// The acknowledge of a request.
+[[nodiscard]] Bytes Acknowledge(const Request& request, Status status, const Bytes& payload = {});
+
+} // namespace Simulation::GigEVision

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "GigEVision/ControlChannel.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <deque>
+#include <optional>
+#include <span>
+
+namespace Simulation::GigEVision {
+
+/// What the device answered to the last request of each of the senders that it heard last. A sender that missed an
+/// acknowledge repeats its request, which must not be carried out twice.
+class LastAnswers {
+public:
+    using Answer = std::optional<Bytes>; ///< nothing for a request that is not acknowledged
+
+    /// The answer if this was the sender's last request, or null.
+    [[nodiscard]] const Answer* Find(const Sender& sender, std::span<const std::uint8_t> request) const {
+        const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
+            return entry.sender == sender &&
+                   std::equal(request.begin(), request.end(), entry.request.begin(), entry.request.end());
+        });
+        return found == entries.end() ? nullptr : &found->answer;
+    }
+
+    void Remember(const Sender& sender, std::span<const std::uint8_t> request, Answer answer) {
+        std::erase_if(entries, [&](const Entry& entry) { return entry.sender == sender; });
+        entries.push_front({sender, {request.begin(), request.end()}, std::move(answer)});
+        if (entries.size() > mostSenders) {
+            entries.pop_back();
+        }
+    }
+
+    void Forget() { entries.clear(); }
+
+private:
+    static constexpr std::size_t mostSenders = 16;
+
+    struct Entry {
+        Sender sender;
+        Bytes request;
+        Answer answer;
+    };
+
+    std::deque<Entry> entries; ///< the sender heard last comes first
+};
+
+} // namespace Simulation::GigEVision

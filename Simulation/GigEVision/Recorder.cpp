@@ -1,0 +1,89 @@
+#include "GigEVision/Recorder.h"
+
+#include "GigEVision/Gvcp.h"
+
+#include <sys/time.h>
+
+namespace Simulation::GigEVision {
+
+namespace {
+
+constexpr std::uint32_t internetHeaderSize = 20;
+constexpr std::uint32_t userHeaderSize = 8;
+constexpr std::uint32_t userDatagram = 17; // the protocol's number
+constexpr int largestPacket = 65535;
+
+/// The sum of the 16-bit words, an odd last byte filled up, with the carries added.
+std::uint32_t Sum(std::span<const std::uint8_t> bytes, std::uint32_t sum = 0) {
+    for (std::size_t i = 0; i < bytes.size(); i += 2) {
+        sum += std::uint32_t{bytes[i]} << 8 | (i + 1 < bytes.size() ? bytes[i + 1] : 0U);
+    }
+    while (sum > 0xFFFF) {
+        sum = (sum & 0xFFFF) + (sum >> 16);
+    }
+    return sum;
+}
+
+void PutChecksum(Bytes& bytes, std::size_t at, std::uint32_t sum) {
+    const std::uint32_t checksum = ~sum & 0xFFFF;
+    bytes[at] = static_cast<std::uint8_t>(checksum >> 8);
+    bytes[at + 1] = static_cast<std::uint8_t>(checksum);
+}
+
+Bytes InternetHeader(const Sender& from, const Sender& to, std::uint32_t length, std::uint16_t number) {
+    Bytes header;
+    Put16(header, 0x4500); // version 4, five words, ordinary service
+    Put16(header, internetHeaderSize + length);
+    Put16(header, number);
+    Put16(header, 0x4000); // not to be fragmented
+    Put16(header, 64 << 8 | userDatagram);
+    Put16(header, 0); // the checksum
+    Put32(header, from.address);
+    Put32(header, to.address);
+    PutChecksum(header, 10, Sum(header));
+    return header;
+}
+
+/// The UDP header and what it announces.
+Bytes UserDatagram(const Sender& from, const Sender& to, std::span<const std::uint8_t> payload) {
+    const auto length = userHeaderSize + static_cast<std::uint32_t>(payload.size());
+    Bytes datagram;
+    Put16(datagram, from.port);
+    Put16(datagram, to.port);
+    Put16(datagram, length);
+    Put16(datagram, 0); // the checksum
+    datagram.insert(datagram.end(), payload.begin(), payload.end());
+
+    Bytes pseudoHeader;
+    Put32(pseudoHeader, from.address);
+    Put32(pseudoHeader, to.address);
+    Put16(pseudoHeader, userDatagram);
+    Put16(pseudoHeader, length);
+    const std::uint32_t sum = Sum(datagram, Sum(pseudoHeader));
+    PutChecksum(datagram, 6, sum == 0xFFFF ? 0 : sum); // a checksum of zero would say that there is none
+    return datagram;
+}
+
+} // namespace
+
+Recorder::Recorder(const std::string& path)
+    : capture(pcap_open_dead(DLT_RAW, largestPacket), &pcap_close),
+      file(pcap_dump_open(capture.get(), path.c_str()), &pcap_dump_close) {
+    if (file == nullptr) {
+        throw RecordError("recording cannot be written: " + std::string(pcap_geterr(capture.get())));
+    }
+    pcap_dump_flush(file.get());
+}
+
+void Recorder::Record(const Sender& from, const Sender& to, std::span<const std::uint8_t> datagram) {
+    const Bytes behind = UserDatagram(from, to, datagram);
+    Bytes packet = InternetHeader(from, to, static_cast<std::uint32_t>(behind.size()), ++number);
+    packet.insert(packet.end(), behind.begin(), behind.end());
+    pcap_pkthdr header{};
+    gettimeofday(&header.ts, nullptr);
+    header.caplen = header.len = static_cast<bpf_u_int32>(packet.size());
+    pcap_dump(reinterpret_cast<unsigned char*>(file.get()), &header, packet.data());
+    pcap_dump_flush(file.get());
+}
+
+} // namespace Simulation::GigEVision

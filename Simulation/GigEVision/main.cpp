@@ -1,0 +1,95 @@
+#include "CameraState.h"
+#include "Cameras.h"
+#include "GigEVision/CommandLine.h"
+#include "GigEVision/Network.h"
+#include "GigEVision/Server.h"
+
+#include <filesystem>
+#include <iostream>
+
+namespace Simulation::GigEVision {
+
+namespace {
+
+enum ExitCode { AllWell = 0, WrongUsage = 2, NotServed = 3 };
+
+std::string AddressText(std::uint32_t address) { return asio::ip::address_v4(address).to_string(); }
+
+std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
+    auto camera = MakeCamera(order.model, {.seed = order.seed});
+    if (!camera) {
+        std::string known;
+        for (const std::string& name : ModelNames()) {
+            known += (known.empty() ? "" : ", ") + name;
+        }
+        throw UsageError("unknown model \"" + order.model + "\"; there is " + known);
+    }
+    if (!order.state.empty() && std::filesystem::exists(order.state)) {
+        LoadState(*camera, order.state);
+    }
+    for (const std::string& fault : order.faults) {
+        camera->PlantFault(fault);
+    }
+    return camera;
+}
+
+/// Tells those who wait for it that the camera can be reached.
+void Announce(const Order& order, const RegisterSpace& space) {
+    char mac[18];
+    const std::uint32_t high = space.Get("machigh")[0];
+    const std::uint32_t low = space.Get("maclow")[0];
+    std::snprintf(mac, sizeof mac, "%02X:%02X:%02X:%02X:%02X:%02X", high >> 8 & 0xFF, high & 0xFF, low >> 24,
+                  low >> 16 & 0xFF, low >> 8 & 0xFF, low & 0xFF);
+    const Bytes serial = ToBytes(space.Get("bootstrapserialnumber"));
+    std::cout << order.model << " at " << AddressText(order.address) << ':' << port << ", MAC " << mac
+              << ", serial number " << std::string(serial.begin(), std::find(serial.begin(), serial.end(), '\0'))
+              << std::endl;
+}
+
+void Serve(const Order& order) {
+    const Network network{order.address, MaskOf(order.address)};
+    const auto camera = SwitchOn(order);
+    Device device(*camera, network, std::chrono::steady_clock::now());
+    DisturbedDevice disturbed(device, order.disturbances, order.seed);
+    std::optional<Recorder> recorder;
+    if (!order.record.empty()) {
+        recorder.emplace(order.record);
+    }
+    Server server(disturbed, network, recorder ? &*recorder : nullptr);
+    Announce(order, camera->Registers());
+    server.Run();
+    if (!order.state.empty()) {
+        SaveState(*camera, order.state);
+    }
+}
+
+int Complain(ExitCode code, const std::string& text) {
+    std::cerr << "qdv12sim: " << text << '\n';
+    return code;
+}
+
+int Run(int argc, char** argv) {
+    std::optional<Order> order;
+    try {
+        order = ParseCommandLine(argc, argv);
+        if (order) {
+            Serve(*order);
+        }
+        return AllWell;
+    } catch (const UsageError& error) {
+        return Complain(WrongUsage, error.what());
+    } catch (const FaultError& error) {
+        return Complain(WrongUsage, error.what());
+    } catch (const asio::system_error& error) {
+        return Complain(NotServed, AddressText(order->address) + ':' + std::to_string(port) +
+                                       " cannot be used: " + error.code().message());
+    } catch (const std::exception& error) { // the state, the record
+        return Complain(NotServed, error.what());
+    }
+}
+
+} // namespace
+
+} // namespace Simulation::GigEVision
+
+int main(int argc, char** argv) { return Simulation::GigEVision::Run(argc, argv); }
