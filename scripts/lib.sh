@@ -10,11 +10,11 @@ jobs=$(nproc)
 # beyond it. clang-14 brings neither the sanitizers' run-time libraries nor llvm-symbolizer, without which no leak has a
 # name and no suppression matches; Aravis' own description asks for libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
-    nlohmann-json3-dev libedit-dev libasio-dev libpcap-dev binutils help2man dpkg-dev file)
-test_packages=(valgrind doxygen fakeroot)
+    nlohmann-json3-dev libedit-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev binutils help2man dpkg-dev file)
+test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-tidy-14 cppcheck shellcheck)
-bench_packages=(libbenchmark-dev libaravis-dev libusb-1.0-0-dev gnuplot-nox)
+bench_packages=(libbenchmark-dev gnuplot-nox)
 
 say() { printf '\n== %s\n' "$*"; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
