@@ -1,12 +1,12 @@
 # What `cmake --install` lays down and `cpack -G DEB` packs: the plug-in, what a host compiles against, the reference
-# host and its manual page.
+# host and the simulated camera, with their manual pages.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # A plug-in is loaded, not linked: it lies in a folder of its own, which no linker searches.
 set(QDV12_MODULE_DIR lib/qdv12)
 install(TARGETS qdv12ctrl LIBRARY DESTINATION ${QDV12_MODULE_DIR})
-install(TARGETS qdv12host RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS qdv12host qdv12sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY Include/SDK4 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QDV12Control)
@@ -22,15 +22,19 @@ install(FILES ${CMAKE_BINARY_DIR}/QDV12ControlConfig.cmake ${CMAKE_BINARY_DIR}/Q
 configure_file(cmake/qdv12control.pc.in qdv12control.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/qdv12control.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# The manual page is what the program says of itself.
+# The manual pages are what the programs say of themselves.
 find_program(HELP2MAN help2man)
+function(qdv12_add_manual program about)
+    set(page ${CMAKE_BINARY_DIR}/${program}.1)
+    add_custom_command(OUTPUT ${page}
+        COMMAND ${HELP2MAN} --no-info --section=1 --name ${about} --output=${page} $<TARGET_FILE:${program}>
+        DEPENDS ${program} VERBATIM)
+    add_custom_target(${program}_manual ALL DEPENDS ${page})
+    install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endfunction()
 if(HELP2MAN AND NOT QDV12_SANITIZERS)
-    add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/qdv12host.1
-        COMMAND ${HELP2MAN} --no-info --section=1 --name "drive GigE Vision cameras through libqdv12ctrl.so"
-            --output=${CMAKE_BINARY_DIR}/qdv12host.1 $<TARGET_FILE:qdv12host>
-        DEPENDS qdv12host VERBATIM)
-    add_custom_target(qdv12host_manual ALL DEPENDS ${CMAKE_BINARY_DIR}/qdv12host.1)
-    install(FILES ${CMAKE_BINARY_DIR}/qdv12host.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    qdv12_add_manual(qdv12host "drive GigE Vision cameras through libqdv12ctrl.so")
+    qdv12_add_manual(qdv12sim "put a simulated GigE Vision camera on the network")
 endif()
 
 set(CPACK_GENERATOR DEB)
@@ -46,7 +50,8 @@ The plug-in takes log4cxx from its host: a host that loads it must itself be
 linked with the shared log4cxx, or loading fails with undefined symbols.
 .
 The package also holds the headers and the CMake and pkg-config files that a
-host is built with, and the reference host qdv12host with simulated cameras.")
+host is built with, the reference host qdv12host with simulated cameras, and
+qdv12sim, which puts a simulated camera on the network.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
