@@ -1,4 +1,4 @@
-#include "Nearest.h"
+#include "Suggestion.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <numeric>
 #include <utility>
 
-namespace Host {
+namespace Simulation {
 
 namespace {
 
@@ -42,4 +42,4 @@ std::string Suggestion(std::string_view unknown, const std::vector<std::string>&
     return nearest == nullptr ? "" : "; did you mean \"" + *nearest + "\"?";
 }
 
-} // namespace Host
+} // namespace Simulation
