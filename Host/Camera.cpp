@@ -1,5 +1,6 @@
 #include "Camera.h"
 
+#include "Channel/ChannelErrors.h"
 #include "Errors.h"
 #include "Functions/Tables.h"
 #include "Guarded.h"
@@ -18,6 +19,16 @@ namespace {
 std::string PropertyOf(const Function& function, const Field& field) {
     const std::string_view base = function.property.empty() ? function.name : function.property;
     return std::string(base) + (*field.name == '\0' ? "" : ".") + field.name;
+}
+
+/// Calls the control about a function. What the channel to the camera throws then says which it was.
+template <typename Call> auto Calling(const Instance& instance, const Call& call) {
+    try {
+        return call();
+    } catch (ChannelError& error) {
+        error.SetFunction(instance.Name());
+        throw;
+    }
 }
 
 FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const char* name) {
@@ -102,14 +113,14 @@ Value Camera::Read(const Instance& instance) const {
     if (instance->get == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTGETFEATURE);
     }
-    return instance->get(control, instance.index);
+    return Calling(instance, [&] { return instance->get(control, instance.index); });
 }
 
 void Camera::Write(const Instance& instance, const Value& value) const {
     if (instance->set == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTSETFEATURE);
     }
-    instance->set(control, instance.index, value);
+    Calling(instance, [&] { instance->set(control, instance.index, value); });
 }
 
 void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const {
@@ -159,7 +170,7 @@ std::string Camera::LockedBy(const Instance& instance) const {
 
 Limits Camera::LimitsOf(const Instance& instance) const {
     if (instance->limitsReader != nullptr) {
-        return instance->limitsReader(control, model);
+        return Calling(instance, [&] { return instance->limitsReader(control, model); });
     }
     Limits published = PublishedLimits(instance);
     return published.empty() ? instance->limits : published;

@@ -52,7 +52,8 @@ public:
     /// @throw X4Error
     void SetUnlessLocked(const Instance& instance, const Value& value) const;
 
-    /// Reads a function without throwing.
+    /// Reads a function. What refuses that, short of a camera that is lost, is told and not thrown.
+    /// @throw ChannelLost
     [[nodiscard]] Reading TryRead(const Instance& instance) const;
     /// The same, and finds out what locks it. Nothing is written.
     [[nodiscard]] Reading Look(const Instance& instance) const;

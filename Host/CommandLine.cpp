@@ -1,6 +1,8 @@
 #include "CommandLine.h"
 
+#include "Channel/Datagrams.h"
 #include "Nearest.h"
+#include "Positionals.h"
 #include "Trace.h"
 
 #include <CLI/CLI.hpp>
@@ -11,6 +13,8 @@ namespace Host {
 
 namespace {
 
+constexpr const char* moreHelp = " (qdv12host --help says more)";
+
 /// What CLI11 filled in for the parameters of a command.
 struct Filled {
     CLI::App* app;
@@ -18,9 +22,10 @@ struct Filled {
     std::vector<std::pair<std::string, CLI::Option*>> options; ///< by the parameter's name
 };
 
-CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter) {
-    std::string name = parameter.name;
-    if (name.starts_with("--")) {
+/// @param required whether the parser insists on what the parameter's name does not mark as optional
+CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter, bool required) {
+    const std::string name = parameter.name;
+    if (!IsPositional(parameter)) {
         const std::size_t blank = name.find(' ');
         return blank == std::string::npos
                    ? app.add_flag(name, parameter.about)
@@ -28,20 +33,39 @@ CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter) {
     }
     const bool optional = name.starts_with('[');
     const bool several = name.find("...") != std::string::npos;
-    std::erase_if(name,
-                  [](char character) { return std::string_view("[].").find(character) != std::string_view::npos; });
-    CLI::Option* const option = app.add_option(name, parameter.about)->type_name("")->required(!optional);
+    CLI::Option* const option =
+        app.add_option(BareName(parameter), parameter.about)->type_name("")->required(required && !optional);
     return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
 }
 
-Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
+Filled AddCommand(CLI::App& app, const Command& command, bool inShell, bool required) {
     Filled filled{app.add_subcommand(command.name, command.about), &command, {}};
     for (const Parameter& parameter : command.parameters) {
         if (!inShell || parameter.name != std::string_view(modelParameter)) {
-            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter));
+            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter, required));
         }
     }
     return filled;
+}
+
+constexpr const char* cameraOption = "--camera";
+
+/// Whether a camera on the network is asked for, which changes what else has to be given.
+bool NamesCamera(const std::vector<std::string>& arguments) {
+    return std::any_of(arguments.begin(), arguments.end(), [](const std::string& argument) {
+        return argument == cameraOption || argument.starts_with(std::string(cameraOption) + "=");
+    });
+}
+
+std::string AddressOf(const std::string& text) {
+    const std::string form = "gige:";
+    const std::string address = text.starts_with(form) ? text.substr(form.size()) : "";
+    if (!IsAddress(address)) {
+        throw CLI::ValidationError(cameraOption, '"' + text +
+                                                     "\" is no camera; gige:ADDRESS is wanted, such as "
+                                                     "gige:192.168.1.10");
+    }
+    return address;
 }
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
@@ -55,12 +79,26 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
     app.add_option("--config", options.logConfig, "A configuration file for log4cxx")->type_name("FILE");
-    app.add_option("--seed", options.camera.seed, "Chooses the world around the simulated camera")->type_name("N");
-    app.add_option("--state", options.camera.state, "Keeps the simulated camera in a file between two runs")
-        ->type_name("FILE");
-    app.add_option("--fault", options.camera.faults, "Plants a fault in the simulated camera, such as ignore:gain")
+    auto* const camera =
+        app.add_option_function<std::string>(
+               cameraOption, [&](const std::string& text) { options.camera.address = AddressOf(text); },
+               "Drives a camera on the network, instead of a simulated one; MODEL may then be left "
+               "out (not for check and models, which need no camera)")
+            ->type_name("gige:ADDRESS");
+    app.add_flag("--force-model", options.camera.forceModel,
+                 "Drives the camera on the network as a MODEL, whatever it calls itself")
+        ->needs(camera);
+    auto& simulation = options.camera.simulation;
+    app.add_option("--seed", simulation.seed, "Chooses the world around the simulated camera")
+        ->type_name("N")
+        ->excludes(camera);
+    app.add_option("--state", simulation.state, "Keeps the simulated camera in a file between two runs")
+        ->type_name("FILE")
+        ->excludes(camera);
+    app.add_option("--fault", simulation.faults, "Plants a fault in the simulated camera, such as ignore:gain")
         ->type_name("TEXT")
-        ->allow_extra_args(false); // else it would take the model for a fault too
+        ->allow_extra_args(false) // else it would take the model for a fault too
+        ->excludes(camera);
 }
 
 /// Takes over what was given for the one command that was named.
@@ -110,13 +148,26 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error) {
     return "unknown command" + quoted + Suggestion(unknown.front(), names);
 }
 
+/// See Positionals.h.
+void LeaveModelOut(Request& request) {
+    try {
+        LeaveModelOut(*request.command, request.given);
+        if (request.options.camera.forceModel && !request.given.contains(modelParameter)) {
+            throw UsageError("MODEL is required with --force-model");
+        }
+    } catch (const UsageError& error) {
+        throw UsageError(error.what() + std::string(moreHelp));
+    }
+}
+
 Request Parse(std::vector<std::string> arguments, bool inShell) {
-    CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, on simulated cameras.",
+    CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, simulated ones or on the network.",
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
     app.fallthrough(); // common options may stand behind the command
     Request request;
     bool trace = false;
+    const bool onNetwork = !inShell && NamesCamera(arguments);
     app.add_flag("--json", request.options.json, "Print results as JSON");
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
@@ -126,7 +177,7 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
         if (command.inShell || !inShell) {
-            commands.push_back(AddCommand(app, command, inShell));
+            commands.push_back(AddCommand(app, command, inShell, !onNetwork));
         }
     }
     try {
@@ -134,7 +185,7 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
-            throw UsageError(Describe(app, error) + std::string(inShell ? "" : " (qdv12host --help says more)"));
+            throw UsageError(Describe(app, error) + (inShell ? "" : moreHelp));
         }
         app.exit(error);
         return request;
@@ -143,6 +194,9 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
         request.options.camera.accesses = PrintAccess;
     }
     TakeGiven(commands, request);
+    if (onNetwork) {
+        LeaveModelOut(request);
+    }
     return request;
 }
 

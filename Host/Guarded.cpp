@@ -1,5 +1,6 @@
 #include "Guarded.h"
 
+#include "Channel/ChannelErrors.h"
 #include "Command.h"
 
 #include <SDK4/X4Error.h>
@@ -21,7 +22,13 @@ int Guarded(const std::function<int()>& action) {
     } catch (const SDK4::X4Error& error) {
         Complain(std::string(SDK4::ErrorName(error.code)) + " (" + std::to_string(error.code) + ")");
         return Refused;
-    } catch (const std::exception& error) { // of the port, for one
+    } catch (const ControlHeld& error) {
+        Complain(error.Describe());
+        return NotOpened;
+    } catch (const ChannelError& error) {
+        Complain(error.Describe());
+        return Refused;
+    } catch (const std::exception& error) { // of a simulated camera, for one
         Complain(error.what());
         return Refused;
     }
@@ -33,6 +40,8 @@ Failure Attempt(const std::function<void()>& calls) {
         return {};
     } catch (const SDK4::X4Error& error) {
         return {error.code, SDK4::ErrorName(error.code)};
+    } catch (const ChannelLost&) {
+        throw;
     } catch (const std::exception& error) {
         return {SDK4_ERR_ERROR, error.what()};
     }

@@ -16,9 +16,10 @@ Session& Program::Open(const std::string& model) {
     return *session;
 }
 
-void Program::SaveState() const {
+void Program::Finish() {
     if (session) {
-        session->SaveState();
+        session->Connection().RequireUnbroken();
+        session->Connection().SaveState();
     }
 }
 

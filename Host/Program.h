@@ -32,11 +32,13 @@ public:
     /// @throw OpenError
     [[nodiscard]] const Plugin& LoadedPlugin();
     /// Opens a camera, or gives back the one that is open.
-    /// @throw OpenError
+    /// @throw OpenError; ChannelLost
     [[nodiscard]] Session& Open(const std::string& model);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
-    /// Has the state file, if there is one, hold the camera that was opened.
-    void SaveState() const;
+    /// Once a command has ended: makes sure that its camera was there all the time, and has the state file, if there is
+    /// one, hold it.
+    /// @throw ChannelLost
+    void Finish();
 
 private:
     Host::Options options;

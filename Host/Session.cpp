@@ -1,63 +1,81 @@
 #include "Session.h"
 
+#include "Channel/ChannelErrors.h"
+#include "Channel/GigEConnection.h"
 #include "Nearest.h"
 
-#include <CameraState.h>
-#include <Cameras.h>
-#include <SimulatedCamera.h>
-
 #include <algorithm>
-#include <filesystem>
 
 namespace Host {
 
 namespace {
 
-std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const Plugin& plugin, const std::string& model,
-                                                      const CameraOptions& options) {
-    std::vector<std::string> known;
-    for (const Model& served : plugin.Models()) {
-        known.push_back(served.name);
+constexpr const char* opening = "opening the camera"; ///< stands for the name of a function
+
+std::vector<std::string> NamesOf(const std::vector<Model>& models) {
+    std::vector<std::string> names;
+    for (const Model& model : models) {
+        names.push_back(model.name);
     }
-    if (std::find(known.begin(), known.end(), model) == known.end()) {
-        throw OpenError("unknown model \"" + model + '"' + Suggestion(model, known));
+    return names;
+}
+
+bool Serves(const Plugin& plugin, const std::string& model) {
+    const auto known = NamesOf(plugin.Models());
+    return std::find(known.begin(), known.end(), model) != known.end();
+}
+
+void RequireServed(const Plugin& plugin, const std::string& model) {
+    if (!Serves(plugin, model)) {
+        throw OpenError("unknown model \"" + model + '"' + Suggestion(model, NamesOf(plugin.Models())));
     }
-    auto camera = Simulation::MakeCamera(model, {.seed = options.seed});
-    if (!camera) {
-        throw OpenError("no simulated camera of model \"" + model + "\"");
-    }
+}
+
+/// What a camera on the network is to be opened as.
+std::string ModelOf(const Plugin& plugin, NetworkConnection& connection, const std::string& wanted) {
+    std::string read;
     try {
-        if (std::filesystem::exists(options.state)) {
-            Simulation::LoadState(*camera, options.state);
-        }
-        for (const std::string& fault : options.faults) {
-            camera->PlantFault(fault);
-        }
-    } catch (const Simulation::StateError& error) {
-        throw OpenError(error.what());
-    } catch (const Simulation::FaultError& error) {
-        throw UsageError(error.what());
+        read = connection.ModelName();
+    } catch (const ChannelError& error) {
+        throw OpenError("the model of " + connection.Describe() + " could not be read: " + error.what());
     }
-    return camera;
+    const std::string says = connection.Describe() + " is a \"" + read + "\"";
+    if (!Serves(plugin, read)) {
+        std::string served;
+        for (const std::string& name : NamesOf(plugin.Models())) {
+            served += (served.empty() ? "" : ", ") + name;
+        }
+        throw OpenError(says + "; the plug-in serves " + served + " (--force-model opens it as one of these)");
+    }
+    if (!wanted.empty() && wanted != read) {
+        throw OpenError(says + ", not a \"" + wanted + "\" (--force-model opens it as one)");
+    }
+    return read;
 }
 
 } // namespace
 
-Session::Session(const Plugin& loaded, const std::string& name, const CameraOptions& options)
-    : plugin(loaded),
-      model(name),
-      state(options.state),
-      camera(SwitchOn(loaded, name, options)),
-      port(*camera, options.accesses),
-      control(OpenAgain(options.index)) {}
-
-Session::~Session() = default;
-
-void Session::SaveState() const {
-    if (!state.empty()) {
-        Simulation::SaveState(*camera, state);
+Session::Reached Session::Reach(const Plugin& plugin, const std::string& model, const CameraOptions& options) {
+    if (options.address.empty() || options.forceModel || !model.empty()) {
+        RequireServed(plugin, model);
     }
+    if (options.address.empty()) {
+        return {std::make_unique<SimulatedConnection>(model, options.simulation), model};
+    }
+    auto connection = ConnectGigE(options.address);
+    const std::string opened = options.forceModel ? model : ModelOf(plugin, *connection, model);
+    return {std::move(connection), opened};
 }
+
+Session::Session(const Plugin& loaded, const std::string& name, const CameraOptions& options)
+    : Session(loaded, Reach(loaded, name, options), options) {}
+
+Session::Session(const Plugin& loaded, Reached reached, const CameraOptions& options)
+    : plugin(loaded),
+      model(std::move(reached.model)),
+      connection(std::move(reached.connection)),
+      port(connection->Port(), options.accesses),
+      control(OpenAgain(options.index)) {}
 
 Control Session::OpenAgain(std::int32_t index) {
     try {
@@ -66,6 +84,9 @@ Control Session::OpenAgain(std::int32_t index) {
         }
     } catch (const SDK4::X4Error& error) {
         throw OpenError("opening \"" + model + "\" failed: " + SDK4::ErrorName(error.code));
+    } catch (ChannelLost& error) {
+        error.SetFunction(opening);
+        throw;
     } catch (const Simulation::PortError& error) {
         throw OpenError("opening \"" + model + "\" failed: " + error.what());
     }

@@ -2,40 +2,36 @@
 
 #include "Camera.h"
 #include "Plugin.h"
+#include "SimulatedConnection.h"
 #include "TracingPort.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
-
-namespace Simulation {
-class SimulatedCamera;
-}
 
 namespace Host {
 
-/// How a camera is switched on and opened.
+/// How a camera is reached and opened.
 struct CameraOptions {
-    std::int32_t index = 0;            ///< with which the control is created
-    std::uint64_t seed = 0;            ///< of the world around the camera
-    std::string state{};               ///< a file that holds the camera between two runs; none if empty
-    std::vector<std::string> faults{}; ///< to be planted in the camera
-    TracingPort::Observer accesses{};  ///< told of every port access; without it the port remembers them
+    std::int32_t index = 0;           ///< with which the control is created
+    std::string address{};            ///< of a GigE Vision camera; if empty, the camera is simulated ...
+    SimulationOptions simulation{};   ///< ... like this
+    bool forceModel = false;          ///< opens a GigE Vision camera as the given model, whatever it calls itself
+    TracingPort::Observer accesses{}; ///< told of every port access; without it the port remembers them
 };
 
 /// An opened camera: the camera, the port to it, and the control that the plug-in built on the port.
 class Session {
 public:
-    /// Switches a simulated camera on and opens it.
-    /// @throw OpenError for a model that the plug-in does not serve, or that nothing simulates; for a state file that
-    ///        is no such file
+    /// Switches a simulated camera on, or connects to one on the network, and opens it.
+    /// @param model may be empty for a camera on the network, which says what it is
+    /// @throw OpenError for a model that the plug-in does not serve, or that is not the camera's; for a camera that
+    ///        cannot be reached; for what SimulatedConnection does not admit
     /// @throw UsageError for a fault that cannot be planted
     Session(const Plugin& plugin, const std::string& model, const CameraOptions& options = {});
-    ~Session();
 
     [[nodiscard]] const std::string& Model() const { return model; }
-    [[nodiscard]] Simulation::SimulatedCamera& Camera() { return *camera; }
+    [[nodiscard]] Host::Connection& Connection() { return *connection; }
     [[nodiscard]] TracingPort& Port() { return port; }
 
     /// The interface of the control, or null if the control does not have it.
@@ -47,18 +43,23 @@ public:
     /// @throw OpenError for a control of a family whose functions are not known
     [[nodiscard]] Host::Camera Functions() const { return {*control, model}; }
 
-    /// Has the state file, if there is one, hold the camera as it is now.
-    void SaveState() const;
-
     /// Opens the same camera once more, on the same port.
+    /// @throw OpenError; ChannelLost
     [[nodiscard]] Control OpenAgain(std::int32_t index);
 
 private:
+    /// A camera that is reached, and what it is.
+    struct Reached {
+        std::unique_ptr<Host::Connection> connection;
+        std::string model;
+    };
+    [[nodiscard]] static Reached Reach(const Plugin& plugin, const std::string& model, const CameraOptions& options);
+    Session(const Plugin& plugin, Reached reached, const CameraOptions& options);
+
     // In this order: the control goes first, the camera and the name that the control points to go last.
     const Plugin& plugin;
     std::string model;
-    std::string state;
-    std::unique_ptr<Simulation::SimulatedCamera> camera;
+    std::unique_ptr<Host::Connection> connection;
     TracingPort port;
     Control control;
 };

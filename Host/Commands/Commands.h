@@ -7,6 +7,7 @@ namespace Host {
 // What each command does; Commands.cpp says what it is called and takes.
 int Check(const Invocation& invocation);
 int Models(const Invocation& invocation);
+int Discover(const Invocation& invocation);
 int Info(const Invocation& invocation);
 int List(const Invocation& invocation);
 int Get(const Invocation& invocation);

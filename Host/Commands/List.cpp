@@ -2,6 +2,7 @@
 
 #include "Describe.h"
 #include "Format.h"
+#include "Guarded.h"
 #include "Style.h"
 
 #include <iostream>
@@ -33,20 +34,37 @@ std::optional<Value> DefaultOf(const Limits& limits) {
 /// Whether a row stands for many instances, of which the first alone was read.
 bool StandsForMany(const Instance& instance, bool all) { return !all && instance->count > fewInstances; }
 
+/// What can be known of a function now.
+struct Found {
+    Reading reading;
+    Limits limits;
+    std::string state;
+};
+
+Found Look(const Camera& camera, const Instance& instance) {
+    Found found{camera.Look(instance), {}, {}};
+    Failure failure;
+    if (found.reading.error == 0) {
+        failure = Attempt([&] { found.limits = camera.LimitsOf(instance); });
+    }
+    found.state =
+        failure.code == 0 ? DescribeState(instance, found.reading) : "limits not readable (" + failure.reason + ")";
+    return found;
+}
+
 bool HasValue(const Instance& instance, const Reading& reading) {
     return reading.error == 0 && instance->get != nullptr;
 }
 
 Row Describe(const Camera& camera, const Instance& instance, bool all) {
-    const Reading reading = camera.Look(instance);
+    const auto [reading, limits, state] = Look(camera, instance);
     const bool many = StandsForMany(instance, all);
     Row row;
     row.name = instance.Name() + (many ? ".." + std::to_string(instance->count - 1) : "");
     row.value = !HasValue(instance, reading) ? "-"
                 : many                       ? std::to_string(instance->count) + " values"
                                              : PrintWithUnit(instance, reading.value);
-    row.state = DescribeState(instance, reading);
-    const Limits limits = reading.error == 0 ? camera.LimitsOf(instance) : Limits();
+    row.state = state;
     const auto standard = DefaultOf(limits);
     row.standard = standard ? instance.Print(*standard) : "";
     row.limits = instance->set != nullptr ? DescribeLimits(instance, limits) : "";
@@ -98,8 +116,7 @@ Json LimitsToJson(const Instance& instance, const Limits& limits) {
 }
 
 Json Document(const Camera& camera, const Instance& instance, bool all) {
-    const Reading reading = camera.Look(instance);
-    const Limits limits = reading.error == 0 ? camera.LimitsOf(instance) : Limits();
+    const auto [reading, limits, state] = Look(camera, instance);
     const auto standard = DefaultOf(limits);
     const bool many = StandsForMany(instance, all);
     Json codes(Json::Object{});

@@ -78,6 +78,9 @@ int RunRestore(const Invocation& invocation) {
     if (saved.model != session.Model()) {
         throw UsageError("\"" + file + "\" holds settings of model " + saved.model + ", this is " + session.Model());
     }
+    if (!invocation.Has("--dry-run")) {
+        session.Connection().RequireControl();
+    }
     const Camera camera = session.Functions();
     const ReadThrough reader(session);
     const Restorer restorer(camera, reader.Camera(), WaitFor(session), invocation.Has("--outputs"));

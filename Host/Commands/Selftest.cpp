@@ -171,6 +171,7 @@ int Report(const std::vector<Tested>& results, bool json) {
 
 int RunSelftest(const Invocation& invocation) {
     Session& session = invocation.Open();
+    session.Connection().RequireControl();
     const bool outputs = invocation.Has("--outputs");
     const Interrupts interrupts;
     Preserved preserved(session, outputs);

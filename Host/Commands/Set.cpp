@@ -75,6 +75,7 @@ Json ToJson(const Assignment& assignment, const Result& result) {
 } // namespace
 
 int Set(const Invocation& invocation) {
+    invocation.Open().Connection().RequireControl();
     const Camera camera = invocation.OpenCamera();
     const auto assignments = ParseAssignments(camera, invocation.Texts("NAME=VALUE..."));
     const ReadThrough reader(invocation.Open());

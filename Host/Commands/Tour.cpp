@@ -11,7 +11,10 @@ int RunTour(const Invocation& invocation) {
     options.index = 0;          // the tour shows what the caches save
     options.accesses = nullptr; // and every access
     Session session(invocation.Program().LoadedPlugin(), invocation.Text(modelParameter), options);
-    return Tour(session, std::cout).Run() ? AllWell : Refused;
+    session.Connection().RequireControl();
+    const bool asExpected = Tour(session, std::cout).Run();
+    session.Connection().RequireUnbroken();
+    return asExpected ? AllWell : Refused;
 }
 
 } // namespace Host

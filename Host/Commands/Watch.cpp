@@ -7,8 +7,6 @@
 #include "Interrupts.h"
 #include "Settings/ReadThrough.h"
 
-#include <SimulatedCamera.h>
-
 #include <charconv>
 #include <iostream>
 
@@ -156,6 +154,9 @@ int Watch(const Invocation& invocation) {
     const auto duration = DurationOf(invocation);
     Session& session = invocation.Open();
     const Camera camera = session.Functions();
+    if (invocation.Has("[NAME=VALUE...]")) {
+        session.Connection().RequireControl();
+    }
     const auto assignments = ParseAssignments(camera, invocation.Texts("[NAME=VALUE...]"));
     const ReadThrough reader(session);
     const Interrupts interrupts;
@@ -177,7 +178,7 @@ int Watch(const Invocation& invocation) {
         watched.Look(changes);
         const auto before = Clock::now();
         Interrupts::Sleep(period);
-        session.Camera().Pass(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
+        session.Connection().Passed(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
     }
     watched.Look(changes);
     return code;

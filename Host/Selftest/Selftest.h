@@ -33,7 +33,8 @@ public:
     /// Automatic modes would move what is tested.
     void SwitchOffModes() const;
 
-    /// Tests a function, or reads it if it can only be read. Throws nothing.
+    /// Tests a function, or reads it if it can only be read.
+    /// @throw ChannelLost, and nothing else
     [[nodiscard]] Tested Test(const Instance& instance) const;
 
 private:

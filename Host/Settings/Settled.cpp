@@ -1,7 +1,5 @@
 #include "Settled.h"
 
-#include <SimulatedCamera.h>
-
 namespace Host {
 
 namespace {
@@ -14,7 +12,7 @@ constexpr milliseconds glance{100};  ///< between two looks at it
 } // namespace
 
 Wait WaitFor(Session& session) {
-    return [&session](milliseconds time) { session.Camera().Pass(time); };
+    return [&session](milliseconds time) { session.Connection().Wait(time); };
 }
 
 Reading Settled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait) {

@@ -1,5 +1,7 @@
 #include "Unlock.h"
 
+#include "Channel/ChannelErrors.h"
+
 #include <algorithm>
 
 namespace Host {
@@ -20,6 +22,8 @@ void WhileUnlocked(const Camera& camera, const Instance& instance, const std::fu
     camera.Write(mode, {{open.front()}, {}});
     try {
         action();
+    } catch (const ChannelLost&) { // nothing can be put back
+        throw;
     } catch (...) {
         camera.Write(mode, held);
         throw;

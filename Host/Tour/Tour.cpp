@@ -1,9 +1,8 @@
 #include "Tour.h"
 
+#include "../Channel/ChannelErrors.h"
 #include "../Session.h"
 #include "Topics.h"
-
-#include <SimulatedCamera.h>
 
 #include <algorithm>
 #include <exception>
@@ -28,10 +27,9 @@ std::span<const Topic> TopicsOf(std::string_view classId) {
 }
 
 std::string Describe(const Access& access, Session& session) {
-    const auto* const entry = session.Camera().Registers().At(access.address);
     return Pad(access.operation, 17) + "  " + Hex(access.address) + "  " +
-           Pad(entry == nullptr ? "" : entry->name, 25) + (access.write ? "<- " : "-> ") + FormatBytes(access.data) +
-           (access.failed ? " (failed)" : "");
+           Pad(session.Connection().RegisterAt(access.address), 25) + (access.write ? "<- " : "-> ") +
+           FormatBytes(access.data) + (access.failed ? " (failed)" : "");
 }
 
 } // namespace
@@ -45,7 +43,8 @@ void Tour::Tell(const std::string& text) { remarks.emplace_back(session.Port().C
 
 bool Tour::Run() {
     const std::string classId = Get<SDK4::IControl>().GetClassID();
-    out << "A tour of " << session.Model() << ", a simulated camera behind the control \"" << classId << "\".\n"
+    out << "A tour of " << session.Model() << ", " << session.Connection().Describe() << " behind the control \""
+        << classId << "\".\n"
         << "Each call stands above the port accesses that it cost: -> is read from the camera, <- is written to it.\n";
     PrintOpening("Opening it");
 
@@ -107,8 +106,8 @@ void Tour::PrintOpening(const std::string& what) {
     const auto most =
         std::max_element(costs.begin(), costs.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
     if (most != costs.end() && 2 * most->second > taken.size()) {
-        const auto* const entry = session.Camera().Registers().At(most->first);
-        out << ", " << most->second << " of them on " << (entry == nullptr ? Hex(most->first) : entry->name);
+        const std::string name = session.Connection().RegisterAt(most->first);
+        out << ", " << most->second << " of them on " << (name.empty() ? Hex(most->first) : name);
     }
     out << ".\n";
 }
@@ -125,6 +124,9 @@ void Tour::Expect(std::int32_t expected, const Step& step) {
         ++refusals;
         code = error.code;
         result = "! " + std::string(SDK4::ErrorName(code));
+    } catch (ChannelLost& error) {
+        error.SetFunction(step.text);
+        throw;
     } catch (const std::exception& error) {
         foreign = true;
         result = "! " + std::string(error.what());

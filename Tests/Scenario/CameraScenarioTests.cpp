@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(Models, EveryOrvik, testing::Values(
 TEST(Afternoon, AutomaticExposureOwnsTheExposureTime) {
     Host::Session session(LoadedPlugin(), "Orvik-710M");
     auto& exposure = As<IExposure>(session);
-    auto& camera = session.Camera().Registers();
+    auto& camera = Registers(session);
     exposure.SetExposure({0, 5000});
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 5000}));
 
@@ -97,7 +97,7 @@ TEST(Afternoon, GeometryAndFormatAreLockedWhileImagesAreAcquired) {
     EXPECT_EQ(video->GetWidth(), 640U);
     EXPECT_EQ(video->GetHeight(), 480U);
     EXPECT_EQ(CodeOf([&] { As<IOverlay>(session).SetOverlayPosition(1, {600, 600}); }), SDK4_ERR_OUTOFRANGE);
-    EXPECT_EQ(session.Camera().Registers().Get("overlayposition", 1), (Words{600, 479}));
+    EXPECT_EQ(Registers(session).Get("overlayposition", 1), (Words{600, 479}));
 }
 
 TEST(Afternoon, SettingsAreSavedChangedAndLoaded) {
@@ -117,7 +117,7 @@ TEST(Afternoon, SettingsAreSavedChangedAndLoaded) {
     EXPECT_EQ(enhancement.GetContrast(), 200U);
     EXPECT_EQ(gpio.GetIoDelay(3), 1500U);
     EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(tests.GetPatternGenerator(), 2); }), 0U); // survives the load
-    EXPECT_EQ(session.Camera().Registers().Get("patterngenerator"), Words{2});
+    EXPECT_EQ(Registers(session).Get("patterngenerator"), Words{2});
 
     settings.LoadSettings(0);
     EXPECT_EQ(enhancement.GetContrast(), 64U);
@@ -144,7 +144,7 @@ TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
 
 TEST(Tour, MarksARefusalThatShouldNotBe) {
     Host::Session session(LoadedPlugin(), "Orvik-710M");
-    session.Camera().Registers().Set("readoutarealimits", {0, 0, 99, 99}, 1); // a sensor smaller than any
+    Registers(session).Set("readoutarealimits", {0, 0, 99, 99}, 1); // a sensor smaller than any
     std::ostringstream out;
     EXPECT_FALSE(Host::Tour(session, out).Run());
     EXPECT_NE(out.str().find("! SDK4_ERR_OUTOFRANGE   <-- unexpected, should be accepted"), std::string::npos);

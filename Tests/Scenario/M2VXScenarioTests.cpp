@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(Models, EveryM2VX, testing::Values("Cerix7-MV", "Cerix-
 class M2VXAfternoon : public testing::Test {
 protected:
     Host::Session session{LoadedPlugin(), "Cerix-MV7"};
-    Simulation::RegisterSpace& camera = session.Camera().Registers();
+    Simulation::RegisterSpace& camera = Registers(session);
     IPropertyState& state = As<IPropertyState>(session);
     M2VX::IGain& gain = As<M2VX::IGain>(session);
 };

@@ -28,6 +28,11 @@ template <typename Interface> Interface& As(const Host::Session& session) {
     return dynamic_cast<Interface&>(*session.As<IDynamicObject>());
 }
 
+/// What the simulated camera of a session holds.
+inline Simulation::RegisterSpace& Registers(Host::Session& session) {
+    return dynamic_cast<Host::SimulatedConnection&>(session.Connection()).Camera().Registers();
+}
+
 /// The error code that the call ends with, 0 if it ends well.
 template <typename Call> std::int32_t CodeOf(const Call& call) {
     try {

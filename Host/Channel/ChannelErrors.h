@@ -1,0 +1,40 @@
+#pragma once
+
+#include <Faults.h>
+
+#include <string>
+
+namespace Host {
+
+/// An access over a control channel that failed. It passes through the plug-in unchanged.
+class ChannelError : public Simulation::PortError {
+public:
+    using PortError::PortError;
+
+    /// Which camera function was being called; the first to say so is right, it is the innermost call.
+    void SetFunction(const std::string& name) {
+        if (function.empty()) {
+            function = name;
+        }
+    }
+    /// "gain: ReadRegister at 0x14010000 failed: ...", without the function if it is not known.
+    [[nodiscard]] std::string Describe() const { return (function.empty() ? "" : function + ": ") + what(); }
+
+private:
+    std::string function;
+};
+
+/// A write without control, which another program has.
+class ControlHeld final : public ChannelError {
+public:
+    using ChannelError::ChannelError;
+};
+
+/// The camera no longer answers, or another program took control of it, or it started anew. Every access after that
+/// fails the same, at once.
+class ChannelLost final : public ChannelError {
+public:
+    using ChannelError::ChannelError;
+};
+
+} // namespace Host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace Host {
+
+// What is asked of the network beside Aravis. Addresses are IPv4.
+
+[[nodiscard]] bool IsAddress(const std::string& text);
+/// "192.168.1.10" for 0xC0A8010A
+[[nodiscard]] std::string PrintAddress(std::uint32_t address);
+
+/// Where this machine sends from what it sends to an address. Sends nothing.
+/// @throw OpenError if there is no way to it
+[[nodiscard]] std::string LocalAddressTowards(const std::string& address);
+
+/// Reads a text from a camera's memory, without touching its control; nothing if the camera does not answer.
+/// @param length a multiple of 4, at most 512
+[[nodiscard]] std::optional<std::string> ReadTextWithoutControl(const std::string& camera, std::uint32_t memory,
+                                                                std::uint16_t length);
+
+} // namespace Host

@@ -1,0 +1,40 @@
+#include "Discovery.h"
+
+#include "Datagrams.h"
+#include "Errors.h"
+
+#include <arv.h>
+
+namespace Host {
+
+namespace {
+
+constexpr std::uint32_t userDefinedName = 0x00E8; // bootstrap register of the GigE Vision standard
+constexpr std::uint16_t userDefinedNameLength = 16;
+
+std::string Text(const char* text) { return text == nullptr ? "" : text; }
+
+/// Aravis does not tell it.
+std::string UserNameOf(const std::string& address) {
+    try {
+        return ReadTextWithoutControl(address, userDefinedName, userDefinedNameLength).value_or("");
+    } catch (const OpenError&) { // the camera stands in another subnet, and cannot be asked
+        return "";
+    }
+}
+
+} // namespace
+
+std::vector<FoundCamera> DiscoverCameras() {
+    arv_disable_interface("USB3Vision");
+    arv_update_device_list();
+    std::vector<FoundCamera> found;
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        const std::string address = Text(arv_get_device_address(i));
+        found.push_back({address, Text(arv_get_device_physical_id(i)), Text(arv_get_device_model(i)),
+                         Text(arv_get_device_serial_nbr(i)), UserNameOf(address)});
+    }
+    return found;
+}
+
+} // namespace Host

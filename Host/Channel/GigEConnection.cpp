@@ -1,0 +1,51 @@
+#include "GigEConnection.h"
+
+#include "ChannelErrors.h"
+#include "Errors.h"
+#include "GigEPort.h"
+
+#include <thread>
+
+namespace Host {
+
+namespace {
+
+class GigEConnection final : public NetworkConnection {
+public:
+    explicit GigEConnection(const std::string& address) : port(address) {}
+
+    [[nodiscard]] std::string ModelName() override { return port.ModelName(); }
+    [[nodiscard]] SDK4::IControlPort& Port() override { return port; }
+    [[nodiscard]] std::string Describe() const override { return port.Name(); }
+    /// Also after a signal: what is put back then needs its time as well.
+    void Wait(std::chrono::microseconds time) override { std::this_thread::sleep_for(time); }
+    void Passed(std::chrono::microseconds /*time*/) override {}
+    [[nodiscard]] std::string RegisterAt(std::uint32_t /*address*/) const override { return ""; }
+    [[nodiscard]] bool HasControl() const override { return port.HasControl(); }
+    void RequireControl() override {
+        port.TryToTakeControl();
+        if (!port.HasControl()) {
+            throw OpenError(port.Name() + " is controlled by " + port.Holder());
+        }
+    }
+    void RequireUnbroken() override {
+        try {
+            port.RequireUnbrokenControl();
+        } catch (ChannelLost& error) {
+            error.SetFunction("at the end");
+            throw;
+        }
+    }
+    void SaveState() const override {} // the camera keeps itself
+
+private:
+    GigEPort port;
+};
+
+} // namespace
+
+std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& address) {
+    return std::make_unique<GigEConnection>(address);
+}
+
+} // namespace Host

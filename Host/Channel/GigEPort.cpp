@@ -1,0 +1,272 @@
+#include "GigEPort.h"
+
+#include "ChannelErrors.h"
+#include "Datagrams.h"
+#include "Errors.h"
+#include "Little.h"
+
+#include <arv.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+
+namespace Host {
+
+namespace {
+
+constexpr std::uint32_t wordSize = 4;
+constexpr std::uint64_t largestPiece = 512; ///< that a packet of the control channel surely carries
+
+// Bootstrap registers of the GigE Vision standard.
+constexpr std::uint32_t modelName = 0x0068;
+constexpr std::uint32_t modelNameLength = 32;
+constexpr std::uint32_t privilege = 0x0A00;
+constexpr std::uint32_t controllerPort = 0x0A04;
+constexpr std::uint32_t controllerAddress = 0x0A14;
+
+struct Unref {
+    void operator()(void* object) const { g_object_unref(object); }
+};
+using Address = std::unique_ptr<GInetAddress, Unref>;
+
+struct FreeError {
+    void operator()(GError* error) const { g_error_free(error); }
+};
+using Error = std::unique_ptr<GError, FreeError>;
+
+/// What the camera answered, in words, for the statuses of the standard that Aravis tells apart.
+std::string Reason(const GError& error) {
+    struct Status {
+        int code;
+        const char* words;
+    };
+    static constexpr Status statuses[] = {
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, "the camera does not know the command (0x8001)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER, "invalid parameter (0x8002)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS, "the camera has no such address (0x8003)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT, "the register cannot be written (0x8004)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT, "bad alignment (0x8005)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED, "access denied (0x8006)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY, "the camera is busy (0x8007)"},
+        {ARV_DEVICE_ERROR_TIMEOUT, "no answer"},
+    };
+    if (error.domain == ARV_DEVICE_ERROR) {
+        for (const Status& status : statuses) {
+            if (status.code == error.code) {
+                return status.words;
+            }
+        }
+    }
+    return error.message;
+}
+
+bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_DEVICE_ERROR && error.code == code; }
+
+ArvDevice* Open(const std::string& address) {
+    const std::string local = LocalAddressTowards(address);
+    const Address from(g_inet_address_new_from_string(local.c_str()));
+    const Address to(g_inet_address_new_from_string(address.c_str()));
+    GError* failure = nullptr;
+    ArvDevice* const opened = arv_gv_device_new(from.get(), to.get(), &failure);
+    const Error error(failure);
+    if (opened == nullptr) {
+        throw OpenError("the camera at " + address +
+                        " could not be opened: " + (error ? Reason(*error) : "unknown error"));
+    }
+    return opened;
+}
+
+} // namespace
+
+void GigEPort::Release::operator()(_ArvDevice* opened) const { g_object_unref(opened); }
+
+GigEPort::GigEPort(const std::string& address) : camera("the camera at " + address), device(Open(address)) {
+    g_signal_connect(device.get(), "control-lost",
+                     G_CALLBACK(+[](ArvDevice*, std::atomic<bool>* flag) { *flag = true; }), &controlLost);
+    controls = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
+    controller = ReadController();
+}
+
+std::string GigEPort::ModelName() {
+    const char* const name = ReadString(modelName, modelNameLength);
+    return {name, std::find(name, name + modelNameLength, '\0')};
+}
+
+void GigEPort::TryToTakeControl() {
+    if (!controls && lost == Lost::No) {
+        controls = arv_gv_device_take_control(ARV_GV_DEVICE(device.get()), nullptr);
+        controller = ReadController();
+    }
+}
+
+std::string GigEPort::Holder() const {
+    if (controller.address == 0) {
+        return "another program";
+    }
+    return "another program at " + PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
+}
+
+void GigEPort::RequireUnbrokenControl() {
+    if (controls && lost == Lost::No) { // else whoever found that has told it
+        const Operation look{"ReadRegister", privilege, false};
+        if (ReadRegister(privilege) == 0 || ReadController() != controller) {
+            lost = Lost::Control;
+            FailAsLost(look);
+        }
+    }
+}
+
+void GigEPort::FailAsLost(const Operation& operation) const {
+    throw ChannelLost(operation.name, operation.address,
+                      lost == Lost::Control ? "control of " + camera + " was lost"
+                                            : camera + " was lost, it no longer answers");
+}
+
+void GigEPort::Fail(const Operation& operation, const GError& error) {
+    if (Is(error, ARV_DEVICE_ERROR_TIMEOUT)) {
+        lost = Lost::Silent;
+        FailAsLost(operation);
+    }
+    // A camera may deny a write for reasons of its own, too.
+    if (operation.writes && Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED) &&
+        ReadController() != controller) {
+        lost = Lost::Control;
+        FailAsLost(operation);
+    }
+    throw ChannelError(operation.name, operation.address, Reason(error));
+}
+
+void GigEPort::Access(const Operation& operation, const std::function<bool(GError**)>& access) {
+    if (controlLost && lost == Lost::No) {
+        lost = Lost::Control;
+    }
+    if (lost != Lost::No) {
+        FailAsLost(operation);
+    }
+    if (operation.writes && !controls) {
+        throw ControlHeld(operation.name, operation.address, camera + " is controlled by " + Holder());
+    }
+    GError* failure = nullptr;
+    const bool done = access(&failure);
+    const Error error(failure);
+    if (!done) {
+        Fail(operation, *error);
+    }
+}
+
+std::uint32_t GigEPort::ReadOptional(std::uint32_t address) {
+    guint32 value = 0;
+    return arv_device_read_register(device.get(), address, &value, nullptr) != FALSE ? value : 0;
+}
+
+GigEPort::Controller GigEPort::ReadController() {
+    return {ReadOptional(privilege), ReadOptional(controllerAddress), ReadOptional(controllerPort)};
+}
+
+void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {
+    const std::uint64_t end = operation.address + length;
+    if (end > std::uint64_t{1} << 32) {
+        throw ChannelError(operation.name, operation.address, "it reaches beyond the last address");
+    }
+    std::array<std::uint8_t, largestPiece> piece{};
+    for (std::uint64_t wanted = operation.address; wanted < end;) {
+        const std::uint64_t first = wanted / wordSize * wordSize;
+        const std::uint64_t size = std::min((end - first + wordSize - 1) / wordSize * wordSize, largestPiece);
+        Access(operation, [&](GError** error) {
+            return arv_device_read_memory(device.get(), first, static_cast<guint32>(size), piece.data(), error) !=
+                   FALSE;
+        });
+        const std::uint64_t last = std::min(first + size, end);
+        data = std::copy(piece.begin() + (wanted - first), piece.begin() + (last - first), data);
+        wanted = last;
+    }
+}
+
+void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length) {
+    if (operation.address % wordSize != 0 || length % wordSize != 0) {
+        throw ChannelError(operation.name, operation.address,
+                           std::to_string(length) + " bytes: only whole words can be written, at addresses of words");
+    }
+    std::array<std::uint8_t, largestPiece> piece{}; // since Aravis wants to be given what it may write to
+    for (std::uint64_t done = 0; done < length;) {
+        const std::uint64_t size = std::min(length - done, largestPiece);
+        std::copy_n(data + done, size, piece.begin());
+        Access(operation, [&](GError** error) {
+            return arv_device_write_memory(device.get(), operation.address + done, static_cast<guint32>(size),
+                                           piece.data(), error) != FALSE;
+        });
+        done += size;
+    }
+}
+
+void GigEPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
+    const Operation operation{"WriteRegister", address, true};
+    if (address % wordSize != 0) {
+        throw ChannelError(operation.name, address, "it is no address of a word");
+    }
+    Access(operation,
+           [&](GError** error) { return arv_device_write_register(device.get(), address, value, error) != FALSE; });
+}
+
+std::uint32_t GigEPort::ReadRegister(std::uint32_t address) {
+    const Operation operation{"ReadRegister", address, false};
+    if (address % wordSize != 0) {
+        std::array<std::uint8_t, wordSize> bytes{};
+        Read(operation, bytes.data(), bytes.size());
+        return static_cast<std::uint32_t>(FromLittle(bytes));
+    }
+    guint32 value = 0;
+    Access(operation,
+           [&](GError** error) { return arv_device_read_register(device.get(), address, &value, error) != FALSE; });
+    return value;
+}
+
+void GigEPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
+    const auto bytes = ToLittle(value);
+    Write({"WriteRegisterPair", address, true}, bytes.data(), bytes.size());
+}
+
+std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
+    std::array<std::uint8_t, 2 * wordSize> bytes{};
+    Read({"ReadRegisterPair", address, false}, bytes.data(), bytes.size());
+    return FromLittle(bytes);
+}
+
+unsigned char* GigEPort::ReadBlock(std::uint32_t address, std::uint32_t length) {
+    // From malloc: the caller frees it, as the port demands.
+    std::unique_ptr<unsigned char, decltype(&std::free)> block(static_cast<unsigned char*>(std::malloc(length)),
+                                                               &std::free);
+    if (block != nullptr) {
+        Read({"ReadBlock", address, false}, block.get(), length);
+    }
+    return block.release();
+}
+
+void GigEPort::WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) {
+    Write({"WriteBlock", address, true}, buffer, length);
+}
+
+char* GigEPort::ReadString(std::uint32_t address, std::uint32_t length) {
+    std::vector<std::uint8_t> bytes(length);
+    Read({"ReadString", address, false}, bytes.data(), length);
+    text.assign(bytes.begin(), bytes.end());
+    text.push_back('\0');
+    return text.data();
+}
+
+void GigEPort::WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) {
+    const std::vector<std::uint8_t> bytes(buffer, buffer + length);
+    Write({"WriteString", address, true}, bytes.data(), length);
+}
+
+void GigEPort::ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
+    Read({"ReadMem", address, false}, buffer, *length);
+}
+
+void GigEPort::WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
+    Write({"WriteMem", address, true}, buffer, *length);
+}
+
+} // namespace Host

@@ -1,0 +1,22 @@
+#include "Discovery.h"
+#include "Errors.h"
+#include "GigEConnection.h"
+
+// Compiled where Aravis is missing, instead of what needs it.
+
+namespace Host {
+
+namespace {
+
+[[noreturn]] void Refuse() {
+    throw OpenError("this qdv12host was built without Aravis and reaches no camera on the network; build it where the "
+                    "Debian packages libaravis-dev and libusb-1.0-0-dev are installed");
+}
+
+} // namespace
+
+std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& /*address*/) { Refuse(); }
+
+std::vector<FoundCamera> DiscoverCameras() { Refuse(); }
+
+} // namespace Host

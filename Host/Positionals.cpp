@@ -1,0 +1,66 @@
+#include "Positionals.h"
+
+#include "Errors.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace Host {
+
+namespace {
+
+bool IsOptional(const Parameter& parameter) { return *parameter.name == '['; }
+
+bool TakesSeveral(const Parameter& parameter) {
+    return std::string_view(parameter.name).find("...") != std::string_view::npos;
+}
+
+bool LooksLikeModel(const std::string& text) {
+    const auto isTelling = [](char character) { return character == ' ' || (character >= 'A' && character <= 'Z'); };
+    return text.find('=') == std::string::npos && std::any_of(text.begin(), text.end(), isTelling);
+}
+
+} // namespace
+
+bool IsPositional(const Parameter& parameter) { return !std::string_view(parameter.name).starts_with("--"); }
+
+std::string BareName(const Parameter& parameter) {
+    std::string name = parameter.name;
+    std::erase_if(name,
+                  [](char character) { return std::string_view("[].").find(character) != std::string_view::npos; });
+    return name;
+}
+
+void LeaveModelOut(const Command& command, Invocation::Given& given) {
+    std::vector<const Parameter*> parameters;
+    std::vector<std::string> texts;
+    for (const Parameter& parameter : command.parameters) {
+        if (IsPositional(parameter)) {
+            parameters.push_back(&parameter);
+            const auto& some = given[parameter.name];
+            texts.insert(texts.end(), some.begin(), some.end());
+            given.erase(parameter.name);
+        }
+    }
+    auto text = texts.begin();
+    for (const Parameter* const parameter : parameters) {
+        const bool isModel = parameter->name == std::string_view(modelParameter);
+        const bool last = parameter == parameters.back();
+        const auto left = texts.end() - text;
+        const bool here = !isModel || last                   ? left != 0
+                          : TakesSeveral(*parameters.back()) ? left != 0 && LooksLikeModel(*text)
+                                                             : left > 1;
+        if (here) {
+            const auto end = TakesSeveral(*parameter) ? texts.end() : text + 1;
+            given[parameter->name].assign(text, end);
+            text = end;
+        } else if (!isModel && !IsOptional(*parameter)) {
+            throw UsageError(BareName(*parameter) + " is required");
+        }
+    }
+    if (text != texts.end()) {
+        throw UsageError('"' + *text + "\" was not expected");
+    }
+}
+
+} // namespace Host

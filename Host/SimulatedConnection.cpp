@@ -1,0 +1,58 @@
+#include "SimulatedConnection.h"
+
+#include "Errors.h"
+
+#include <CameraState.h>
+#include <Cameras.h>
+#include <SimulatedCamera.h>
+
+#include <filesystem>
+
+namespace Host {
+
+namespace {
+
+std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const std::string& model, const SimulationOptions& options) {
+    auto camera = Simulation::MakeCamera(model, {.seed = options.seed});
+    if (!camera) {
+        throw OpenError("no simulated camera of model \"" + model + "\"");
+    }
+    try {
+        if (std::filesystem::exists(options.state)) {
+            Simulation::LoadState(*camera, options.state);
+        }
+        for (const std::string& fault : options.faults) {
+            camera->PlantFault(fault);
+        }
+    } catch (const Simulation::StateError& error) {
+        throw OpenError(error.what());
+    } catch (const Simulation::FaultError& error) {
+        throw UsageError(error.what());
+    }
+    return camera;
+}
+
+} // namespace
+
+SimulatedConnection::SimulatedConnection(const std::string& model, const SimulationOptions& options)
+    : state(options.state),
+      camera(SwitchOn(model, options)) {}
+
+SimulatedConnection::~SimulatedConnection() = default;
+
+SDK4::IControlPort& SimulatedConnection::Port() { return *camera; }
+
+void SimulatedConnection::Wait(std::chrono::microseconds time) { camera->Pass(time); }
+
+std::string SimulatedConnection::RegisterAt(std::uint32_t address) const {
+    const auto* const entry = camera->Registers().At(address);
+    return entry == nullptr ? "" : entry->name;
+}
+
+void SimulatedConnection::SaveState() const {
+    if (!state.empty()) {
+        Simulation::SaveState(*camera, state);
+    }
+}
+
+} // namespace Host

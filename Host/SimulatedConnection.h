@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Connection.h"
+
+#include <memory>
+#include <vector>
+
+namespace Simulation {
+class SimulatedCamera;
+}
+
+namespace Host {
+
+/// How a simulated camera is switched on.
+struct SimulationOptions {
+    std::uint64_t seed = 0;            ///< of the world around the camera
+    std::string state{};               ///< a file that holds the camera between two runs; none if empty
+    std::vector<std::string> faults{}; ///< to be planted in the camera
+};
+
+/// A simulated camera in this process.
+class SimulatedConnection final : public Connection {
+public:
+    /// Switches the camera on.
+    /// @throw OpenError for a model that nothing simulates; for a state file that is no such file
+    /// @throw UsageError for a fault that cannot be planted
+    SimulatedConnection(const std::string& model, const SimulationOptions& options);
+    ~SimulatedConnection() override;
+
+    [[nodiscard]] Simulation::SimulatedCamera& Camera() { return *camera; }
+
+    [[nodiscard]] SDK4::IControlPort& Port() override;
+    [[nodiscard]] std::string Describe() const override { return "a simulated camera"; }
+    void Wait(std::chrono::microseconds time) override;
+    void Passed(std::chrono::microseconds time) override { Wait(time); }
+    [[nodiscard]] std::string RegisterAt(std::uint32_t address) const override;
+    [[nodiscard]] bool HasControl() const override { return true; }
+    void RequireControl() override {}
+    void RequireUnbroken() override {}
+    void SaveState() const override;
+
+private:
+    std::string state;
+    std::unique_ptr<Simulation::SimulatedCamera> camera;
+};
+
+} // namespace Host
