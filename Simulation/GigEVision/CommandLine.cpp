@@ -1,5 +1,7 @@
 #include "GigEVision/CommandLine.h"
 
+#include "Cameras.h"
+
 #include <CLI/CLI.hpp>
 #include <arpa/inet.h>
 
@@ -9,6 +11,11 @@ namespace Simulation::GigEVision {
 
 namespace {
 
+/// Whole numbers, without a description of its own.
+CLI::Validator Between(std::uint64_t lowest, std::uint64_t highest) {
+    return CLI::Range(lowest, highest).description("");
+}
+
 /// A share, checked: CLI11's own range lets pass what is not a number.
 CLI::Validator Share() {
     return {[](const std::string& text) {
@@ -17,7 +24,15 @@ CLI::Validator Share() {
                            ? std::string()
                            : '"' + text + "\" is not a share between 0 and 1";
             },
-            "P"};
+            ""};
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+    std::string list;
+    for (const std::string& name : names) {
+        list += (list.empty() ? "" : ", ") + name;
+    }
+    return list;
 }
 
 std::uint32_t ParseAddress(const std::string& text) {
@@ -34,21 +49,25 @@ std::uint32_t ParseAddress(const std::string& text) {
 void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& delay, std::uint64_t& reboot) {
     const char* const group = "What goes wrong";
     const std::uint64_t longestDelay = 60000;
+    const std::uint64_t mostRequests = 1000000000;
     app.add_option("--drop", disturbances.drop, "Loses this share of the datagrams, in either direction")
         ->check(Share())
+        ->type_name("P")
         ->group(group);
     app.add_option("--duplicate", disturbances.duplicate, "Sends this share of the acknowledges twice")
         ->check(Share())
+        ->type_name("P")
         ->group(group);
     app.add_option("--nack", disturbances.nack, "Refuses this share of the requests as busy")
         ->check(Share())
+        ->type_name("P")
         ->group(group);
     app.add_option("--delay", delay, "Holds each acknowledge back for up to so many milliseconds")
-        ->check(CLI::Range(std::uint64_t{0}, longestDelay))
+        ->check(Between(0, longestDelay))
         ->type_name("MS")
         ->group(group);
     app.add_option("--reboot-after", reboot, "Starts the camera anew, once, after so many requests; takes 5 seconds")
-        ->check(CLI::PositiveNumber)
+        ->check(Between(1, mostRequests))
         ->type_name("N")
         ->group(group);
 }
@@ -58,7 +77,8 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& d
 std::optional<Order> ParseCommandLine(int argc, char** argv) {
     CLI::App app("A simulated camera as a GigE Vision device on UDP port 3956, until it is interrupted.", "qdv12sim");
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
-    app.footer("Exit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
+    app.footer("Models: " + Listed(ModelNames()) +
+               "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
     Order order;
     std::string address = "127.0.0.1";
     std::uint64_t delay = 0;

@@ -4,6 +4,9 @@
 
 #include <sys/time.h>
 
+#include <cerrno>
+#include <cstring>
+
 namespace Simulation::GigEVision {
 
 namespace {
@@ -72,7 +75,13 @@ Recorder::Recorder(const std::string& path)
     if (file == nullptr) {
         throw RecordError("recording cannot be written: " + std::string(pcap_geterr(capture.get())));
     }
-    pcap_dump_flush(file.get());
+    Flush();
+}
+
+void Recorder::Flush() {
+    if (pcap_dump_flush(file.get()) != 0) { // the disk is full, for one
+        throw RecordError(std::string("recording cannot be written: ") + std::strerror(errno));
+    }
 }
 
 void Recorder::Record(const Sender& from, const Sender& to, std::span<const std::uint8_t> datagram) {
@@ -83,7 +92,7 @@ void Recorder::Record(const Sender& from, const Sender& to, std::span<const std:
     gettimeofday(&header.ts, nullptr);
     header.caplen = header.len = static_cast<bpf_u_int32>(packet.size());
     pcap_dump(reinterpret_cast<unsigned char*>(file.get()), &header, packet.data());
-    pcap_dump_flush(file.get());
+    Flush();
 }
 
 } // namespace Simulation::GigEVision

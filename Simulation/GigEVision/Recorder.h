@@ -24,9 +24,12 @@ public:
     /// @throw RecordError
     explicit Recorder(const std::string& path);
 
+    /// @throw RecordError
     void Record(const Sender& from, const Sender& to, std::span<const std::uint8_t> datagram);
 
 private:
+    void Flush();
+
     std::unique_ptr<pcap_t, decltype(&pcap_close)> capture;
     std::unique_ptr<pcap_dumper_t, decltype(&pcap_dump_close)> file;
     std::uint16_t number = 0; ///< of the packet

@@ -18,7 +18,7 @@ Sender SenderOf(const udp::endpoint& endpoint) { return {endpoint.address().to_v
 
 } // namespace
 
-Server::Server(DisturbedDevice& served, const Network& place, Recorder* record) : device(served), recorder(record) {
+Server::Server(DisturbedDevice& served, const Network& place) : device(served) {
     // Without reuse, so that a second device on the address does not go unnoticed.
     listeners.push_back({udp::socket(context, EndpointOf(place.address)), {place.address, port}});
     ListenForBroadcasts(0xFFFFFFFF);

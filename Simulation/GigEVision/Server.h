@@ -15,11 +15,14 @@ namespace Simulation::GigEVision {
 /// Puts a device on the network: on its address, and on the broadcast addresses, where discoveries arrive.
 class Server {
 public:
-    /// @param record takes all that is received and sent; may be null
     /// @throw asio::system_error if the address is not this machine's, or is in use
-    Server(DisturbedDevice& served, const Network& place, Recorder* record);
+    Server(DisturbedDevice& served, const Network& place);
+
+    /// Has all recorded that is received and sent.
+    void RecordTo(Recorder& record) { recorder = &record; }
 
     /// Serves until SIGINT or SIGTERM.
+    /// @throw RecordError
     void Run();
 
 private:
@@ -39,7 +42,7 @@ private:
 
     asio::io_context context{1};
     DisturbedDevice& device;
-    Recorder* recorder;
+    Recorder* recorder = nullptr;
     std::deque<Listener> listeners; ///< the first is on the device's address, and all is sent from there
     asio::steady_timer timer{context};
     asio::signal_set signals{context, SIGINT, SIGTERM};

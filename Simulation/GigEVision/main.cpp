@@ -3,9 +3,13 @@
 #include "GigEVision/CommandLine.h"
 #include "GigEVision/Network.h"
 #include "GigEVision/Server.h"
+#include "Suggestion.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 
 namespace Simulation::GigEVision {
 
@@ -18,11 +22,8 @@ std::string AddressText(std::uint32_t address) { return asio::ip::address_v4(add
 std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
     auto camera = MakeCamera(order.model, {.seed = order.seed});
     if (!camera) {
-        std::string known;
-        for (const std::string& name : ModelNames()) {
-            known += (known.empty() ? "" : ", ") + name;
-        }
-        throw UsageError("unknown model \"" + order.model + "\"; there is " + known);
+        throw UsageError("unknown model \"" + order.model + '"' + Suggestion(order.model, ModelNames()) +
+                         " (qdv12sim --help lists them)");
     }
     if (!order.state.empty() && std::filesystem::exists(order.state)) {
         LoadState(*camera, order.state);
@@ -51,11 +52,12 @@ void Serve(const Order& order) {
     const auto camera = SwitchOn(order);
     Device device(*camera, network, std::chrono::steady_clock::now());
     DisturbedDevice disturbed(device, order.disturbances, order.seed);
-    std::optional<Recorder> recorder;
+    Server server(disturbed, network);
+    std::optional<Recorder> recorder; // after the server, which may find that another camera has address and file
     if (!order.record.empty()) {
         recorder.emplace(order.record);
+        server.RecordTo(*recorder);
     }
-    Server server(disturbed, network, recorder ? &*recorder : nullptr);
     Announce(order, camera->Registers());
     server.Run();
     if (!order.state.empty()) {
