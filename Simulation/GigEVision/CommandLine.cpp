@@ -87,6 +87,7 @@ std::optional<Order> ParseCommandLine(int argc, char** argv) {
     app.add_option("--address", address, "The address of this machine that the camera takes (127.0.0.1)")
         ->type_name("ADDRESS");
     app.add_option("--seed", order.seed, "Chooses the world around the camera, and what goes wrong when")
+        ->check(CLI::Validator(CLI::NonNegativeNumber).description(""))
         ->type_name("N");
     app.add_option("--state", order.state, "Keeps the camera in a file between two runs")->type_name("FILE");
     app.add_option("--fault", order.faults, "Plants a fault in the camera, such as ignore:gain")

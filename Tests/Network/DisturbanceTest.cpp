@@ -1,0 +1,100 @@
+#include "DeviceFixture.h"
+
+#include <GigEVision/Disturbances.h>
+
+#include <algorithm>
+
+namespace Network {
+
+namespace {
+
+using Simulation::GigEVision::Disturbances;
+using Simulation::GigEVision::DisturbedDevice;
+using Simulation::GigEVision::Sending;
+
+const std::string readGain = "4201 0080 0004 0002 14010000";
+
+class DisturbanceTest : public DeviceTest {
+protected:
+    std::vector<Sending> Send(DisturbedDevice& disturbed, const std::string& request) {
+        return disturbed.Answer(one, FromHex(request), start + time);
+    }
+
+    /// How many acknowledges each of a hundred requests meets.
+    std::string Counts(const Disturbances& disturbances, std::uint64_t seed) {
+        DisturbedDevice disturbed(device, disturbances, seed);
+        std::string counts;
+        for (int i = 0; i < 100; ++i) {
+            counts += std::to_string(Send(disturbed, readGain).size());
+        }
+        return counts;
+    }
+};
+
+TEST_F(DisturbanceTest, LosesAndRepeatsAsTheSeedSays) {
+    const Disturbances half{.drop = 0.5, .duplicate = 0.5};
+    const std::string counts = Counts(half, 1);
+    EXPECT_EQ(counts, Counts(half, 1));
+    EXPECT_NE(counts, Counts(half, 2));
+    for (const char count : {'0', '1', '2'}) {
+        EXPECT_NE(counts.find(count), std::string::npos) << count;
+    }
+    EXPECT_EQ(Counts({.drop = 1}, 1), std::string(100, '0'));
+    EXPECT_EQ(Counts({.duplicate = 1}, 1), std::string(100, '2'));
+    EXPECT_EQ(Counts({}, 1), std::string(100, '1'));
+}
+
+TEST_F(DisturbanceTest, CarriesOutWhatLosesOnlyItsAcknowledge) {
+    TakeControl();
+    DisturbedDevice disturbed(device, {.drop = 0.5}, 3);
+    int carriedOutUnanswered = 0;
+    for (std::uint32_t i = 1; i < 100; ++i) {
+        char request[64];
+        std::snprintf(request, sizeof request, "4201 0082 0008 %04x 14010000 %08x", i, i);
+        const bool answered = !Send(disturbed, request).empty();
+        const bool carriedOut = camera->Registers().Get("gain")[0] == i;
+        EXPECT_TRUE(carriedOut || !answered);
+        carriedOutUnanswered += carriedOut && !answered ? 1 : 0;
+    }
+    EXPECT_GT(carriedOutUnanswered, 10);
+}
+
+TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
+    TakeControl();
+    DisturbedDevice disturbed(device, {.nack = 1}, 1);
+    const auto sendings = Send(disturbed, "4201 0082 0008 0002 14010000 00000005");
+    ASSERT_EQ(sendings.size(), 1U);
+    EXPECT_EQ(ToHex(sendings[0].datagram), "8007 0083 0000 0002");
+    EXPECT_EQ(camera->Registers().Get("gain")[0], 0U);
+    EXPECT_TRUE(Send(disturbed, "4200 0082 0008 0002 14010000 00000005").empty());
+    EXPECT_TRUE(Send(disturbed, "4301").empty());
+    EXPECT_EQ(Send(disturbed, "4201 0002 0000 0003").at(0).datagram.size(), 256U); // it can be found nevertheless
+}
+
+TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
+    DisturbedDevice disturbed(device, {.delay = 20ms}, 1);
+    std::vector<std::chrono::microseconds> delays;
+    for (int i = 0; i < 100; ++i) {
+        delays.push_back(Send(disturbed, readGain).at(0).delay);
+    }
+    const auto [least, most] = std::minmax_element(delays.begin(), delays.end());
+    EXPECT_GE(*least, 0us);
+    EXPECT_LT(*least, 5ms);
+    EXPECT_GT(*most, 15ms);
+    EXPECT_LE(*most, 20ms);
+}
+
+TEST_F(DisturbanceTest, StartsAnewOnce) {
+    DisturbedDevice disturbed(device, {.rebootAfter = 2}, 1);
+    for (const std::size_t answers : {1U, 1U, 0U, 0U}) {
+        EXPECT_EQ(Send(disturbed, readGain).size(), answers);
+    }
+    time = 5000ms;
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(Send(disturbed, readGain).size(), 1U);
+    }
+}
+
+} // namespace
+
+} // namespace Network
