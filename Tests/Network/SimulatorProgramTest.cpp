@@ -1,1 +1,211 @@
-int x;
+#include "DeviceFixture.h"
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+
+namespace Network {
+
+namespace {
+
+/// An address of loopback that no other running test has.
+std::string OwnAddress() {
+    const auto process = static_cast<unsigned>(getpid());
+    return "127." + std::to_string(77 + (process >> 16 & 0x3F)) + '.' + std::to_string(process >> 8 & 0xFF) + '.' +
+           std::to_string(process & 0xFF);
+}
+
+std::string TemporaryFile(const std::string& name) {
+    return testing::TempDir() + "qdv12sim." + std::to_string(getpid()) + '.' + name;
+}
+
+std::string Content(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+/// The program while it runs; ended at the latest with this.
+class Simulator {
+public:
+    explicit Simulator(const std::vector<std::string>& arguments) {
+        int ends[2];
+        EXPECT_EQ(pipe(ends), 0);
+        process = fork();
+        if (process == 0) {
+            dup2(ends[1], STDOUT_FILENO);
+            dup2(ends[1], STDERR_FILENO);
+            std::vector<char*> pointers{const_cast<char*>(QDV12_SIMULATOR)};
+            for (const std::string& argument : arguments) {
+                pointers.push_back(const_cast<char*>(argument.c_str()));
+            }
+            pointers.push_back(nullptr);
+            execv(QDV12_SIMULATOR, pointers.data());
+            _exit(127);
+        }
+        close(ends[1]);
+        output = ends[0];
+    }
+    ~Simulator() {
+        if (process > 0) {
+            kill(process, SIGKILL);
+            waitpid(process, nullptr, 0);
+        }
+        close(output);
+    }
+    Simulator(const Simulator&) = delete;
+    Simulator& operator=(const Simulator&) = delete;
+
+    /// The next line that the program prints; waits for it.
+    std::string Line() const {
+        std::string line;
+        for (char character = 0; read(output, &character, 1) == 1 && character != '\n';) {
+            line += character;
+        }
+        return line;
+    }
+
+    /// Waits for the end, after a signal if one is given. The exit code.
+    int End(int signal = 0) {
+        if (signal != 0) {
+            kill(process, signal);
+        }
+        int status = 0;
+        waitpid(process, &status, 0);
+        process = 0;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+private:
+    pid_t process = 0;
+    int output = -1;
+};
+
+/// Asks the device at the address, over a socket.
+class Application {
+public:
+    explicit Application(const std::string& address) {
+        sockaddr_in device{};
+        device.sin_family = AF_INET;
+        device.sin_port = htons(3956);
+        inet_pton(AF_INET, address.c_str(), &device.sin_addr);
+        const timeval patience{5, 0};
+        setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+        EXPECT_EQ(connect(socket, reinterpret_cast<const sockaddr*>(&device), sizeof device), 0);
+    }
+    ~Application() { close(socket); }
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    std::string Ask(const std::string& request) const {
+        const Bytes bytes = FromHex(request);
+        send(socket, bytes.data(), bytes.size(), 0);
+        Bytes answer(1000);
+        const auto size = recv(socket, answer.data(), answer.size(), 0);
+        answer.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+        return ToHex(answer);
+    }
+
+private:
+    int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+};
+
+TEST(SimulatorProgramTest, ServesUntilItIsTerminatedAndKeepsTheCamera) {
+    const std::string address = OwnAddress();
+    const std::string state = TemporaryFile("state");
+    const std::string announced = "Orvik-710C at " + address + ":3956, MAC 02:00:12:00:07:10, serial number 1808";
+    {
+        Simulator simulator({"Orvik-710C", "--address", address, "--state", state});
+        ASSERT_EQ(simulator.Line(), announced);
+        const Application application(address);
+        EXPECT_EQ(application.Ask("4201 0082 0010 0001 00000a00 00000002 000000e8 4c656674"),
+                  "0000 0083 0004 0001 00000002");
+        in_addr own{};
+        inet_pton(AF_INET, address.c_str(), &own);
+        char digits[9];
+        std::snprintf(digits, sizeof digits, "%08x", ntohl(own.s_addr));
+        EXPECT_EQ(application.Ask("4201 0080 0008 0002 00000024 00000034"),
+                  "0000 0081 0008 0002 " + std::string(digits) + " ff000000");
+
+        Simulator second({"Orvik-390C", "--address", address});
+        EXPECT_EQ(second.Line(), "qdv12sim: " + address + ":3956 cannot be used: Address already in use");
+        EXPECT_EQ(second.End(), 3);
+        EXPECT_EQ(simulator.End(SIGTERM), 0);
+    }
+    Simulator again({"Orvik-710C", "--address", address, "--state", state});
+    ASSERT_EQ(again.Line(), announced);
+    EXPECT_EQ(Application(address).Ask("4201 0080 0004 0001 000000e8"), "0000 0081 0004 0001 4c656674");
+    EXPECT_EQ(again.End(SIGINT), 0);
+    std::filesystem::remove(state);
+}
+
+TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
+    const std::string address = OwnAddress();
+    const std::string record = TemporaryFile("pcap");
+    Simulator simulator({"Sollux G", "--address", address, "--record", record, "--duplicate", "1"});
+    ASSERT_NE(simulator.Line().find("Sollux G at "), std::string::npos);
+    EXPECT_EQ(Application(address).Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
+    EXPECT_EQ(simulator.End(SIGKILL), -1); // what was recorded is in the file at once
+
+    const std::string file = Content(record);
+    ASSERT_EQ(file.size(), 24U + 3 * (16 + 20 + 8 + 12)); // a request, and two acknowledges
+    const Bytes packet(file.begin() + 24 + 16, file.begin() + 24 + 16 + 40);
+    EXPECT_EQ(file[20], 101); // packets of IPv4, without a link layer
+    EXPECT_EQ(ToHex(packet).substr(0, 27), "4500 0028 0001 4000 4011" + ToHex(packet).substr(24, 3));
+    const auto sum = [](const Bytes& bytes, std::size_t from, std::uint32_t total) {
+        for (std::size_t i = from; i < bytes.size(); i += 2) {
+            total += static_cast<std::uint32_t>(bytes[i] << 8 | bytes[i + 1]);
+        }
+        return (total & 0xFFFF) + (total >> 16);
+    };
+    // A sum over what a checksum covers, and the checksum itself, has all bits set.
+    EXPECT_EQ(sum({packet.begin(), packet.begin() + 20}, 0, 0), 0xFFFFU);
+    EXPECT_EQ(sum(packet, 12, 17 + 20), 0xFFFFU); // the pseudo header: both addresses, the protocol, the length
+    std::filesystem::remove(record);
+}
+
+TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
+    struct Row {
+        std::vector<std::string> arguments;
+        int code;
+        std::string line;
+    };
+    const std::string more = " (qdv12sim --help says more)";
+    const Row rows[] = {
+        {{}, 2, "MODEL is required" + more},
+        {{"orvik710m"}, 2, "unknown model \"orvik710m\"; did you mean \"Orvik-710M\"? (qdv12sim --help lists them)"},
+        {{"Orvik-710C", "--address", "127.0.0.300"},
+         2,
+         "--address: \"127.0.0.300\" is not the IPv4 address of one device"},
+        {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not the IPv4 address of one device"},
+        {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},
+        {{"Orvik-710C", "--duplicate", "nan"}, 2, "--duplicate: \"nan\" is not a share between 0 and 1" + more},
+        {{"Orvik-710C", "--nack", "often"}, 2, "--nack: \"often\" is not a share between 0 and 1" + more},
+        {{"Orvik-710C", "--delay", "-3"}, 2, "--delay: Value -3 not in range 0 to 60000" + more},
+        {{"Orvik-710C", "--reboot-after", "0"}, 2, "--reboot-after: Value 0 not in range 1 to 1000000000" + more},
+        {{"Orvik-710C", "--fault", "ignore:nothing"},
+         2,
+         "fault \"ignore:nothing\": this camera has no register \"nothing\""},
+        {{"Orvik-710C", "--address", OwnAddress(), "--record", "/nowhere/at.all"},
+         3,
+         "recording cannot be written: /nowhere/at.all: No such file or directory"},
+        {{"Orvik-710C", "--state", "/dev/null"}, 3, "camera state /dev/null: damaged: "},
+    };
+    for (const Row& row : rows) {
+        Simulator simulator(row.arguments);
+        EXPECT_EQ(simulator.Line().substr(0, 10 + row.line.size()), "qdv12sim: " + row.line);
+        EXPECT_EQ(simulator.Line(), "");
+        EXPECT_EQ(simulator.End(), row.code) << row.line;
+    }
+}
+
+} // namespace
+
+} // namespace Network
