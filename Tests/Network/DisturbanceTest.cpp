@@ -73,9 +73,9 @@ TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
 
 TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
     DisturbedDevice disturbed(device, {.delay = 20ms}, 1);
-    std::vector<std::chrono::microseconds> delays;
-    for (int i = 0; i < 100; ++i) {
-        delays.push_back(Send(disturbed, readGain).at(0).delay);
+    std::vector<std::chrono::microseconds> delays(100);
+    for (auto& delay : delays) {
+        delay = Send(disturbed, readGain).at(0).delay;
     }
     const auto [least, most] = std::minmax_element(delays.begin(), delays.end());
     EXPECT_GE(*least, 0us);
@@ -89,7 +89,7 @@ TEST_F(DisturbanceTest, StartsAnewOnce) {
     for (const std::size_t answers : {1U, 1U, 0U, 0U}) {
         EXPECT_EQ(Send(disturbed, readGain).size(), answers);
     }
-    time = 5000ms;
+    time = Device::bootTime;
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(Send(disturbed, readGain).size(), 1U);
     }
