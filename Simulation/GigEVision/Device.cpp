@@ -67,8 +67,7 @@ std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uin
         return std::nullopt;
     }
     control.Heard(from, now);
-    if (request->command ==
-        Command::Discovery) { // of those who do not know yet what there is: they all use the same id
+    if (request->command == Command::Discovery) { // of those who do not know yet what there is, who may use one id
         return request->wantsAcknowledge ? std::optional(Discover(*request)) : std::nullopt;
     }
     if (const auto* const last = lastAnswers.Find(from, datagram)) {
@@ -142,8 +141,11 @@ Bytes Device::ReadMemory(const Sender& from, const Request& request) {
     }
     const std::uint32_t address = Get32(request.payload);
     const std::size_t count = Get16(request.payload.subspan(6));
-    if (count == 0 || count % 4 != 0 || count > largestMemory) {
+    if (count == 0 || count > largestMemory) {
         return Acknowledge(request, Status::InvalidParameter);
+    }
+    if (count % 4 != 0) {
+        return Acknowledge(request, Status::BadAlignment);
     }
     Bytes bytes(count);
     const Status status = control.MayRead(from, address, count) ? memory.Read(address, bytes) : Status::AccessDenied;
@@ -157,8 +159,11 @@ Bytes Device::ReadMemory(const Sender& from, const Request& request) {
 }
 
 Bytes Device::WriteMemory(const Sender& from, const Request& request, Time now) {
-    if (request.payload.size() < 8 || request.payload.size() % 4 != 0) {
+    if (request.payload.size() < 5) {
         return AcknowledgeWrite(request, Status::InvalidParameter, 0);
+    }
+    if (request.payload.size() % 4 != 0) {
+        return AcknowledgeWrite(request, Status::BadAlignment, 0);
     }
     const std::uint32_t address = Get32(request.payload);
     const auto bytes = request.payload.subspan(4);

@@ -47,6 +47,12 @@ void Announce(const Order& order, const RegisterSpace& space) {
               << std::endl;
 }
 
+void Keep(const Order& order, const SimulatedCamera& camera) {
+    if (!order.state.empty()) {
+        SaveState(camera, order.state);
+    }
+}
+
 void Serve(const Order& order) {
     const Network network{order.address, MaskOf(order.address)};
     const auto camera = SwitchOn(order);
@@ -59,10 +65,13 @@ void Serve(const Order& order) {
         server.RecordTo(*recorder);
     }
     Announce(order, camera->Registers());
-    server.Run();
-    if (!order.state.empty()) {
-        SaveState(*camera, order.state);
+    try {
+        server.Run();
+    } catch (const RecordError&) { // the disk is full, for one, which does not end the camera's memory
+        Keep(order, *camera);
+        throw;
     }
+    Keep(order, *camera);
 }
 
 int Complain(ExitCode code, const std::string& text) {

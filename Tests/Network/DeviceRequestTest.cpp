@@ -14,6 +14,8 @@ struct Dialogue {
     std::vector<Step> steps; ///< of the application that has control
 };
 
+void PrintTo(const Dialogue& dialogue, std::ostream* stream) { *stream << dialogue.name; }
+
 // clang-format off
 const std::vector<Dialogue> dialogues = {
     // Single registers: numbers, big-endian, whatever lies in memory.
@@ -47,7 +49,7 @@ const std::vector<Dialogue> dialogues = {
                                             {"4201 0084 0008 0028 000000f8 00000004", "8003 0085 0000 0028"}}},
     {"ReadsTheDescription", {{"4201 0084 0008 0029 00010000 00000004", "0000 0085 0008 0029 00010000 3c3f786d"}}},
     {"RefusesCounts", {{"4201 0084 0008 002a 00000200 00000000", "8002 0085 0000 002a"},
-                       {"4201 0084 0008 002b 00000200 00000006", "8002 0085 0000 002b"},
+                       {"4201 0084 0008 002b 00000200 00000006", "8005 0085 0000 002b"},
                        {"4201 0084 0008 002c 00000200 0000021c", "8002 0085 0000 002c"},
                        {"4201 0084 0004 002d 00000200", "8002 0085 0000 002d"}}},
     {"HidesTheCamerasNotes", {{"4201 0084 0008 002e e0010000 00000004", "8003 0085 0000 002e"}}},
