@@ -1,5 +1,7 @@
 #include "DeviceFixture.h"
 
+#include <ostream>
+
 namespace Network {
 
 namespace {
