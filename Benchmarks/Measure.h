@@ -4,11 +4,11 @@
 // repetition. A batch that another program interrupted is one of many.
 
 #include "Allocations.h"
+#include "Timing.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -20,21 +20,6 @@ using Counter = std::function<std::uint64_t()>;
 
 /// What is done before each batch, without being measured.
 using Preparation = std::function<void()>;
-
-template <class Number> Number Median(std::vector<Number> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-/// The seconds that a call takes, on the average of a batch.
-template <class Call> double Time(unsigned batch, Call& call) {
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point start = Clock::now();
-    for (unsigned i = 0; i < batch; ++i)
-        call();
-    return std::chrono::duration<double>(Clock::now() - start).count() / batch;
-}
 
 /// Measures a call: its time, and what it costs in port accesses and allocations. A call that needs a preparation is
 /// timed alone, with the clock's own some 25 ns.
