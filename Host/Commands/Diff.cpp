@@ -2,29 +2,30 @@
 
 #include "Describe.h"
 #include "Format.h"
-#include "Settings/ReadThrough.h"
-#include "Settings/Settings.h"
+#include "Settings/LiveSettings.h"
 
 #include <iostream>
+#include <vector>
 
 namespace Host {
 
 namespace {
 
 /// What is compared with the first file.
-Settings SecondSettings(const Invocation& invocation) {
+LiveSettings SecondSettings(const Invocation& invocation) {
     const std::string live = invocation.Text("--live MODEL");
+    Program& program = invocation.Program();
+    const bool onNetwork = !program.Options().camera.address.empty();
     if (invocation.Has("[B]")) {
-        if (!live.empty()) {
-            throw UsageError("a second file or --live, not both");
+        if (!live.empty() || (onNetwork && !program.IsOpen())) {
+            throw UsageError(std::string("a second file or ") + (live.empty() ? "--camera" : "--live") + ", not both");
         }
-        return ReadSettings(invocation.Text("[B]"));
+        return {ReadSettings(invocation.Text("[B]")), {}};
     }
-    if (live.empty() && !invocation.Program().IsOpen()) { // a shell has its camera open
+    if (live.empty() && !onNetwork && !program.IsOpen()) { // a shell has its camera open
         throw UsageError("a second file is wanted, or --live MODEL");
     }
-    const ReadThrough reader(invocation.Program().Open(live));
-    return TakeSettings(reader.Camera());
+    return TakeLiveSettings(program.Open(live));
 }
 
 std::string PrintOne(const Instance& instance, const Value* value) {
@@ -48,11 +49,13 @@ Json ToJson(const Difference& difference) {
 
 int Diff(const Invocation& invocation) {
     const Settings first = ReadSettings(invocation.Text("A"));
-    const Settings second = SecondSettings(invocation);
+    const LiveSettings live = SecondSettings(invocation);
+    const Settings& second = live.settings;
     if (first.model != second.model) {
         throw UsageError("settings of different models: " + first.model + " and " + second.model);
     }
-    const auto differences = Compare(first, second);
+    auto differences = Compare(first, second);
+    std::erase_if(differences, [&](const Difference& each) { return live.Misses(each.instance); });
     const bool json = invocation.Program().Json();
     Json document(Json::List{});
     for (const Difference& difference : differences) {
@@ -61,7 +64,7 @@ int Diff(const Invocation& invocation) {
     if (json) {
         std::cout << document.Print() << '\n';
     }
-    return differences.empty() ? AllWell : Refused;
+    return differences.empty() && live.missing.empty() ? AllWell : Refused;
 }
 
 } // namespace Host

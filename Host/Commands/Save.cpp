@@ -1,8 +1,7 @@
 #include "Commands.h"
 
 #include "Json.h"
-#include "Settings/ReadThrough.h"
-#include "Settings/Settings.h"
+#include "Settings/LiveSettings.h"
 
 #include <iostream>
 
@@ -10,8 +9,7 @@ namespace Host {
 
 int Save(const Invocation& invocation) {
     const std::string file = invocation.Text("FILE");
-    const ReadThrough reader(invocation.Open());
-    const Settings settings = TakeSettings(reader.Camera());
+    const auto [settings, missing] = TakeLiveSettings(invocation.Open());
     WriteSettings(settings, file);
     const auto count = static_cast<std::int64_t>(settings.values.size());
     if (invocation.Program().Json()) {
@@ -19,7 +17,7 @@ int Save(const Invocation& invocation) {
     } else {
         std::cout << count << " functions of " << settings.model << " saved to " << file << '\n';
     }
-    return AllWell;
+    return missing.empty() ? AllWell : Refused;
 }
 
 } // namespace Host

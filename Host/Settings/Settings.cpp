@@ -20,11 +20,11 @@ std::string Now() {
     return text;
 }
 
+} // namespace
+
 bool IsSame(const Instance& one, const Instance& other) {
     return one.function == other.function && one.index == other.index;
 }
-
-} // namespace
 
 const Value* Settings::Find(const Instance& instance) const {
     const auto found = std::find_if(values.begin(), values.end(),

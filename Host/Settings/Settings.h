@@ -35,6 +35,8 @@ struct Settings {
 /// @throw std::runtime_error for one that cannot be read, so that no settings are incomplete unnoticed
 [[nodiscard]] Settings TakeSettings(const Camera& camera);
 
+[[nodiscard]] bool IsSame(const Instance& one, const Instance& other);
+
 /// Whether a camera has no such value, or none for now.
 [[nodiscard]] bool IsAbsent(const Reading& reading);
 
