@@ -11,21 +11,25 @@ namespace Host {
 
 namespace {
 
-/// What is compared with the first file.
-LiveSettings SecondSettings(const Invocation& invocation) {
-    const std::string live = invocation.Text("--live MODEL");
-    Program& program = invocation.Program();
-    const bool onNetwork = !program.Options().camera.address.empty();
-    if (invocation.Has("[B]")) {
-        if (!live.empty() || (onNetwork && !program.IsOpen())) {
-            throw UsageError(std::string("a second file or ") + (live.empty() ? "--camera" : "--live") + ", not both");
-        }
-        return {ReadSettings(invocation.Text("[B]")), {}};
+/// @throw UsageError unless it is clear what the first file is compared with
+void RequireOneOther(const Invocation& invocation) {
+    const bool live = invocation.Has("--live MODEL");
+    const Program& program = invocation.Program();
+    const bool onNetwork = !program.Options().camera.address.empty() && !program.IsOpen();
+    if (invocation.Has("[B]") && (live || onNetwork)) {
+        throw UsageError(std::string("a second file or ") + (live ? "--live" : "--camera") + ", not both");
     }
-    if (live.empty() && !onNetwork && !program.IsOpen()) { // a shell has its camera open
+    if (!invocation.Has("[B]") && !live && !onNetwork && !program.IsOpen()) { // a shell has its camera open
         throw UsageError("a second file is wanted, or --live MODEL");
     }
-    return TakeLiveSettings(program.Open(live));
+}
+
+/// What is compared with the first file.
+LiveSettings SecondSettings(const Invocation& invocation) {
+    if (invocation.Has("[B]")) {
+        return {ReadSettings(invocation.Text("[B]")), {}};
+    }
+    return TakeLiveSettings(invocation.Program().Open(invocation.Text("--live MODEL")));
 }
 
 std::string PrintOne(const Instance& instance, const Value* value) {
@@ -48,6 +52,7 @@ Json ToJson(const Difference& difference) {
 } // namespace
 
 int Diff(const Invocation& invocation) {
+    RequireOneOther(invocation);
     const Settings first = ReadSettings(invocation.Text("A"));
     const LiveSettings live = SecondSettings(invocation);
     const Settings& second = live.settings;

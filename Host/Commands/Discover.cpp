@@ -9,6 +9,16 @@
 
 namespace Host {
 
+namespace {
+
+void Print(const FoundCamera& camera, bool served) {
+    std::string line = Pad(camera.address, 17) + Pad(camera.mac, 19) + Pad(camera.model, 16) + Pad(camera.serial, 16) +
+                       Pad(camera.userName, served ? 0 : 16) + (served ? "" : "(not served)");
+    std::cout << line.erase(line.find_last_not_of(' ') + 1) << '\n';
+}
+
+} // namespace
+
 int Discover(const Invocation& invocation) {
     const auto& served = invocation.Program().LoadedPlugin().Models();
     const auto found = DiscoverCameras();
@@ -24,8 +34,7 @@ int Discover(const Invocation& invocation) {
                           {"userName", camera.userName},
                           {"served", known}});
         } else {
-            std::cout << Pad(camera.address, 17) << Pad(camera.mac, 19) << Pad(camera.model, 16)
-                      << Pad(camera.serial, 16) << Pad(camera.userName, 16) << (known ? "" : "  not served") << '\n';
+            Print(camera, known);
         }
     }
     if (invocation.Program().Json()) {

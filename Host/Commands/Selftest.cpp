@@ -1,5 +1,6 @@
 #include "Selftest/Selftest.h"
 
+#include "Channel/ChannelErrors.h"
 #include "Commands.h"
 #include "Format.h"
 #include "Interrupts.h"
@@ -50,6 +51,8 @@ public:
     ~Preserved() {
         try {
             static_cast<void>(PutBack());
+        } catch (const ChannelLost&) { // which whoever lost it tells
+            Complain("the settings could not be put back");
         } catch (const std::exception& error) {
             Complain(std::string("the settings could not be put back: ") + error.what());
         }
@@ -74,7 +77,8 @@ private:
     /// What cannot be read fails its test, and is not put back.
     [[nodiscard]] Settings Take() const {
         const ReadThrough reader(session);
-        return TakeSettings(reader.Camera(), [](const Instance&, const Reading&) {});
+        return TakeSettings(
+            reader.Camera(), [](const Instance&, const Reading&) {}, outputs);
     }
 
     Session& session;

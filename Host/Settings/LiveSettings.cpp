@@ -17,10 +17,16 @@ LiveSettings TakeLiveSettings(Session& session) {
         return {TakeSettings(reader.Camera()), {}};
     }
     std::vector<Instance> missing;
-    Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& reading) {
+    std::string names;
+    Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& /*reading*/) {
+        if (missing.empty() || missing.back().function != instance.function) {
+            names += (names.empty() ? "" : ", ") + std::string(instance->name);
+        }
         missing.push_back(instance);
-        Complain(instance.Name() + ": " + reading.errorText);
     });
+    if (!missing.empty()) {
+        Complain("without control of the camera, which another program has, these cannot be read: " + names);
+    }
     return {std::move(settings), std::move(missing)};
 }
 

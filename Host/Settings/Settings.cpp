@@ -48,11 +48,13 @@ bool IsAbsent(const Reading& reading) {
            reading.error == SDK4_ERR_DISABLED;
 }
 
-Settings TakeSettings(const Camera& camera, const std::function<void(const Instance&, const Reading&)>& unreadable) {
+Settings TakeSettings(const Camera& camera, const std::function<void(const Instance&, const Reading&)>& unreadable,
+                      bool outputs) {
     const std::string serial = camera.Read(camera.FindOne(Name::serialNumber)).text;
     Settings settings{camera.Model(), camera.Family(), serial, Now(), {}};
     for (const Instance& instance : camera.All()) {
-        if (instance->restore == Restore::Never || instance->get == nullptr || instance->set == nullptr) {
+        const bool wanted = instance->restore != Restore::Never && (instance->restore != Restore::Output || outputs);
+        if (!wanted || instance->get == nullptr || instance->set == nullptr) {
             continue;
         }
         const Reading reading = camera.TryRead(instance);

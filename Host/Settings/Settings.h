@@ -30,8 +30,10 @@ struct Settings {
 /// Reads what a camera is set to: every function that can be set back, outputs and network included. What the model
 /// lacks or has not available now is left out.
 /// @param unreadable is told of what cannot be read otherwise
+/// @param outputs    whether outputs are read, which may be many
 [[nodiscard]] Settings TakeSettings(const Camera& camera,
-                                    const std::function<void(const Instance&, const Reading&)>& unreadable);
+                                    const std::function<void(const Instance&, const Reading&)>& unreadable,
+                                    bool outputs = true);
 /// @throw std::runtime_error for one that cannot be read, so that no settings are incomplete unnoticed
 [[nodiscard]] Settings TakeSettings(const Camera& camera);
 

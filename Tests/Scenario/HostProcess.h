@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -32,11 +33,13 @@ inline std::string TemporaryFile(const std::string& name) {
            std::to_string(getpid()) + "." + name;
 }
 
-/// Runs the reference host, or another program, as a user does; the shell reads the arguments.
+/// Runs the reference host, or another program, as a user does; the shell reads the arguments. Several may run at once.
 inline Outcome RunHost(const std::string& arguments, const std::string& program = QDV12_HOST,
                        const std::string& input = "/dev/null") {
-    const std::string out = TemporaryFile("out");
-    const std::string err = TemporaryFile("err");
+    static std::atomic<int> runs = 0;
+    const std::string run = std::to_string(++runs);
+    const std::string out = TemporaryFile("out" + run);
+    const std::string err = TemporaryFile("err" + run);
     const std::string files = " >" + out + " 2>" + err + " <" + input;
     const int status = std::system((program + " " + arguments + files).c_str());
     Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content(out), Content(err)};

@@ -1,77 +1,6 @@
-#include "HostProcess.h"
-
-#include <fcntl.h>
-
-#include <array>
-#include <csignal>
+#include "Running.h"
 
 namespace Scenario {
-
-namespace {
-
-/// A program whose standard error is read while it runs.
-class Running {
-public:
-    explicit Running(std::vector<std::string> arguments) {
-        std::array<int, 2> ends{};
-        EXPECT_EQ(pipe(ends.data()), 0);
-        arguments.insert(arguments.begin(), QDV12_HOST);
-        std::vector<char*> words;
-        words.reserve(arguments.size() + 1);
-        for (std::string& argument : arguments) {
-            words.push_back(argument.data());
-        }
-        words.push_back(nullptr);
-        process = fork();
-        if (process == 0) {
-            dup2(ends[1], STDERR_FILENO);
-            close(ends[0]);
-            close(ends[1]);
-            dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
-            execv(words[0], words.data());
-            _exit(127);
-        }
-        close(ends[1]);
-        from = ends[0];
-    }
-    ~Running() { close(from); }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-
-    /// Reads until the text has come. As long as nobody reads on, the program stands still when the pipe is full.
-    bool ReadUntil(const std::string& text) {
-        while (read.find(text) == std::string::npos) {
-            if (!ReadSome()) {
-                return false;
-            }
-        }
-        return true;
-    }
-    void Interrupt() const { kill(process, SIGINT); }
-    /// Reads the rest. @return the exit code
-    int End() {
-        while (ReadSome()) {
-        }
-        int status = 0;
-        waitpid(process, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-    [[nodiscard]] const std::string& Read() const { return read; }
-
-private:
-    bool ReadSome() {
-        std::array<char, 4096> some{};
-        const ssize_t got = ::read(from, some.data(), some.size());
-        read.append(some.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-        return got > 0;
-    }
-
-    pid_t process = -1;
-    int from = -1;
-    std::string read;
-};
-
-} // namespace
 
 TEST(HostSelftest, PassesOnEveryModel) {
     for (const std::string model :
@@ -150,9 +79,9 @@ TEST(HostSelftest, PutsSettingsBackWhenInterrupted) {
     const std::string saved = TemporaryFile("saved.json");
     ASSERT_EQ(RunHost("set 'Sollux G' gain=100 agc=2 brightness=300 --state " + state).code, 0);
     ASSERT_EQ(RunHost("save 'Sollux G' " + saved + " --state " + state).code, 0);
-    Running run({"selftest", "Sollux G", "--trace", "--outputs", "--state", state});
+    Running run(QDV12_HOST, {"selftest", "Sollux G", "--trace", "--outputs", "--state", state}, STDERR_FILENO);
     ASSERT_TRUE(run.ReadUntil("0x14010000  568")); // the gain is being tested
-    run.Interrupt();
+    run.Signal(SIGINT);
     EXPECT_EQ(run.End(), 1);
     EXPECT_TRUE(run.Read().ends_with("qdv12host: interrupted; the settings are put back\n"));
     const Outcome diff = RunHost("diff " + saved + " --live 'Sollux G' --state " + state);

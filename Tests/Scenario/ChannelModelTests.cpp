@@ -1,0 +1,112 @@
+#include "NetworkCamera.h"
+
+#include <regex>
+
+namespace Scenario {
+
+namespace {
+
+/// Aravis' own simulated camera, which is another program's idea of the bootstrap registers.
+class AravisCamera {
+public:
+    AravisCamera() : process("arv-fake-gv-camera-0.8", {"-i", "127.0.0.1"}, STDERR_FILENO) {
+        for (int i = 0; i < 50 && RunHost("network", "arv-tool-0.8").out.find("127.0.0.1") == std::string::npos; ++i) {
+        }
+    }
+
+private:
+    Running process;
+};
+
+/// What follows a label on its line.
+std::string After(const std::string& label, const std::string& text) {
+    const std::size_t at = text.find(label);
+    EXPECT_NE(at, std::string::npos) << label << " in\n" << text;
+    return at == std::string::npos ? "" : text.substr(at + label.size(), text.find('\n', at) - at - label.size());
+}
+
+} // namespace
+
+TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
+    const NetworkCamera camera("Cerix-MV7");
+    EXPECT_EQ(camera.Run("get gain").out, "gain=0\n");
+    EXPECT_EQ(camera.Run("get Cerix-MV7 gain").out, "gain=0\n");
+    struct Case {
+        const char* command;
+        int code;
+        const char* err;
+    };
+    const Case cases[] = {
+        {"get Orvik-710C gain", 3,
+         "qdv12host: the camera at 192.168.1.10 is a \"Cerix-MV7\", not a \"Orvik-710C\" (--force-model opens it as "
+         "one)\n"},
+        {"get Orvik-71 gain", 3, "qdv12host: unknown model \"Orvik-71\"; did you mean \"Orvik-710M\"?\n"},
+        {"get Orvik-710C functionmodelid --force-model", 0, ""},
+        {"get --force-model gain", 2, "qdv12host: MODEL is required with --force-model (qdv12host --help says more)\n"},
+        {"get", 2, "qdv12host: NAME is required (qdv12host --help says more)\n"},
+        {"get gain --seed 3", 2, "qdv12host: --camera excludes --seed (qdv12host --help says more)\n"},
+        {"diff a b", 2, "qdv12host: a second file or --camera, not both\n"},
+        {"check", 0, ""},
+    };
+    for (const Case& each : cases) {
+        const Outcome run = camera.Run(each.command);
+        EXPECT_EQ(run.code, each.code) << each.command;
+        EXPECT_EQ(run.err, each.err) << each.command;
+    }
+    const Outcome traced = camera.Run("get gain --trace");
+    EXPECT_TRUE(std::regex_search(traced.err, std::regex("read  ReadRegister      0x14010000  0  [0-9]+ us\n")));
+}
+
+TEST(ChannelModel, DiscoveryListsWhatIsThere) {
+    const Outcome nothing = RunHost("discover");
+    EXPECT_EQ(nothing.code, 0);
+    EXPECT_EQ(nothing.out, "no camera was found\n");
+    const NetworkCamera orvik("Orvik-710C");
+    const NetworkCamera m2vx("Sollux G", "192.168.1.20");
+    const AravisCamera foreign;
+    ASSERT_EQ(orvik.Run("set username='on the left'").code, 0);
+    const Outcome found = RunHost("discover");
+    EXPECT_EQ(found.code, 0);
+    EXPECT_EQ(found.err, "");
+    for (const char* camera :
+         {"192.168.1.10     02:00:12:00:07:10  Orvik-710C      1808            on the left\n",
+          "192.168.1.20     02:00:12:00:71:01  Sollux G        28929\n",
+          "127.0.0.1        00:00:00:00:00:00  Fake            GV01                            (not served)\n"}) {
+        EXPECT_TRUE(Has(found.out, camera));
+    }
+    EXPECT_TRUE(Has(RunHost("discover --json").out,
+                    "  {\n    \"address\": \"192.168.1.10\",\n    \"mac\": \"02:00:12:00:07:10\",\n    \"model\": "
+                    "\"Orvik-710C\",\n    \"serial\": \"1808\",\n    \"userName\": \"on the left\",\n    \"served\": "
+                    "true\n  }"));
+    const Outcome refused = RunHost("info --camera gige:127.0.0.1");
+    EXPECT_EQ(refused.code, 3);
+    EXPECT_TRUE(refused.err.starts_with("qdv12host: the camera at 127.0.0.1 is a \"Fake\"; the plug-in serves Orvik-"));
+}
+
+// Its memory ends behind the bootstrap registers; it does not live on when it is asked for more.
+TEST(ChannelModel, AgreesWithAravisAboutItsCamera) {
+    const AravisCamera camera;
+    const std::string aravis = RunHost("network", "arv-tool-0.8").out;
+    const std::string registers =
+        RunHost("control 'R[0x0]' 'R[0x8]' 'R[0xC]' 'R[0x14]' 'R[0xD04]' 'R[0xD08]'", "arv-tool-0.8").out;
+    const Outcome run =
+        RunHost("get Orvik-710M ipaddress subnetmask gateway gigeversion macaddress ipconfig packetsize "
+                "packetdelay --camera gige:127.0.0.1 --force-model");
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(After("ipaddress=", run.out), After("Current IP: ", aravis));
+    EXPECT_EQ(After("subnetmask=", run.out), After("Current Mask: ", aravis));
+    EXPECT_EQ(After("gateway=", run.out), After("Current Gateway: ", aravis));
+    const auto word = [&](const std::string& address) {
+        return std::stoul(After("R[" + address + "] = ", registers), nullptr, 16);
+    };
+    const auto held = [&](const std::string& name) { return std::stoul(After(name + "=", run.out), nullptr, 0); };
+    EXPECT_EQ(held("gigeversion"), word("0x00000000"));
+    EXPECT_EQ(held("ipconfig"), word("0x00000014"));
+    EXPECT_EQ(held("packetsize"), word("0x00000d04"));
+    EXPECT_EQ(held("packetsize"), 1400U); // not a zero as all the others
+    EXPECT_EQ(held("packetdelay"), word("0x00000d08"));
+    const std::string mac = std::regex_replace(After("macaddress=", run.out), std::regex(":"), "");
+    EXPECT_EQ(std::stoul(mac, nullptr, 16), word("0x00000008") << 32 | word("0x0000000c"));
+}
+
+} // namespace Scenario

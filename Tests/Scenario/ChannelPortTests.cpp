@@ -1,0 +1,96 @@
+#include "NetworkCamera.h"
+
+#include <Channel/ChannelErrors.h>
+#include <Channel/GigEPort.h>
+
+namespace Scenario {
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes Memory(Host::GigEPort& port, std::uint32_t address, std::uint64_t length) {
+    Bytes bytes(length);
+    port.ReadMem(address, bytes.data(), &length);
+    return bytes;
+}
+
+/// What is said of an access that fails.
+template <typename Error = Host::ChannelError, typename Call> std::string Failure(const Call& call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.what();
+    }
+    return "no failure";
+}
+
+} // namespace
+
+TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
+    const NetworkCamera camera("Orvik-710C");
+    Host::GigEPort port("192.168.1.10");
+    EXPECT_TRUE(port.HasControl());
+    EXPECT_EQ(port.ModelName(), "Orvik-710C");
+    EXPECT_EQ(port.ReadRegister(0x64030000), 0x00070710U);
+    EXPECT_EQ(Memory(port, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // the camera's order
+    EXPECT_EQ(Memory(port, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // the standard's
+    port.WriteRegisterPair(0x0A030000, 5000ULL << 32);                       // an exposure of base 0
+    EXPECT_EQ(port.ReadRegisterPair(0x0A030000), 5000ULL << 32);
+    EXPECT_EQ(Memory(port, 0x0A030000, 8), (Bytes{0, 0, 0, 0, 0x88, 0x13, 0, 0}));
+    port.WriteString(0x000000E8, "a name\0\0", 8);
+    const char* const text = port.ReadString(0x000000E8, 16);
+    EXPECT_EQ(std::string(text, 17), std::string("a name") + std::string(11, '\0'));
+    EXPECT_EQ(std::string(port.ReadString(0x64010000, 15), 4), std::string("\x0A\0\0\0", 4)); // a word before the text
+}
+
+TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
+    const NetworkCamera camera("Orvik-710C");
+    Host::GigEPort port("192.168.1.10");
+    EXPECT_EQ(Memory(port, 0x64010005, 3), (Bytes{'r', 'v', 'i'}));
+    EXPECT_EQ(Memory(port, 0x64010003, 2), (Bytes{0, 'O'}));
+    EXPECT_EQ(port.ReadRegister(0x64010005), 0x6B697672U); // "rvik"
+    const Bytes whole = Memory(port, 0x00010000, 1540);    // three packets and some
+    const Bytes shifted = Memory(port, 0x00010003, 1537);
+    EXPECT_TRUE(std::equal(shifted.begin(), shifted.end(), whole.begin() + 3));
+    EXPECT_EQ(Memory(port, 0x64010000, 0), Bytes{});
+    Bytes zeros(6);
+    std::uint64_t length = zeros.size();
+    EXPECT_EQ(Failure([&] { port.WriteMem(0x14010000, zeros.data(), &length); }),
+              "WriteMem at 0x14010000 failed: 6 bytes: only whole words can be written, at addresses of words");
+    EXPECT_EQ(Failure([&] { port.WriteRegister(0x14010002, 1); }),
+              "WriteRegister at 0x14010002 failed: it is no address of a word");
+    EXPECT_EQ(Failure([&] { Memory(port, 0xFFFFFFFC, 8); }),
+              "ReadMem at 0xFFFFFFFC failed: it reaches beyond the last address");
+}
+
+TEST(ChannelPort, TellsHowTheCameraRefuses) {
+    const NetworkCamera camera("Orvik-710C");
+    Host::GigEPort port("192.168.1.10");
+    EXPECT_EQ(Failure([&] { (void)port.ReadRegister(0xE0000000); }),
+              "ReadRegister at 0xE0000000 failed: the camera has no such address (0x8003)");
+    EXPECT_EQ(Failure([&] { port.WriteRegister(0x00000024, 1); }),
+              "WriteRegister at 0x00000024 failed: the register cannot be written (0x8004)");
+    Host::GigEPort second("192.168.1.10");
+    EXPECT_FALSE(second.HasControl());
+    EXPECT_EQ(second.ReadRegister(0x14010000), 0U);
+    const std::string held = Failure<Host::ControlHeld>([&] { second.WriteRegister(0x14010000, 1); });
+    EXPECT_TRUE(
+        held.starts_with("WriteRegister at 0x14010000 failed: the camera at 192.168.1.10 is controlled by another "
+                         "program at 192.168.1.10:"))
+        << held;
+}
+
+TEST(ChannelPort, OnceLostFailsAtOnce) {
+    const NetworkCamera camera("Orvik-710C");
+    Host::GigEPort port("192.168.1.10");
+    camera.Signal(SIGKILL);
+    const std::string lost = " failed: the camera at 192.168.1.10 was lost, it no longer answers";
+    EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)port.ReadRegister(0x14010000); }),
+              "ReadRegister at 0x14010000" + lost);
+    const NetworkCamera another("Orvik-710C"); // which knows nothing of this port
+    EXPECT_EQ(Failure<Host::ChannelLost>([&] { port.WriteRegister(0x14010000, 1); }),
+              "WriteRegister at 0x14010000" + lost);
+}
+
+} // namespace Scenario

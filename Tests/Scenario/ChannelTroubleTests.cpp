@@ -1,0 +1,131 @@
+#include "NetworkCamera.h"
+
+#include <chrono>
+#include <functional>
+#include <future>
+#include <regex>
+#include <thread>
+
+namespace Scenario {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::seconds;
+
+constexpr seconds patience{15}; ///< within which a command has told what is wrong
+
+/// "gain: ReadRegister at 0x14010000 failed: " as a pattern, of whatever function and access.
+const std::string failed = "qdv12host: [^\n]+: [A-Za-z]+ at 0x[0-9A-F]{8} failed: the camera at [0-9.]+ ";
+
+void ExpectMatch(const std::string& text, const std::string& pattern) {
+    EXPECT_TRUE(std::regex_match(text, std::regex(pattern))) << text;
+}
+
+/// Runs what ends with one line about a camera that is gone; a selftest may have one more before it.
+void ExpectLost(const std::string& command, const std::function<Outcome()>& run) {
+    const auto start = Clock::now();
+    const Outcome outcome = run();
+    EXPECT_LT(Clock::now() - start, patience) << command;
+    EXPECT_EQ(outcome.code, 1) << command;
+    ExpectMatch(outcome.err,
+                "(qdv12host: the settings could not be put back\n)?" + failed + "was lost, it no longer answers\n");
+}
+
+} // namespace
+
+TEST(ChannelTrouble, ARebootInTheMiddleEndsInOneLine) {
+    struct Case {
+        const char* command;
+        const char* model;
+        const char* requests; ///< after which the camera starts anew
+    };
+    const Case cases[] = {
+        {"list", "Orvik-710C", "90"},     {"list", "Cerix-MV7", "90"},      {"tour", "Orvik-710C", "110"},
+        {"tour", "Cerix-MV7", "800"},     {"selftest", "Orvik-710C", "70"}, {"selftest", "Orvik-710C", "700"},
+        {"selftest", "Cerix-MV7", "900"},
+    };
+    std::vector<std::future<void>> runs;
+    int last = 10;
+    for (const Case& each : cases) {
+        const std::string address = "192.168.1." + std::to_string(last++);
+        runs.push_back(std::async(std::launch::async, [each, address] {
+            const NetworkCamera camera(each.model, address, {"--reboot-after", each.requests});
+            ExpectLost(each.command, [&] { return camera.Run(each.command); });
+        }));
+    }
+}
+
+TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
+    std::vector<std::future<void>> runs;
+    for (const int signal : {SIGSTOP, SIGKILL}) {
+        runs.push_back(std::async(std::launch::async, [signal] {
+            const std::string address = "192.168.1." + std::to_string(signal);
+            const NetworkCamera camera("Orvik-390C", address);
+            Running watch(QDV12_HOST, {"watch", "--camera", "gige:" + address}, STDERR_FILENO);
+            std::this_thread::sleep_for(seconds(1));
+            camera.Signal(signal);
+            ExpectLost("watch", [&] {
+                const int code = watch.End();
+                return Outcome{code, "", watch.Read()};
+            });
+        }));
+    }
+}
+
+TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {
+    const auto start = Clock::now();
+    const Outcome run = RunHost("info --camera gige:192.168.1.77");
+    EXPECT_LT(Clock::now() - start, seconds(5));
+    EXPECT_EQ(run.code, 3);
+    EXPECT_EQ(run.err, "qdv12host: the camera at 192.168.1.77 could not be opened: no answer\n");
+    EXPECT_EQ(RunHost("info --camera gige:203.0.113.1").err, // there is loopback alone
+              "qdv12host: there is no way to 203.0.113.1: Network is unreachable\n");
+}
+
+TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
+    const NetworkCamera camera("Orvik-710C");
+    const std::string file = TemporaryFile("json");
+    ASSERT_EQ(camera.Run("save " + file).code, 0);
+    Running holder(QDV12_HOST, {"watch", "gain=7", "--camera", "gige:192.168.1.10"}, STDOUT_FILENO);
+    ASSERT_TRUE(holder.ReadUntil("0 -> 7"));
+
+    const std::string held = "the camera at 192\\.168\\.1\\.10 is controlled by another program at "
+                             "192\\.168\\.1\\.10:[0-9]+";
+    const std::vector<std::string> writing = {"set gain=5", "selftest", "tour", "watch gain=5", "restore " + file};
+    for (const std::string& command : writing) {
+        const Outcome run = camera.Run(command);
+        EXPECT_EQ(run.code, 3) << command;
+        EXPECT_EQ(run.out, "") << command;
+        ExpectMatch(run.err, "qdv12host: " + held + "\n");
+    }
+    const Outcome get = camera.Run("get gain overlayshow.1");
+    EXPECT_EQ(get.out, "gain=7\n");
+    ExpectMatch(get.err, "qdv12host: overlayshow\\.1: WriteRegister at 0x17010000 failed: " + held + "\n");
+    const Outcome list = camera.Run("list");
+    EXPECT_EQ(list.code, 0) << list.err;
+    EXPECT_TRUE(
+        std::regex_search(list.out, std::regex("\nioport\\.2 +- +not readable \\(WriteRegister at [^\n]+" + held)));
+    EXPECT_TRUE(
+        std::regex_search(list.out, std::regex("\nreadoutarea +0,0,3207,2207 px +limits not readable \\(Write")));
+    EXPECT_EQ(camera.Run("watch --seconds 0").code, 0);
+    EXPECT_EQ(camera.Run("restore --dry-run " + file).code, 0);
+
+    const std::string missing = "qdv12host: without control of the camera, which another program has, these cannot be "
+                                "read: overlayshow, overlayposition, overlaystyle, overlaysize, measurewindow, iomode, "
+                                "ioport, iopolarity, iodelay\n";
+    const Outcome diff = camera.Run("diff " + file);
+    EXPECT_EQ(diff.code, 1);
+    ExpectMatch(diff.out, "gain +0 +7\n");
+    EXPECT_EQ(diff.err, missing);
+    const Outcome save = camera.Run("save " + file);
+    EXPECT_EQ(save.code, 1);
+    EXPECT_EQ(save.err, missing);
+
+    holder.Signal(SIGINT); // which gives control back
+    EXPECT_EQ(holder.End(), 0);
+    EXPECT_EQ(camera.Run("set gain=5").code, 0);
+    std::filesystem::remove(file);
+}
+
+} // namespace Scenario

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Running.h"
+
+namespace Scenario {
+
+/// A simulated camera on the network of this test, which is loopback alone: see Tests/on-loopback-alone. There the
+/// whole of 192.168.1.0/24 is this machine, and the simulated cameras say of themselves that they are 192.168.1.10.
+class NetworkCamera {
+public:
+    explicit NetworkCamera(const std::string& model, const std::string& address = "192.168.1.10",
+                           std::vector<std::string> options = {})
+        : process(QDV12_SIM, Arguments(model, address, std::move(options)), STDOUT_FILENO),
+          camera(" --camera gige:" + address) {
+        EXPECT_TRUE(process.ReadUntil("serial number")) << process.Read();
+    }
+
+    /// Stops, continues or kills it.
+    void Signal(int signal) const { process.Signal(signal); }
+
+    /// Runs a command of the host on it.
+    [[nodiscard]] Outcome Run(const std::string& command) const { return RunHost(command + camera); }
+
+private:
+    static std::vector<std::string> Arguments(const std::string& model, const std::string& address,
+                                              std::vector<std::string> options) {
+        options.insert(options.begin(), {model, "--address", address});
+        return options;
+    }
+
+    Running process;
+    std::string camera;
+};
+
+} // namespace Scenario
