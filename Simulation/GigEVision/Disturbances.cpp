@@ -1,16 +1,29 @@
 #include "GigEVision/Disturbances.h"
 
+#include <algorithm>
+
 namespace Simulation::GigEVision {
+
+bool Mishap::Happens(std::mt19937_64& random) {
+    if (share <= 0) {
+        return false;
+    }
+    if (cases == 0 || next < cases) { // the place of the next one, within its part of the cases
+        const double place = static_cast<double>(mishaps++) + std::uniform_real_distribution<>()(random);
+        next = std::max(cases, static_cast<std::uint64_t>(place / share));
+    }
+    return cases++ == next;
+}
 
 std::vector<Sending> DisturbedDevice::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now) {
     std::vector<Sending> sendings;
-    if (Happens(disturbances.drop)) {
+    if (drop.Happens(random)) {
         return sendings;
     }
     if (const auto answer = AnswerAtDevice(from, datagram, now)) {
-        const int copies = Happens(disturbances.duplicate) ? 2 : 1;
+        const int copies = duplicate.Happens(random) ? 2 : 1;
         for (int i = 0; i < copies; ++i) {
-            if (!Happens(disturbances.drop)) {
+            if (!drop.Happens(random)) {
                 sendings.push_back({*answer, Delay()});
             }
         }
@@ -25,14 +38,12 @@ std::optional<Bytes> DisturbedDevice::AnswerAtDevice(const Sender& from, std::sp
         disturbances.rebootAfter.reset(); // once
         device.Reboot(now);
     }
-    if (request && request->command != Command::Discovery && Happens(disturbances.nack)) {
+    if (request && request->command != Command::Discovery && nack.Happens(random)) {
         return request->wantsAcknowledge && !device.IsStarting(now) ? std::optional(Acknowledge(*request, Status::Busy))
                                                                     : std::nullopt;
     }
     return device.Answer(from, datagram, now);
 }
-
-bool DisturbedDevice::Happens(double share) { return share > 0 && std::uniform_real_distribution<>()(random) < share; }
 
 std::chrono::microseconds DisturbedDevice::Delay() {
     const std::chrono::microseconds longest = disturbances.delay;

@@ -26,25 +26,46 @@ struct Sending {
     std::chrono::microseconds delay;
 };
 
+/// What befalls a share of all cases: of ten with a share of 0.1 one of ten, of the next ten another one, which one is
+/// random. So the share is kept exactly, and a small one never befalls all repetitions of a request.
+class Mishap {
+public:
+    explicit Mishap(double shareOfCases) : share(shareOfCases) {}
+
+    /// Whether it befalls this case.
+    [[nodiscard]] bool Happens(std::mt19937_64& random);
+
+private:
+    double share;
+    std::uint64_t cases = 0;
+    std::uint64_t mishaps = 0;
+    std::uint64_t next = 0; ///< the case that the next mishap befalls
+};
+
 /// A device behind all that can go wrong before it. The same seed and the same requests meet the same disturbances.
 class DisturbedDevice {
 public:
     DisturbedDevice(Device& reached, const Disturbances& onTheWay, std::uint64_t seed)
         : device(reached),
           disturbances(onTheWay),
+          drop(onTheWay.drop),
+          duplicate(onTheWay.duplicate),
+          nack(onTheWay.nack),
           random(seed) {}
 
     [[nodiscard]] std::vector<Sending> Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now);
     void PassTime(Time now) { device.PassTime(now); }
 
 private:
-    [[nodiscard]] bool Happens(double share);
     [[nodiscard]] std::chrono::microseconds Delay();
     [[nodiscard]] std::optional<Bytes> AnswerAtDevice(const Sender& from, std::span<const std::uint8_t> datagram,
                                                       Time now);
 
     Device& device;
     Disturbances disturbances;
+    Mishap drop;
+    Mishap duplicate;
+    Mishap nack;
     std::mt19937_64 random;
     std::uint64_t requests = 0;
 };

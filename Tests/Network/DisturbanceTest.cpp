@@ -32,13 +32,18 @@ protected:
 };
 
 TEST_F(DisturbanceTest, LosesAndRepeatsAsTheSeedSays) {
-    const Disturbances half{.drop = 0.5, .duplicate = 0.5};
-    const std::string counts = Counts(half, 1);
-    EXPECT_EQ(counts, Counts(half, 1));
-    EXPECT_NE(counts, Counts(half, 2));
+    const Disturbances some{.drop = 0.3, .duplicate = 0.5};
+    const std::string counts = Counts(some, 1);
+    EXPECT_EQ(counts, Counts(some, 1));
+    EXPECT_NE(counts, Counts(some, 2));
     for (const char count : {'0', '1', '2'}) {
         EXPECT_NE(counts.find(count), std::string::npos) << count;
     }
+    // A small share is kept, and befalls no request five times in a row: requests and acknowledges are lost alike.
+    const std::string few = Counts({.drop = 0.05}, 1);
+    EXPECT_GE(std::count(few.begin(), few.end(), '0'), 9);
+    EXPECT_LE(std::count(few.begin(), few.end(), '0'), 11);
+    EXPECT_EQ(few.find("000"), std::string::npos);
     EXPECT_EQ(Counts({.drop = 1}, 1), std::string(100, '0'));
     EXPECT_EQ(Counts({.duplicate = 1}, 1), std::string(100, '2'));
     EXPECT_EQ(Counts({}, 1), std::string(100, '1'));
