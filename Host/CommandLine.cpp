@@ -59,7 +59,7 @@ bool NamesCamera(const std::vector<std::string>& arguments) {
 
 std::string AddressOf(const std::string& text) {
     const std::string form = "gige:";
-    const std::string address = text.starts_with(form) ? text.substr(form.size()) : "";
+    std::string address = text.starts_with(form) ? text.substr(form.size()) : "";
     if (!IsAddress(address)) {
         throw CLI::ValidationError(cameraOption, '"' + text +
                                                      "\" is no camera; gige:ADDRESS is wanted, such as "

@@ -20,6 +20,31 @@ bool LooksLikeModel(const std::string& text) {
     return text.find('=') == std::string::npos && std::any_of(text.begin(), text.end(), isTelling);
 }
 
+bool IsModel(const Parameter& parameter) { return parameter.name == std::string_view(modelParameter); }
+
+/// Whether the first of the texts is meant for MODEL, before another parameter.
+bool StartsWithModel(const std::vector<std::string>& texts, const Parameter& other) {
+    return TakesSeveral(other) ? !texts.empty() && LooksLikeModel(texts.front()) : texts.size() > 1;
+}
+
+/// Gives the texts to the parameters in order.
+void Distribute(const std::vector<std::string>& texts, const std::vector<Parameter>& parameters,
+                Invocation::Given& given) {
+    auto text = texts.begin();
+    for (const Parameter& parameter : parameters) {
+        if (text != texts.end()) {
+            const auto end = TakesSeveral(parameter) ? texts.end() : text + 1;
+            given[parameter.name].assign(text, end);
+            text = end;
+        } else if (!IsModel(parameter) && !IsOptional(parameter)) {
+            throw UsageError(BareName(parameter) + " is required");
+        }
+    }
+    if (text != texts.end()) {
+        throw UsageError('"' + *text + "\" was not expected");
+    }
+}
+
 } // namespace
 
 bool IsPositional(const Parameter& parameter) { return !std::string_view(parameter.name).starts_with("--"); }
@@ -32,35 +57,20 @@ std::string BareName(const Parameter& parameter) {
 }
 
 void LeaveModelOut(const Command& command, Invocation::Given& given) {
-    std::vector<const Parameter*> parameters;
+    std::vector<Parameter> parameters;
     std::vector<std::string> texts;
     for (const Parameter& parameter : command.parameters) {
         if (IsPositional(parameter)) {
-            parameters.push_back(&parameter);
+            parameters.push_back(parameter);
             const auto& some = given[parameter.name];
             texts.insert(texts.end(), some.begin(), some.end());
             given.erase(parameter.name);
         }
     }
-    auto text = texts.begin();
-    for (const Parameter* const parameter : parameters) {
-        const bool isModel = parameter->name == std::string_view(modelParameter);
-        const bool last = parameter == parameters.back();
-        const auto left = texts.end() - text;
-        const bool here = !isModel || last                   ? left != 0
-                          : TakesSeveral(*parameters.back()) ? left != 0 && LooksLikeModel(*text)
-                                                             : left > 1;
-        if (here) {
-            const auto end = TakesSeveral(*parameter) ? texts.end() : text + 1;
-            given[parameter->name].assign(text, end);
-            text = end;
-        } else if (!isModel && !IsOptional(*parameter)) {
-            throw UsageError(BareName(*parameter) + " is required");
-        }
+    if (parameters.size() > 1 && IsModel(parameters.front()) && !StartsWithModel(texts, parameters.back())) {
+        parameters.erase(parameters.begin());
     }
-    if (text != texts.end()) {
-        throw UsageError('"' + *text + "\" was not expected");
-    }
+    Distribute(texts, parameters, given);
 }
 
 } // namespace Host

@@ -14,6 +14,7 @@ constexpr const char* opening = "opening the camera"; ///< stands for the name o
 
 std::vector<std::string> NamesOf(const std::vector<Model>& models) {
     std::vector<std::string> names;
+    names.reserve(models.size());
     for (const Model& model : models) {
         names.push_back(model.name);
     }

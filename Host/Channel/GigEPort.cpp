@@ -229,7 +229,7 @@ void GigEPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
 }
 
 std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
-    std::array<std::uint8_t, 2 * wordSize> bytes{};
+    std::array<std::uint8_t, sizeof(std::uint64_t)> bytes{};
     Read({"ReadRegisterPair", address, false}, bytes.data(), bytes.size());
     return FromLittle(bytes);
 }
