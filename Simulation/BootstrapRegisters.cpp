@@ -43,13 +43,12 @@ std::string LocalUrl(const std::string& file, std::size_t length) {
 
 } // namespace
 
-std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial,
-                                         const std::string& description) {
+std::vector<Register> BootstrapRegisters(const Identity& identity) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
     const auto kept = Role::Kept;
     const auto passing = Role::Volatile;
-    std::string file = model; // an address has no blanks
+    std::string file = identity.model; // an address has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
     // clang-format off
     return {
@@ -57,19 +56,19 @@ std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t
         {"gigeversion",                0x0000, fixed,   Word(0x00010002)},
         {"devicemode",                 0x0004, fixed,   Word(0x80000001)},
         {"machigh",                    0x0008, fixed,   Word(0x00000200)},          // locally administered
-        {"maclow",                     0x000C, fixed,   Word(0x12000000 | serial)},
+        {"maclow",                     0x000C, fixed,   Word(0x12000000 | identity.number)},
         {"supportedipconfig",          0x0010, fixed,   Word(7)},                   // persistent, DHCP, link-local
         {"currentipconfig",            0x0014, kept,    Word(6)},                   // DHCP, link-local
         {"currentipaddress",           0x0024, shown,   Word(Address(192, 168, 1, 10))},
         {"currentsubnetmask",          0x0034, shown,   Word(Address(255, 255, 255, 0))},
         {"currentdefaultgateway",      0x0044, shown,   Word(Address(192, 168, 1, 1))},
         {"manufacturername",           0x0048, fixed,   Text(32, "Simulation")},
-        {"modelname",                  0x0068, fixed,   Text(32, model)},
+        {"modelname",                  0x0068, fixed,   Text(32, identity.model)},
         {"deviceversion",              0x0088, fixed,   Text(32, "1.0")},
         {"manufacturerinfo",           0x00A8, fixed,   Text(48, "A camera that lives in memory")},
-        {"bootstrapserialnumber",      0x00D8, fixed,   Text(16, std::to_string(serial))},
+        {"bootstrapserialnumber",      0x00D8, fixed,   Text(16, identity.serial)},
         {"userdefinedname",            0x00E8, kept,    Text(16, "")},
-        {"firsturl",                   0x0200, fixed,   Text(512, LocalUrl(file, description.size()))},
+        {"firsturl",                   0x0200, fixed,   Text(512, LocalUrl(file, identity.description.size()))},
         {"secondurl",                  0x0400, fixed,   Text(512, "http://192.168.1.10/" + file + ".xml")},
         {"persistentipaddress",        0x064C, kept,    Word(0)},
         {"persistentsubnetmask",       0x065C, kept,    Word(0)},
@@ -78,7 +77,7 @@ std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t
         {"gvcpconfiguration",          0x0954, passing, Word(0)},
         {"packetsize",                 0x0D04, passing, Word(1404)},
         {"packetdelay",                0x0D08, passing, Word(0)},
-        {"description",                descriptionAddress, fixed, Text(InWords(description.size()), description)},
+        {"description",                descriptionAddress, fixed, Text(InWords(identity.description.size()), identity.description)},
     };
     // clang-format on
 }

@@ -8,10 +8,17 @@
 
 namespace Simulation {
 
-/// The bootstrap registers of the GigE Vision standard, the same for every camera but for its name and serial number;
-/// and the description that they lead to.
-[[nodiscard]] std::vector<Register> BootstrapRegisters(const std::string& model, std::uint32_t serial,
-                                                       const std::string& description);
+/// What tells a camera from others on a network.
+struct Identity {
+    std::string model;
+    std::uint32_t number; ///< of 24 bits, for the MAC address
+    std::string serial;
+    std::string description; ///< in GenICam's language
+};
+
+/// The bootstrap registers of the GigE Vision standard, the same for every camera but for its identity; and the
+/// description that they lead to.
+[[nodiscard]] std::vector<Register> BootstrapRegisters(const Identity& identity);
 /// What the network registers do by themselves.
 void AddBootstrapBehaviour(SimulatedCamera& camera);
 

@@ -35,6 +35,14 @@ const M2VXModel m2vxModels[] = {
 };
 // clang-format on
 
+Identity IdentityOf(const OrvikModel& model) {
+    return {model.name, FunctionModelId(model), SerialNumber(model), Description(model)};
+}
+
+Identity IdentityOf(const M2VXModel& model) {
+    return {model.name, model.number, SerialNumber(model), Description(model)};
+}
+
 std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own) {
     registers.insert(registers.end(), own.begin(), own.end());
     auto camera = std::make_unique<SimulatedCamera>(registers);
@@ -53,12 +61,12 @@ template <typename Models> auto Find(const Models& models, std::string_view name
 std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options) {
     const World world(options.seed);
     if (const auto* const orvik = Find(orvikModels, name)) {
-        auto camera = Make(BootstrapRegisters(orvik->name, orvik->number, Description(*orvik)), OrvikRegisters(*orvik));
+        auto camera = Make(BootstrapRegisters(IdentityOf(*orvik)), OrvikRegisters(*orvik));
         AddOrvikBehaviour(*camera, *orvik, world);
         return camera;
     }
     if (const auto* const m2vx = Find(m2vxModels, name)) {
-        auto camera = Make(BootstrapRegisters(m2vx->name, m2vx->number, Description(*m2vx)), M2VXRegisters(*m2vx));
+        auto camera = Make(BootstrapRegisters(IdentityOf(*m2vx)), M2VXRegisters(*m2vx));
         AddM2VXBehaviour(*camera, world);
         return camera;
     }

@@ -16,6 +16,7 @@ struct M2VXModel {
     std::uint32_t number; ///< function-model identifier, part of the serial number
 };
 
+[[nodiscard]] std::string SerialNumber(const M2VXModel& model);
 [[nodiscard]] std::vector<Register> M2VXRegisters(const M2VXModel& model);
 void AddM2VXBehaviour(SimulatedCamera& camera, const World& world);
 

@@ -16,6 +16,8 @@ Value DefectPixels() {
 
 } // namespace
 
+std::string SerialNumber(const M2VXModel& model) { return "M" + std::to_string(model.number) + "-0042"; }
+
 std::vector<Register> M2VXRegisters(const M2VXModel& model) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
@@ -28,7 +30,6 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
     const Limits inCircle = Range(-500, 499);
     const std::vector<Limits> overlaySize = {Codes(0, 3), Range(1, 1024)};
     const std::vector<Limits> defectPixel = {Range(0, 1024), Range(0, 1024), Codes(0, 2)};
-    const std::string serial = "M" + std::to_string(model.number) + "-0042";
     const Words frontEnd = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
 
     // clang-format off
@@ -113,7 +114,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"temperature",              0x5A030000, shown,   Word(38)},              // degrees Celsius
 
         {"devicename",               0x64010000, fixed,   LedText(24, model.name)},
-        {"serialnumber",             0x64020000, fixed,   LedText(24, serial)},
+        {"serialnumber",             0x64020000, fixed,   LedText(24, SerialNumber(model))},
         {"fumoid",                   0x64030000, fixed,   Word(model.number)},
         {"fumoversion",              0x64040000, fixed,   Record({1, 0})},
         {"revision",                 0x65010000, fixed,   Record({2, 1})},

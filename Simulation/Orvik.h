@@ -13,13 +13,17 @@ namespace Simulation {
 /// What tells the models of the Orvik family apart.
 struct OrvikModel {
     std::string name;
-    std::uint32_t number; ///< part of the function-model identifier and of the serial number
+    std::uint32_t number; ///< part of the function-model identifier
     std::uint32_t width;  ///< of the sensor, in pixels
     std::uint32_t height;
     bool color;
     bool memory;    ///< has image memory
     bool histogram; ///< can equalise histograms
 };
+
+/// Of 24 bits: the number, and what the model has.
+[[nodiscard]] std::uint32_t FunctionModelId(const OrvikModel& model);
+[[nodiscard]] std::string SerialNumber(const OrvikModel& model);
 
 constexpr std::uint32_t smallestArea = 64; ///< width and height that a readout area has at least, in pixels
 

@@ -8,12 +8,14 @@ constexpr std::uint32_t colorBit = 1U << 16;
 constexpr std::uint32_t memoryBit = 1U << 17;
 constexpr std::uint32_t histogramBit = 1U << 18;
 
+} // namespace
+
 std::uint32_t FunctionModelId(const OrvikModel& model) {
     return model.number | (model.color ? colorBit : 0) | (model.memory ? memoryBit : 0) |
            (model.histogram ? histogramBit : 0);
 }
 
-} // namespace
+std::string SerialNumber(const OrvikModel& model) { return model.name.substr(model.name.find('-') + 1) + "-0042"; }
 
 std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const auto fixed = Role::Fixed;
@@ -36,7 +38,6 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const std::uint32_t bottom = model.height - 1;
     const Words whole = {0, 0, right, bottom};
     const std::uint32_t coding = model.color ? 110 : 0; // RGB8 or Mono8
-    const std::string serial = model.name.substr(model.name.find('-') + 1) + "-0042";
 
     // clang-format off
     return {
@@ -103,7 +104,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"temperature",        0x5A030000, shown,   Indexed({{41}})},       // degrees Celsius
 
         {"devicename",         0x64010000, fixed,   LedText(24, model.name)},
-        {"serialnumber",       0x64020000, fixed,   LedText(16, serial)},
+        {"serialnumber",       0x64020000, fixed,   LedText(16, SerialNumber(model))},
         {"fumoid",             0x64030000, fixed,   Word(FunctionModelId(model))},
         {"fumoversion",        0x64040000, fixed,   Record({1, 0})},
         {"revision",           0x65010000, fixed,   Record({2, 1})},

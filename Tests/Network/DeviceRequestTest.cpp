@@ -117,13 +117,13 @@ TEST_F(DeviceTest, ShowsItselfInADiscovery) {
     const std::string answer = Ask("4201 0002 0000 ffff");
     EXPECT_EQ(FromHex(answer).size(), 256U);
     EXPECT_EQ(answer.substr(0, 80), "0000 0003 00f8 ffff "
-                                    "00010002 80000001 00000200 12000710 00000007 00000006 000000");
+                                    "00010002 80000001 00000200 12070710 00000007 00000006 000000");
     const Bytes bytes = FromHex(answer);
     const std::string text(bytes.begin(), bytes.end());
     EXPECT_EQ(ToHex({bytes.begin() + 8 + 0x24, bytes.begin() + 8 + 0x28}), "7f00 004d");
     EXPECT_EQ(text.substr(8 + 0x48).c_str(), std::string("Simulation"));
     EXPECT_EQ(text.substr(8 + 0x68).c_str(), std::string("Orvik-710C"));
-    EXPECT_EQ(text.substr(8 + 0xD8).c_str(), std::string("1808"));
+    EXPECT_EQ(text.substr(8 + 0xD8).c_str(), std::string("710C-0042"));
 
     // Each is answered as things are now, although those who look for devices repeat their id.
     TakeControl();

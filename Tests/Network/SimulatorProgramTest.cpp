@@ -120,7 +120,7 @@ private:
 TEST(SimulatorProgramTest, ServesUntilItIsTerminatedAndKeepsTheCamera) {
     const std::string address = OwnAddress();
     const std::string state = TemporaryFile("state");
-    const std::string announced = "Orvik-710C at " + address + ":3956, MAC 02:00:12:00:07:10, serial number 1808";
+    const std::string announced = "Orvik-710C at " + address + ":3956, MAC 02:00:12:07:07:10, serial number 710C-0042";
     {
         Simulator simulator({"Orvik-710C", "--address", address, "--state", state});
         ASSERT_EQ(simulator.Line(), announced);

@@ -69,14 +69,14 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
     EXPECT_EQ(found.code, 0);
     EXPECT_EQ(found.err, "");
     for (const char* camera :
-         {"192.168.1.10     02:00:12:00:07:10  Orvik-710C      1808            on the left\n",
-          "192.168.1.20     02:00:12:00:71:01  Sollux G        28929\n",
+         {"192.168.1.10     02:00:12:07:07:10  Orvik-710C      710C-0042       on the left\n",
+          "192.168.1.20     02:00:12:00:71:01  Sollux G        M28929-0042\n",
           "127.0.0.1        00:00:00:00:00:00  Fake            GV01                            (not served)\n"}) {
         EXPECT_TRUE(Has(found.out, camera));
     }
     EXPECT_TRUE(Has(RunHost("discover --json").out,
-                    "  {\n    \"address\": \"192.168.1.10\",\n    \"mac\": \"02:00:12:00:07:10\",\n    \"model\": "
-                    "\"Orvik-710C\",\n    \"serial\": \"1808\",\n    \"userName\": \"on the left\",\n    \"served\": "
+                    "  {\n    \"address\": \"192.168.1.10\",\n    \"mac\": \"02:00:12:07:07:10\",\n    \"model\": "
+                    "\"Orvik-710C\",\n    \"serial\": \"710C-0042\",\n    \"userName\": \"on the left\",\n    \"served\": "
                     "true\n  }"));
     const Outcome refused = RunHost("info --camera gige:127.0.0.1");
     EXPECT_EQ(refused.code, 3);

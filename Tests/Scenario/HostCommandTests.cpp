@@ -220,7 +220,7 @@ TEST(HostCommand, ModelsAndInfoTellWhoACameraIs) {
     const Outcome info = RunHost("info Orvik-390C");
     EXPECT_EQ(info.code, 0);
     for (const char* line : {"model                 Orvik-390C\n", "family                Orvik\n",
-                             "softwarebuild         build 1207\n", "macaddress            02:00:12:00:03:90\n",
+                             "softwarebuild         build 1207\n", "macaddress            02:00:12:03:03:90\n",
                              "imagesize             2256,1728 px\n", "pixelformat           0x02180014\n"}) {
         EXPECT_TRUE(Has(info.out, line));
     }

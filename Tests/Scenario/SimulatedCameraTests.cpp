@@ -66,7 +66,7 @@ TEST_F(SimulatedOrvik, IsMemoryWhereNoRegisterIsIndexed) {
     WriteMem(0xFFFFFFFC, {6, 7}, 8); // over the end of the address space
     EXPECT_EQ(camera->ReadRegister(0xFFFFFFFC), 6U);
 
-    EXPECT_EQ(ReadMem(0x0008, 8), (Block{0x00000200, 0x12000710})); // both words of the MAC
+    EXPECT_EQ(ReadMem(0x0008, 8), (Block{0x00000200, 0x12070710})); // both words of the MAC
     EXPECT_STREQ(camera->ReadString(0x0068, 32), "Orvik-710C");
     EXPECT_STREQ(camera->ReadString(0x64010000, 24) + 4, "Orvik-710C"); // behind its leading word
 }
