@@ -98,7 +98,7 @@ void ExpectSameOfBoth(const std::vector<std::string>& disturbances = {}) {
 
 TEST(ChannelResult, EveryCommandGivesTheSameAsInProcess) { ExpectSameOfBoth(); }
 
-TEST(ChannelResult, SoItDoesOverALossyNetwork) {
+TEST(ChannelLoss, LosesNoResult) {
     const std::vector<std::string> disturbances{"--drop", "0.05", "--duplicate", "0.05", "--delay", "2"};
 #ifdef QDV12_SANITIZED // of which each lost datagram costs half a second
     ExpectSame("Orvik-710C", "192.168.1.10", {"info MODEL"}, disturbances);
