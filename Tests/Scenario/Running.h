@@ -3,6 +3,7 @@
 #include "HostProcess.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 
 #include <array>
 #include <csignal>
@@ -27,6 +28,7 @@ public:
         words.push_back(nullptr);
         process = fork();
         if (process == 0) {
+            prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that dies leaves no camera behind
             const int nowhere = open("/dev/null", O_RDWR);
             dup2(nowhere, STDIN_FILENO);
             dup2(nowhere, STDOUT_FILENO + STDERR_FILENO - stream);
