@@ -21,6 +21,11 @@ if(QDV12_SANITIZERS)
     add_link_options(-fsanitize=${QDV12_SANITIZERS})
 endif()
 
+# Sources that are slow to optimise and run once: command lines, files, tables. qdv12_leave_unoptimised(FILE...)
+macro(qdv12_leave_unoptimised)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O0)
+endmacro()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
