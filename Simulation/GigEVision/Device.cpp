@@ -12,6 +12,20 @@ Bytes AcknowledgeWrite(const Request& request, Status status, std::size_t index)
     return Acknowledge(request, status, payload);
 }
 
+/// The acknowledge of a request of which nothing was carried out; nothing for one that has none.
+std::optional<Bytes> Refuse(const Request& request, Status status) {
+    switch (request.command) {
+    case Command::WriteRegister:
+    case Command::WriteMemory:
+        return AcknowledgeWrite(request, status, 0);
+    case Command::PacketResend: // there is no stream to resend
+    case Command::Action:
+        return std::nullopt;
+    default:
+        return Acknowledge(request, status);
+    }
+}
+
 } // namespace
 
 Device::Device(SimulatedCamera& served, const Network& place, Time now)
@@ -60,7 +74,7 @@ void Device::Reboot(Time now) {
     ShowAddress();
 }
 
-std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now) {
+std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now, bool isBusy) {
     PassTime(now);
     const auto request = Parse(datagram);
     if (!request || IsStarting(now)) {
@@ -73,7 +87,7 @@ std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uin
     if (const auto* const last = lastAnswers.Find(from, datagram)) {
         return *last;
     }
-    auto answer = CarryOut(from, *request, now);
+    auto answer = isBusy ? Refuse(*request, Status::Busy) : CarryOut(from, *request, now);
     if (!request->wantsAcknowledge) {
         answer.reset();
     }
@@ -91,13 +105,9 @@ std::optional<Bytes> Device::CarryOut(const Sender& from, const Request& request
         return ReadMemory(from, request);
     case Command::WriteMemory:
         return WriteMemory(from, request, now);
-    case Command::PacketResend: // there is no stream to resend
-    case Command::Action:
-        return std::nullopt;
-    case Command::Discovery:
-        break;
+    default:
+        return Refuse(request, Status::NotImplemented);
     }
-    return Acknowledge(request, Status::NotImplemented);
 }
 
 Bytes Device::Discover(const Request& request) {

@@ -34,16 +34,18 @@ public:
     Device& operator=(const Device&) = delete;
 
     /// The acknowledge, at most largestPayload bytes; nothing when none is due.
-    [[nodiscard]] std::optional<Bytes> Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now);
+    /// @param isBusy whether the device has no time for it: it refuses what is neither a discovery nor repeated
+    [[nodiscard]] std::optional<Bytes> Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now,
+                                              bool isBusy = false);
 
     /// What goes on without requests: the camera's own work, and the heartbeat time-out.
     void PassTime(Time now);
 
     /// Has the camera lose power: it answers nothing for bootTime, and has then what a start leaves it.
     void Reboot(Time now);
-    [[nodiscard]] bool IsStarting(Time now) const { return now < backAt; }
 
 private:
+    [[nodiscard]] bool IsStarting(Time now) const { return now < backAt; }
     [[nodiscard]] std::optional<Bytes> CarryOut(const Sender& from, const Request& request, Time now);
     [[nodiscard]] Bytes Discover(const Request& request);
     [[nodiscard]] Bytes ReadRegisters(const Sender& from, const Request& request);

@@ -38,11 +38,8 @@ std::optional<Bytes> DisturbedDevice::AnswerAtDevice(const Sender& from, std::sp
         disturbances.rebootAfter.reset(); // once
         device.Reboot(now);
     }
-    if (request && request->command != Command::Discovery && nack.Happens(random)) {
-        return request->wantsAcknowledge && !device.IsStarting(now) ? std::optional(Acknowledge(*request, Status::Busy))
-                                                                    : std::nullopt;
-    }
-    return device.Answer(from, datagram, now);
+    const bool isBusy = request && request->command != Command::Discovery && nack.Happens(random);
+    return device.Answer(from, datagram, now, isBusy);
 }
 
 std::chrono::microseconds DisturbedDevice::Delay() {

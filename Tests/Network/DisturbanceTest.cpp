@@ -69,11 +69,20 @@ TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
     DisturbedDevice disturbed(device, {.nack = 1}, 1);
     const auto sendings = Send(disturbed, "4201 0082 0008 0002 14010000 00000005");
     ASSERT_EQ(sendings.size(), 1U);
-    EXPECT_EQ(ToHex(sendings[0].datagram), "8007 0083 0000 0002");
+    EXPECT_EQ(ToHex(sendings[0].datagram), "8007 0083 0004 0002 00000000");
     EXPECT_EQ(camera->Registers().Get("gain")[0], 0U);
     EXPECT_TRUE(Send(disturbed, "4200 0082 0008 0002 14010000 00000005").empty());
+    EXPECT_TRUE(Send(disturbed, "4201 0040 0000 0003").empty());
     EXPECT_TRUE(Send(disturbed, "4301").empty());
     EXPECT_EQ(Send(disturbed, "4201 0002 0000 0003").at(0).datagram.size(), 256U); // it can be found nevertheless
+    time += 2000ms;
+    Send(disturbed, readGain); // shows that the application is alive
+    time += 2000ms;
+    EXPECT_EQ(Ask(other, "4201 0080 0004 0001 00000a00"), "0000 0081 0004 0001 00000002");
+    // What was carried out already is not refused when it is repeated.
+    const std::string carriedOut = "4201 0082 0008 0004 14010000 00000005";
+    Ask(carriedOut);
+    EXPECT_EQ(ToHex(Send(disturbed, carriedOut).at(0).datagram), "0000 0083 0004 0004 00000001");
 }
 
 TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
