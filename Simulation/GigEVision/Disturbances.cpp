@@ -10,7 +10,8 @@ bool Mishap::Happens(std::mt19937_64& random) {
     }
     if (cases == 0 || next < cases) { // the place of the next one, within its part of the cases
         const double place = static_cast<double>(mishaps++) + std::uniform_real_distribution<>()(random);
-        next = std::max(cases, static_cast<std::uint64_t>(place / share));
+        const double never = 1e18;
+        next = std::max(cases, static_cast<std::uint64_t>(std::min(place / share, never)));
     }
     return cases++ == next;
 }
