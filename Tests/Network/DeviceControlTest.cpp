@@ -59,6 +59,7 @@ TEST_F(DeviceTest, TakesControlFromWhoFallsSilent) {
     }
     time += 3000ms;
     EXPECT_EQ(Ask(other, readPrivilege), "0000 0081 0004 0072 00000002"); // others do not
+    EXPECT_EQ(Ask("4201 0080 0004 0009 1401"), "");                       // nor does what is none
     time += 1ms;
     EXPECT_EQ(Ask(other, "4201 0080 0008 0002 00000a00 00088134"), "0000 0081 0008 0002 00000000 00000000");
     EXPECT_EQ(Ask(writeGain), "8006 0083 0004 0071 00000000");
@@ -81,6 +82,9 @@ TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
 
     EXPECT_EQ(Ask("4201 0082 0008 0072 14010000 00000005"), "0000 0083 0004 0072 00000001"); // another id
     EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
+    camera->Registers().Set("gain", {9});
+    Ask(writeGain); // ids come round again: the last request alone can be a repeated one
+    EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
 
     Ask("4200 0082 0008 0073 14010000 00000006");
     camera->Registers().Set("gain", {9});
@@ -90,15 +94,17 @@ TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
 
 TEST_F(DeviceTest, StartsAnewWithPermanentMemoryAlone) {
     TakeControl();
-    Ask("4201 0082 0018 0002 00000938 000007d0 000000e8 4c656674 14010000 00000005");
+    const std::string write = "4201 0082 0018 0002 00000938 000007d0 000000e8 4c656674 14010000 00000005";
+    EXPECT_EQ(Ask(write), "0000 0083 0004 0002 00000003");
     time = 100ms;
     device.Reboot(start + time);
     time = 5099ms;
     EXPECT_EQ(Ask(readGain), "");
     EXPECT_EQ(Ask("4201 0002 0000 0003"), "");
     time = 5100ms;
-    EXPECT_EQ(Ask("4201 0080 0010 0004 00000a00 00000938 000000e8 14010000"),
-              "0000 0081 0010 0004 00000000 00000bb8 4c656674 00000000");
+    EXPECT_EQ(Ask(write), "8006 0083 0004 0002 00000000"); // answers are forgotten too
+    EXPECT_EQ(Ask("4201 0080 0014 0004 00000024 00000a00 00000938 000000e8 14010000"),
+              "0000 0081 0014 0004 7f00004d 00000000 00000bb8 4c656674 00000000");
     EXPECT_EQ(TakeControl(other), "0000 0083 0004 0001 00000001");
 }
 
