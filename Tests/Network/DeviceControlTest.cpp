@@ -63,6 +63,10 @@ TEST_F(DeviceTest, TakesControlFromWhoFallsSilent) {
     time += 1ms;
     EXPECT_EQ(Ask(other, "4201 0080 0008 0002 00000a00 00088134"), "0000 0081 0008 0002 00000000 00000000");
     EXPECT_EQ(Ask(writeGain), "8006 0083 0004 0071 00000000");
+
+    TakeControl();
+    time += 3001ms; // a request that comes too late renews nothing
+    EXPECT_EQ(Ask("4201 0082 0008 0002 14010000 00000005"), "8006 0083 0004 0002 00000000");
 }
 
 TEST_F(DeviceTest, TakesControlWithoutBeingAsked) {
