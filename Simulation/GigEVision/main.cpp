@@ -6,6 +6,7 @@
 #include "Suggestion.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
@@ -80,6 +81,7 @@ int Complain(ExitCode code, const std::string& text) {
 }
 
 int Run(int argc, char** argv) {
+    std::signal(SIGPIPE, SIG_IGN); // who reads the record, or the announcement, may go
     std::optional<Order> order;
     try {
         order = ParseCommandLine(argc, argv);

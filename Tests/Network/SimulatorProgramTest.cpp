@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -104,9 +105,13 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    std::string Ask(const std::string& request) const {
+    void Send(const std::string& request) const {
         const Bytes bytes = FromHex(request);
         send(socket, bytes.data(), bytes.size(), 0);
+    }
+
+    std::string Ask(const std::string& request) const {
+        Send(request);
         Bytes answer(1000);
         const auto size = recv(socket, answer.data(), answer.size(), 0);
         answer.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
@@ -173,6 +178,34 @@ TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
     EXPECT_EQ(sum({packet.begin(), packet.begin() + 20}, 0, 0), 0xFFFFU);
     EXPECT_EQ(sum(packet, 12, 17 + 20), 0xFFFFU); // the pseudo header: both addresses, the protocol, the length
     std::filesystem::remove(record);
+}
+
+TEST(SimulatorProgramTest, KeepsTheCameraWhenNothingMoreIsRecorded) {
+    const std::string address = OwnAddress();
+    const std::string record = TemporaryFile("pipe");
+    const std::string state = TemporaryFile("state");
+    ASSERT_EQ(mkfifo(record.c_str(), 0600), 0);
+    const int reader = open(record.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    Simulator simulator({"Orvik-710C", "--address", address, "--record", record, "--state", state});
+    ASSERT_NE(simulator.Line().find("Orvik-710C at "), std::string::npos);
+    close(reader);
+    Application(address).Send("4201 0080 0004 0001 14010000");
+    EXPECT_EQ(simulator.Line(), "qdv12sim: recording cannot be written: Broken pipe");
+    EXPECT_EQ(simulator.End(), 3);
+    EXPECT_TRUE(std::filesystem::remove(state));
+    std::filesystem::remove(record);
+}
+
+TEST(SimulatorProgramTest, HoldsAcknowledgesBack) {
+    const std::string address = OwnAddress();
+    Simulator simulator({"Orvik-710C", "--address", address, "--delay", "100"});
+    ASSERT_NE(simulator.Line().find("Orvik-710C at "), std::string::npos);
+    const Application application(address);
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(application.Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
+    }
+    EXPECT_GT(std::chrono::steady_clock::now() - start, 100ms); // 250 ms on the average
 }
 
 TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
