@@ -5,6 +5,8 @@
 #include "Positionals.h"
 #include "Trace.h"
 
+#include <Seed.h>
+
 #include <CLI/CLI.hpp>
 
 #include <iostream>
@@ -90,6 +92,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->needs(camera);
     auto& simulation = options.camera.simulation;
     app.add_option("--seed", simulation.seed, "Chooses the world around the simulated camera")
+        ->check(Simulation::SeedFault)
         ->type_name("N")
         ->excludes(camera);
     app.add_option("--state", simulation.state, "Keeps the simulated camera in a file between two runs")

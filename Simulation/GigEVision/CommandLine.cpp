@@ -1,6 +1,7 @@
 #include "GigEVision/CommandLine.h"
 
 #include "Cameras.h"
+#include "Seed.h"
 
 #include <CLI/CLI.hpp>
 #include <arpa/inet.h>
@@ -15,18 +16,6 @@ namespace {
 /// Whole numbers, without a description of its own.
 CLI::Validator Between(std::uint64_t lowest, std::uint64_t highest) {
     return CLI::Range(lowest, highest).description("");
-}
-
-/// Any number that fits; CLI11 itself lets pass negative ones and those that are too large.
-CLI::Validator Seed() {
-    return {[](const std::string& text) {
-                std::uint64_t seed = 0;
-                const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seed);
-                return error == std::errc() && end == text.data() + text.size()
-                           ? std::string()
-                           : '"' + text + "\" is not a whole number from 0 to 18446744073709551615";
-            },
-            ""};
 }
 
 /// A share, checked: CLI11's own range lets pass what is not a number.
@@ -100,7 +89,7 @@ std::optional<Order> ParseCommandLine(int argc, char** argv) {
     app.add_option("--address", address, "The address of this machine that the camera takes (127.0.0.1)")
         ->type_name("ADDRESS");
     app.add_option("--seed", order.seed, "Chooses the world around the camera, and what goes wrong when")
-        ->check(Seed())
+        ->check(SeedFault)
         ->type_name("N");
     app.add_option("--state", order.state, "Keeps the camera in a file between two runs")->type_name("FILE");
     app.add_option("--fault", order.faults, "Plants a fault in the camera, such as ignore:gain")

@@ -80,6 +80,16 @@ TEST(HostCommandLine, TellsWhatACameraOnTheNetworkIsGivenAs) {
     EXPECT_EQ(RunHost("models --camera gige:192.0.2.1").code, 0); // needs none
 }
 
+TEST(HostCommandLine, TakesSeedsOf64Bits) {
+    EXPECT_EQ(RunHost("get Orvik-710C gain --seed 18446744073709551615").code, 0);
+    for (const char* seed : {"-1", "18446744073709551616", "1.5"}) {
+        const Outcome run = RunHost("get Orvik-710C gain --seed " + std::string(seed));
+        EXPECT_EQ(run.code, 2) << seed;
+        EXPECT_EQ(run.err, "qdv12host: --seed: \"" + std::string(seed) +
+                               "\" is no seed; a number of 0 or more is wanted (qdv12host --help says more)\n");
+    }
+}
+
 // Of the two, this program was linked with what is compiled where Aravis is missing.
 TEST(HostCommandLine, WithoutAravisItSaysWhatIsMissing) {
     for (const std::string& said :
