@@ -3,7 +3,7 @@
 namespace Host {
 
 const std::vector<Command>& Commands() {
-    static const Parameter model{modelParameter, "A model that the plug-in serves"};
+    static const Parameter model{modelParameter, "A model that the plug-in serves; may be left out with --camera"};
     static const Parameter names{"NAME...",
                                  "Functions, as list names them; without its number an indexed one is meant whole"};
     static const Parameter all{"--all", "Also list one by one what there are many of"};
@@ -28,7 +28,7 @@ const std::vector<Command>& Commands() {
                    {model, {"[NAME=VALUE...]", "What to set when it has begun"}, {"--seconds N", "Ends after that time"}}, Watch},
         {"selftest", "Test every function that can be set, and put all settings back", {model, outputs}, RunSelftest},
         {"shell",  "Run these commands at a prompt, on one camera",       {model}, Shell, false},
-        {"tour",   "Walk through every interface of a camera, with its port accesses", {model}, RunTour, false},
+        {"tour",   "Walk through every interface of a camera, with its port accesses; changes it, and puts nothing back", {model}, RunTour, false},
     };
     // clang-format on
     return commands;
