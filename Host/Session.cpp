@@ -32,7 +32,7 @@ void RequireServed(const Plugin& plugin, const std::string& model) {
     }
 }
 
-/// What a camera on the network is to be opened as.
+/// What a camera on the network is to be opened as. @param wanted may be empty
 std::string ModelOf(const Plugin& plugin, NetworkConnection& connection, const std::string& wanted) {
     std::string read;
     try {
@@ -40,24 +40,23 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection, const s
     } catch (const ChannelError& error) {
         throw OpenError("the model of " + connection.Describe() + " could not be read: " + error.what());
     }
-    const std::string says = connection.Describe() + " is a \"" + read + "\"";
-    if (!Serves(plugin, read)) {
-        std::string served;
-        for (const std::string& name : NamesOf(plugin.Models())) {
-            served += (served.empty() ? "" : ", ") + name;
-        }
-        throw OpenError(says + "; the plug-in serves " + served + " (--force-model opens it as one of these)");
+    const bool mismatch = !wanted.empty() && wanted != read;
+    if (!mismatch && Serves(plugin, read)) {
+        return read;
     }
-    if (!wanted.empty() && wanted != read) {
-        throw OpenError(says + ", not a \"" + wanted + "\" (--force-model opens it as one)");
+    std::string served;
+    for (const std::string& name : NamesOf(plugin.Models())) {
+        served += (served.empty() ? "" : ", ") + name;
     }
-    return read;
+    throw OpenError(connection.Describe() + " calls itself \"" + read + '"' +
+                    (mismatch ? ", not \"" + wanted + '"' : "") + "; the plug-in serves " + served +
+                    " (--force-model opens it as one of these)");
 }
 
 } // namespace
 
 Session::Reached Session::Reach(const Plugin& plugin, const std::string& model, const CameraOptions& options) {
-    if (options.address.empty() || options.forceModel || !model.empty()) {
+    if (options.address.empty() || options.forceModel) {
         RequireServed(plugin, model);
     }
     if (options.address.empty()) {
