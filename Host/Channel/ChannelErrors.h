@@ -17,11 +17,16 @@ public:
             function = name;
         }
     }
+    /// What the failure left undone, for the same line.
+    void SetConsequence(const std::string& text) { consequence = "; " + text; }
     /// "gain: ReadRegister at 0x14010000 failed: ...", without the function if it is not known.
-    [[nodiscard]] std::string Describe() const { return (function.empty() ? "" : function + ": ") + what(); }
+    [[nodiscard]] std::string Describe() const {
+        return (function.empty() ? "" : function + ": ") + what() + consequence;
+    }
 
 private:
     std::string function;
+    std::string consequence;
 };
 
 /// A write without control, which another program has.

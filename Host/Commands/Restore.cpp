@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "Channel/ChannelErrors.h"
 #include "Describe.h"
 #include "Format.h"
 #include "Settings/ReadThrough.h"
@@ -12,6 +13,15 @@
 namespace Host {
 
 namespace {
+
+std::vector<Restored> RestoreAll(const Restorer& restorer, const Settings& saved) {
+    try {
+        return restorer.Restore(saved);
+    } catch (ChannelLost& error) {
+        error.SetConsequence("the settings may be restored in part");
+        throw;
+    }
+}
 
 /// "7 -> 100", and whatever is not as wanted.
 std::string Describe(const Restored& result) {
@@ -84,7 +94,7 @@ int RunRestore(const Invocation& invocation) {
     const Camera camera = session.Functions();
     const ReadThrough reader(session);
     const Restorer restorer(camera, reader.Camera(), WaitFor(session), invocation.Has("--outputs"));
-    const auto results = invocation.Has("--dry-run") ? restorer.Plan(saved) : restorer.Restore(saved);
+    const auto results = invocation.Has("--dry-run") ? restorer.Plan(saved) : RestoreAll(restorer, saved);
 
     if (invocation.Program().Json()) {
         Json document(Json::List{});

@@ -17,6 +17,8 @@ namespace Host {
 
 namespace {
 
+constexpr const char* notPutBack = "the settings could not be put back";
+
 /// How far the run is; on a terminal alone.
 class Progress {
 public:
@@ -51,14 +53,15 @@ public:
     ~Preserved() {
         try {
             static_cast<void>(PutBack());
-        } catch (const ChannelLost&) { // which whoever lost it tells
-            Complain("the settings could not be put back");
         } catch (const std::exception& error) {
-            Complain(std::string("the settings could not be put back: ") + error.what());
+            Complain(notPutBack + std::string(": ") + error.what());
         }
     }
     Preserved(const Preserved&) = delete;
     Preserved& operator=(const Preserved&) = delete;
+
+    /// The camera is lost.
+    void GiveUp() { isBack = true; }
 
     /// @return what is not as it was
     std::vector<Difference> PutBack() {
@@ -179,8 +182,16 @@ int RunSelftest(const Invocation& invocation) {
     const bool outputs = invocation.Has("--outputs");
     const Interrupts interrupts;
     Preserved preserved(session, outputs);
-    const auto results = TestAll(session, outputs);
-    const auto left = preserved.PutBack();
+    std::vector<Tested> results;
+    std::vector<Difference> left;
+    try {
+        results = TestAll(session, outputs);
+        left = preserved.PutBack();
+    } catch (ChannelLost& error) {
+        preserved.GiveUp();
+        error.SetConsequence(notPutBack);
+        throw;
+    }
     const int failures = Report(results, invocation.Program().Json());
     for (const Difference& difference : left) {
         Complain("not put back: " + difference.instance.Name());
