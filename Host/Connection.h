@@ -35,6 +35,9 @@ public:
     /// For commands that write. Takes control, if another program had it and gave it back.
     /// @throw OpenError while another program has it
     virtual void RequireControl() = 0;
+    /// Whether something was not written since the last call, because another program has control: who has it, in words
+    /// for the user, else empty.
+    [[nodiscard]] virtual std::string TakeDenial() = 0;
     /// At the end of a command: makes sure that the camera was there all the time, and did not start anew meanwhile.
     /// @throw ChannelLost, unless that was thrown before
     virtual void RequireUnbroken() = 0;

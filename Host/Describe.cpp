@@ -1,5 +1,7 @@
 #include "Describe.h"
 
+#include "Guarded.h"
+
 #include <algorithm>
 
 namespace Host {
@@ -91,6 +93,9 @@ std::string DescribeLimits(const Instance& instance, const Limits& limits) {
 }
 
 std::string DescribeState(const Instance& instance, const Reading& reading) {
+    if (reading.errorText == needsControl) {
+        return needsControl;
+    }
     if (reading.error != 0) {
         const bool missing = reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE;
         const char* const what = missing                              ? "not implemented"

@@ -42,6 +42,8 @@ Failure Attempt(const std::function<void()>& calls) {
         return {error.code, SDK4::ErrorName(error.code)};
     } catch (const ChannelLost&) {
         throw;
+    } catch (const ControlHeld&) { // who has it is told once, at the end of the command
+        return {SDK4_ERR_ERROR, needsControl};
     } catch (const std::exception& error) {
         return {SDK4_ERR_ERROR, error.what()};
     }

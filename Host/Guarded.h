@@ -10,6 +10,9 @@ namespace Host {
 /// @return what the action returns, or the ExitCode that belongs to what it throws
 int Guarded(const std::function<int()>& action);
 
+/// The reason why a call of the plug-in failed that writes, if only an index, while another program has control.
+constexpr const char* needsControl = "needs control";
+
 /// How a call of the plug-in was refused.
 struct Failure {
     std::int32_t code = 0; ///< 0: it was not; SDK4_ERR_ERROR for what the port said, which has no code

@@ -1,5 +1,7 @@
 #include "Program.h"
 
+#include "Command.h"
+
 namespace Host {
 
 const Plugin& Program::LoadedPlugin() {
@@ -14,6 +16,12 @@ Session& Program::Open(const std::string& model) {
         session.emplace(LoadedPlugin(), model, options.camera);
     }
     return *session;
+}
+
+void Program::TellWhoControls() {
+    if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {
+        Complain(denial + "; what needs control could not be read");
+    }
 }
 
 void Program::Finish() {

@@ -35,7 +35,9 @@ public:
     /// @throw OpenError; ChannelLost
     [[nodiscard]] Session& Open(const std::string& model);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
-    /// Once a command has ended: makes sure that its camera was there all the time, and has the state file, if there is
+    /// Once a command has ended: tells on standard error who has control, if the command lacked it here and there.
+    void TellWhoControls();
+    /// Once all have ended: makes sure that its camera was there all the time, and has the state file, if there is
     /// one, hold it.
     /// @throw ChannelLost
     void Finish();

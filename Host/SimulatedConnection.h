@@ -36,6 +36,7 @@ public:
     [[nodiscard]] std::string RegisterAt(std::uint32_t address) const override;
     [[nodiscard]] bool HasControl() const override { return true; }
     void RequireControl() override {}
+    [[nodiscard]] std::string TakeDenial() override { return ""; }
     void RequireUnbroken() override {}
     void SaveState() const override;
 

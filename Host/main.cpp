@@ -16,6 +16,7 @@ int Run(std::vector<std::string> arguments) {
     ConfigureLogging(request.options.logLevel, request.options.logConfig);
     Program program(request.options);
     const int code = Guarded([&] { return request.command->run(Invocation(program, request.given)); });
+    program.TellWhoControls();
     program.Finish();
     return code;
 }

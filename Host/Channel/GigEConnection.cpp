@@ -25,9 +25,10 @@ public:
     void RequireControl() override {
         port.TryToTakeControl();
         if (!port.HasControl()) {
-            throw OpenError(port.Name() + " is controlled by " + port.Holder());
+            throw OpenError(port.WhoControls());
         }
     }
+    [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.WhoControls() : ""; }
     void RequireUnbroken() override {
         try {
             port.RequireUnbrokenControl();

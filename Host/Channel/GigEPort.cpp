@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <thread>
 
 namespace Host {
 
@@ -18,6 +19,9 @@ namespace {
 
 constexpr std::uint32_t wordSize = 4;
 constexpr std::uint64_t largestPiece = 512; ///< that a packet of the control channel surely carries
+
+constexpr int busyTrials = 6;                      ///< of an access ...
+constexpr std::chrono::milliseconds busyPause{20}; ///< ... and the time between them
 
 // Bootstrap registers of the GigE Vision standard.
 constexpr std::uint32_t modelName = 0x0068;
@@ -51,6 +55,7 @@ std::string Reason(const GError& error) {
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED, "access denied (0x8006)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY, "the camera is busy (0x8007)"},
         {ARV_DEVICE_ERROR_TIMEOUT, "no answer"},
+        {ARV_DEVICE_ERROR_GENICAM_NOT_FOUND, "its GenICam description cannot be read"},
     };
     if (error.domain == ARV_DEVICE_ERROR) {
         for (const Status& status : statuses) {
@@ -64,18 +69,45 @@ std::string Reason(const GError& error) {
 
 bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_DEVICE_ERROR && error.code == code; }
 
+/// Makes an access, again and again for a while as long as the camera is busy.
+/// @return how it failed, or nothing
+Error Try(const std::function<bool(GError**)>& access) {
+    for (int trial = 1;; ++trial) {
+        GError* failure = nullptr;
+        if (access(&failure)) {
+            return nullptr;
+        }
+        Error error(failure);
+        if (trial == busyTrials || !Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY)) {
+            return error;
+        }
+        std::this_thread::sleep_for(busyPause);
+    }
+}
+
+/// What Aravis remarks beside its errors; each of these is told in one line.
+void Swallow(const char*, GLogLevelFlags, const char*, void*) {}
+
 ArvDevice* Open(const std::string& address) {
     const std::string local = LocalAddressTowards(address);
     const Address from(g_inet_address_new_from_string(local.c_str()));
     const Address to(g_inet_address_new_from_string(address.c_str()));
-    GError* failure = nullptr;
-    ArvDevice* const opened = arv_gv_device_new(from.get(), to.get(), &failure);
-    const Error error(failure);
-    if (opened == nullptr) {
-        throw OpenError("the camera at " + address +
-                        " could not be opened: " + (error ? Reason(*error) : "unknown error"));
+    g_log_set_default_handler(Swallow, nullptr);
+    for (int trial = 1;; ++trial) {
+        GError* failure = nullptr;
+        if (ArvDevice* const opened = arv_gv_device_new(from.get(), to.get(), &failure)) {
+            return opened;
+        }
+        const Error error(failure);
+        // Of a camera that was busy just then, the description may be missing; Aravis opens none without.
+        const bool mayBeBusy = error && (Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY) ||
+                                         Is(*error, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND));
+        if (trial == busyTrials || !mayBeBusy) {
+            throw OpenError("the camera at " + address +
+                            " could not be opened: " + (error ? Reason(*error) : "unknown error"));
+        }
+        std::this_thread::sleep_for(busyPause);
     }
-    return opened;
 }
 
 } // namespace
@@ -87,6 +119,7 @@ GigEPort::GigEPort(const std::string& address) : camera("the camera at " + addre
                      G_CALLBACK(+[](ArvDevice*, std::atomic<bool>* flag) { *flag = true; }), &controlLost);
     controls = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
     controller = ReadController();
+    TryToTakeControl(); // Aravis asked once, when the camera may have been busy
 }
 
 std::string GigEPort::ModelName() {
@@ -96,24 +129,22 @@ std::string GigEPort::ModelName() {
 
 void GigEPort::TryToTakeControl() {
     if (!controls && lost == Lost::No) {
-        controls = arv_gv_device_take_control(ARV_GV_DEVICE(device.get()), nullptr);
+        controls = Try([&](GError** error) {
+                       return arv_gv_device_take_control(ARV_GV_DEVICE(device.get()), error) != FALSE;
+                   }) == nullptr;
         controller = ReadController();
     }
 }
 
-std::string GigEPort::Holder() const {
-    if (controller.address == 0) {
-        return "another program";
-    }
-    return "another program at " + PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
+std::string GigEPort::WhoControls() const {
+    const std::string where = PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
+    return camera + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
 }
 
 void GigEPort::RequireUnbrokenControl() {
     if (controls && lost == Lost::No) { // else whoever found that has told it
-        const Operation look{"ReadRegister", privilege, false};
-        if (ReadRegister(privilege) == 0 || ReadController() != controller) {
-            lost = Lost::Control;
-            FailAsLost(look);
+        if (IsLost()) {
+            FailAsLost({"ReadRegister", privilege, false});
         }
     }
 }
@@ -130,9 +161,7 @@ void GigEPort::Fail(const Operation& operation, const GError& error) {
         FailAsLost(operation);
     }
     // A camera may deny a write for reasons of its own, too.
-    if (operation.writes && Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED) &&
-        ReadController() != controller) {
-        lost = Lost::Control;
+    if (operation.writes && Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED) && IsLost()) {
         FailAsLost(operation);
     }
     throw ChannelError(operation.name, operation.address, Reason(error));
@@ -146,23 +175,37 @@ void GigEPort::Access(const Operation& operation, const std::function<bool(GErro
         FailAsLost(operation);
     }
     if (operation.writes && !controls) {
-        throw ControlHeld(operation.name, operation.address, camera + " is controlled by " + Holder());
+        denied = true;
+        throw ControlHeld(operation.name, operation.address, WhoControls());
     }
-    GError* failure = nullptr;
-    const bool done = access(&failure);
-    const Error error(failure);
-    if (!done) {
+    const Error error = Try(access);
+    if (error) {
         Fail(operation, *error);
     }
 }
 
 std::uint32_t GigEPort::ReadOptional(std::uint32_t address) {
+    if (lost != Lost::No) {
+        return 0;
+    }
     guint32 value = 0;
-    return arv_device_read_register(device.get(), address, &value, nullptr) != FALSE ? value : 0;
+    const Error error = Try(
+        [&](GError** failure) { return arv_device_read_register(device.get(), address, &value, failure) != FALSE; });
+    if (error && Is(*error, ARV_DEVICE_ERROR_TIMEOUT)) {
+        lost = Lost::Silent;
+    }
+    return error ? 0 : value;
 }
 
 GigEPort::Controller GigEPort::ReadController() {
     return {ReadOptional(privilege), ReadOptional(controllerAddress), ReadOptional(controllerPort)};
+}
+
+bool GigEPort::IsLost() {
+    if (ReadController() != controller && lost == Lost::No) {
+        lost = Lost::Control;
+    }
+    return lost != Lost::No;
 }
 
 void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 struct _ArvDevice; // Aravis' own name for what its headers would declare
@@ -16,7 +17,7 @@ namespace Host {
 
 /// A port to a GigE Vision camera, over the control channel of Aravis. Single registers are moved by register access,
 /// everything else by memory access, in pieces that fit a packet. What is not aligned to words is read with what
-/// surrounds it, and not written.
+/// surrounds it, and not written. What a busy camera refuses is asked for again, for a tenth of a second.
 ///
 /// Control is taken on opening, if no other program has it, kept by Aravis' heartbeat, and given back at the end.
 /// Every operation throws ChannelError; a write without control ControlHeld, before anything is sent; the first access
@@ -36,9 +37,11 @@ public:
     [[nodiscard]] bool HasControl() const { return controls; }
     /// Takes control, if no other program has it now.
     void TryToTakeControl();
-    /// While another program has control: "another program at 192.168.1.2:4711", without its address if the camera does
-    /// not tell it.
-    [[nodiscard]] std::string Holder() const;
+    /// While another program has control: "the camera at 192.168.1.10 is controlled by another program at
+    /// 192.168.1.2:4711", without its address if the camera does not tell it.
+    [[nodiscard]] std::string WhoControls() const;
+    /// Whether a write failed for want of control since the last call.
+    [[nodiscard]] bool TakeDenied() { return std::exchange(denied, false); }
     /// @throw ChannelLost if control is no longer with this program; once only
     void RequireUnbrokenControl();
 
@@ -80,14 +83,17 @@ private:
     void Access(const Operation& operation, const std::function<bool(_GError**)>& access);
     [[noreturn]] void Fail(const Operation& operation, const _GError& error);
     [[noreturn]] void FailAsLost(const Operation& operation) const;
-    /// Reads a register that a camera need not have.
+    /// Reads a register that a camera need not have: 0 without it.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);
     [[nodiscard]] Controller ReadController();
+    /// Whether the camera no longer tells of the controller that it told of before, or nothing at all.
+    [[nodiscard]] bool IsLost();
 
     std::string camera;
     std::atomic<bool> controlLost = false; ///< set by the thread of the heartbeat, which goes with the device
     std::unique_ptr<_ArvDevice, Release> device;
     bool controls = false;
+    bool denied = false;
     Controller controller; ///< what the camera told when control was taken, or refused
     Lost lost = Lost::No;
     std::vector<char> text; ///< what ReadString handed out last

@@ -47,8 +47,9 @@ Found Look(const Camera& camera, const Instance& instance) {
     if (found.reading.error == 0) {
         failure = Attempt([&] { found.limits = camera.LimitsOf(instance); });
     }
-    found.state =
-        failure.code == 0 ? DescribeState(instance, found.reading) : "limits not readable (" + failure.reason + ")";
+    found.state = failure.code == 0                ? DescribeState(instance, found.reading)
+                  : failure.reason == needsControl ? "limits need control"
+                                                   : "limits not readable (" + failure.reason + ")";
     return found;
 }
 
@@ -83,7 +84,7 @@ void Print(const Row& row) {
     add(50, row.standard);
     add(66, row.limits);
     add(92, row.state);
-    const bool missing = row.state.find('(') != std::string::npos;
+    const bool missing = row.state.find('(') != std::string::npos || row.state == needsControl;
     std::cout << (missing ? Dim(line) : row.state.starts_with("locked") ? Yellow(line) : line) << '\n';
 }
 

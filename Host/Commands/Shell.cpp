@@ -106,7 +106,9 @@ int RunLine(Program& program, std::vector<std::string> words, bool json) {
         return AllWell;
     }
     program.SetJson(json || request.options.json);
-    return request.command->run(Invocation(program, request.given));
+    const int code = request.command->run(Invocation(program, request.given));
+    program.TellWhoControls();
+    return code;
 }
 
 } // namespace

@@ -25,7 +25,7 @@ LiveSettings TakeLiveSettings(Session& session) {
         missing.push_back(instance);
     });
     if (!missing.empty()) {
-        Complain("without control of the camera, which another program has, these cannot be read: " + names);
+        Complain(session.Connection().TakeDenial() + "; without control these cannot be read: " + names);
     }
     return {std::move(settings), std::move(missing)};
 }
