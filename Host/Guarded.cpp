@@ -25,6 +25,8 @@ int Guarded(const std::function<int()>& action) {
     } catch (const ControlHeld& error) {
         Complain(error.Describe());
         return NotOpened;
+    } catch (const Ending&) {
+        return Refused;
     } catch (const ChannelError& error) {
         Complain(error.Describe());
         return Refused;

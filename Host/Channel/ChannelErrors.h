@@ -37,9 +37,15 @@ public:
 
 /// The camera no longer answers, or another program took control of it, or it started anew. Every access after that
 /// fails the same, at once.
-class ChannelLost final : public ChannelError {
+class ChannelLost : public ChannelError {
 public:
     using ChannelError::ChannelError;
+};
+
+/// This program is to end, by a signal. There is nothing to tell.
+class Ending final : public ChannelLost {
+public:
+    using ChannelLost::ChannelLost;
 };
 
 } // namespace Host

@@ -3,6 +3,7 @@
 #include "ChannelErrors.h"
 #include "Errors.h"
 #include "GigEPort.h"
+#include "OrderlyEnd.h"
 
 #include <thread>
 
@@ -40,6 +41,7 @@ public:
     void SaveState() const override {} // the camera keeps itself
 
 private:
+    OrderlyEnd end; // before the port, which gives control back
     GigEPort port;
 };
 

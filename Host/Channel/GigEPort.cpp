@@ -4,6 +4,7 @@
 #include "Datagrams.h"
 #include "Errors.h"
 #include "Little.h"
+#include "OrderlyEnd.h"
 
 #include <arv.h>
 
@@ -150,6 +151,9 @@ void GigEPort::RequireUnbrokenControl() {
 }
 
 void GigEPort::FailAsLost(const Operation& operation) const {
+    if (lost == Lost::Ending) {
+        throw Ending(operation.name, operation.address, "the program is to end");
+    }
     throw ChannelLost(operation.name, operation.address,
                       lost == Lost::Control ? "control of " + camera + " was lost"
                                             : camera + " was lost, it no longer answers");
@@ -174,13 +178,22 @@ void GigEPort::Access(const Operation& operation, const std::function<bool(GErro
     if (lost != Lost::No) {
         FailAsLost(operation);
     }
+    RequireNoEnd(operation);
     if (operation.writes && !controls) {
         denied = true;
         throw ControlHeld(operation.name, operation.address, WhoControls());
     }
     const Error error = Try(access);
+    RequireNoEnd(operation);
     if (error) {
         Fail(operation, *error);
+    }
+}
+
+void GigEPort::RequireNoEnd(const Operation& operation) {
+    if (OrderlyEnd::IsDue()) {
+        lost = Lost::Ending;
+        FailAsLost(operation);
     }
 }
 

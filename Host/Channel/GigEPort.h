@@ -21,7 +21,8 @@ namespace Host {
 ///
 /// Control is taken on opening, if no other program has it, kept by Aravis' heartbeat, and given back at the end.
 /// Every operation throws ChannelError; a write without control ControlHeld, before anything is sent; the first access
-/// that finds the camera or the control gone, and every one after that, ChannelLost.
+/// that finds the camera or the control gone, or this program about to end by a signal, and every one after that,
+/// ChannelLost.
 class GigEPort final : public SDK4::IControlPort {
 public:
     /// Opens the channel. Nothing is broadcast.
@@ -58,7 +59,7 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    enum class Lost { No, Silent, Control };
+    enum class Lost { No, Silent, Control, Ending };
     /// Who is in control of the camera, as far as it tells.
     struct Controller {
         std::uint32_t privilege = 0;
@@ -82,6 +83,8 @@ private:
     /// Makes one access of Aravis, which says how it failed.
     void Access(const Operation& operation, const std::function<bool(_GError**)>& access);
     [[noreturn]] void Fail(const Operation& operation, const _GError& error);
+    /// Ends what runs by an exception, if a signal is to end this program.
+    void RequireNoEnd(const Operation& operation);
     [[noreturn]] void FailAsLost(const Operation& operation) const;
     /// Reads a register that a camera need not have: 0 without it.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);

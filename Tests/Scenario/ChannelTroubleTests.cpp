@@ -76,6 +76,17 @@ TEST(ChannelTrouble, ABusyCameraIsAskedAgain) {
               "qdv12host: the camera at 192.168.1.11 could not be opened: the camera is busy (0x8007)\n");
 }
 
+TEST(ChannelTrouble, WhoIsEndedGivesControlBack) {
+    const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--delay", "8"});
+    Running list(QDV12_HOST, {"list", "--all", "--camera", "gige:192.168.1.10"}, STDOUT_FILENO);
+    ASSERT_TRUE(list.ReadUntil("NAME"));
+    list.Signal(SIGTERM);
+    EXPECT_EQ(list.End(), -1); // by that signal
+    EXPECT_FALSE(Has(list.Read(), "iodelay.5"));
+    const Outcome next = camera.Run("set gain=5");
+    EXPECT_EQ(next.code, 0) << next.err;
+}
+
 TEST(ChannelTrouble, ControlThatTimedOutIsTold) {
     const NetworkCamera camera("Orvik-710C");
     Running watch(QDV12_HOST, {"watch", "--camera", "gige:192.168.1.10"}, STDERR_FILENO);
