@@ -6,7 +6,6 @@
 #include <CLI/CLI.hpp>
 #include <arpa/inet.h>
 
-#include <charconv>
 #include <system_error>
 
 namespace Simulation::GigEVision {

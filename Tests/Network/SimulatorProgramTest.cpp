@@ -224,7 +224,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not the IPv4 address of one device"},
         {{"Orvik-710C", "--seed", "-1"},
          2,
-         "--seed: \"-1\" is not a whole number from 0 to 18446744073709551615" + more},
+         "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--duplicate", "nan"}, 2, "--duplicate: \"nan\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--nack", "often"}, 2, "--nack: \"often\" is not a share between 0 and 1" + more},
