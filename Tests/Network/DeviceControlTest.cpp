@@ -88,6 +88,7 @@ TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
     EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
     camera->Registers().Set("gain", {9});
     Ask(writeGain); // ids come round again: the last request alone can be a repeated one
+    EXPECT_EQ(Ask(other, writeGain), "8006 0083 0004 0071 00000000"); // each sender has ids of its own
     EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
 
     Ask("4200 0082 0008 0073 14010000 00000006");
