@@ -3,6 +3,10 @@
 #include <Channel/ChannelErrors.h>
 #include <Channel/GigEPort.h>
 
+#include <chrono>
+#include <memory>
+#include <thread>
+
 namespace Scenario {
 
 namespace {
@@ -35,7 +39,8 @@ TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
     EXPECT_EQ(port.ReadRegister(0x64030000), 0x00070710U);
     EXPECT_EQ(Memory(port, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // the camera's order
     EXPECT_EQ(Memory(port, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // the standard's
-    port.WriteRegisterPair(0x0A030000, 5000ULL << 32);                       // an exposure of base 0
+    EXPECT_EQ(port.ReadRegister(0x00000024), 0xC0A8010AU);
+    port.WriteRegisterPair(0x0A030000, 5000ULL << 32); // an exposure of base 0
     EXPECT_EQ(port.ReadRegisterPair(0x0A030000), 5000ULL << 32);
     EXPECT_EQ(Memory(port, 0x0A030000, 8), (Bytes{0, 0, 0, 0, 0x88, 0x13, 0, 0}));
     port.WriteString(0x000000E8, "a name\0\0", 8);
@@ -79,6 +84,36 @@ TEST(ChannelPort, TellsHowTheCameraRefuses) {
         held.starts_with("WriteRegister at 0x14010000 failed: the camera at 192.168.1.10 is controlled by another "
                          "program at 192.168.1.10:"))
         << held;
+}
+
+// Nothing fails for want of an answer then; it is another camera all the same, to which nobody has set anything.
+TEST(ChannelPort, NoticesACameraThatStartedAnew) {
+    auto camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    auto second = std::make_unique<NetworkCamera>("Orvik-710C", "192.168.1.11");
+    Host::GigEPort port("192.168.1.10");
+    Host::GigEPort secondPort("192.168.1.11");
+    for (auto* const each : {&camera, &second}) {
+        each->reset();
+    }
+    camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    second = std::make_unique<NetworkCamera>("Orvik-710C", "192.168.1.11");
+    const auto lost = [](const char* access, const char* address) {
+        return std::string(access) + " failed: control of the camera at " + address + " was lost";
+    };
+    EXPECT_EQ(Failure<Host::ChannelLost>([&] { port.WriteRegister(0x14010000, 1); }),
+              lost("WriteRegister at 0x14010000", "192.168.1.10"));
+    EXPECT_EQ(Failure<Host::ChannelLost>([&] { secondPort.RequireUnbrokenControl(); }),
+              lost("ReadRegister at 0x00000A00", "192.168.1.11"));
+}
+
+TEST(ChannelPort, HearsOfALossFromTheHeartbeat) {
+    auto camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    Host::GigEPort port("192.168.1.10");
+    camera.reset();
+    camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    std::this_thread::sleep_for(std::chrono::seconds(2)); // twice its period
+    EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)port.ReadRegister(0x14010000); }),
+              "ReadRegister at 0x14010000 failed: control of the camera at 192.168.1.10 was lost");
 }
 
 TEST(ChannelPort, OnceLostFailsAtOnce) {

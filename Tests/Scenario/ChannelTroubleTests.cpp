@@ -134,7 +134,8 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
 
     const std::string held = "the camera at 192\\.168\\.1\\.10 is controlled by another program at "
                              "192\\.168\\.1\\.10:[0-9]+";
-    const std::vector<std::string> writing = {"set gain=5", "selftest", "tour", "watch gain=5", "restore " + file};
+    const std::vector<std::string> writing = {"set gain=5", "selftest", "tour", "watch gain=5 --seconds 1",
+                                              "restore " + file};
     for (const std::string& command : writing) {
         const Outcome run = camera.Run(command);
         EXPECT_EQ(run.code, 3) << command;
