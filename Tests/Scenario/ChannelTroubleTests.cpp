@@ -13,7 +13,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::seconds;
 
-constexpr seconds patience{15}; ///< within which a command has told what is wrong
+constexpr seconds patience{25}; ///< within which a command has told what is wrong
 
 /// "gain: ReadRegister at 0x14010000 failed: " as a pattern, of whatever function and access.
 const std::string failed = "qdv12host: [^\n]+: [A-Za-z]+ at 0x[0-9A-F]{8} failed: the camera at [0-9.]+ ";
