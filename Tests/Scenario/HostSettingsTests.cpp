@@ -208,7 +208,7 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
 
     // The camera moves the gain on.
     const Outcome theirs =
-        RunHost("--preserve-status -s INT 0.6 " QDV12_HOST " watch --json Orvik-390M agc=1", "timeout");
+        RunHost("--preserve-status -s INT 3 " QDV12_HOST " watch --json Orvik-390M agc=1", "timeout");
     EXPECT_EQ(theirs.code, 0) << theirs.err;
     EXPECT_TRUE(Has(theirs.out, "\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":"));
     EXPECT_EQ(Run("watch Orvik-390M --seconds soon").code, 2);
