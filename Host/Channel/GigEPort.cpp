@@ -221,11 +221,16 @@ bool GigEPort::IsLost() {
     return lost != Lost::No;
 }
 
-void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {
-    const std::uint64_t end = operation.address + length;
-    if (end > std::uint64_t{1} << 32) {
+void GigEPort::RequireAddresses(const Operation& operation, std::uint64_t length) {
+    constexpr std::uint64_t addresses = std::uint64_t{1} << 32;
+    if (length > addresses - operation.address) {
         throw ChannelError(operation.name, operation.address, "it reaches beyond the last address");
     }
+}
+
+void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {
+    RequireAddresses(operation, length);
+    const std::uint64_t end = operation.address + length;
     std::array<std::uint8_t, largestPiece> piece{};
     for (std::uint64_t wanted = operation.address; wanted < end;) {
         const std::uint64_t first = wanted / wordSize * wordSize;
@@ -245,6 +250,7 @@ void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::
         throw ChannelError(operation.name, operation.address,
                            std::to_string(length) + " bytes: only whole words can be written, at addresses of words");
     }
+    RequireAddresses(operation, length);
     std::array<std::uint8_t, largestPiece> piece{}; // since Aravis wants to be given what it may write to
     for (std::uint64_t done = 0; done < length;) {
         const std::uint64_t size = std::min(length - done, largestPiece);

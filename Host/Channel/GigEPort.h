@@ -78,6 +78,8 @@ private:
         void operator()(_ArvDevice* opened) const;
     };
 
+    /// @throw ChannelError, before anything is sent, if that many bytes reach beyond the last address
+    static void RequireAddresses(const Operation& operation, std::uint64_t length);
     void Read(const Operation& operation, std::uint8_t* data, std::uint64_t length);
     void Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length);
     /// Makes one access of Aravis, which says how it failed.

@@ -67,6 +67,8 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
               "WriteRegister at 0x14010002 failed: it is no address of a word");
     EXPECT_EQ(Failure([&] { Memory(port, 0xFFFFFFFC, 8); }),
               "ReadMem at 0xFFFFFFFC failed: it reaches beyond the last address");
+    EXPECT_EQ(Failure([&] { port.WriteBlock(0xFFFFFFFC, whole.data(), 8); }),
+              "WriteBlock at 0xFFFFFFFC failed: it reaches beyond the last address");
 }
 
 TEST(ChannelPort, TellsHowTheCameraRefuses) {
