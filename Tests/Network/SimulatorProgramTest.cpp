@@ -1,20 +1,22 @@
 #include "DeviceFixture.h"
+#include "Files.h"
+#include "Running.h"
 
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <filesystem>
-#include <fstream>
 
 namespace Network {
 
 namespace {
+
+using Test::Content;
+using Test::TemporaryFile;
 
 /// An address of loopback that no other running test has.
 std::string OwnAddress() {
@@ -23,70 +25,12 @@ std::string OwnAddress() {
            std::to_string(process & 0xFF);
 }
 
-std::string TemporaryFile(const std::string& name) {
-    return testing::TempDir() + "qdv12sim." + std::to_string(getpid()) + '.' + name;
-}
-
-std::string Content(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
-/// The program while it runs; ended at the latest with this.
-class Simulator {
+/// Runs the program, whose one line says at the beginning what it serves, or else why it does not.
+class Simulator : public Test::Running {
 public:
-    explicit Simulator(const std::vector<std::string>& arguments) {
-        int ends[2];
-        EXPECT_EQ(pipe(ends), 0);
-        process = fork();
-        if (process == 0) {
-            dup2(ends[1], STDOUT_FILENO);
-            dup2(ends[1], STDERR_FILENO);
-            std::vector<char*> pointers{const_cast<char*>(QDV12_SIMULATOR)};
-            for (const std::string& argument : arguments) {
-                pointers.push_back(const_cast<char*>(argument.c_str()));
-            }
-            pointers.push_back(nullptr);
-            execv(QDV12_SIMULATOR, pointers.data());
-            _exit(127);
-        }
-        close(ends[1]);
-        output = ends[0];
+    explicit Simulator(const std::vector<std::string>& arguments) : Running(QDV12_SIMULATOR, arguments, both) {
+        ReadUntil("\n");
     }
-    ~Simulator() {
-        if (process > 0) {
-            kill(process, SIGKILL);
-            waitpid(process, nullptr, 0);
-        }
-        close(output);
-    }
-    Simulator(const Simulator&) = delete;
-    Simulator& operator=(const Simulator&) = delete;
-
-    /// The next line that the program prints; waits for it.
-    std::string Line() const {
-        std::string line;
-        for (char character = 0; read(output, &character, 1) == 1 && character != '\n';) {
-            line += character;
-        }
-        return line;
-    }
-
-    /// Waits for the end, after a signal if one is given. The exit code.
-    int End(int signal = 0) {
-        if (signal != 0) {
-            kill(process, signal);
-        }
-        int status = 0;
-        waitpid(process, &status, 0);
-        process = 0;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-private:
-    pid_t process = 0;
-    int output = -1;
 };
 
 /// Asks the device at the address, over a socket.
@@ -125,10 +69,11 @@ private:
 TEST(SimulatorProgramTest, ServesUntilItIsTerminatedAndKeepsTheCamera) {
     const std::string address = OwnAddress();
     const std::string state = TemporaryFile("state");
-    const std::string announced = "Orvik-710C at " + address + ":3956, MAC 02:00:12:07:07:10, serial number 710C-0042";
+    const std::string announced =
+        "Orvik-710C at " + address + ":3956, MAC 02:00:12:07:07:10, serial number 710C-0042\n";
     {
         Simulator simulator({"Orvik-710C", "--address", address, "--state", state});
-        ASSERT_EQ(simulator.Line(), announced);
+        ASSERT_EQ(simulator.Read(), announced);
         const Application application(address);
         EXPECT_EQ(application.Ask("4201 0082 0010 0001 00000a00 00000002 000000e8 4c656674"),
                   "0000 0083 0004 0001 00000002");
@@ -140,14 +85,16 @@ TEST(SimulatorProgramTest, ServesUntilItIsTerminatedAndKeepsTheCamera) {
                   "0000 0081 0008 0002 " + std::string(digits) + " ff000000");
 
         Simulator second({"Orvik-390C", "--address", address});
-        EXPECT_EQ(second.Line(), "qdv12sim: " + address + ":3956 cannot be used: Address already in use");
         EXPECT_EQ(second.End(), 3);
-        EXPECT_EQ(simulator.End(SIGTERM), 0);
+        EXPECT_EQ(second.Read(), "qdv12sim: " + address + ":3956 cannot be used: Address already in use\n");
+        simulator.Signal(SIGTERM);
+        EXPECT_EQ(simulator.End(), 0);
     }
     Simulator again({"Orvik-710C", "--address", address, "--state", state});
-    ASSERT_EQ(again.Line(), announced);
+    ASSERT_EQ(again.Read(), announced);
     EXPECT_EQ(Application(address).Ask("4201 0080 0004 0001 000000e8"), "0000 0081 0004 0001 4c656674");
-    EXPECT_EQ(again.End(SIGINT), 0);
+    again.Signal(SIGINT);
+    EXPECT_EQ(again.End(), 0);
     std::filesystem::remove(state);
 }
 
@@ -155,13 +102,14 @@ TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
     const std::string address = OwnAddress();
     const std::string record = TemporaryFile("pcap");
     Simulator simulator({"Sollux G", "--address", address, "--record", record, "--duplicate", "1"});
-    ASSERT_NE(simulator.Line().find("Sollux G at "), std::string::npos);
+    ASSERT_NE(simulator.Read().find("Sollux G at "), std::string::npos);
     EXPECT_EQ(Application(address).Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
     const std::size_t size = 24 + 3 * (16 + 20 + 8 + 12); // a request, and two acknowledges
     for (int i = 0; i < 500 && Content(record).size() < size; ++i) {
         usleep(10000); // the acknowledge may be here before it is in the file
     }
-    EXPECT_EQ(simulator.End(SIGKILL), -1); // which takes nothing from the file
+    simulator.Signal(SIGKILL); // which takes nothing from the file
+    EXPECT_EQ(simulator.End(), -1);
 
     const std::string file = Content(record);
     ASSERT_EQ(file.size(), size);
@@ -187,11 +135,12 @@ TEST(SimulatorProgramTest, KeepsTheCameraWhenNothingMoreIsRecorded) {
     ASSERT_EQ(mkfifo(record.c_str(), 0600), 0);
     const int reader = open(record.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     Simulator simulator({"Orvik-710C", "--address", address, "--record", record, "--state", state});
-    ASSERT_NE(simulator.Line().find("Orvik-710C at "), std::string::npos);
+    ASSERT_NE(simulator.Read().find("Orvik-710C at "), std::string::npos);
     close(reader);
     Application(address).Send("4201 0080 0004 0001 14010000");
-    EXPECT_EQ(simulator.Line(), "qdv12sim: recording cannot be written: Broken pipe");
     EXPECT_EQ(simulator.End(), 3);
+    EXPECT_TRUE(simulator.Read().ends_with("\nqdv12sim: recording cannot be written: Broken pipe\n"))
+        << simulator.Read();
     EXPECT_TRUE(std::filesystem::remove(state));
     std::filesystem::remove(record);
 }
@@ -199,7 +148,7 @@ TEST(SimulatorProgramTest, KeepsTheCameraWhenNothingMoreIsRecorded) {
 TEST(SimulatorProgramTest, HoldsAcknowledgesBack) {
     const std::string address = OwnAddress();
     Simulator simulator({"Orvik-710C", "--address", address, "--delay", "100"});
-    ASSERT_NE(simulator.Line().find("Orvik-710C at "), std::string::npos);
+    ASSERT_NE(simulator.Read().find("Orvik-710C at "), std::string::npos);
     const Application application(address);
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < 5; ++i) {
@@ -222,9 +171,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
          2,
          "--address: \"127.0.0.300\" is not the IPv4 address of one device"},
         {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not the IPv4 address of one device"},
-        {{"Orvik-710C", "--seed", "-1"},
-         2,
-         "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
+        {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--duplicate", "nan"}, 2, "--duplicate: \"nan\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--nack", "often"}, 2, "--nack: \"often\" is not a share between 0 and 1" + more},
@@ -240,9 +187,10 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
     };
     for (const Row& row : rows) {
         Simulator simulator(row.arguments);
-        EXPECT_EQ(simulator.Line().substr(0, 10 + row.line.size()), "qdv12sim: " + row.line);
-        EXPECT_EQ(simulator.Line(), "");
         EXPECT_EQ(simulator.End(), row.code) << row.line;
+        const std::string& text = simulator.Read();
+        EXPECT_EQ(text.substr(0, 10 + row.line.size()), "qdv12sim: " + row.line);
+        EXPECT_EQ(text.find('\n'), text.size() - 1) << text;
     }
 }
 

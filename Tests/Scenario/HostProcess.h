@@ -1,18 +1,18 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <sys/wait.h>
-#include <unistd.h>
+#include "Files.h"
+#include "Running.h"
 
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 namespace Scenario {
+
+using Test::Content;
+using Test::Running;
+using Test::TemporaryFile;
 
 /// How a run of the reference host ended.
 struct Outcome {
@@ -20,18 +20,6 @@ struct Outcome {
     std::string out;
     std::string err;
 };
-
-inline std::string Content(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
-
-/// A name for a file of the running test and of no other, in this or another process.
-inline std::string TemporaryFile(const std::string& name) {
-    return testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + "." +
-           std::to_string(getpid()) + "." + name;
-}
 
 /// Runs the reference host, or another program, as a user does; the shell reads the arguments. Several may run at once.
 inline Outcome RunHost(const std::string& arguments, const std::string& program = QDV12_HOST,

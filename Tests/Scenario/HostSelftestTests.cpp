@@ -1,4 +1,4 @@
-#include "Running.h"
+#include "HostProcess.h"
 
 namespace Scenario {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Running.h"
+#include "HostProcess.h"
 
 namespace Scenario {
 

@@ -1,5 +1,7 @@
 // A simulated camera's memory in a file, and the faults that can be planted in it.
 
+#include "Files.h"
+
 #include <CameraState.h>
 #include <Cameras.h>
 
@@ -11,7 +13,6 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
-#include <sstream>
 #include <string>
 
 namespace Scenario {
@@ -19,6 +20,7 @@ namespace Scenario {
 using Simulation::MakeCamera;
 using Simulation::Role;
 using Simulation::Words;
+using Test::Content;
 
 class CameraState : public testing::Test {
 protected:
@@ -28,11 +30,6 @@ protected:
     }
     ~CameraState() override { std::filesystem::remove_all(folder); }
 
-    [[nodiscard]] std::string Content() const {
-        std::ostringstream text;
-        text << std::ifstream(file).rdbuf();
-        return text.str();
-    }
     /// Why the file is not loaded, empty if it is; and a camera that refuses it holds what it held.
     [[nodiscard]] std::string Refusal(const std::string& content, const char* model = "Orvik-710M") const {
         std::ofstream(file) << content;
@@ -73,7 +70,7 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
         camera->WriteString(0x00E8, "door\xFF\0\0\0\0\0\0\0\0\0\0\0", 16);
         camera->Pass(std::chrono::seconds(10));
         Simulation::SaveState(*camera, file);
-        const std::string saved = Content();
+        const std::string saved = Content(file);
 
         const auto next = MakeCamera(model);
         Simulation::LoadState(*next, file);
@@ -86,7 +83,7 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
         Simulation::LoadState(*next, file);
         next->Registers().Set("startacquisition", {1});
         Simulation::SaveState(*next, file);
-        EXPECT_EQ(Content(), saved);
+        EXPECT_EQ(Content(file), saved);
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1); // nothing else is left behind
 }
@@ -95,7 +92,7 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
     const auto camera = MakeCamera("Orvik-710M");
     camera->WriteRegister(0x51030000, 1);
     Simulation::SaveState(*camera, file);
-    const std::string good = Content();
+    const std::string good = Content(file);
     EXPECT_EQ(Refusal(good), "");
 
     const auto has = [](const std::string& text, const char* part) {

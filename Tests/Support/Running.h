@@ -1,21 +1,26 @@
 #pragma once
 
-#include "HostProcess.h"
+#include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <csignal>
+#include <string>
 #include <utility>
 #include <vector>
 
-namespace Scenario {
+namespace Test {
 
-/// A program of whose output one stream is read while it runs, and which ends with this object at the latest.
+/// A program whose output is read while it runs, and which ends with this object at the latest.
 class Running {
 public:
-    /// @param stream STDOUT_FILENO or STDERR_FILENO; the other one goes nowhere
+    static constexpr int both = -1;
+
+    /// @param stream STDOUT_FILENO or STDERR_FILENO, the other one goes nowhere; or both
     Running(const std::string& program, std::vector<std::string> arguments, int stream) {
         std::array<int, 2> ends{};
         EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
@@ -31,8 +36,8 @@ public:
             prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that dies leaves no camera behind
             const int nowhere = open("/dev/null", O_RDWR);
             dup2(nowhere, STDIN_FILENO);
-            dup2(nowhere, STDOUT_FILENO + STDERR_FILENO - stream);
-            dup2(ends[1], stream);
+            dup2(stream == STDERR_FILENO ? nowhere : ends[1], STDOUT_FILENO);
+            dup2(stream == STDOUT_FILENO ? nowhere : ends[1], STDERR_FILENO);
             execvp(words[0], words.data());
             _exit(127);
         }
@@ -82,4 +87,4 @@ private:
     std::string read;
 };
 
-} // namespace Scenario
+} // namespace Test
