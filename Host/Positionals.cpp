@@ -3,6 +3,7 @@
 #include "Errors.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 namespace Host {
@@ -24,7 +25,8 @@ bool IsModel(const Parameter& parameter) { return parameter.name == std::string_
 
 /// Whether the first of the texts is meant for MODEL, before another parameter.
 bool StartsWithModel(const std::vector<std::string>& texts, const Parameter& other) {
-    return TakesSeveral(other) ? !texts.empty() && LooksLikeModel(texts.front()) : texts.size() > 1;
+    const std::size_t leftToOther = IsOptional(other) ? 0 : 1;
+    return texts.size() > leftToOther && (!TakesSeveral(other) || LooksLikeModel(texts.front()));
 }
 
 /// Gives the texts to the parameters in order.

@@ -48,6 +48,7 @@ TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
         {"get Orvik-71 gain --force-model", 3, "qdv12host: unknown model \"Orvik-71\"; did you mean \"Orvik-710M\"?\n"},
         {"get Orvik-710C functionmodelid --force-model", 0, ""},
         {"get --force-model gain", 2, "qdv12host: MODEL is required with --force-model (qdv12host --help says more)\n"},
+        {"get Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
         {"get", 2, "qdv12host: NAME is required (qdv12host --help says more)\n"},
         {"get gain --seed 3", 2, "qdv12host: --camera excludes --seed (qdv12host --help says more)\n"},
         {"diff a b", 2, "qdv12host: a second file or --camera, not both\n"},
