@@ -6,8 +6,6 @@
 #include <Cameras.h>
 #include <SimulatedCamera.h>
 
-#include <filesystem>
-
 namespace Host {
 
 namespace {
@@ -18,7 +16,7 @@ std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const std::string& model, 
         throw OpenError("no simulated camera of model \"" + model + "\"");
     }
     try {
-        if (std::filesystem::exists(options.state)) {
+        if (Simulation::HasState(options.state)) {
             Simulation::LoadState(*camera, options.state);
         }
         for (const std::string& fault : options.faults) {

@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <limits>
 #include <string>
@@ -179,26 +181,33 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
     std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
     out << Lines(file, 3, "") << '\n';
     out.close();
-    std::error_code error = out ? std::error_code() : std::make_error_code(std::errc::io_error);
-    if (!error) {
+    std::error_code error(errno, std::generic_category());
+    if (out) {
         std::filesystem::rename(fresh, path, error);
     }
-    if (error) {
+    if (!out || error) {
         std::error_code ignored;
         std::filesystem::remove(fresh, ignored);
         Refuse(path, "it cannot be written (" + error.message() + ")");
     }
 }
 
+bool HasState(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::status(path, ignored).type() != std::filesystem::file_type::not_found;
+}
+
 void LoadState(SimulatedCamera& camera, const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        Refuse(path, "it cannot be opened");
+        Refuse(path, std::string("it cannot be read (") + std::strerror(errno) + ")");
     }
     try {
         Apply(Json::parse(in), camera);
     } catch (const Json::exception& error) {
         Refuse(path, std::string("damaged: ") + error.what());
+    } catch (const std::ios_base::failure& error) { // a directory, for one, which could be opened
+        Refuse(path, "it cannot be read (" + error.code().message() + ")");
     } catch (const std::runtime_error& error) {
         Refuse(path, error.what());
     }

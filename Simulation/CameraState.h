@@ -20,6 +20,9 @@ public:
 /// @throw StateError
 void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path);
 
+/// Whether there is a file to load. What cannot be looked at is taken for one, so that loading it tells why.
+[[nodiscard]] bool HasState(const std::filesystem::path& path);
+
 /// Has the camera go on where the file says that it was; only images are no longer acquired, as nobody is connected
 /// between two runs. Everything in the file is checked first, so that a camera is changed as a whole or not at all.
 /// @throw StateError for a file that is not there or cannot be read, is no such file or a damaged one, or belongs to

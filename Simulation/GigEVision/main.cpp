@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -26,7 +25,7 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
         throw UsageError("unknown model \"" + order.model + '"' + Suggestion(order.model, ModelNames()) +
                          " (qdv12sim --help lists them)");
     }
-    if (!order.state.empty() && std::filesystem::exists(order.state)) {
+    if (HasState(order.state)) {
         LoadState(*camera, order.state);
     }
     for (const std::string& fault : order.faults) {

@@ -184,6 +184,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
          3,
          "recording cannot be written: /nowhere/at.all: No such file or directory"},
         {{"Orvik-710C", "--state", "/dev/null"}, 3, "camera state /dev/null: damaged: "},
+        {{"Orvik-710C", "--state", "/"}, 3, "camera state /: it cannot be read (Is a directory)"},
     };
     for (const Row& row : rows) {
         Simulator simulator(row.arguments);

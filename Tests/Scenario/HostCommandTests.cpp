@@ -275,7 +275,13 @@ TEST(HostCommand, AStateFileKeepsTheCameraBetweenRuns) {
     EXPECT_TRUE(Has(other.err, "it belongs to a camera of model \"Orvik-710C\""));
     std::ofstream(file) << "{";
     EXPECT_EQ(RunHost("get Orvik-710C gain" + state).code, 3);
-    EXPECT_EQ(RunHost("get Orvik-710C gain --state /nowhere/state").code, 1);
+    const Outcome unreadable = RunHost("get Orvik-710C gain --state /");
+    EXPECT_EQ(unreadable.code, 3);
+    EXPECT_EQ(unreadable.err, "qdv12host: camera state /: it cannot be read (Is a directory)\n");
+    const Outcome unwritable = RunHost("get Orvik-710C gain --state /nowhere/state");
+    EXPECT_EQ(unwritable.code, 1);
+    EXPECT_EQ(unwritable.err,
+              "qdv12host: camera state /nowhere/state: it cannot be written (No such file or directory)\n");
     std::filesystem::remove(file);
 }
 

@@ -115,13 +115,32 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\": 1, \"gain\"")), "there are others"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"microseconds\": ", "\"microseconds\": -")), "the time holds -"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"1\": {", "\"3\": {")), "no settings set 3"));
-    std::filesystem::remove(file);
-    EXPECT_THROW(Simulation::LoadState(*camera, file), Simulation::StateError);
+}
+
+TEST_F(CameraState, ThatCannotBeReadOrWrittenSaysWhy) {
+    const auto camera = MakeCamera("Sollux G");
+    const auto why = [&](const auto& access, const std::filesystem::path& path) -> std::string {
+        try {
+            access(*camera, path);
+            return "";
+        } catch (const Simulation::StateError& error) {
+            const std::string about = "camera state " + path.string() + ": it cannot be ";
+            return std::string(error.what()).substr(about.size());
+        }
+    };
+    const auto loop = folder / "loop";
+    std::filesystem::create_symlink(loop, loop);
+    EXPECT_FALSE(Simulation::HasState(file));
+    EXPECT_FALSE(Simulation::HasState(""));
+    EXPECT_TRUE(Simulation::HasState(loop));
+    EXPECT_EQ(why(Simulation::LoadState, file), "read (No such file or directory)");
+    EXPECT_EQ(why(Simulation::LoadState, folder), "read (Is a directory)");
+    EXPECT_EQ(why(Simulation::LoadState, loop), "read (Too many levels of symbolic links)");
+    EXPECT_EQ(why(Simulation::SaveState, folder / "none" / "camera"), "written (No such file or directory)");
 }
 
 TEST_F(CameraState, StaysAsItWasWhenItCannotBeWritten) {
     const auto camera = MakeCamera("Sollux G");
-    EXPECT_THROW(Simulation::SaveState(*camera, folder / "none" / "camera.json"), Simulation::StateError);
     std::filesystem::create_directories(file / "in the way");
     EXPECT_THROW(Simulation::SaveState(*camera, file), Simulation::StateError);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
