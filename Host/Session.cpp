@@ -87,7 +87,7 @@ Control Session::OpenAgain(std::int32_t index) {
     } catch (ChannelLost& error) {
         error.SetFunction(opening);
         throw;
-    } catch (const Simulation::PortError& error) {
+    } catch (const std::runtime_error& error) { // of the port, whatever is behind it
         throw OpenError("opening \"" + model + "\" failed: " + error.what());
     }
     throw OpenError("the plug-in registers model \"" + model + "\" but does not create a control for it");

@@ -1,15 +1,19 @@
 #pragma once
 
-#include <Faults.h>
+#include "Format.h"
 
+#include <cstdint>
+#include <stdexcept>
 #include <string>
 
 namespace Host {
 
 /// An access over a control channel that failed. It passes through the plug-in unchanged.
-class ChannelError : public Simulation::PortError {
+class ChannelError : public std::runtime_error {
 public:
-    using PortError::PortError;
+    /// @param operation of the port, such as "WriteRegister"
+    ChannelError(const std::string& operation, std::uint32_t address, const std::string& reason)
+        : std::runtime_error(operation + " at " + Hex(address) + " failed: " + reason) {}
 
     /// Which camera function was being called; the first to say so is right, it is the innermost call.
     void SetFunction(const std::string& name) {

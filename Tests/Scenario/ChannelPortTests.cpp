@@ -86,6 +86,11 @@ TEST(ChannelPort, TellsHowTheCameraRefuses) {
         held.starts_with("WriteRegister at 0x14010000 failed: the camera at 192.168.1.10 is controlled by another "
                          "program at 192.168.1.10:"))
         << held;
+    const NetworkCamera broken("Cerix-MV7", "192.168.1.11", {"--fault", "fail:0x934"});
+    const Outcome opening = broken.Run("get gain");
+    EXPECT_EQ(opening.code, 3);
+    EXPECT_TRUE(opening.err.starts_with("qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: "))
+        << opening.err;
 }
 
 // Nothing fails for want of an answer then; it is another camera all the same, to which nobody has set anything.

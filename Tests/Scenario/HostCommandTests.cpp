@@ -125,6 +125,8 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Orvik-710 gain", 3, "", "qdv12host: unknown model \"Orvik-710\"; did you mean \"Orvik-710M\"?\n"},
         {"get Orvik-710C gain --fault fail:gain", 1, "",
          "qdv12host: gain: ReadMem at 0x14010000 failed: no answer from the camera\n"},
+        {"get Cerix-MV7 gain --fault fail:0x934", 3, "",
+         "qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: no answer from the camera\n"},
     });
     for (const char* arguments : {"", "tour", "frobnicate", "--log loud models", "models --plugin", "get",
                                   "get Orvik-710C", "models --config /nowhere"}) {
