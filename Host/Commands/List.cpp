@@ -6,6 +6,7 @@
 #include "Style.h"
 
 #include <iostream>
+#include <utility>
 
 namespace Host {
 
@@ -89,9 +90,13 @@ void Print(const Row& row) {
 }
 
 void PrintTable(const Camera& camera, bool all) {
-    Print({"NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"});
+    bool begins = true;
     for (const Instance& instance : camera.All(all)) {
-        Print(Describe(camera, instance, all));
+        const Row row = Describe(camera, instance, all); // before the heading: the camera may be lost by now
+        if (std::exchange(begins, false)) {
+            Print({"NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"});
+        }
+        Print(row);
     }
 }
 

@@ -1,10 +1,14 @@
 #include "HostProcess.h"
 
+#include <Channel/ChannelErrors.h>
+#include <Commands/Commands.h>
 #include <Json.h>
+#include <Logging.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -178,6 +182,21 @@ TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
     const Outcome all = RunHost("list Cerix7-MV --all");
     EXPECT_TRUE(Has(all.out, "\ndefectpixel.2             512,44,2 "));
     EXPECT_TRUE(Has(all.out, "\nmotorcontrol.255          0 "));
+}
+
+TEST(HostCommand, ListOfACameraThatIsLostAtOnceHasNoHeading) {
+    Host::ConfigureLogging("off");
+    Host::Options options;
+    options.plugin = QDV12_PLUGIN;
+    options.camera.accesses = [](const Host::Access& access) {
+        throw Host::ChannelLost(access.operation, access.address, "it is gone");
+    };
+    Host::Program program(options);
+    std::ostringstream out;
+    std::streambuf* const usual = std::cout.rdbuf(out.rdbuf());
+    EXPECT_THROW(Host::List(Host::Invocation(program, {{"MODEL", {"Orvik-710C"}}})), Host::ChannelLost);
+    std::cout.rdbuf(usual);
+    EXPECT_EQ(out.str(), "");
 }
 
 /// The one thing that a look at a camera writes is which instance of a register the next read is for.
