@@ -33,6 +33,23 @@ void ExpectLost(const std::string& command, const std::function<Outcome()>& run)
                          "part))?\n");
 }
 
+/// Watches a camera, and has begun to.
+struct Watching : Running {
+    explicit Watching(const std::string& address)
+        : Running(QDV12_HOST, {"watch", "gain=7", "--camera", "gige:" + address}, both) {
+        EXPECT_TRUE(ReadUntil(begun)) << Read();
+    }
+
+    /// How it ended, and what it said after it had begun.
+    Outcome Ending() {
+        const int code = End();
+        return {code, "", Read().substr(Read().find(begun) + begun.size())};
+    }
+
+private:
+    const std::string begun = "0 -> 7\n";
+};
+
 } // namespace
 
 TEST(ChannelTrouble, ARebootInTheMiddleEndsInOneLine) {
@@ -89,13 +106,13 @@ TEST(ChannelTrouble, WhoIsEndedGivesControlBack) {
 
 TEST(ChannelTrouble, ControlThatTimedOutIsTold) {
     const NetworkCamera camera("Orvik-710C");
-    Running watch(QDV12_HOST, {"watch", "--camera", "gige:192.168.1.10"}, STDERR_FILENO);
-    std::this_thread::sleep_for(seconds(1));
+    Watching watch("192.168.1.10");
     watch.Signal(SIGSTOP); // and with it the heartbeat
     std::this_thread::sleep_for(seconds(4));
     watch.Signal(SIGCONT);
-    EXPECT_EQ(watch.End(), 1);
-    ExpectMatch(watch.Read(), "qdv12host: [^\n]+ failed: control of the camera at 192\\.168\\.1\\.10 was lost\n");
+    const Outcome outcome = watch.Ending();
+    EXPECT_EQ(outcome.code, 1);
+    ExpectMatch(outcome.err, "qdv12host: [^\n]+ failed: control of the camera at 192\\.168\\.1\\.10 was lost\n");
 }
 
 TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
@@ -104,13 +121,9 @@ TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
         runs.push_back(std::async(std::launch::async, [signal] {
             const std::string address = "192.168.1." + std::to_string(signal);
             const NetworkCamera camera("Orvik-390C", address);
-            Running watch(QDV12_HOST, {"watch", "--camera", "gige:" + address}, STDERR_FILENO);
-            std::this_thread::sleep_for(seconds(1));
+            Watching watch(address);
             camera.Signal(signal);
-            ExpectLost("watch", [&] {
-                const int code = watch.End();
-                return Outcome{code, "", watch.Read()};
-            });
+            ExpectLost("watch", [&] { return watch.Ending(); });
         }));
     }
 }
@@ -118,7 +131,7 @@ TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
 TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {
     const auto start = Clock::now();
     const Outcome run = RunHost("info --camera gige:192.168.1.77");
-    EXPECT_LT(Clock::now() - start, seconds(5));
+    EXPECT_LT(Clock::now() - start, patience);
     EXPECT_EQ(run.code, 3);
     EXPECT_EQ(run.err, "qdv12host: the camera at 192.168.1.77 could not be opened: no answer\n");
     EXPECT_EQ(RunHost("info --camera gige:203.0.113.1").err, // there is loopback alone
@@ -129,8 +142,7 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
     const NetworkCamera camera("Orvik-710C");
     const std::string file = TemporaryFile("json");
     ASSERT_EQ(camera.Run("save " + file).code, 0);
-    Running holder(QDV12_HOST, {"watch", "gain=7", "--camera", "gige:192.168.1.10"}, STDOUT_FILENO);
-    ASSERT_TRUE(holder.ReadUntil("0 -> 7"));
+    Watching holder("192.168.1.10");
 
     const std::string held = "the camera at 192\\.168\\.1\\.10 is controlled by another program at "
                              "192\\.168\\.1\\.10:[0-9]+";

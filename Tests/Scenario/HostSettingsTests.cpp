@@ -207,10 +207,10 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
     EXPECT_TRUE(Has(ours.out, "camera    agc                     off -> 1\n"));
 
     // The camera moves the gain on.
-    const Outcome theirs =
-        RunHost("--preserve-status -s INT 3 " QDV12_HOST " watch --json Orvik-390M agc=1", "timeout");
-    EXPECT_EQ(theirs.code, 0) << theirs.err;
-    EXPECT_TRUE(Has(theirs.out, "\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":"));
+    Running theirs(QDV12_HOST, {"watch", "--json", "Orvik-390M", "agc=1"}, Running::both);
+    EXPECT_TRUE(theirs.ReadUntil("\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":"));
+    theirs.Signal(SIGINT);
+    EXPECT_EQ(theirs.End(), 0) << theirs.Read();
     EXPECT_EQ(Run("watch Orvik-390M --seconds soon").code, 2);
 }
 
