@@ -23,8 +23,9 @@ std::string Comparable(std::string text, const std::string& address = "192.168.1
     text = std::regex_replace(text, std::regex("(0x[0-9A-F]{8})  .{25}(<-|->)"), "$1 $2");
     text = std::regex_replace(text, std::regex("of them on [0-9A-Za-z]+"), "of them on one");
     text = std::regex_replace(text, std::regex("  \"date\": [^\n]*\n"), "");
-    const std::regex moved("(Get(Exposure|Gain|Brightness|Contrast|ABCXRLevel|Temperature[A-Z]*)\\([0-9]?\\) += |"
-                           "0x(0A030000|14010000|18010000|18020000|470A0000|5A030000) -> )[^\n]*");
+    const std::regex moved("(Get(Exposure|Gain|Brightness|Contrast|ABCXRLevel|Temperature[A-Z]*|MotorControl)"
+                           "\\([0-9]*\\) += |"
+                           "0x(0A030000|14010000|18010000|18020000|470A0000|5A030000|6E140000) -> )[^\n]*");
     text = std::regex_replace(text, moved, "$1 moved");
     text = std::regex_replace(text, std::regex("(\"name\": \"temperature\",[^}]*\"value\": )[0-9]+"), "$1 moved");
     return std::regex_replace(text, std::regex("(^|\n)temperature[^\n]*"), "");
