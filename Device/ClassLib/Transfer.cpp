@@ -1,5 +1,6 @@
 #include "Transfer.h"
 
+#include "LeftOnPurpose.h"
 #include "Log.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
     if (count < LeadingWord)
         return {};
     length = static_cast<unsigned int>(std::min<std::uint64_t>(count, declared));
+    [[maybe_unused]] const LeftOnPurpose cache; // of a list entry, see ReleaseStorage.h
     return Trimmed({block.begin() + LeadingWord, block.begin() + length});
 }
 
