@@ -6,10 +6,11 @@ namespace Simulation {
 
 namespace {
 
-void Move(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
+/// @return whether the channel was moving
+bool Move(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
     const Words target = space.Get(axes.target, channel);
     if (target[0] == 0) {
-        return;
+        return false;
     }
     const std::uint32_t from = space.Get(axes.position, channel)[0];
     const std::uint32_t to = target[1];
@@ -20,6 +21,7 @@ void Move(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
         space.Set(axes.target, {0, to}, channel);
         space.Set(axes.moving, {space.Get(axes.moving)[0] - 1});
     }
+    return true;
 }
 
 void Send(RegisterSpace& space, const Axes& axes, const RegisterSpace::Change& change) {
@@ -37,8 +39,11 @@ void Send(RegisterSpace& space, const Axes& axes, const RegisterSpace::Change& c
 void AddAxes(SimulatedCamera& camera, const Axes& axes) {
     camera.AfterWrite(axes.position, [axes](RegisterSpace& space, const auto& change) { Send(space, axes, change); });
     camera.EachStep([axes](RegisterSpace& space, auto) {
-        for (std::uint32_t i = 0; space.Get(axes.moving)[0] != 0 && i < space.Count(axes.position); ++i) {
-            Move(space, axes, i);
+        std::uint32_t left = space.Get(axes.moving)[0];
+        for (std::uint32_t i = 0, count = space.Count(axes.position); left != 0 && i < count; ++i) {
+            if (Move(space, axes, i)) {
+                --left;
+            }
         }
     });
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace Simulation {
@@ -66,7 +67,7 @@ private:
     void SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value);
 
     std::map<std::uint32_t, Register> byAddress;
-    std::map<std::string, std::uint32_t> addresses; ///< by name
+    std::unordered_map<std::string, std::uint32_t> addresses; ///< by name
     std::map<std::uint32_t, IndexedRegister> indexed;
     Memory memory;
 };
