@@ -112,6 +112,10 @@ TEST_P(FailureTest, AFailedAccessDoesNoHarm) {
                                   {"reading", row.state.ReadingIndex(), false}};
     if (!row.state.IsM2VX())
         openings.push_back({"nothing remembered yet", row.state.RememberingIndex(), false});
+#ifdef QDV12_SANITIZED // see FailuresOf
+    static std::size_t turn = 0;
+    openings = {openings[turn++ % openings.size()]};
+#endif
     for (const Opening& opening : openings) {
         SCOPED_TRACE(opening.name);
         const Untroubled untroubled = Watch(opening);
