@@ -299,6 +299,24 @@ TEST_F(BehaviourTest, RawMemoryReturnsTheCountOfThePort) {
     }
 }
 
+TEST_F(BehaviourTest, IdentityTextsLieInOneBufferThatNeverMoves) {
+    const std::string longest(20, 'L');
+    using Getter = const char* (IGufi::*)();
+    for (const auto& [address, size, get] : {std::tuple{0x64010000u, 24u, Getter(&IGufi::GetDeviceName)},
+                                             {0x64020000u, 16u, Getter(&IGufi::GetSerialNumber)},
+                                             {0x65020000u, 24u, Getter(&IGufi::GetSoftwareBuild)}}) {
+        const char* first = nullptr;
+        for (const std::string& text : {longest.substr(0, 1), longest, std::string("shorter"), longest}) {
+            const std::string held = text.substr(0, size - 4);
+            const Camera camera = Open({{{address, TextBlock(size, held)}}});
+            const char* const answered = (camera.As<IGufi>().*get)();
+            first = first == nullptr ? answered : first;
+            EXPECT_EQ(answered, first) << std::hex << address;
+            EXPECT_EQ(std::string(first).substr(0, held.size()), held) << "what was handed out before shows it, too";
+        }
+    }
+}
+
 TEST_F(BehaviourTest, TextsOutliveTheCamera) {
     const char* name = nullptr;
     {

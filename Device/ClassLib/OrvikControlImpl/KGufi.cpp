@@ -5,6 +5,19 @@ namespace SDK4::Control {
 using namespace Name;
 using enum Caching;
 
+namespace {
+
+constexpr std::size_t LongestText = 20; // of a block of 24 bytes, behind its leading word
+
+/// Never moves the buffer: a pointer that was handed out for another camera then shows this text, and not freed memory.
+const char* CopyText(const std::string& text, std::string& buffer) {
+    buffer.reserve(LongestText);
+    buffer.assign(text);
+    return buffer.c_str();
+}
+
+} // namespace
+
 KGufi::KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache)
     : Capability(features, registers, port, noCache) {
     SDK4_LOG(Debug, "ctor KGufi");
@@ -23,27 +36,24 @@ KGufi::KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* por
     // clang-format on
 }
 
-// The texts live in one buffer per operation, shared by every control: a pointer is valid until the next call.
+// The texts live in one buffer per operation, shared by every control.
 
 const char* KGufi::GetDeviceName() {
     SDK4_LOG_CALL();
-    static std::string text;
-    text = Get<std::string>(DeviceName);
-    return text.c_str();
+    static std::string buffer;
+    return CopyText(Get<std::string>(DeviceName), buffer);
 }
 
 const char* KGufi::GetSerialNumber() {
     SDK4_LOG_CALL();
-    static std::string text;
-    text = Get<std::string>(SerialNumber);
-    return text.c_str();
+    static std::string buffer;
+    return CopyText(Get<std::string>(SerialNumber), buffer);
 }
 
 const char* KGufi::GetSoftwareBuild() {
     SDK4_LOG_CALL();
-    static std::string text;
-    text = Get<std::string>(SoftwareBuild);
-    return text.c_str();
+    static std::string buffer;
+    return CopyText(Get<std::string>(SoftwareBuild), buffer);
 }
 
 // clang-format off
