@@ -14,17 +14,34 @@ namespace SDK4 {
 /// The library's one logger, "SDK4QDV12Control", fetched when the library is loaded.
 extern const log4cxx::LoggerPtr logger;
 
+/// log4cxx lends all lines of a thread, the host's too, one stream. While one of these lives, that stream formats like
+/// a new one, whatever the host left on it; afterwards it formats as before.
+class PlainStream {
+public:
+    explicit PlainStream(std::ostream& borrowed);
+    ~PlainStream();
+    PlainStream(const PlainStream&) = delete;
+    PlainStream& operator=(const PlainStream&) = delete;
+
+    [[nodiscard]] std::ostream& Get() const { return stream; }
+
+private:
+    std::ostream& stream;
+    std::ios before;
+};
+
 } // namespace SDK4
 
 /// Logs what is streamed, for example SDK4_LOG(Debug, "ctor " << name). The level is Debug, Info, Warn or Error.
-/// log4cxx lends all lines of a thread, the host's too, one stream with its base: each line starts and leaves decimal,
-/// and nothing that may log or throw (a port access, for one) may stand inside a message.
+/// Nothing that may log or throw (a port access, for one) may stand inside a message: log4cxx has one stream per
+/// thread.
 #define SDK4_LOG(level, message)                                                                                       \
     do {                                                                                                               \
         if (::SDK4::logger->is##level##Enabled()) {                                                                    \
             ::log4cxx::helpers::MessageBuffer buffer_;                                                                 \
-            ::SDK4::logger->forcedLog(::log4cxx::Level::get##level(),                                                  \
-                                      buffer_.str(buffer_ << std::dec << message << std::dec), LOG4CXX_LOCATION);      \
+            const ::SDK4::PlainStream plain_(buffer_);                                                                 \
+            ::SDK4::logger->forcedLog(::log4cxx::Level::get##level(), buffer_.str(plain_.Get() << message),            \
+                                      LOG4CXX_LOCATION);                                                               \
         }                                                                                                              \
     } while (false)
 

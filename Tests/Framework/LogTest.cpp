@@ -1,0 +1,52 @@
+#include "Log.h"
+
+#include "LogCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <iomanip>
+#include <locale>
+
+namespace Test {
+
+namespace {
+
+struct Grouping : std::numpunct<char> {
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+/// What a host logs, on the stream that log4cxx lends to all lines of a thread.
+template <class Write> std::string LogOfHost(const Write& write) {
+    log4cxx::helpers::MessageBuffer buffer;
+    std::ostream& stream = buffer;
+    write(stream);
+    return buffer.str(stream);
+}
+
+} // namespace
+
+TEST(Log, EachLineFormatsAsOnANewStreamWhateverTheHostLeft) {
+    LogCapture log;
+    LogOfHost([](std::ostream& stream) {
+        stream << std::hex << std::uppercase << std::showbase << std::showpos << std::left << std::setfill('*');
+        stream.imbue(std::locale(std::locale::classic(), new Grouping));
+        stream.width(8);
+    });
+    SDK4_LOG(Info, "Call");
+    SDK4_LOG(Info, 1234567 << " Address=0x" << std::hex << 0x2805ABCDu);
+    SDK4_LOG(Info, std::string("again ") << 10);
+    EXPECT_EQ(log.TakeTexts(),
+              (std::vector<std::string>{"info Call", "info 1234567 Address=0x2805abcd", "info again 10"}));
+
+    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 0xABCD; }), "0XA.BCD*") << "the host's lines keep theirs";
+    LogOfHost([](std::ostream& stream) {
+        stream << std::dec << std::noshowbase << std::noshowpos;
+        stream.imbue(std::locale::classic());
+    });
+    SDK4_LOG(Info, std::hex << std::setfill('0') << std::setw(6) << 10);
+    EXPECT_EQ(log.TakeTexts(), std::vector<std::string>{"info 00000a"});
+    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 10; }), "10") << "nothing of ours is left behind";
+}
+
+} // namespace Test
