@@ -5,7 +5,6 @@
 #include <SDK4/Callback.h>
 
 #include <array>
-#include <concepts>
 #include <cstdint>
 #include <cstring>
 #include <span>
@@ -146,41 +145,47 @@ using _Sdk4_4UInts = UIntRecord<4>;
 using _Sdk4_5UInts = UIntRecord<5>;
 // NOLINTEND(bugprone-reserved-identifier)
 
-template <std::size_t N, typename = std::make_index_sequence<N>> class CompoundParams;
+/// T once for every number of a pack: typename Each<T, I>::Type... is a plain parameter list. An alias template would
+/// be the same signature for every T with GCC.
+template <class T, std::size_t> struct Each { using Type = T; };
+
+template <std::size_t N, class = std::make_index_sequence<N>, class = std::make_index_sequence<3 * N>>
+class CompoundParams;
 
 /// N scalar properties that are read and written together as one record of N words, first sub-property first. Word i is
 /// signed or unsigned as sub-property i is. Only the sub-properties carry names, "position.xpos", and only they report.
-template <std::size_t N, std::size_t... I> class CompoundParams<N, std::index_sequence<I...>> {
-    // N parameters of one type: Text<I>... stands for N texts.
-    template <std::size_t> using Text = const std::string&;
-    template <std::size_t> using Unsigned = std::uint32_t;
-
+///
+/// I counts the sub-properties, J their limits.
+template <std::size_t N, std::size_t... I, std::size_t... J>
+class CompoundParams<N, std::index_sequence<I...>, std::index_sequence<J...>> {
 public:
     static constexpr std::size_t Count = N;
 
-    CompoundParams(const std::string& name, Text<I>... subNames) : subs{CPropertyParams(name + '.' + subNames)...} {}
+    CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames)
+        : subs{CPropertyParams(name + '.' + subNames)...} {}
 
     /// N defaults.
-    template <std::same_as<std::uint32_t>... Defaults>
-    requires(sizeof...(Defaults) == N)
-        CompoundParams(const std::string& name, Text<I>... subNames, Defaults... defaults)
+    CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames,
+                   typename Each<std::uint32_t, I>::Type... defaults)
         : subs{CPropertyParams(name + '.' + subNames, defaults)...} {}
 
-    CompoundParams(const std::string& name, Text<I>... subNames, const UIntRecord<N>& minimum,
-                   const UIntRecord<N>& maximum, const UIntRecord<N>& defaults)
+    CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames,
+                   const UIntRecord<N>& minimum, const UIntRecord<N>& maximum, const UIntRecord<N>& defaults)
         : subs{CPropertyParams(name + '.' + subNames, minimum.values[I], maximum.values[I], defaults.values[I])...} {}
 
     /// 3 N limits, all unsigned or all signed: minimum, maximum, default of the first sub-property, then of the second.
-    template <typename T, std::same_as<T>... Limits>
-    requires(sizeof...(Limits) + 1 == 3 * N && (std::same_as<T, std::uint32_t> || std::same_as<T, std::int32_t>))
-        CompoundParams(const std::string& name, Text<I>... subNames, T limit, Limits... limits)
-        : CompoundParams(std::array<T, 3 * N>{limit, limits...}, name, subNames...) {}
+    CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames,
+                   typename Each<std::uint32_t, J>::Type... limits)
+        : CompoundParams(std::array<std::uint32_t, 3 * N>{limits...}, name, subNames...) {}
+    CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames,
+                   typename Each<std::int32_t, J>::Type... limits)
+        : CompoundParams(std::array<std::int32_t, 3 * N>{limits...}, name, subNames...) {}
 
     /// The sub-property itself, for the list of properties and for what only one of them has. Owned by this object.
     CPropertyParams* GetSubProperty(std::size_t i) { return &subs[i]; }
 
-    void SetMin(Unsigned<I>... minimum) { (subs[I].SetMin(minimum), ...); }
-    void SetMax(Unsigned<I>... maximum) { (subs[I].SetMax(maximum), ...); }
+    void SetMin(typename Each<std::uint32_t, I>::Type... minimum) { (subs[I].SetMin(minimum), ...); }
+    void SetMax(typename Each<std::uint32_t, I>::Type... maximum) { (subs[I].SetMax(maximum), ...); }
 
     void SetAutoUpdate(bool on) { (subs[I].SetAutoUpdate(on), ...); }
     bool GetAutoUpdate() const { return (subs[I].GetAutoUpdate() && ...); }
@@ -229,7 +234,8 @@ private:
     using Words = std::array<std::uint32_t, N>;
 
     template <typename T>
-    CompoundParams(const std::array<T, 3 * N>& limits, const std::string& name, Text<I>... subNames)
+    CompoundParams(const std::array<T, 3 * N>& limits, const std::string& name,
+                   typename Each<const std::string&, I>::Type... subNames)
         : subs{CPropertyParams(name + '.' + subNames, limits[3 * I], limits[3 * I + 1], limits[3 * I + 2])...} {}
 
     static Words WordsOf(const void* record) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 
 using namespace SDK4::Control;
@@ -183,6 +184,14 @@ TEST(CompoundParams, BuildsNamedSubPropertiesFromEveryKindOfArguments) {
                              _Sdk4_4UInts{2, 3, 4, 5});
     EXPECT_EQ(States(records), (Texts{"c.a U 1 5 2 0 | 0 0 0 0", "c.b U 2 6 3 0 | 0 0 0 0", "c.d U 3 7 4 0 | 0 0 0 0",
                                       "c.e U 4 8 5 0 | 0 0 0 0"}));
+    // Literals of either sign stand for unsigned defaults, and braces for records.
+    for (C2PropertyParams* const literal :
+         {new C2PropertyParams("c", "a", "b", 1, 2), new C2PropertyParams("c", "a", "b", 1u, 2)}) {
+        const std::unique_ptr<C2PropertyParams> owned(literal);
+        EXPECT_EQ(States(*literal), (Texts{"c.a U 0 0 1 0 | 0 0 0 0", "c.b U 0 0 2 0 | 0 0 0 0"}));
+    }
+    C3PropertyParams braces("c", "a", "b", "d", {1, 2, 3}, {5, 6, 7}, {2, 3, 4});
+    EXPECT_EQ(States(braces), (Texts{"c.a U 1 5 2 0 | 0 0 0 0", "c.b U 2 6 3 0 | 0 0 0 0", "c.d U 3 7 4 0 | 0 0 0 0"}));
     C2PropertyParams numbers("c", "a", "b", 1u, 9u, 5u, 2u, 8u, 4u);
     EXPECT_EQ(States(numbers), (Texts{"c.a U 1 9 5 0 | 0 0 0 0", "c.b U 2 8 4 0 | 0 0 0 0"}));
     C5PropertyParams negative("c", "a", "b", "d", "e", "f", -1, 1, 0, -2, 2, 0, -3, 3, 0, -4, 4, 0, -5, 5, 1);
