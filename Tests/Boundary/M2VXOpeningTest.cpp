@@ -136,6 +136,31 @@ TEST_F(M2VXOpeningTest, RemembersWhatTheCameraReportsWhateverTheLimits) {
     EXPECT_EQ(camera.As<IPropertyState>().GetUIntValue("pixelformat"), 0x01100025u);
 }
 
+TEST_F(M2VXOpeningTest, AModeThatNoSetterAdmitsDisablesNothing) {
+    const struct {
+        std::uint32_t mode;
+        std::vector<std::uint32_t> reported;
+        const char* dependant;
+        bool enabled;
+    } cases[] = {
+        {0x0A020000, {0, 5, 7, 0xFFFFFFFF, 3}, "exposure", true},
+        {0x0A020000, {1, 2, 4}, "exposure", false},
+        {0x46020000, {3, 7}, "automaticlevel", true},
+        {0x47040000, {3}, "abcstopmode", true},
+        {0x1B010000, {2, 1}, "shadingcorrection", true},
+        {0x1B010000, {0}, "shadingcorrection", false},
+        {0x1B030000, {2}, "circularblankingsize", true},
+        {0x16070000, {5}, "automotiondetection", true},
+        {0x180C0000, {3, 4}, "brightness", true},
+    };
+    for (const auto& [mode, reported, dependant, enabled] : cases) {
+        for (const std::uint32_t value : reported) {
+            const Camera camera = Open(OnM2VX(With(mode, value)), 3);
+            EXPECT_EQ(camera.As<IPropertyState>().GetEnabled(dependant), enabled) << dependant << " under " << value;
+        }
+    }
+}
+
 TEST_F(M2VXOpeningTest, AnyFailureOfTheLastNetworkRegisterIsPassedOver) {
     Prepare(port, OnM2VX());
     for (const auto& failure : {std::function<void()>(Unplug), std::function<void()>([] { throw 42; }),

@@ -88,7 +88,12 @@ void CM2VXPropertyTable::FollowABC() {
     abcStopMode.SetEnabled(mode == 2);
 }
 
-void CM2VXPropertyTable::FollowExposureMode() { exposure.SetEnabled(exposureMode.StoredUIntValue() == 3); }
+void CM2VXPropertyTable::FollowExposureMode() {
+    const std::uint32_t mode = exposureMode.StoredUIntValue();
+    if (mode < 1 || mode > 4)
+        return; // as above
+    exposure.SetEnabled(mode == 3);
+}
 
 void CM2VXPropertyTable::FollowRecursiveFilter() {
     autoMotionDetection.SetEnabled(recursiveFilter.StoredUIntValue() != 0);
