@@ -5,7 +5,8 @@
 namespace SDK4 {
 
 /// Brings one number between its bounds, the minimum first and the maximum last, so that a camera that reports a
-/// minimum above its maximum still gets a defined value. Returns whether the number was outside.
+/// minimum above its maximum still gets a defined value. Returns whether the number was outside, which it always is
+/// then.
 template <class Number> bool Clamp(Number& value, Number min, Number max) {
     const bool below = value < min;
     if (below)
@@ -16,8 +17,8 @@ template <class Number> bool Clamp(Number& value, Number min, Number max) {
     return below || above;
 }
 
-/// Range<T>::Check brings a value into [min, max] and returns whether that changed it; a record is checked field by
-/// field.
+/// Range<T>::Check brings a value into [min, max]. Returns of a number whether it was outside; of a record, which is
+/// checked field by field, whether any field changed.
 template <class T> class Range {
 public:
     static bool Check(T& value, T min, T max) { return Clamp(value, min, max); }

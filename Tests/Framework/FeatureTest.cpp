@@ -131,6 +131,26 @@ TEST_F(FeatureTest, RecordsAreClampedFieldByField) {
     EXPECT_EQ(Write(rgb, {300, 0, 256}), "SDK4_ERR_OUTOFRANGE (W 0300=255,5,255) rgb");
 }
 
+TEST_F(FeatureTest, UnderAMinimumAboveTheMaximumOnlyAChangedRecordIsRefused) {
+    auto& position = Add(new CIntegerFeature<SDK4_KPOSITION>(
+        "position", &features, &AddIndexed<SDK4_KPOSITION>("position", 1, 0x100, 1), {70, 70}, {60, 60}));
+    auto& area = Add(new CIntegerFeature<SDK4_KAREA>("area", &features, &AddPlain<SDK4_KAREA>("area", 0x200, 1),
+                                                     {70, 70, 70, 70}, {60, 60, 60, 60}));
+    auto& rgb = Add(new CIntegerFeature<SDK4_KRGB>("rgb", &features, &AddPlain<SDK4_KRGB>("rgb", 0x300, 1),
+                                                   {70, 70, 70}, {60, 60, 60}));
+    LogCapture log(log4cxx::Level::getInfo());
+    EXPECT_EQ(Write(position, {60, 60}), " (W 0100=1,60,60) position");
+    EXPECT_EQ(log.TakeTexts(), Texts{"info Check  (Pos)=60,60"});
+    EXPECT_EQ(Write(area, {60, 60, 60, 60}), " (W 0200=60,60,60,60) area");
+    EXPECT_EQ(Write(rgb, {60, 60, 60}), " (W 0300=60,60,60) rgb");
+    EXPECT_EQ(Write(position, {60, 61}), "SDK4_ERR_OUTOFRANGE (W 0100=1,60,60) position");
+    EXPECT_EQ(Write(area, {60, 60, 60, 75}), "SDK4_ERR_OUTOFRANGE (W 0200=60,60,60,60) area");
+    EXPECT_EQ(Write(rgb, {59, 60, 60}), "SDK4_ERR_OUTOFRANGE (W 0300=60,60,60) rgb");
+
+    auto& level = Add(new CIntegerFeature<int>("level", &features, &AddPlain<int>("level", 0x400, 1), 70, 60));
+    EXPECT_EQ(Write(level, 60), "SDK4_ERR_OUTOFRANGE (W 0400=60) level") << "a number lies outside all the same";
+}
+
 TEST_F(FeatureTest, BoundsAreAskedForOnEveryWriteAfterTheLock) {
     auto& level = Add(new CIntegerFeature<int>("level", &features, &AddPlain<int>("level", 0x100, 1), 0, 100));
     Add(new CFeature<int>("min", &features, &AddPlain<int>("min", 0x200, 0)));
