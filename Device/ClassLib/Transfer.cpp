@@ -27,9 +27,10 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
     std::vector<std::uint8_t> block(declared);
     std::uint64_t count = length;
     port.ReadMem(address, block.data(), &count);
-    if (count < LeadingWord)
+    const auto delivered = static_cast<unsigned int>(std::min<std::uint64_t>(count, declared));
+    if (delivered < LeadingWord)
         return {};
-    length = static_cast<unsigned int>(std::min<std::uint64_t>(count, declared));
+    length = delivered;
     [[maybe_unused]] const LeftOnPurpose cache; // of a list entry, see ReleaseStorage.h
     return Trimmed({block.begin() + LeadingWord, block.begin() + length});
 }

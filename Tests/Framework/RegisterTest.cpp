@@ -132,6 +132,30 @@ TEST_F(RegisterTest, CascadeFollowsTheRelationInNameOrder) {
     EXPECT_EQ(listener.Take(), "a f") << "the relation may grow later";
 }
 
+TEST_F(RegisterTest, AHandlerMayUnsubscribeAnyHandlerDuringTheEvent) {
+    struct Leaving final : Utility::IEventHandler<unsigned int> {
+        explicit Leaving(CRegisterBase& heardRegister) : subject(heardRegister) {}
+        void notify(void*, unsigned int) override {
+            ++heard;
+            for (Utility::IEventHandler<unsigned int>* handler : leaving) {
+                subject.Unsubscribe(handler);
+            }
+        }
+        CRegisterBase& subject;
+        std::vector<Utility::IEventHandler<unsigned int>*> leaving;
+        int heard = 0;
+    };
+    auto& gain = AddPlain<int>("gain", 0x100, 2);
+    Leaving first(gain), second(gain), third(gain), fourth(gain);
+    for (Leaving* handler : {&first, &second, &third, &fourth}) {
+        gain.Subscribe(handler);
+    }
+    second.leaving = {&first, &second, &third}; // before it, itself, and the next one
+    gain.SetValue(1);
+    gain.SetValue(2);
+    EXPECT_EQ((std::vector<int>{first.heard, second.heard, third.heard, fourth.heard}), (std::vector<int>{1, 1, 0, 2}));
+}
+
 /// A register that is none of the framework's.
 struct ForeignRegister final : IRegister {
     void Invalidate() override { ++invalidated; }
@@ -172,20 +196,33 @@ TEST_F(RegisterTest, TextsLoseOuterBlanksButNoZeros) {
     }
 }
 
-TEST_F(RegisterTest, TheCountOfThePortIsTheNextLengthOfAText) {
+TEST_F(RegisterTest, TheCountOfThePortIsTheLengthOfATextAndOfTheNextRead) {
     auto& text = AddText("text", 36, 0);
-    port.Set(0x100, TextBlock(36, "camera"));
+    port.Set(0x100, TextBlock(36, "camera of more than a few words"));
     const struct {
         std::uint64_t reported;
         std::string text, nextLength;
     } cases[] = {
-        {8, "came", "8"}, {3, "", "8"}, {0, "", "8"}, {0xFFFFFFFFFFFF, "came", "36"}, {4, "", "4"}, {100, "", "36"},
+        {8, "came", "8"},
+        {3, "", "8"},
+        {0, "", "8"},
+        {0xFFFFFFFFFFFF, "came" + std::string(28, '\0'), "36"}, // eight bytes were asked for, the others are zero
+        {4, "", "4"},
+        {100, std::string(32, '\0'), "36"},
     };
     for (const auto& [reported, expected, nextLength] : cases) {
         port.reportedCount = reported;
-        EXPECT_EQ(text.GetValue().substr(0, 4).c_str(), expected) << reported;
+        EXPECT_EQ(text.GetValue(), expected) << reported;
         port.reportedCount = 0; // changes nothing
         EXPECT_EQ(Cost([&] { text.GetValue(); }), "R 0100/" + nextLength) << reported;
+    }
+}
+
+TEST_F(RegisterTest, ATextThatIsShorterThanItsLeadingWordIsEmpty) {
+    auto& text = AddText("text", 2, 0);
+    for (const unsigned int reported : {2u, 3u, 4u, 100u}) {
+        port.reportedCount = reported;
+        EXPECT_EQ(text.GetValue(), "") << reported;
     }
 }
 
@@ -197,6 +234,8 @@ TEST_F(RegisterTest, TextsAreWrittenAsTheyAreRead) {
     EXPECT_EQ(port.Get(0x100), expected);
     EXPECT_EQ(Cost([&] { EXPECT_EQ(text.GetValue(), "left"); }), "");
     EXPECT_EQ(Cost([&] { EXPECT_NE(CodeOf([&] { text.SetValue(std::string(13, 'x')); }), ""); }), "");
+    text.SetValue(std::string(12, 'x'));
+    EXPECT_EQ(text.GetValue(), std::string(12, 'x')) << "the longest that fits";
 }
 
 } // namespace Test
