@@ -28,7 +28,9 @@ public:
         both.SetValue(-6);
         both.SetValue(6u);
         both.SetEnumValue(2);
-        properties = {&gain, &first, &second, &both, &longest};
+        disabled.SetEnabled(false);
+        missing.SetImplemented(false);
+        properties = {&gain, &first, &second, &both, &longest, &disabled, &missing};
     }
 
     IPropertyState& State() { return *this; }
@@ -38,6 +40,8 @@ public:
     CPropertyParams second{"position.x", -400, 399, 0};
     CPropertyParams both{"both", 2u, 8u, 4u};
     CPropertyParams longest{longName};
+    CPropertyParams disabled{"disabled"};
+    CPropertyParams missing{"missing"};
 };
 
 using Call = std::function<std::string(IPropertyState&, const char*)>;
@@ -74,7 +78,10 @@ const Row rows[] = {
     {"GetIntValue",         Of(IntOf(&IPropertyState::GetIntValue)),             "position.x", "0"},
     {"GetIntValue index",   OfIndex<std::int32_t>(&IPropertyState::GetIntValue, 1), "position.x", "-7"},
     {"GetEnabled",          Of(&IPropertyState::GetEnabled),                     "gain",       "1", true},
-    {"GetImplemented",      Of(&IPropertyState::GetImplemented),                 "gain",       "1", true},
+    {"GetEnabled disabled", Of(&IPropertyState::GetEnabled),                     "disabled",   "0", true},
+    {"GetEnabled missing",  Of(&IPropertyState::GetEnabled),                     "missing",    "1", true},
+    {"GetImplemented",      Of(&IPropertyState::GetImplemented),                 "disabled",   "1", true},
+    {"GetImplemented missing", Of(&IPropertyState::GetImplemented),              "missing",    "0", true},
     {"IsUnsigned",          Of(&IPropertyState::IsUnsigned),                     "gain",       "1", true},
     {"IsUnsigned signed",   Of(&IPropertyState::IsUnsigned),                     "position.x", "0", true},
     {"IsIndexed",           Of(&IPropertyState::IsIndexed),                      "position.x", "1", true},
@@ -134,7 +141,8 @@ TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
     EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call"}));
     (void)control.State().IsIndexed(nullptr);
     EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call", "debug gain", "debug position.x",
-                                          "debug position.x", "debug both", "debug " + longName}));
+                                          "debug position.x", "debug both", "debug " + longName, "debug disabled",
+                                          "debug missing"}));
 }
 
 TEST(PropertyState, NamesByPositionShareOneBuffer) {
@@ -144,7 +152,7 @@ TEST(PropertyState, NamesByPositionShareOneBuffer) {
     EXPECT_EQ(control.GetPropertyNameByIndex(0), name);
     EXPECT_STREQ(name, "gain");
     EXPECT_EQ(std::string(name, longName.size()), "gain" + std::string(longName.size() - 4, '\0')) << "no trace";
-    for (const int outside : {-1, 5, 1000})
+    for (const int outside : {-1, 7, 1000})
         EXPECT_EQ(control.GetPropertyNameByIndex(outside), nullptr);
     EXPECT_EQ(CBaseControlHelper().GetPropertyNameByIndex(0), nullptr);
 }

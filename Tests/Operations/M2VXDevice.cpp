@@ -148,6 +148,7 @@ std::vector<Operation> PropertyOperations() {
         {"IPropertyState::SetEnabled unknown",    On(&P::SetEnabled, "x", true),       unknown, Never()},
         {"IPropertyState::SetEnabled null",       On(&P::SetEnabled, nullptr, true),   unknown, Never()},
         {"IPropertyState::GetImplemented",        On(&P::GetImplemented, "loadsettings"), "1", Never()},
+        {"IPropertyState::GetImplemented disabled", On(&P::GetImplemented, "gain"),    "1",    Never(), Disabling("gain")},
         {"IPropertyState::GetImplemented unknown", On(&P::GetImplemented, "x"),        "0",    Never()},
         {"IPropertyState::IsUnsigned",            On(&P::IsUnsigned, "measurewindow.vstretch"), "1", Never()},
         {"IPropertyState::IsUnsigned signed",     On(&P::IsUnsigned, "measurewindow.ypos"), "0", Never()},

@@ -28,7 +28,9 @@ protected:
         std::string level = event->getLevel()->toString();
         std::transform(level.begin(), level.end(), level.begin(), [](unsigned char c) { return std::tolower(c); });
         const auto& location = event->getLocationInformation();
-        lines.push_back({level + " " + event->getMessage(), location.getShortFileName(), location.getMethodName(),
+        const std::string className = location.getClassName();
+        lines.push_back({level + " " + event->getMessage(), location.getShortFileName(),
+                         className.substr(className.rfind(':') + 1), location.getMethodName(),
                          location.getLineNumber()});
     }
 };

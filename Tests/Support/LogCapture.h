@@ -17,9 +17,10 @@ public:
     LogCapture& operator=(const LogCapture&) = delete;
 
     struct Line {
-        std::string text;     ///< the level in lower case, a blank, the message: "info Init QDV12Control"
-        std::string file;     ///< without its folder
-        std::string function; ///< without class and parameters
+        std::string text;      ///< the level in lower case, a blank, the message: "info Init QDV12Control"
+        std::string file;      ///< without its folder
+        std::string className; ///< without its namespaces
+        std::string function;  ///< without class and parameters
         int line;
     };
 
