@@ -46,8 +46,8 @@ public:
     /// Gives the camera a persistent address: sets bit 0 of 0x0014, then writes 0x064C (address), 0x065C (mask) and
     /// 0x066C (gateway). Silently does nothing when the camera supports no persistent address (bit 0 of 0x0010), or
     /// when address and mask name another subnet than the one through which the camera is reached now. Numbers are cut
-    /// to one octet; a text that is no address is not detected: a number that it lacks is that of the text before it,
-    /// 0 for the first text.
+    /// to one octet; a text that is no address is not detected: a number that it lacks counts as 0 (Orvik), or as that
+    /// of the text before it, 0 for the first text (M2VX).
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null text, before any access.
     virtual void EnablePersistentIP(const char* ip, const char* mask, const char* gateway) = 0;
 

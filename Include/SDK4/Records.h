@@ -47,7 +47,8 @@ struct SDK4_KOVERLAYSIZE {
 
 /// A time as a base selector and a count of that base: exposure time, trigger delay.
 struct SDK4_KEXPOSURE {
-    std::int32_t base;     ///< time base selector, 0 to 7
+    std::int32_t base;     ///< time base selector, 0 to 7: the documentation of the camera decides which time each is;
+                           ///< the simulated cameras read n as 10^n microseconds
     std::uint32_t counter; ///< count of the base
 };
 

@@ -9,12 +9,14 @@
 ///     void* CreateObject(const char* model, void* port, std::int32_t index);    // an IDynamicObject, or null
 ///
 /// InitLibrary tells the registry which models the library serves. CreateObject builds the control of one opened camera
-/// over an SDK4::IControlPort; it answers null for a model that it does not serve (a null name is one). A null port is
-/// refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik model by the first access.
-/// What fails while an M2VX camera is read reaches the host from CreateObject, and there is nothing to give back then.
-/// The text of the model name must live as long as the control. The host casts the result to IDynamicObject*, reaches
-/// every other interface from it with dynamic_cast, and gives it back with Release. The slot order of every interface
-/// is fixed: operations are never moved, removed or inserted.
+/// over an SDK4::IControlPort; it answers null for a model that it does not serve (a null name is one). The model name
+/// is what the camera calls itself, letter by letter: the model name of its discovery acknowledge, which is bootstrap
+/// register 0x0068 of the GigE Vision standard, 32 bytes up to the first NUL. The text must live as long as the
+/// control. A null port is refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik
+/// model by the first access. What fails while an M2VX camera is read reaches the host from CreateObject, and there is
+/// nothing to give back then. The host casts the result to IDynamicObject*, reaches every other interface from it with
+/// dynamic_cast, and gives it back with Release. The slot order of every interface is fixed: operations are never
+/// moved, removed or inserted.
 ///
 /// Rules of every interface, told here once:
 ///
