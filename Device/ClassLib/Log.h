@@ -7,41 +7,58 @@
 
 #include <log4cxx/logger.h>
 
+#include <cstdint>
 #include <ios>
+#include <ostream>
 
 namespace SDK4 {
 
 /// The library's one logger, "SDK4QDV12Control", fetched when the library is loaded.
 extern const log4cxx::LoggerPtr logger;
 
-/// log4cxx lends all lines of a thread, the host's too, one stream. While one of these lives, that stream formats like
-/// a new one, whatever the host left on it; afterwards it formats as before.
-class PlainStream {
-public:
-    explicit PlainStream(std::ostream& borrowed);
-    ~PlainStream();
-    PlainStream(const PlainStream&) = delete;
-    PlainStream& operator=(const PlainStream&) = delete;
+enum class LogLevel { Debug, Info, Warn, Error };
 
-    [[nodiscard]] std::ostream& Get() const { return stream; }
+/// The place in the source that a line comes from.
+struct Location {
+    const char* file;
+    const char* function;
+    int line;
+};
+
+/// A line while it is put together. log4cxx lends all lines of a thread, the host's too, one stream: while one of these
+/// lives, that stream formats like a new one, whatever the host left on it; afterwards it formats as before.
+class LogLine {
+public:
+    LogLine();
+    ~LogLine();
+    LogLine(const LogLine&) = delete;
+    LogLine& operator=(const LogLine&) = delete;
+
+    [[nodiscard]] std::ostream& Stream() { return stream; }
+    void Write(LogLevel level, const Location& location);
 
 private:
+    log4cxx::helpers::MessageBuffer buffer;
     std::ostream& stream;
     std::ios before;
 };
 
+/// Writes the one warning line and throws.
+/// @param text the expression that the line names
+[[noreturn]] void Throw(std::int32_t code, const char* text, const Location& location);
+
 } // namespace SDK4
 
+#define SDK4_HERE (::SDK4::Location{__FILE__, __PRETTY_FUNCTION__, __LINE__})
+
 /// Logs what is streamed, for example SDK4_LOG(Debug, "ctor " << name). The level is Debug, Info, Warn or Error.
-/// Nothing that may log or throw (a port access, for one) may stand inside a message: log4cxx has one stream per
-/// thread.
+/// Nothing that may log or throw (a port access, for one) may stand inside a message: there is one stream per thread.
 #define SDK4_LOG(level, message)                                                                                       \
     do {                                                                                                               \
         if (::SDK4::logger->is##level##Enabled()) {                                                                    \
-            ::log4cxx::helpers::MessageBuffer buffer_;                                                                 \
-            const ::SDK4::PlainStream plain_(buffer_);                                                                 \
-            ::SDK4::logger->forcedLog(::log4cxx::Level::get##level(), buffer_.str(plain_.Get() << message),            \
-                                      LOG4CXX_LOCATION);                                                               \
+            ::SDK4::LogLine line_;                                                                                     \
+            line_.Stream() << message;                                                                                 \
+            line_.Write(::SDK4::LogLevel::level, SDK4_HERE);                                                           \
         }                                                                                                              \
     } while (false)
 
@@ -49,13 +66,7 @@ private:
 #define SDK4_LOG_CALL() SDK4_LOG(Debug, "Call")
 
 /// Throws X4Error with one of the SDK4_ERR codes, after the one warning line that names the code.
-#define SDK4_THROW(code) SDK4_THROW_WITH_TEXT("X4Error(" #code ")", code)
+#define SDK4_THROW(code) ::SDK4::Throw(code, "X4Error(" #code ")", SDK4_HERE)
 
 /// The same for the places whose line spells the namespace.
-#define SDK4_THROW_QUALIFIED(code) SDK4_THROW_WITH_TEXT("SDK4::X4Error(" #code ")", code)
-
-#define SDK4_THROW_WITH_TEXT(text, code)                                                                               \
-    do {                                                                                                               \
-        SDK4_LOG(Warn, "SDK4Exception [" text "]");                                                                    \
-        throw ::SDK4::X4Error(code);                                                                                   \
-    } while (false)
+#define SDK4_THROW_QUALIFIED(code) ::SDK4::Throw(code, "SDK4::X4Error(" #code ")", SDK4_HERE)
