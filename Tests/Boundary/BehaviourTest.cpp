@@ -15,6 +15,13 @@ Call Row(const std::string& name) { return FindOperation(name).call; }
 
 void Unplug() { throw Unplugged{0}; }
 
+std::string Joined(const std::set<std::string>& texts, const std::string& separator) {
+    std::string all;
+    for (const std::string& text : texts)
+        all += (all.empty() ? "" : separator) + text;
+    return all;
+}
+
 } // namespace
 
 class BehaviourTest : public CameraTest {};
@@ -245,6 +252,45 @@ TEST_F(BehaviourTest, InfoLinesTellWhatTurnedStaleAndWhatIsRefused) {
     EXPECT_EQ(log.TakeTexts(), (std::vector<std::string>{"info contrast invalid @ Address=0x18020000",
                                                          "info Invalidate: contrast", "info contrast is locked",
                                                          "warn SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"}));
+}
+
+TEST_F(BehaviourTest, LinesNameEveryRegisterAndItsAddress) {
+    std::set<std::string> read, written;
+    for (const Operation& row : Operations()) {
+        if (!row.state.IsM2VX()) {
+            port = RecordingPort(); // a readout time that another row has set may be long to wait for
+            const Camera camera = Open(row.state);
+            LogCapture log;
+            Outcome(row.call, *camera.Object());
+            for (const std::string& text : log.TakeTexts()) {
+                if (const std::size_t at = text.find(" invalid @ Address=0x"); at != std::string::npos)
+                    read.insert(text.substr(5, at - 5) + " " + text.substr(text.rfind('x') + 1));
+                else if (text.starts_with("debug DoInvalidate  "))
+                    written.insert(text.substr(20));
+            }
+        }
+    }
+    const std::string readNames =
+        "autoexposurelevel 46030000, binning a0b0000, brightness 18010000, colorbalance 15010000, colorcoding "
+        "28020000, contrast 18020000, devicename 64010000, exposure a030000, exposuremode a020000, firmwareversion "
+        "65040000, frameduration 28040000, fumoid 64030000, fumoversion 64040000, gain 14010000, hardwareversion "
+        "65050000, horizontalflip 16030000, imagesize 28030000, imagesubtraction 16060000, iodelay6 66110000, iomode1 "
+        "66020000, iomode6 66020000, iopolarity4 660f0000, iopolarity5 660f0000, ioport2 66030000, lastimagehold "
+        "16040000, lightsource 15020000, lutindex 19010000, lutmode 19020000, measureframecolor 1e020000, "
+        "measureframeshow 1e010000, measurewindow1 1e030000, measurewindow2 1e030000, negativeimage 19030000, "
+        "overlayposition_line1 17020000, overlayposition_line2 17020000, overlayshow_line1 17010000, "
+        "overlayshow_line2 17010000, overlaysize_line1 17040000, overlaysize_line2 17040000, overlaystyle_line1 "
+        "17030000, overlaystyle_line2 17030000, patterngenerator 5a010000, pixelclock a090000, readoutarea 28050000, "
+        "readoutarea_active 28090000, readoutarea_max 28090000, readoutarea_min 28090000, readouttime a0a0000, "
+        "recursivefilter 16070000, revision 65010000, saturation 15040000, serialnumber 64020000, sharpness 18030000, "
+        "softwarebuildstring 65020000, softwareversion 65030000, verticalflip 16020000";
+    const std::string writtenOnly =
+        "acc aet agc awb iodelay1 iodelay2 iodelay3 iodelay4 iodelay5 iomode2 iomode3 iomode4 iomode5 iopolarity1 "
+        "iopolarity2 iopolarity3 iopolarity6 ioport1 ioport3 ioport4 ioport5 ioport6 loadsettings savesettings "
+        "slowscan softtrigger startacquisition startupsettings stopacquisition storeimage triggerdelay triggertimer";
+    EXPECT_EQ(Joined(read, ", "), readNames);
+    std::erase_if(written, [&](const std::string& name) { return readNames.find(name + " ") != std::string::npos; });
+    EXPECT_EQ(Joined(written, " "), writtenOnly);
 }
 
 TEST_F(BehaviourTest, ASettingsLoadReachesEveryRegisterAlongEveryPath) {
