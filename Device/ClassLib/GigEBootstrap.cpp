@@ -69,15 +69,15 @@ std::uint32_t ParseAddress(const char* text, std::array<unsigned int, 4>& number
 }
 
 bool InCurrentSubnet(IControlPort* port, const PersistentConfig& wanted) {
-    const std::uint32_t address = port->ReadRegister(CurrentIPAddress);
-    const std::uint32_t mask = port->ReadRegister(CurrentSubnetMask);
+    const std::uint32_t address = port->ReadRegister(CurrentAddress);
+    const std::uint32_t mask = port->ReadRegister(CurrentMask);
     return (address & mask) == (wanted.address & wanted.mask);
 }
 
 void WritePersistentConfig(IControlPort* port, const PersistentConfig& config) {
-    port->WriteRegister(PersistentIPAddress, config.address);
-    port->WriteRegister(PersistentSubnetMask, config.mask);
-    port->WriteRegister(PersistentDefaultGateway, config.gateway);
+    port->WriteRegister(PersistentAddress, config.address);
+    port->WriteRegister(PersistentMask, config.mask);
+    port->WriteRegister(PersistentGateway, config.gateway);
 }
 
 } // namespace GigEBootstrap

@@ -26,26 +26,26 @@ namespace GigEBootstrap {
 
 // clang-format off
 /// Addresses, in bytes. Addresses of the network have their first octet in the most significant byte.
-enum Register : std::uint32_t {
-    Version                  = 0x0000, ///< major version in the upper half, minor in the lower
-    DeviceMacHigh            = 0x0008, ///< octets 1 and 2, in the lower half
-    DeviceMacLow             = 0x000C, ///< octets 3 to 6
-    SupportedIPConfig        = 0x0010, ///< IPMode bits that the device supports
-    CurrentIPConfig          = 0x0014, ///< IPMode bits that are enabled
-    CurrentIPAddress         = 0x0024,
-    CurrentSubnetMask        = 0x0034,
-    CurrentDefaultGateway    = 0x0044,
-    ModelName                = 0x0068,
-    UserDefinedName          = 0x00E8,
-    FirstUrl                 = 0x0200,
-    SecondUrl                = 0x0400,
-    PersistentIPAddress      = 0x064C,
-    PersistentSubnetMask     = 0x065C,
-    PersistentDefaultGateway = 0x066C,
-    GvcpCapability           = 0x0934,
-    GvcpConfiguration        = 0x0954, ///< absent on some devices, where reading it fails
-    PacketSize               = 0x0D04, ///< stream channel 0
-    PacketDelay              = 0x0D08, ///< stream channel 0
+enum Address : std::uint32_t {
+    Version           = 0x0000, ///< major version in the upper half, minor in the lower
+    DeviceMacHigh     = 0x0008, ///< octets 1 and 2, in the lower half
+    DeviceMacLow      = 0x000C, ///< octets 3 to 6
+    SupportedIPConfig = 0x0010, ///< IPMode bits that the device supports
+    CurrentIPConfig   = 0x0014, ///< IPMode bits that are enabled
+    CurrentAddress    = 0x0024,
+    CurrentMask       = 0x0034,
+    CurrentGateway    = 0x0044,
+    ModelName         = 0x0068,
+    UserDefinedName   = 0x00E8,
+    FirstUrl          = 0x0200,
+    SecondUrl         = 0x0400,
+    PersistentAddress = 0x064C,
+    PersistentMask    = 0x065C,
+    PersistentGateway = 0x066C,
+    GvcpCapability    = 0x0934,
+    GvcpConfiguration = 0x0954, ///< absent on some devices, where reading it fails
+    PacketSize        = 0x0D04, ///< stream channel 0
+    PacketDelay       = 0x0D08, ///< stream channel 0
 };
 
 /// Lengths of the texts, in bytes.

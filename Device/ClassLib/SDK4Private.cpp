@@ -26,9 +26,9 @@ CBootstrap::CBootstrap(IControlPort* controlPort) : port(controlPort) {
     SDK4_LOG(Info, "CurrentSubNetMask   : " << mask);
     SDK4_LOG(Info, "CurrentGateway      : " << gateway);
 
-    const KIPAddress persistentAddress(port->ReadRegister(bootstrap::PersistentIPAddress));
-    const KIPAddress persistentMask(port->ReadRegister(bootstrap::PersistentSubnetMask));
-    const KIPAddress persistentGateway(port->ReadRegister(bootstrap::PersistentDefaultGateway));
+    const KIPAddress persistentAddress(port->ReadRegister(bootstrap::PersistentAddress));
+    const KIPAddress persistentMask(port->ReadRegister(bootstrap::PersistentMask));
+    const KIPAddress persistentGateway(port->ReadRegister(bootstrap::PersistentGateway));
     SDK4_LOG(Info, "PersistentIPAddress : " << std::string(persistentAddress));
     SDK4_LOG(Info, "PersistentSubNetMask: " << std::string(persistentMask));
     SDK4_LOG(Info, "PersistentGateway   : " << std::string(persistentGateway));
@@ -68,7 +68,7 @@ const char* CBootstrap::GetMacAddress() {
 }
 
 const char* CBootstrap::GetCurrentIPAddress() {
-    const uint32_t address = port->ReadRegister(bootstrap::CurrentIPAddress);
+    const uint32_t address = port->ReadRegister(bootstrap::CurrentAddress);
     SDK4_LOG(Info, "IPAddress    : " << std::hex << address);
     CurrentIPAddress = KIPAddress(address);
     SDK4_LOG(Info, "IPAddress    : " << CurrentIPAddress);
@@ -76,12 +76,12 @@ const char* CBootstrap::GetCurrentIPAddress() {
 }
 
 const char* CBootstrap::GetCurrentSubnetmask() {
-    CurrentSubnetmask = KIPAddress(port->ReadRegister(bootstrap::CurrentSubnetMask));
+    CurrentSubnetmask = KIPAddress(port->ReadRegister(bootstrap::CurrentMask));
     return CurrentSubnetmask.c_str();
 }
 
 const char* CBootstrap::GetCurrentDefaultGateway() {
-    CurrentDefaultGateway = KIPAddress(port->ReadRegister(bootstrap::CurrentDefaultGateway));
+    CurrentDefaultGateway = KIPAddress(port->ReadRegister(bootstrap::CurrentGateway));
     return CurrentDefaultGateway.c_str();
 }
 

@@ -30,12 +30,12 @@ KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
 void KGigECamera::LogNetworkState() {
     LogWord("SupportedIPConfig   : 0x", SupportedIPConfig);
     LogWord("CurrentIPConfig     : 0x", CurrentIPConfig);
-    LogAddress("CurrentIPAddress    : ", CurrentIPAddress);
-    LogAddress("CurrentSubNetMask   : ", CurrentSubnetMask);
-    LogAddress("CurrentGateway      : ", CurrentDefaultGateway);
-    LogAddress("PersistentIPAddress : ", PersistentIPAddress);
-    LogAddress("PersistentSubNetMask: ", PersistentSubnetMask);
-    LogAddress("PersistentGateway   : ", PersistentDefaultGateway);
+    LogAddress("CurrentIPAddress    : ", CurrentAddress);
+    LogAddress("CurrentSubNetMask   : ", CurrentMask);
+    LogAddress("CurrentGateway      : ", CurrentGateway);
+    LogAddress("PersistentIPAddress : ", PersistentAddress);
+    LogAddress("PersistentSubNetMask: ", PersistentMask);
+    LogAddress("PersistentGateway   : ", PersistentGateway);
     LogWord("GVCP Capability     : 0x", GvcpCapability);
     try {
         LogWord("GVCP Configuration  : 0x", GvcpConfiguration);
@@ -44,12 +44,12 @@ void KGigECamera::LogNetworkState() {
     }
 }
 
-void KGigECamera::LogWord(const char* label, Register address) {
+void KGigECamera::LogWord(const char* label, Address address) {
     const std::uint32_t word = port->ReadRegister(address);
     SDK4_LOG(Debug, label << std::hex << word);
 }
 
-void KGigECamera::LogAddress(const char* label, Register address) {
+void KGigECamera::LogAddress(const char* label, Address address) {
     const KIPAddress word(port->ReadRegister(address));
     SDK4_LOG(Debug, label << std::string(word));
 }
@@ -78,21 +78,21 @@ const char* KGigECamera::GetMacAddress() {
 const char* KGigECamera::GetCurrentIPAddress() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(port->ReadRegister(CurrentIPAddress));
+    text = KIPAddress(port->ReadRegister(CurrentAddress));
     return text.c_str();
 }
 
 const char* KGigECamera::GetCurrentSubnetmask() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(port->ReadRegister(CurrentSubnetMask));
+    text = KIPAddress(port->ReadRegister(CurrentMask));
     return text.c_str();
 }
 
 const char* KGigECamera::GetCurrentDefaultGateway() {
     SDK4_LOG_CALL();
     static std::string text;
-    text = KIPAddress(port->ReadRegister(CurrentDefaultGateway));
+    text = KIPAddress(port->ReadRegister(CurrentGateway));
     return text.c_str();
 }
 

@@ -36,8 +36,8 @@ public:
 
 private:
     void LogNetworkState();
-    void LogWord(const char* label, GigEBootstrap::Register address);
-    void LogAddress(const char* label, GigEBootstrap::Register address);
+    void LogWord(const char* label, GigEBootstrap::Address address);
+    void LogAddress(const char* label, GigEBootstrap::Address address);
 
     IControlPort* port;
 };

@@ -21,7 +21,7 @@ bool HasModelBit(const CFeatureList& features, std::uint32_t bit) {
     return (features.GetValue<unsigned int>(Name::FunctionModelId) & bit) != 0;
 }
 
-int ExposureMode(const CFeatureList& features) { return features.GetValue<int>(Name::ExposureMode); }
+int ReadExposureMode(const CFeatureList& features) { return features.GetValue<int>(Name::ExposureMode); }
 
 } // namespace
 
@@ -45,14 +45,16 @@ bool CIsMemoryCamera::GetValue() { return HasModelBit(*features, MemoryBit); }
 bool CIsHistogramCamera::GetValue() { return HasModelBit(*features, HistogramBit); }
 bool CIsMonoCamera::GetValue() { return !HasModelBit(*features, ColorBit); }
 
-bool CIsNotExposuremodeFrameOndemand::GetValue() { return ExposureMode(*features) != SDK4_EXPOSUREMODE_FRAMEONDEMAND; }
+bool CIsNotExposuremodeFrameOndemand::GetValue() {
+    return ReadExposureMode(*features) != SDK4_EXPOSUREMODE_FRAMEONDEMAND;
+}
 
 bool CIsExposureModeFreeRunning::GetValue() {
-    const int mode = ExposureMode(*features);
+    const int mode = ReadExposureMode(*features);
     return mode == SDK4_EXPOSUREMODE_FREERUNNING || mode == SDK4_EXPOSUREMODE_FREERUNNING2;
 }
 
-bool CIsExposureModeResetRestart::GetValue() { return ExposureMode(*features) == SDK4_EXPOSUREMODE_RESETRESTART; }
+bool CIsExposureModeResetRestart::GetValue() { return ReadExposureMode(*features) == SDK4_EXPOSUREMODE_RESETRESTART; }
 
 void AddPredicates(CFeatureList* features, const KStreamControl* stream) {
     // clang-format off
