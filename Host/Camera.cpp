@@ -145,6 +145,7 @@ Reading Camera::Try(const Instance& instance, bool andItsLock) const {
     });
     reading.error = failure.code;
     reading.errorText = failure.reason;
+    reading.noSuchAddress = failure.noSuchAddress;
     return reading;
 }
 

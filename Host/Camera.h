@@ -16,8 +16,9 @@ struct Reading {
     std::int32_t error = 0; ///< of the getter: SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED, ...; of what it throws that
                             ///< has no code, SDK4_ERR_ERROR
     std::string errorText;  ///< the name of the code, or what the port said
-    std::string lockedBy;   ///< "agc=1" while that keeps it from being set, else empty
-    bool moved = false;     ///< and the camera moves it by itself
+    bool noSuchAddress = false; ///< the camera lacks its register: it is of another firmware
+    std::string lockedBy;       ///< "agc=1" while that keeps it from being set, else empty
+    bool moved = false;         ///< and the camera moves it by itself
 };
 
 /// An opened control, seen through the table of its family.

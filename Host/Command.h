@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Errors.h"
 #include "Program.h"
 
 #include <map>
@@ -52,13 +53,15 @@ struct Command {
     const char* about;
     std::vector<Parameter> parameters;
     int (*run)(const Invocation& invocation);
-    bool inShell = true; ///< whether a shell has it too
+    bool inShell = true;  ///< whether a shell has it too
+    int failed = Refused; ///< the exit code where the camera is lost, something refuses, or results cannot be written
 };
 
 /// All commands, in the order of the help: the one place where a command is registered.
 [[nodiscard]] const std::vector<Command>& Commands();
 
-/// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
+/// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE". Control characters, which texts of cameras and
+/// files may hold, are printed as escapes.
 void Complain(const std::string& text);
 
 } // namespace Host

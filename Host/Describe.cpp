@@ -1,8 +1,10 @@
 #include "Describe.h"
 
 #include "Guarded.h"
+#include "Utf8.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace Host {
 
@@ -15,6 +17,33 @@ Json ToJson(const Instance& instance, std::int64_t number) {
         }
     }
     return number;
+}
+
+constexpr const char* hexMember = "hex"; ///< of the object that stands for a text that JSON cannot hold
+
+std::string Hexadecimal(const std::string& bytes) {
+    constexpr const char* digits = "0123456789abcdef";
+    std::string text;
+    for (const char character : bytes) {
+        const auto byte = static_cast<unsigned char>(character);
+        text += {digits[byte >> 4U], digits[byte & 0xFU]};
+    }
+    return text;
+}
+
+/// @return nothing for what is no hexadecimal, or holds a NUL, behind which a camera would read no further
+std::optional<std::string> BytesOf(const std::string& hexadecimal) {
+    std::string bytes;
+    for (std::size_t i = 0; i < hexadecimal.size(); i += 2) {
+        unsigned int byte = 0;
+        const char* const first = hexadecimal.data() + i;
+        const char* const last = first + 2;
+        if (i + 1 == hexadecimal.size() || std::from_chars(first, last, byte, 16).ptr != last || byte == 0) {
+            return std::nullopt;
+        }
+        bytes += static_cast<char>(byte);
+    }
+    return bytes;
 }
 
 bool IsRecord(const Instance& instance) { return instance->shape.fields.size() > 1; }
@@ -43,7 +72,7 @@ std::string PrintWithUnit(const Instance& instance, const Value& value) {
 
 Json ToJson(const Instance& instance, const Value& value) {
     if (instance->shape.fields.empty()) {
-        return value.text;
+        return IsUtf8(value.text) ? Json(value.text) : Json{{hexMember, Hexadecimal(value.text)}};
     }
     if (!IsRecord(instance)) {
         return ToJson(instance, value.numbers.at(0));
@@ -62,6 +91,10 @@ std::optional<Value> FromJson(const Instance& instance, const Json& json) {
         }
         return element.Text() == nullptr ? std::nullopt : std::optional(*element.Text());
     };
+    if (const auto* const hexadecimal = json[hexMember].Text(); hexadecimal && instance->shape.fields.empty()) {
+        const auto bytes = BytesOf(*hexadecimal);
+        return bytes ? std::optional(Value{{}, *bytes}) : std::nullopt;
+    }
     if (!IsRecord(instance)) {
         const auto text = textOf(json);
         return text ? instance.Parse(*text) : std::nullopt;

@@ -10,7 +10,7 @@
 
 namespace Host {
 
-int Guarded(const std::function<int()>& action) {
+int Guarded(const std::function<int()>& action, int failed) {
     try {
         return action();
     } catch (const UsageError& error) {
@@ -21,18 +21,18 @@ int Guarded(const std::function<int()>& action) {
         return NotOpened;
     } catch (const SDK4::X4Error& error) {
         Complain(std::string(SDK4::ErrorName(error.code)) + " (" + std::to_string(error.code) + ")");
-        return Refused;
+        return failed;
     } catch (const ControlHeld& error) {
         Complain(error.Describe());
         return NotOpened;
     } catch (const Ending&) {
-        return Refused;
+        return failed;
     } catch (const ChannelError& error) {
         Complain(error.Describe());
-        return Refused;
+        return failed;
     } catch (const std::exception& error) { // of a simulated camera, for one
         Complain(error.what());
-        return Refused;
+        return failed;
     }
 }
 
@@ -44,6 +44,8 @@ Failure Attempt(const std::function<void()>& calls) {
         return {error.code, SDK4::ErrorName(error.code)};
     } catch (const ChannelLost&) {
         throw;
+    } catch (const NoSuchAddress& error) {
+        return {SDK4_ERR_ERROR, error.what(), true};
     } catch (const ControlHeld&) { // who has it is told once, at the end of the command
         return {SDK4_ERR_ERROR, needsControl};
     } catch (const std::exception& error) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Errors.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -7,16 +9,18 @@
 namespace Host {
 
 /// Runs an action and reports what it throws.
+/// @param failed the ExitCode that belongs to what is neither wrong usage nor a camera that could not be opened
 /// @return what the action returns, or the ExitCode that belongs to what it throws
-int Guarded(const std::function<int()>& action);
+int Guarded(const std::function<int()>& action, int failed = Refused);
 
 /// The reason why a call of the plug-in failed that writes, if only an index, while another program has control.
 constexpr const char* needsControl = "needs control";
 
 /// How a call of the plug-in was refused.
 struct Failure {
-    std::int32_t code = 0; ///< 0: it was not; SDK4_ERR_ERROR for what the port said, which has no code
-    std::string reason;    ///< the name of the code, or what the port said
+    std::int32_t code = 0;      ///< 0: it was not; SDK4_ERR_ERROR for what the port said, which has no code
+    std::string reason;         ///< the name of the code, or what the port said
+    bool noSuchAddress = false; ///< the camera has no such register
 };
 
 /// Runs calls of the plug-in.

@@ -1,15 +1,14 @@
 #include "Interrupts.h"
 
-#include <csignal>
 #include <ctime>
 
 namespace Host {
 
 namespace {
 
-constexpr int watched[] = {SIGINT, SIGTERM};
+constexpr int watched[] = {SIGINT, SIGTERM, SIGHUP};
 
-volatile std::sig_atomic_t came = 0;
+volatile std::sig_atomic_t came = 0; ///< the last signal that came
 int alive = 0;
 struct sigaction before[std::size(watched)];
 
@@ -21,10 +20,14 @@ Interrupts::Interrupts() {
     }
     came = 0;
     struct sigaction action {};
-    action.sa_handler = [](int) { came = 1; };
+    action.sa_handler = [](int which) { came = which; };
     action.sa_flags = SA_RESTART; // a line that is being printed is printed
     for (std::size_t i = 0; i < std::size(watched); ++i) {
-        sigaction(watched[i], &action, &before[i]);
+        sigaction(watched[i], nullptr, &before[i]);
+        const bool nohup = watched[i] == SIGHUP && before[i].sa_handler == SIG_IGN;
+        if (!nohup) { // else what runs is to outlive its terminal
+            sigaction(watched[i], &action, nullptr);
+        }
     }
 }
 
@@ -39,11 +42,21 @@ Interrupts::~Interrupts() {
 
 bool Interrupts::Came() { return came != 0; }
 
+bool Interrupts::CameToEnd() { return Came() && came != SIGINT; }
+
 void Interrupts::Sleep(std::chrono::milliseconds time) {
     if (!Came()) {
         const timespec pause{time.count() / 1000, time.count() % 1000 * 1000000};
         nanosleep(&pause, nullptr);
     }
 }
+
+IgnoredPipeSignal::IgnoredPipeSignal() {
+    struct sigaction action {};
+    action.sa_handler = SIG_IGN;
+    sigaction(SIGPIPE, &action, &before);
+}
+
+IgnoredPipeSignal::~IgnoredPipeSignal() { sigaction(SIGPIPE, &before, nullptr); }
 
 } // namespace Host

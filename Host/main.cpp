@@ -8,26 +8,31 @@ namespace Host {
 
 namespace {
 
-int Run(std::vector<std::string> arguments) {
-    const Request request = ParseCommandLine(std::move(arguments));
-    if (request.command == nullptr) {
-        return AllWell;
-    }
-    ConfigureLogging(request.options.logLevel, request.options.logConfig);
-    Program program(request.options);
-    const int code = Guarded([&] { return request.command->run(Invocation(program, request.given)); });
-    program.TellWhoControls();
-    program.Finish();
-    return code;
-}
-
 /// What nobody gets to see is no success: a disk is full, for one.
-int AsSeen(int code) {
+int AsSeen(int code, int failed) {
     if (std::cout.flush()) {
         return code;
     }
     Complain("the results could not be written");
-    return code == AllWell ? Refused : code;
+    return code == AllWell || code == Differs ? failed : code;
+}
+
+int Run(std::vector<std::string> arguments) {
+    const Request request = ParseCommandLine(std::move(arguments));
+    if (request.command == nullptr) {
+        return AsSeen(AllWell, Refused);
+    }
+    ConfigureLogging(request.options.logLevel, request.options.logConfig);
+    const int failed = request.command->failed;
+    Program program(request.options);
+    const int code = Guarded([&] { return request.command->run(Invocation(program, request.given)); }, failed);
+    program.TellWhoControls();
+    const auto finish = [&]() -> int {
+        program.Finish();
+        return AllWell;
+    };
+    const int end = Guarded(finish, failed);
+    return AsSeen(end == AllWell ? code : end, failed);
 }
 
 } // namespace
@@ -35,5 +40,5 @@ int AsSeen(int code) {
 } // namespace Host
 
 int main(int argc, char** argv) {
-    return Host::AsSeen(Host::Guarded([&] { return Host::Run({argv + 1, argv + argc}); }));
+    return Host::Guarded([&] { return Host::Run({argv + 1, argv + argc}); });
 }

@@ -33,6 +33,12 @@ private:
     std::string consequence;
 };
 
+/// The camera has no such address: it is of another firmware, or not of the model that it is taken for.
+class NoSuchAddress final : public ChannelError {
+public:
+    using ChannelError::ChannelError;
+};
+
 /// A write without control, which another program has.
 class ControlHeld final : public ChannelError {
 public:

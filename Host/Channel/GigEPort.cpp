@@ -168,6 +168,9 @@ void GigEPort::Fail(const Operation& operation, const GError& error) {
     if (operation.writes && Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED) && IsLost()) {
         FailAsLost(operation);
     }
+    if (Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS)) {
+        throw NoSuchAddress(operation.name, operation.address, Reason(error));
+    }
     throw ChannelError(operation.name, operation.address, Reason(error));
 }
 

@@ -7,7 +7,7 @@ const std::vector<Command>& Commands() {
     static const Parameter names{"NAME...",
                                  "Functions, as list names them; without its number an indexed one is meant whole"};
     static const Parameter all{"--all", "Also list one by one what there are many of"};
-    static const Parameter file{"FILE", "A file with settings"};
+    static const Parameter file{"FILE", "A file with settings; - is standard output or input"};
     static const Parameter outputs{"--outputs",
                                    "Also I/O lines, motors and lenses, which move what is wired to the camera"};
     static const Parameter dryRun{"--dry-run", "Say what would be set, and set nothing"};
@@ -21,8 +21,8 @@ const std::vector<Command>& Commands() {
         {"get",    "Print what functions hold",                           {model, names}, Get},
         {"set",    "Set functions, such as gain=100 exposure=1:2000",     {model, {"NAME=VALUE...", "What to set, in this order"}}, Set},
         {"save",   "Save the settings of a camera as JSON",               {model, file},  Save},
-        {"diff",   "Compare saved settings with others; exit code 1 if they differ",
-                   {{"A", "A file with settings"}, {"[B]", "Another one"}, {"--live MODEL", "Instead of another one, a camera; with --camera also without this"}}, Diff},
+        {"diff",   "Compare saved settings with others; exit code 1 if they differ, 2 if that cannot be told",
+                   {{"A", "A file with settings; - is standard input"}, {"[B]", "Another one"}, {"--live MODEL", "Instead of another one, a camera; with --camera also without this"}}, Diff, true, NotCompared},
         {"restore", "Set a camera to saved settings",                     {model, file, outputs, dryRun}, RunRestore},
         {"watch",  "Show what changes, until interrupted",
                    {model, {"[NAME=VALUE...]", "What to set when it has begun"}, {"--seconds N", "Ends after that time"}}, Watch},

@@ -3,6 +3,7 @@
 #include "Describe.h"
 #include "Format.h"
 #include "Settings/LiveSettings.h"
+#include "Settings/SettingsFile.h"
 
 #include <iostream>
 #include <vector>
@@ -20,16 +21,19 @@ void RequireOneOther(const Invocation& invocation) {
         throw UsageError(std::string("a second file or ") + (live ? "--live" : "--camera") + ", not both");
     }
     if (!invocation.Has("[B]") && !live && !onNetwork && !program.IsOpen()) { // a shell has its camera open
-        throw UsageError("a second file is wanted, or --live MODEL");
+        throw UsageError("a second file is required, or --live MODEL");
+    }
+    if (invocation.Text("A") == standardStream && invocation.Text("[B]") == standardStream) {
+        throw UsageError("standard input can be read once; give a file for one of the two");
     }
 }
 
 /// What is compared with the first file.
-LiveSettings SecondSettings(const Invocation& invocation) {
+Settings SecondSettings(const Invocation& invocation) {
     if (invocation.Has("[B]")) {
-        return {ReadSettings(invocation.Text("[B]")), {}};
+        return ReadSettings(invocation.Text("[B]"), invocation.Program().IsOpen());
     }
-    return TakeLiveSettings(invocation.Program().Open(invocation.Text("--live MODEL")));
+    return TakeReadableSettings(invocation.Program().Open(invocation.Text("--live MODEL")));
 }
 
 std::string PrintOne(const Instance& instance, const Value* value) {
@@ -49,19 +53,28 @@ Json ToJson(const Difference& difference) {
         {"name", difference.instance.Name()}, {"first", json(difference.first)}, {"second", json(difference.second)}};
 }
 
+/// Tells what is missing in a file and thus not compared.
+/// @return whether everything could be compared
+bool TellNotCompared(const Settings& settings, const Settings& other, const std::string& file) {
+    const auto missing = LeftUncompared(settings, other);
+    if (!missing.empty() && !file.empty()) { // of a camera it was told when it was read
+        Complain(Quoted(file) + " does not hold these, which are not compared: " + NamesOf(missing));
+    }
+    return missing.empty();
+}
+
 } // namespace
 
 int Diff(const Invocation& invocation) {
     RequireOneOther(invocation);
-    const Settings first = ReadSettings(invocation.Text("A"));
-    const LiveSettings live = SecondSettings(invocation);
-    const Settings& second = live.settings;
+    const Program& program = invocation.Program();
+    const Settings first = ReadSettings(invocation.Text("A"), program.IsOpen());
+    const Settings second = SecondSettings(invocation);
     if (first.model != second.model) {
         throw UsageError("settings of different models: " + first.model + " and " + second.model);
     }
-    auto differences = Compare(first, second);
-    std::erase_if(differences, [&](const Difference& each) { return live.Misses(each.instance); });
-    const bool json = invocation.Program().Json();
+    const auto differences = Compare(first, second);
+    const bool json = program.Json();
     Json document(Json::List{});
     for (const Difference& difference : differences) {
         json ? document.Add(ToJson(difference)) : Print(difference);
@@ -69,7 +82,12 @@ int Diff(const Invocation& invocation) {
     if (json) {
         std::cout << document.Print() << '\n';
     }
-    return differences.empty() && live.missing.empty() ? AllWell : Refused;
+    const bool firstIsWhole = TellNotCompared(first, second, invocation.Text("A"));
+    const bool secondIsWhole = TellNotCompared(second, first, invocation.Text("[B]"));
+    if (!firstIsWhole || !secondIsWhole) {
+        return NotCompared;
+    }
+    return differences.empty() ? AllWell : Differs;
 }
 
 } // namespace Host

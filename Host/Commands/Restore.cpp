@@ -3,8 +3,10 @@
 #include "Channel/ChannelErrors.h"
 #include "Describe.h"
 #include "Format.h"
+#include "Interrupts.h"
 #include "Settings/ReadThrough.h"
 #include "Settings/Restorer.h"
+#include "Settings/SettingsFile.h"
 #include "Style.h"
 
 #include <algorithm>
@@ -13,15 +15,6 @@
 namespace Host {
 
 namespace {
-
-std::vector<Restored> RestoreAll(const Restorer& restorer, const Settings& saved) {
-    try {
-        return restorer.Restore(saved);
-    } catch (ChannelLost& error) {
-        error.SetConsequence("the settings may be restored in part");
-        throw;
-    }
-}
 
 /// "7 -> 100", and whatever is not as wanted.
 std::string Describe(const Restored& result) {
@@ -34,6 +27,12 @@ std::string Describe(const Restored& result) {
         return instance.Print(result.saved);
     case Fate::Skipped:
         return result.reason;
+    case Fate::PutBack:
+        return instance.Print(*result.held) + ", as it was before";
+    case Fate::LeftOff:
+        return result.reason + (result.reason.empty() ? "" : "; ") + "it was " + instance.Print(*result.before) +
+               (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
+    case Fate::Pending:
     case Fate::Rounded:
     case Fate::Clamped:
     case Fate::Refused:
@@ -52,20 +51,23 @@ void Print(const Restored& result) {
               << (IsFailure(result.fate) ? Red(fate)
                   : left                 ? Dim(fate)
                                          : Green(fate))
-              << "  " << Describe(result) << '\n';
+              << "  " << Describe(result) << std::endl; // whoever reads it waits for it
 }
 
-/// One line per function; all that is skipped of one has one.
-void Print(const std::vector<Restored>& results) {
-    for (std::size_t i = 0; i < results.size(); ++i) {
-        const Instance& instance = results[i].instance;
-        const bool sameAsBefore = i != 0 && results[i].fate == Fate::Skipped && results[i - 1].fate == Fate::Skipped &&
-                                  results[i - 1].instance.function == instance.function;
-        if (!sameAsBefore) {
-            Print(results[i]);
+/// Prints one line per function as its result arrives; all that is skipped of one has one.
+class Printer {
+public:
+    void operator()(const Restored& result) {
+        const Function* const skipped = result.fate == Fate::Skipped ? result.instance.function : nullptr;
+        if (skipped == nullptr || skipped != lastSkipped) {
+            Print(result);
         }
+        lastSkipped = skipped;
     }
-}
+
+private:
+    const Function* lastSkipped = nullptr;
+};
 
 Json ToJson(const Restored& result) {
     const auto json = [&](const std::optional<Value>& value) {
@@ -79,38 +81,107 @@ Json ToJson(const Restored& result) {
                 {"reason", result.reason.empty() ? Json() : Json(result.reason)}};
 }
 
-} // namespace
-
-int RunRestore(const Invocation& invocation) {
-    const std::string file = invocation.Text("FILE");
-    const Settings saved = ReadSettings(file);
-    Session& session = invocation.Open();
-    if (saved.model != session.Model()) {
-        throw UsageError("\"" + file + "\" holds settings of model " + saved.model + ", this is " + session.Model());
-    }
-    if (!invocation.Has("--dry-run")) {
-        session.Connection().RequireControl();
-    }
-    const Camera camera = session.Functions();
-    const ReadThrough reader(session);
-    const Restorer restorer(camera, reader.Camera(), WaitFor(session), invocation.Has("--outputs"));
-    const auto results = invocation.Has("--dry-run") ? restorer.Plan(saved) : RestoreAll(restorer, saved);
-
-    if (invocation.Program().Json()) {
-        Json document(Json::List{});
-        for (const Restored& result : results) {
+void PrintAsJson(const std::vector<Restored>& results) {
+    Json document(Json::List{});
+    for (const Restored& result : results) {
+        if (result.fate != Fate::Pending) {
             document.Add(ToJson(result));
         }
-        std::cout << document.Print() << '\n';
-    } else {
-        Print(results);
     }
+    std::cout << document.Print() << '\n';
+}
+
+/// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes put back: agc", of a restore that did not
+/// come to its end.
+std::string DescribeProgress(const Restorer& restorer) {
+    std::size_t restored = 0;
+    std::size_t skipped = 0;
+    std::size_t refused = 0;
+    std::vector<Instance> putBack;
+    const auto& results = restorer.Results();
+    for (const Restored& result : results) {
+        const Fate fate = result.fate;
+        restored += fate == Fate::Done || fate == Fate::Unchanged || fate == Fate::Rounded ? 1 : 0;
+        skipped += fate == Fate::Skipped ? 1 : 0;
+        refused += fate == Fate::Clamped || fate == Fate::Refused ? 1 : 0;
+        if (fate == Fate::PutBack) {
+            putBack.push_back(result.instance);
+        }
+    }
+    std::string text = std::to_string(restored) + " of " + std::to_string(results.size()) + " functions restored";
+    const auto add = [&](std::size_t count, const char* what) {
+        text += count == 0 ? "" : ", " + std::to_string(count) + what;
+    };
+    add(skipped, " skipped");
+    add(refused, " refused");
+    add(results.size() - restored - skipped - refused, " not reached");
+    const auto leftOff = restorer.ModesLeftOff();
+    text += putBack.empty() ? "" : "; automatic modes put back: " + NamesOf(putBack);
+    text += leftOff.empty() ? "" : "; automatic modes left off: " + NamesOf(leftOff);
+    return text;
+}
+
+/// Carries out a restore, or finds out what it would do, and prints the results; also those of one that fails.
+void RunAndPrint(Restorer& restorer, bool dryRun, bool json) {
+    try {
+        dryRun ? restorer.Plan() : restorer.Restore();
+    } catch (ChannelLost& error) {
+        if (json) {
+            PrintAsJson(restorer.Results());
+        }
+        if (!dryRun) {
+            error.SetConsequence(DescribeProgress(restorer));
+        }
+        throw;
+    }
+    if (json) {
+        PrintAsJson(restorer.Results());
+    }
+}
+
+/// Says on standard error what did not go as asked for. @return the exit code
+int Report(const Restorer& restorer) {
+    if (restorer.IsStopped()) {
+        Complain("interrupted; " + DescribeProgress(restorer));
+        return Refused;
+    }
+    const auto& results = restorer.Results();
     const auto failures =
         std::count_if(results.begin(), results.end(), [](const Restored& result) { return IsFailure(result.fate); });
     if (failures != 0) {
         Complain(std::to_string(failures) + " of " + std::to_string(results.size()) + " functions not restored");
     }
     return failures == 0 ? AllWell : Refused;
+}
+
+} // namespace
+
+int RunRestore(const Invocation& invocation) {
+    const std::string file = invocation.Text("FILE");
+    const bool dryRun = invocation.Has("--dry-run");
+    const bool json = invocation.Program().Json();
+    const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
+    Session& session = invocation.Open();
+    if (saved.model != session.Model()) {
+        throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());
+    }
+    Restorer::Options options{.outputs = invocation.Has("--outputs")};
+    if (!json) {
+        options.settled = Printer();
+    }
+    std::optional<Interrupts> interrupts;
+    std::optional<IgnoredPipeSignal> pipes;
+    if (!dryRun) {
+        session.Connection().RequireControl();
+        interrupts.emplace();
+        pipes.emplace();
+        options.isToStop = Interrupts::Came;
+    }
+    const Camera camera = session.Functions();
+    const ReadThrough reader(session);
+    Restorer restorer(saved, camera, reader.Camera(), WaitFor(session), options);
+    RunAndPrint(restorer, dryRun, json);
+    return Report(restorer);
 }
 
 } // namespace Host

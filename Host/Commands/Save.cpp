@@ -2,22 +2,41 @@
 
 #include "Json.h"
 #include "Settings/LiveSettings.h"
+#include "Settings/SettingsFile.h"
 
 #include <iostream>
 
 namespace Host {
 
+namespace {
+
+Json Names(const std::vector<Instance>& instances) {
+    Json names(Json::List{});
+    for (const Instance& instance : instances) {
+        names.Add(instance.Name());
+    }
+    return names;
+}
+
+} // namespace
+
 int Save(const Invocation& invocation) {
     const std::string file = invocation.Text("FILE");
-    const auto [settings, missing] = TakeLiveSettings(invocation.Open());
+    const Settings settings = TakeAllSettings(invocation.Open());
     WriteSettings(settings, file);
+    if (!std::cout) {
+        return Refused; // told once, at the end
+    }
+    const bool toStandardOutput = file == standardStream;
+    std::ostream& stream = toStandardOutput ? std::cerr : std::cout;
     const auto count = static_cast<std::int64_t>(settings.values.size());
     if (invocation.Program().Json()) {
-        std::cout << Json{{"file", file}, {"functions", count}}.Print() << '\n';
+        stream << Json{{"file", file}, {"functions", count}, {"missing", Names(settings.missing)}}.Print() << '\n';
     } else {
-        std::cout << count << " functions of " << settings.model << " saved to " << file << '\n';
+        stream << count << " functions of " << settings.model << " saved to "
+               << (toStandardOutput ? "standard output" : file) << '\n';
     }
-    return missing.empty() ? AllWell : Refused;
+    return AllWell;
 }
 
 } // namespace Host

@@ -70,10 +70,14 @@ public:
         }
         const ReadThrough setter(session);
         const ReadThrough reader(session);
-        const Restorer restorer(setter.Camera(), reader.Camera(), WaitFor(session), outputs);
-        static_cast<void>(restorer.Restore(before));
+        Restorer restorer(before, setter.Camera(), reader.Camera(), WaitFor(session), {.outputs = outputs});
+        restorer.Restore();
         now = Take();
-        return Compare(before, now);
+        auto left = Compare(before, now);
+        for (const Instance& instance : LeftUncompared(now, before)) {
+            left.push_back({instance, before.Find(instance), nullptr});
+        }
+        return left;
     }
 
 private:
@@ -181,6 +185,7 @@ int RunSelftest(const Invocation& invocation) {
     session.Connection().RequireControl();
     const bool outputs = invocation.Has("--outputs");
     const Interrupts interrupts;
+    const IgnoredPipeSignal pipes;
     Preserved preserved(session, outputs);
     std::vector<Tested> results;
     std::vector<Difference> left;

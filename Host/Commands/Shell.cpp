@@ -106,7 +106,8 @@ int RunLine(Program& program, std::vector<std::string> words, bool json) {
         return AllWell;
     }
     program.SetJson(json || request.options.json);
-    const int code = request.command->run(Invocation(program, request.given));
+    const int code =
+        Guarded([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
     program.TellWhoControls();
     return code;
 }
@@ -130,7 +131,7 @@ int Shell(const Invocation& invocation) {
             return leaves ? int{AllWell} : RunLine(program, words, json);
         });
         firstFailure = firstFailure == AllWell ? code : firstFailure;
-        if (leaves || (Interrupts::Came() && !lines.IsTerminal())) {
+        if (leaves || Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal())) {
             break;
         }
     }

@@ -1,6 +1,7 @@
 #include "Codes.h"
 #include "Names.h"
 #include "Tables.h"
+#include "Utf8.h"
 
 #include <SDK4/SDK4.h>
 
@@ -27,6 +28,11 @@ SDK4_ENUM_SWITCH GetDHCP(IGigECamera& camera) {
 }
 void SetDHCP(IGigECamera& camera, SDK4_ENUM_SWITCH on) {
     on == SDK4_SWITCH_OFF ? camera.DisableDHCP() : camera.EnableDHCP();
+}
+
+constexpr std::size_t userNameLength = 15; ///< which the camera holds, before the NUL
+void SetUserName(IGigECamera& camera, const char* name) {
+    camera.SetUserDefinedName(CutAtCharacter(name, userNameLength).c_str()); // else the library cuts it at any byte
 }
 
 int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the one sensor of either family
@@ -60,7 +66,7 @@ void AddNetwork(FunctionTable& table) {
     table.ReadOnly<&I::GetGigEVersion>                        ("gigeversion") .Hexadecimal();
     table.ReadOnly<&I::GetFirstUrl>                           ("firsturl");
     table.ReadOnly<&I::GetSecondUrl>                          ("secondurl");
-    table.Row<&I::GetUserDefinedName, &I::SetUserDefinedName> ("username")                                          .Restored(Network);
+    table.Row<&I::GetUserDefinedName, &SetUserName>           ("username")                                          .Restored(Network);
     table.Row<&GetDHCP, &SetDHCP>                             ("dhcp")        .OneOf(Named::onOff)                  .Restored(Network);
     table.Row<&I::GetPacketSize, &I::SetPacketSize>           ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds().Restored(Network);
     table.Row<&I::GetPacketDelay, &I::SetPacketDelay>         ("packetdelay") .Unit("ticks")                        .Restored(Network);

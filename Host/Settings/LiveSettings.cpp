@@ -1,33 +1,70 @@
 #include "LiveSettings.h"
 
 #include "Command.h"
+#include "Guarded.h"
 #include "ReadThrough.h"
 
-#include <algorithm>
+#include <stdexcept>
 
 namespace Host {
 
-bool LiveSettings::Misses(const Instance& instance) const {
-    return std::any_of(missing.begin(), missing.end(), [&](const Instance& each) { return IsSame(each, instance); });
+namespace {
+
+/// Reads through a control of its own; what was read counts only if it was one camera all the time.
+Settings Take(Session& session, const Unreadable& unreadable) {
+    const ReadThrough reader(session);
+    Settings settings = TakeSettings(reader.Camera(), unreadable);
+    session.Connection().RequireUnbroken();
+    return settings;
 }
 
-LiveSettings TakeLiveSettings(Session& session) {
-    const ReadThrough reader(session);
-    if (session.Connection().HasControl()) {
-        return {TakeSettings(reader.Camera()), {}};
-    }
-    std::vector<Instance> missing;
-    std::string names;
-    Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& /*reading*/) {
-        if (missing.empty() || missing.back().function != instance.function) {
-            names += (names.empty() ? "" : ", ") + std::string(instance->name);
+/// What cannot be read of one camera, by the reason.
+struct Missing {
+    std::vector<Instance> withoutAddress;
+    std::vector<Instance> withoutControl;
+
+    /// @return whether it is for one of these reasons
+    bool Note(const Instance& instance, const Reading& reading) {
+        const bool needs = reading.errorText == needsControl;
+        if (needs || reading.noSuchAddress) {
+            (needs ? withoutControl : withoutAddress).push_back(instance);
         }
-        missing.push_back(instance);
-    });
-    if (!missing.empty()) {
-        Complain(session.Connection().TakeDenial() + "; without control these cannot be read: " + names);
+        return needs || reading.noSuchAddress;
     }
-    return {std::move(settings), std::move(missing)};
+    void Tell(Connection& connection) const {
+        if (!withoutAddress.empty()) {
+            Complain(connection.Describe() +
+                     " has no address for these, which are left out: " + NamesOf(withoutAddress));
+        }
+        if (!withoutControl.empty()) {
+            Complain(connection.TakeDenial() + "; without control these cannot be read: " + NamesOf(withoutControl));
+        }
+    }
+};
+
+} // namespace
+
+Settings TakeAllSettings(Session& session) {
+    session.Connection().RequireControl();
+    Missing missing;
+    Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
+        if (!missing.Note(instance, reading)) {
+            throw std::runtime_error(instance.Name() + ": " + reading.errorText);
+        }
+    });
+    missing.Tell(session.Connection());
+    return settings;
+}
+
+Settings TakeReadableSettings(Session& session) {
+    Missing missing;
+    Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
+        if (!missing.Note(instance, reading)) {
+            Complain(instance.Name() + ": " + reading.errorText);
+        }
+    });
+    missing.Tell(session.Connection());
+    return settings;
 }
 
 } // namespace Host

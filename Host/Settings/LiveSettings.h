@@ -3,20 +3,16 @@
 #include "Session.h"
 #include "Settings.h"
 
-#include <vector>
-
 namespace Host {
 
-/// What an open camera is set to.
-struct LiveSettings {
-    Settings settings;
-    std::vector<Instance> missing; ///< what can be read only with control, which another program has
+/// Reads what an open camera is set to, but for what it has no address for: that is missing then, and told on standard
+/// error.
+/// @throw OpenError while another program has control, without which not everything can be read
+/// @throw std::runtime_error for what cannot be read for another reason; ChannelLost
+[[nodiscard]] Settings TakeAllSettings(Session& session);
 
-    [[nodiscard]] bool Misses(const Instance& instance) const;
-};
-
-/// Reads them from the camera, and tells on standard error what is missing.
-/// @throw std::runtime_error for what cannot be read although there is control
-[[nodiscard]] LiveSettings TakeLiveSettings(Session& session);
+/// Reads what it is set to as far as it can be read, and tells on standard error what cannot, and why.
+/// @throw ChannelLost
+[[nodiscard]] Settings TakeReadableSettings(Session& session);
 
 } // namespace Host

@@ -26,10 +26,16 @@ Fate FateOf(const Restored& result) {
     return result.held != result.before ? Fate::Clamped : Fate::Refused;
 }
 
+bool IsMode(const Instance& instance) { return instance->restore == Restore::Mode; }
+
+bool WasSwitchedOff(const Restored& mode) { return mode.before && *mode.before != off && mode.held == off; }
+
 } // namespace
 
 const char* NameOf(Fate fate) {
     switch (fate) {
+    case Fate::Pending:
+        return "pending";
     case Fate::Done:
         return "ok";
     case Fate::Unchanged:
@@ -44,6 +50,10 @@ const char* NameOf(Fate fate) {
         return "skipped";
     case Fate::Planned:
         return "would set";
+    case Fate::PutBack:
+        return "put back";
+    case Fate::LeftOff:
+        return "left off";
     }
     return "";
 }
@@ -54,7 +64,7 @@ std::string Restorer::WhyNot(const Instance& instance) const {
     case Restore::Mode:
         return "";
     case Restore::Output:
-        return outputs ? "" : "an output; --outputs includes it";
+        return options.outputs ? "" : "an output; --outputs includes it";
     case Restore::Network:
         return "network settings are never restored";
     case Restore::Never:
@@ -100,64 +110,103 @@ Restored Restorer::Set(const Setting& setting) const {
     return result;
 }
 
-void Restorer::SwitchOff(const Settings& settings) const {
+bool Restorer::MustStop() {
+    stopped = stopped || options.isToStop();
+    return stopped;
+}
+
+void Restorer::Settle(Restored& result, Restored now) {
+    now.before = result.before;
+    if (now.fate == Fate::Done && now.before == now.saved) { // another setting moved it meanwhile
+        now.fate = Fate::Unchanged;
+    } else if (now.fate == Fate::Unchanged && now.before && now.before != now.saved) { // or brought it there
+        now.fate = Fate::Done;
+    }
+    const bool told = result.fate == now.fate && result.held == now.held && result.reason == now.reason;
+    result = std::move(now);
+    if (!told) {
+        options.settled(result);
+    }
+}
+
+void Restorer::Look() {
     for (const Setting& setting : settings.values) {
-        if (setting.instance->restore == Restore::Mode) {
+        results.push_back(Compare(setting));
+        results.back().fate = Fate::Pending;
+    }
+}
+
+void Restorer::SwitchOff() {
+    for (Restored& result : results) {
+        if (IsMode(result.instance) && !MustStop()) {
+            result.held = off; // before it is tried: if the camera is lost meanwhile, nobody knows
             // What refuses this is told of where its saved value is set, or where it keeps others from being set.
-            static_cast<void>(Set({setting.instance, off}));
+            result.held = Set({result.instance, off}).held;
         }
     }
 }
 
-bool Restorer::SetValues(const Settings& settings, bool again, std::vector<Restored>& results) const {
+bool Restorer::SetValues(bool again) {
     bool changed = false;
-    for (std::size_t i = 0; i < results.size(); ++i) {
+    for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
         Restored& result = results[i];
-        if (result.instance->restore == Restore::Mode || (again && IsFailure(result.fate))) {
+        if (IsMode(result.instance) || (again && IsFailure(result.fate))) {
             continue;
         }
-        const Restored now = Set(settings.values[i]);
+        Restored now = Set(settings.values[i]);
+        changed |= now.fate == Fate::Done;
         if (!again || now.fate != Fate::Unchanged) {
-            changed |= now.fate == Fate::Done;
-            result = now;
+            Settle(result, std::move(now));
         }
     }
     return changed;
 }
 
-void Restorer::SetModes(const Settings& settings, std::vector<Restored>& results) const {
+void Restorer::SetModes() {
     for (std::size_t i = 0; i < results.size(); ++i) {
-        if (results[i].instance->restore == Restore::Mode) {
-            results[i] = Set(settings.values[i]);
+        if (!IsMode(results[i].instance)) {
+            continue;
+        }
+        if (!MustStop()) {
+            Settle(results[i], Set(settings.values[i]));
+        } else if (WasSwitchedOff(results[i])) {
+            PutBack(results[i]);
         }
     }
 }
 
-std::vector<Restored> Restorer::Restore(const Settings& settings) const {
-    const std::vector<Restored> before = Plan(settings); // modes will be off, but it counts what they were
-    SwitchOff(settings);
-    std::vector<Restored> results = before;
-    for (int pass = 0; pass < passes && SetValues(settings, pass != 0, results); ++pass) {
-    }
-    SetModes(settings, results);
-    for (std::size_t i = 0; i < results.size(); ++i) {
-        Restored& result = results[i];
-        result.before = before[i].before;
-        if (result.fate == Fate::Done && result.before == result.saved) {
-            result.fate = Fate::Unchanged;
-        } else if (result.fate == Fate::Unchanged && result.before && result.before != result.saved) {
-            result.fate = Fate::Done; // another setting brought it there
-        }
-    }
-    return results;
+void Restorer::PutBack(Restored& mode) {
+    const Restored now = Set({mode.instance, *mode.before});
+    mode.held = now.held;
+    mode.fate = now.held == mode.before ? Fate::PutBack : Fate::LeftOff;
+    mode.reason = now.reason;
+    options.settled(mode);
 }
 
-std::vector<Restored> Restorer::Plan(const Settings& settings) const {
-    std::vector<Restored> results;
+void Restorer::Restore() {
+    Look(); // modes will be off, but it counts what they were
+    SwitchOff();
+    for (int pass = 0; pass < passes && SetValues(pass != 0) && !stopped; ++pass) {
+    }
+    SetModes();
+}
+
+void Restorer::Plan() {
     for (const Setting& setting : settings.values) {
         results.push_back(Compare(setting));
+        options.settled(results.back());
     }
-    return results;
+}
+
+std::vector<Instance> Restorer::ModesLeftOff() const {
+    std::vector<Instance> modes;
+    for (const Restored& result : results) {
+        const bool restored = result.fate == Fate::Done || result.fate == Fate::Unchanged;
+        if (result.fate == Fate::LeftOff || (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {
+            modes.push_back(result.instance);
+        }
+    }
+    return modes;
 }
 
 } // namespace Host

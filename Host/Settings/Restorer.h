@@ -3,6 +3,7 @@
 #include "Settings.h"
 #include "Settled.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@ namespace Host {
 
 /// What became of a function that was to be restored.
 enum class Fate {
+    Pending, ///< nothing yet, and nothing any more if the restore was stopped
     Done,
     Unchanged, ///< the camera held the value already
     Rounded,   ///< the camera made another value of it, as it may
@@ -18,6 +20,8 @@ enum class Fate {
     Refused,
     Skipped,
     Planned, ///< it would be set
+    PutBack, ///< an automatic mode that is as it was before, since the restore was stopped
+    LeftOff, ///< an automatic mode that could not be put back
 };
 
 struct Restored {
@@ -30,41 +34,68 @@ struct Restored {
 };
 
 [[nodiscard]] const char* NameOf(Fate fate);
-[[nodiscard]] inline bool IsFailure(Fate fate) { return fate == Fate::Clamped || fate == Fate::Refused; }
+[[nodiscard]] inline bool IsFailure(Fate fate) {
+    return fate == Fate::Clamped || fate == Fate::Refused || fate == Fate::LeftOff;
+}
 
 /// Sets a camera to saved settings.
 class Restorer {
 public:
+    struct Options {
+        bool outputs = false;
+        /// Told what became of a function as soon as it is known; again in the rare case that a later setting moves it
+        /// to where it cannot be brought back from.
+        std::function<void(const Restored&)> settled = [](const Restored&) {};
+        /// Asked before each function whether to stop.
+        std::function<bool()> isToStop = [] { return false; };
+    };
+
     /// @param setting sets the functions
     /// @param reading reads them
-    Restorer(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
-        : setter(setting),
+    Restorer(const Settings& saved, const Camera& setting, const Camera& reading, Wait waiting, Options chosen)
+        : settings(saved),
+          setter(setting),
           reader(reading),
           wait(std::move(waiting)),
-          outputs(withOutputs) {}
+          options(std::move(chosen)) {}
 
     /// Automatic modes off, then the values in the order of the table, until one setting no longer moves another; last
-    /// the modes as they were saved. What fails stops nothing.
-    /// @return what became of each function
-    std::vector<Restored> Restore(const Settings& settings) const;
+    /// the modes as they were saved. What fails stops nothing. Once it is to stop, the modes whose turn did not come
+    /// are put back to what they were.
+    /// @throw ChannelLost, after which nothing can be put back
+    void Restore();
 
-    /// What Restore would do. Writes no setting.
-    [[nodiscard]] std::vector<Restored> Plan(const Settings& settings) const;
+    /// Finds out what Restore would do. Writes no setting.
+    void Plan();
+
+    /// What became of each function, in the order of the settings; also after an exception.
+    [[nodiscard]] const std::vector<Restored>& Results() const { return results; }
+    /// Whether something was left undone because it was to stop.
+    [[nodiscard]] bool IsStopped() const { return stopped; }
+    /// Automatic modes that were on before, and are off although they were not restored.
+    [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 
 private:
     [[nodiscard]] std::string WhyNot(const Instance& instance) const;
     [[nodiscard]] Restored Compare(const Setting& setting) const;
     [[nodiscard]] Restored Set(const Setting& setting) const;
-    void SwitchOff(const Settings& settings) const;
+    [[nodiscard]] bool MustStop();
+    void Look();
+    void SwitchOff();
     /// Sets what is no mode; again, what did not fail.
     /// @return whether that changed anything
-    bool SetValues(const Settings& settings, bool again, std::vector<Restored>& results) const;
-    void SetModes(const Settings& settings, std::vector<Restored>& results) const;
+    bool SetValues(bool again);
+    void SetModes();
+    void PutBack(Restored& mode);
+    void Settle(Restored& result, Restored now);
 
+    const Settings& settings;
     const Camera& setter;
     const Camera& reader;
     Wait wait;
-    bool outputs;
+    Options options;
+    std::vector<Restored> results;
+    bool stopped = false;
 };
 
 } // namespace Host

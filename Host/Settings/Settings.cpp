@@ -5,7 +5,8 @@
 
 #include <algorithm>
 #include <ctime>
-#include <stdexcept>
+#include <optional>
+#include <utility>
 
 namespace Host {
 
@@ -20,6 +21,11 @@ std::string Now() {
     return text;
 }
 
+/// Whether an automatic mode moves the function in either settings.
+bool IsMoved(const Settings& first, const Settings& second, const Instance& instance) {
+    return first.Moved(instance) || second.Moved(instance);
+}
+
 } // namespace
 
 bool IsSame(const Instance& one, const Instance& other) {
@@ -30,6 +36,10 @@ const Value* Settings::Find(const Instance& instance) const {
     const auto found = std::find_if(values.begin(), values.end(),
                                     [&](const Setting& setting) { return IsSame(setting.instance, instance); });
     return found == values.end() ? nullptr : &found->value;
+}
+
+bool Settings::Misses(const Instance& instance) const {
+    return std::any_of(missing.begin(), missing.end(), [&](const Instance& each) { return IsSame(each, instance); });
 }
 
 bool Settings::Moved(const Instance& instance) const {
@@ -48,29 +58,41 @@ bool IsAbsent(const Reading& reading) {
            reading.error == SDK4_ERR_DISABLED;
 }
 
-Settings TakeSettings(const Camera& camera, const std::function<void(const Instance&, const Reading&)>& unreadable,
-                      bool outputs) {
-    const std::string serial = camera.Read(camera.FindOne(Name::serialNumber)).text;
-    Settings settings{camera.Model(), camera.Family(), serial, Now(), {}};
+Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs) {
+    Settings settings{camera.Model(), camera.Family(), "", Now(), {}};
+    const auto read = [&](const Instance& instance) -> std::optional<Value> {
+        const Reading reading = camera.TryRead(instance);
+        if (reading.error == 0) {
+            return reading.value;
+        }
+        if (!IsAbsent(reading)) {
+            unreadable(instance, reading);
+            settings.missing.push_back(instance);
+        }
+        return std::nullopt;
+    };
+    settings.serial = read(camera.FindOne(Name::serialNumber)).value_or(Value()).text;
     for (const Instance& instance : camera.All()) {
         const bool wanted = instance->restore != Restore::Never && (instance->restore != Restore::Output || outputs);
         if (!wanted || instance->get == nullptr || instance->set == nullptr) {
             continue;
         }
-        const Reading reading = camera.TryRead(instance);
-        if (reading.error == 0) {
-            settings.values.push_back({instance, reading.value});
-        } else if (!IsAbsent(reading)) {
-            unreadable(instance, reading);
+        if (const auto value = read(instance)) {
+            settings.values.push_back({instance, *value});
         }
     }
     return settings;
 }
 
-Settings TakeSettings(const Camera& camera) {
-    return TakeSettings(camera, [](const Instance& instance, const Reading& reading) {
-        throw std::runtime_error(instance.Name() + ": " + reading.errorText);
-    });
+std::string NamesOf(const std::vector<Instance>& instances) {
+    std::string names;
+    const Function* last = nullptr;
+    for (const Instance& instance : instances) {
+        if (std::exchange(last, instance.function) != instance.function) {
+            names += (names.empty() ? "" : ", ") + std::string(instance->name);
+        }
+    }
+    return names;
 }
 
 std::vector<Difference> Compare(const Settings& first, const Settings& second) {
@@ -80,12 +102,22 @@ std::vector<Difference> Compare(const Settings& first, const Settings& second) {
             const Value* const one = first.Find(instance);
             const Value* const other = second.Find(instance);
             const bool equal = one == nullptr || other == nullptr ? one == other : *one == *other;
-            if (!equal && !first.Moved(instance) && !second.Moved(instance)) {
+            const bool comparable =
+                !IsMoved(first, second, instance) && !first.Misses(instance) && !second.Misses(instance);
+            if (!equal && comparable) {
                 differences.push_back({instance, one, other});
             }
         }
     }
     return differences;
+}
+
+std::vector<Instance> LeftUncompared(const Settings& first, const Settings& second) {
+    std::vector<Instance> missing = first.missing;
+    std::erase_if(missing, [&](const Instance& instance) {
+        return second.Find(instance) == nullptr || IsMoved(first, second, instance);
+    });
+    return missing;
 }
 
 } // namespace Host

@@ -2,7 +2,6 @@
 
 #include "Camera.h"
 
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -19,35 +18,32 @@ struct Settings {
     std::string model;
     std::string family;
     std::string serial;
-    std::string date;            ///< when they were taken
-    std::vector<Setting> values; ///< in the order of the table
+    std::string date;                ///< when they were taken
+    std::vector<Setting> values;     ///< in the order of the table
+    std::vector<Instance> missing{}; ///< what the camera may have, but could not be read
 
     [[nodiscard]] const Value* Find(const Instance& instance) const;
+    [[nodiscard]] bool Misses(const Instance& instance) const;
     /// Whether an automatic mode, on in these settings, moves the function.
     [[nodiscard]] bool Moved(const Instance& instance) const;
 };
 
+/// What to do about a function that cannot be read.
+using Unreadable = std::function<void(const Instance&, const Reading&)>;
+
 /// Reads what a camera is set to: every function that can be set back, outputs and network included. What the model
-/// lacks or has not available now is left out.
-/// @param unreadable is told of what cannot be read otherwise
+/// lacks or has not available now is left out; what cannot be read otherwise is missing.
+/// @param unreadable is told of what is missing, before it is noted; may throw
 /// @param outputs    whether outputs are read, which may be many
-[[nodiscard]] Settings TakeSettings(const Camera& camera,
-                                    const std::function<void(const Instance&, const Reading&)>& unreadable,
-                                    bool outputs = true);
-/// @throw std::runtime_error for one that cannot be read, so that no settings are incomplete unnoticed
-[[nodiscard]] Settings TakeSettings(const Camera& camera);
+[[nodiscard]] Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs = true);
 
 [[nodiscard]] bool IsSame(const Instance& one, const Instance& other);
 
 /// Whether a camera has no such value, or none for now.
 [[nodiscard]] bool IsAbsent(const Reading& reading);
 
-/// Writes settings to a file as JSON. A file that is there is replaced as a whole or not at all.
-/// @throw UsageError for a file that cannot be written
-void WriteSettings(const Settings& settings, const std::filesystem::path& file);
-
-/// @throw UsageError for a file that is not there, is no such file or a damaged one, or of another format version
-[[nodiscard]] Settings ReadSettings(const std::filesystem::path& file);
+/// The functions in words: "gain, overlayshow", once each.
+[[nodiscard]] std::string NamesOf(const std::vector<Instance>& instances);
 
 /// A function with which two settings differ; null where one of them has no value of it.
 struct Difference {
@@ -56,7 +52,11 @@ struct Difference {
     const Value* second = nullptr;
 };
 
-/// Compares settings of two cameras of one family; what an automatic mode moves in either of them is not compared.
+/// Compares settings of two cameras of one family. What an automatic mode moves in either of them is not compared, nor
+/// what is missing in either.
 [[nodiscard]] std::vector<Difference> Compare(const Settings& first, const Settings& second);
+
+/// What is missing in the first, and has a value in the second that it could have been compared with.
+[[nodiscard]] std::vector<Instance> LeftUncompared(const Settings& first, const Settings& second);
 
 } // namespace Host

@@ -1,14 +1,17 @@
-#include "Settings.h"
+#include "SettingsFile.h"
 
 #include "Describe.h"
 #include "Errors.h"
 #include "Functions/Tables.h"
 #include "Nearest.h"
+#include "ReplaceFile.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 namespace Host {
@@ -17,25 +20,30 @@ namespace {
 
 constexpr const char* format = "qdv12host settings";
 constexpr std::int64_t formatVersion = 1;
+constexpr const char* missingMember = "missing";
 
-[[noreturn]] void Fail(const std::filesystem::path& file, const std::string& why) {
-    throw UsageError("\"" + file.string() + "\": " + why);
-}
+[[noreturn]] void Fail(const std::string& file, const std::string& why) { throw UsageError(Quoted(file) + ": " + why); }
 
-std::string Content(const std::filesystem::path& file) {
+std::string Content(const std::string& file) {
+    std::ostringstream content;
+    if (file == standardStream) {
+        if (!(content << std::cin.rdbuf())) {
+            Fail(file, "is empty");
+        }
+        return content.str();
+    }
     std::error_code ignored;
     if (std::filesystem::is_directory(file, ignored)) {
         Fail(file, std::strerror(EISDIR));
     }
     std::ifstream stream(file, std::ios::binary);
-    std::ostringstream content;
     if (!stream || !(content << stream.rdbuf())) {
         Fail(file, stream ? "is empty" : std::strerror(errno));
     }
     return content.str();
 }
 
-Json Parse(const std::filesystem::path& file) {
+Json Parse(const std::string& file) {
     Json document;
     try {
         document = Json::Parse(Content(file));
@@ -56,7 +64,7 @@ Json Parse(const std::filesystem::path& file) {
     return document;
 }
 
-std::string TextOf(const Json& document, const char* member, const std::filesystem::path& file) {
+std::string TextOf(const Json& document, const char* member, const std::string& file) {
     const auto* const text = document[member].Text();
     if (text == nullptr) {
         Fail(file, "damaged: no \"" + std::string(member) + "\"");
@@ -64,40 +72,104 @@ std::string TextOf(const Json& document, const char* member, const std::filesyst
     return *text;
 }
 
+/// The functions of a family by their names, as a file holds them.
+class KnownFunctions {
+public:
+    explicit KnownFunctions(const Functions& table) {
+        for (const Function& function : table) {
+            for (const Instance& instance : InstancesOf(function)) {
+                instances.push_back(instance);
+                names.push_back(instance.Name());
+            }
+        }
+    }
+
+    [[nodiscard]] const std::vector<Instance>& All() const { return instances; }
+    /// @throw UsageError for an unknown one
+    [[nodiscard]] const Instance& Find(const std::string& name, const std::string& file) const {
+        const auto found = std::find(names.begin(), names.end(), name);
+        if (found == names.end()) {
+            Fail(file, "unknown function \"" + name + '"' + Suggestion(name, names));
+        }
+        return instances[static_cast<std::size_t>(found - names.begin())];
+    }
+
+private:
+    std::vector<Instance> instances;
+    std::vector<std::string> names;
+};
+
 /// The values that the file holds, in the order of the table.
-std::vector<Setting> ValuesOf(const Json& document, const Functions& table, const std::filesystem::path& file) {
+std::vector<Setting> ValuesOf(const Json& document, const KnownFunctions& known, const std::string& file) {
     const auto* const members = document["values"].Members();
     if (members == nullptr) {
         Fail(file, "damaged: no \"values\"");
     }
-    std::vector<Setting> values;
-    std::vector<std::string> known;
-    for (const Function& function : table) {
-        for (const Instance& instance : InstancesOf(function)) {
-            known.push_back(instance.Name());
-            const auto member = std::find_if(members->begin(), members->end(),
-                                             [&](const Json::Member& each) { return each.name == known.back(); });
-            if (member == members->end()) {
-                continue;
-            }
-            const auto value = FromJson(instance, member->value);
-            if (!value) {
-                Fail(file, "no value of " + known.back() + ": " + member->value.Print());
-            }
-            values.push_back({instance, *value});
-        }
-    }
     for (const Json::Member& member : *members) {
-        if (std::find(known.begin(), known.end(), member.name) == known.end()) {
-            Fail(file, "unknown function \"" + member.name + '"' + Suggestion(member.name, known));
+        static_cast<void>(known.Find(member.name, file));
+    }
+    std::vector<Setting> values;
+    for (const Instance& instance : known.All()) {
+        const std::string name = instance.Name();
+        const auto member =
+            std::find_if(members->begin(), members->end(), [&](const Json::Member& each) { return each.name == name; });
+        if (member == members->end()) {
+            continue;
         }
+        const auto value = FromJson(instance, member->value);
+        if (!value) {
+            Fail(file, "invalid value for " + name + ": " + member->value.PrintInOneLine());
+        }
+        values.push_back({instance, *value});
     }
     return values;
 }
 
+/// What the file says is missing in it, if it says so.
+std::vector<Instance> MissingIn(const Json& document, const KnownFunctions& known, const std::string& file) {
+    std::vector<Instance> missing;
+    const auto* const elements = document[missingMember].Elements();
+    for (const Json& element : elements == nullptr ? Json::List() : *elements) {
+        if (element.Text() == nullptr) {
+            Fail(file, "damaged: invalid name of a missing function: " + element.PrintInOneLine());
+        }
+        missing.push_back(known.Find(*element.Text(), file));
+    }
+    return missing;
+}
+
+Json ToJson(const Settings& settings) {
+    Json values(Json::Object{});
+    for (const Setting& setting : settings.values) {
+        values.Add(setting.instance.Name(), ToJson(setting.instance, setting.value));
+    }
+    Json document{{"format", format},          {"version", formatVersion},        {"model", settings.model},
+                  {"family", settings.family}, {"serialnumber", settings.serial}, {"date", settings.date},
+                  {"values", values}};
+    if (!settings.missing.empty()) {
+        Json missing(Json::List{});
+        for (const Instance& instance : settings.missing) {
+            missing.Add(instance.Name());
+        }
+        document.Add(missingMember, missing);
+    }
+    return document;
+}
+
+/// Whether the name of a file was wrong, and not what happened to it.
+bool IsOfName(const std::error_code& code) {
+    const int names[] = {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EINVAL, ENAMETOOLONG, ELOOP};
+    return std::find(std::begin(names), std::end(names), code.value()) != std::end(names);
+}
+
 } // namespace
 
-Settings ReadSettings(const std::filesystem::path& file) {
+std::string Quoted(const std::string& file) { return file == standardStream ? "standard input" : '"' + file + '"'; }
+
+Settings ReadSettings(const std::string& file, bool inShell) {
+    if (file == standardStream && inShell) {
+        throw UsageError("standard input holds the commands of this shell; give a file");
+    }
     const Json document = Parse(file);
     Settings settings{TextOf(document, "model", file),
                       TextOf(document, "family", file),
@@ -108,37 +180,30 @@ Settings ReadSettings(const std::filesystem::path& file) {
     if (table == nullptr) {
         Fail(file, "the functions of a control \"" + settings.family + "\" are not known");
     }
-    settings.values = ValuesOf(document, *table, file);
+    const KnownFunctions known(*table);
+    settings.values = ValuesOf(document, known, file);
+    settings.missing = MissingIn(document, known, file);
     return settings;
 }
 
-void WriteSettings(const Settings& settings, const std::filesystem::path& file) {
-    Json values(Json::Object{});
-    for (const Setting& setting : settings.values) {
-        values.Add(setting.instance.Name(), ToJson(setting.instance, setting.value));
+void WriteSettings(const Settings& settings, const std::string& file) {
+    const std::string text = ToJson(settings).Print() + '\n';
+    if (file == standardStream) {
+        std::cout << text << std::flush;
+        return;
     }
-    const Json document{{"format", format},          {"version", formatVersion},        {"model", settings.model},
-                        {"family", settings.family}, {"serialnumber", settings.serial}, {"date", settings.date},
-                        {"values", values}};
-    std::error_code error;
-    if (std::filesystem::exists(file, error) && !std::filesystem::is_regular_file(file, error)) {
-        Fail(file, "is there and no file");
+    std::error_code ignored;
+    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
+        Fail(file, "is no regular file; " + std::string(standardStream) + " stands for standard output");
     }
-    const std::filesystem::path target = std::filesystem::weakly_canonical(file, error); // a link stays one
-    const std::filesystem::path part = target.string() + ".part";
-    std::ofstream stream(part, std::ios::binary);
-    stream << document.Print() << '\n';
-    stream.close();
-    if (!stream) {
-        const std::string why = std::strerror(errno);
-        std::filesystem::remove(part, error);
-        Fail(file, "cannot be written: " + why);
-    }
-    std::filesystem::rename(part, target, error);
-    if (error) {
-        const std::string why = error.message();
-        std::filesystem::remove(part, error);
-        Fail(file, "cannot be written: " + why);
+    try {
+        ReplaceFile(file, text);
+    } catch (const std::system_error& error) {
+        const std::string why = "cannot be written: " + error.code().message();
+        if (IsOfName(error.code())) {
+            Fail(file, why);
+        }
+        throw std::runtime_error(Quoted(file) + ": " + why);
     }
 }
 

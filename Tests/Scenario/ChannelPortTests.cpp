@@ -74,7 +74,7 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
 TEST(ChannelPort, TellsHowTheCameraRefuses) {
     const NetworkCamera camera("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
-    EXPECT_EQ(Failure([&] { (void)port.ReadRegister(0xE0000000); }),
+    EXPECT_EQ(Failure<Host::NoSuchAddress>([&] { (void)port.ReadRegister(0xE0000000); }),
               "ReadRegister at 0xE0000000 failed: the camera has no such address (0x8003)");
     EXPECT_EQ(Failure([&] { port.WriteRegister(0x00000024, 1); }),
               "WriteRegister at 0x00000024 failed: the register cannot be written (0x8004)");

@@ -33,6 +33,9 @@ public:
         words.push_back(nullptr);
         process = fork();
         if (process == 0) {
+            for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
+                ::signal(signal, SIG_DFL); // whatever the tests were started from
+            }
             prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that dies leaves no camera behind
             const int nowhere = open("/dev/null", O_RDWR);
             dup2(nowhere, STDIN_FILENO);
@@ -63,6 +66,8 @@ public:
         }
         return true;
     }
+    /// Leaves it with output that nobody reads.
+    void StopReading() { close(std::exchange(from, -1)); }
     void Signal(int signal) const { kill(process, signal); }
     /// Reads the rest. @return the exit code
     int End() {

@@ -1,0 +1,82 @@
+#include "ReplaceFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace Host {
+
+namespace {
+
+/// @throw std::system_error unless a call of the system succeeded
+void Require(bool succeeded) {
+    if (!succeeded) {
+        throw std::system_error(errno, std::generic_category());
+    }
+}
+
+/// A file beside another one, with a name of its own, that disappears unless it takes the other's place.
+class Replacement {
+public:
+    explicit Replacement(const std::filesystem::path& replaced)
+        : target(replaced),
+          name((replaced.parent_path() / ".qdv12host-XXXXXX").string()),
+          descriptor(mkostemp(name.data(), O_CLOEXEC)) {
+        Require(descriptor >= 0);
+    }
+    ~Replacement() {
+        if (descriptor >= 0) {
+            close(descriptor);
+        }
+        if (!name.empty()) {
+            unlink(name.c_str());
+        }
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    void Write(std::string_view content) {
+        while (!content.empty()) {
+            const ssize_t written = write(descriptor, content.data(), content.size());
+            Require(written >= 0 || errno == EINTR);
+            content.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
+        }
+    }
+    /// As the file that is replaced has them, else as any new file gets them.
+    void SetAccessRights() {
+        struct stat existing {};
+        const bool exists = stat(target.c_str(), &existing) == 0;
+        const mode_t masked = umask(0);
+        umask(masked);
+        Require(fchmod(descriptor, exists ? existing.st_mode & 0777U : 0666U & ~masked) == 0);
+    }
+    void TakePlace() {
+        Require(fsync(descriptor) == 0); // some file systems tell only now that there is no room
+        Require(close(std::exchange(descriptor, -1)) == 0);
+        Require(rename(name.c_str(), target.c_str()) == 0);
+        name.clear();
+    }
+
+private:
+    std::filesystem::path target;
+    std::string name;
+    int descriptor;
+};
+
+} // namespace
+
+void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
+    std::error_code ignored;
+    Replacement replacement(std::filesystem::weakly_canonical(std::filesystem::absolute(file), ignored));
+    replacement.Write(content);
+    replacement.SetAccessRights();
+    replacement.TakePlace();
+}
+
+} // namespace Host

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace Host {
+
+/// Whether a text is well-formed UTF-8. A camera holds any bytes as a text.
+[[nodiscard]] bool IsUtf8(std::string_view text);
+
+/// As much of a text as fits into that many bytes, without a part of a character at its end.
+[[nodiscard]] std::string CutAtCharacter(const std::string& text, std::size_t bytes);
+
+} // namespace Host

@@ -1,0 +1,182 @@
+#include "InProcess.h"
+#include "SettingsFixture.h"
+
+#include <Channel/ChannelErrors.h>
+#include <Json.h>
+
+#include <csignal>
+#include <regex>
+
+namespace Scenario {
+
+namespace {
+
+constexpr std::uint32_t agc = 0x46020000;
+constexpr std::uint32_t sharpness = 0x18030000; // of a setting in the middle
+
+/// The camera holds other settings than the file, with automatic modes on.
+class HostRestore : public HostSettings {
+protected:
+    /// @param first   what the file holds
+    /// @param changed what the camera is set to after that
+    void Prepare(const std::string& cameraModel, const std::string& first, const std::string& changed) {
+        model = cameraModel;
+        std::filesystem::remove(state);
+        ASSERT_EQ(Run("set " + model + " " + first).code, 0);
+        ASSERT_EQ(Run("save " + model + " " + saved).code, 0);
+        ASSERT_EQ(Run("set " + model + " " + changed).code, 0);
+    }
+    [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
+        return RunInProcess(Host::RunRestore, {{"MODEL", {model}}, {"FILE", {saved}}}, observer, state, json);
+    }
+    [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
+
+    std::string model;
+};
+
+bool Writes(const Host::Access& access, std::uint32_t address) { return access.write && access.address == address; }
+
+/// Acts once an access of that kind was made.
+Observer Once(const std::function<bool(const Host::Access&)>& isIt, const std::function<void()>& action) {
+    return [=, done = false](const Host::Access& access) mutable {
+        if (!done && isIt(access)) {
+            done = true;
+            action();
+        }
+    };
+}
+
+/// How many functions the lines of a restore show as restored.
+std::string RestoredIn(const std::string& out) {
+    const std::regex line("(^|\n)[a-z.0-9]+ +(ok|unchanged|rounded) ");
+    return std::to_string(std::distance(std::sregex_iterator(out.begin(), out.end(), line), std::sregex_iterator()));
+}
+
+} // namespace
+
+TEST_F(HostRestore, ThatIsInterruptedPutsModesBackAndSaysWhatIsDone) {
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            Prepare(each, "agc=2 sharpness=3 lutindex=0", "agc=1 sharpness=9 negativeimage=on");
+            const auto interrupt =
+                Once([](const auto& access) { return Writes(access, sharpness); }, [=] { raise(signal); });
+            const Outcome run = Restore(interrupt);
+            EXPECT_EQ(run.code, 1);
+            EXPECT_TRUE(Has(run.out, "\nsharpness                 ok          9 -> 3\n"));
+            EXPECT_TRUE(run.out.ends_with("\nagc                       put back    1, as it was before\n")) << run.out;
+            EXPECT_TRUE(std::regex_match(run.err, std::regex("qdv12host: interrupted; " + RestoredIn(run.out) +
+                                                             " of [0-9]+ functions restored, 4 skipped, [0-9]+ not "
+                                                             "reached; automatic modes put back: agc\n")))
+                << run.err;
+            EXPECT_EQ(Get("agc sharpness negativeimage"), "agc=1\nsharpness=3\nnegativeimage=on\n");
+        }
+    }
+}
+
+TEST_F(HostRestore, ThatIsInterruptedLeavesTheModesAloneThatAreRestored) {
+    Prepare("Orvik-390C", "agc=2 acc=off", "agc=1 acc=1");
+    bool isOff = false;
+    const auto isSet = [&](const Host::Access& access) {
+        isOff = isOff || (Writes(access, agc) && access.data[0] == 0);
+        return isOff && Writes(access, agc) && access.data[0] == 2;
+    };
+    const Outcome run = Restore(Once(isSet, [] { raise(SIGTERM); }));
+    EXPECT_EQ(run.code, 1);
+    EXPECT_TRUE(Has(run.out, "\nagc                       ok          1 -> 2\n"
+                             "acc                       put back    1, as it was before\n"));
+    EXPECT_EQ(Get("agc acc"), "agc=2\nacc=1\n");
+}
+
+TEST_F(HostRestore, NamesTheModesThatItCannotPutBack) {
+    Prepare("Orvik-390C", "agc=off sharpness=3", "agc=1 sharpness=9");
+    bool isStuck = false;
+    const Outcome refused = Restore([&](const Host::Access& access) {
+        if (Writes(access, sharpness)) {
+            raise(SIGTERM);
+            isStuck = true;
+        }
+        if (isStuck && access.address == agc) {
+            throw std::runtime_error("no answer");
+        }
+    });
+    EXPECT_TRUE(refused.out.ends_with("\nagc                       left off    no answer; it was 1\n")) << refused.out;
+    EXPECT_TRUE(refused.err.ends_with(" not reached; automatic modes left off: agc\n")) << refused.err;
+
+    Prepare("Orvik-390C", "agc=off sharpness=3", "agc=1 sharpness=9");
+    bool isLost = false;
+    const auto lose = [&](const Host::Access& access) {
+        isLost = isLost || Writes(access, sharpness);
+        if (isLost) {
+            throw Host::ChannelLost(access.operation, access.address, "the camera was lost");
+        }
+    };
+    for (const bool json : {false, true}) {
+        isLost = false;
+        const Outcome lost = Restore(lose, json);
+        EXPECT_EQ(lost.code, 1);
+        EXPECT_TRUE(
+            std::regex_match(lost.err, std::regex("qdv12host: sharpness: Write[a-zA-Z]+ at 0x18030000 failed: the "
+                                                  "camera was lost; [0-9]+ of [0-9]+ functions restored, 4 "
+                                                  "skipped, [0-9]+ not reached; automatic modes left off: agc\n")))
+            << lost.err;
+        EXPECT_FALSE(Has(lost.out, "sharpness"));
+        EXPECT_EQ(Run("set Orvik-390C agc=1 sharpness=9").code, 0);
+    }
+}
+
+TEST_F(HostRestore, TellsAsJsonWhatIsDone) {
+    Prepare("Orvik-390C", "agc=off sharpness=3", "agc=1 sharpness=9");
+    const auto interrupt = Once([](const auto& access) { return Writes(access, sharpness); }, [] { raise(SIGTERM); });
+    const Outcome run = Restore(interrupt, true);
+    EXPECT_EQ(run.code, 1);
+    const Host::Json document = Host::Json::Parse(run.out);
+    const auto& results = *document.Elements();
+    EXPECT_EQ(*results.back()["name"].Text(), "sharpness");
+    EXPECT_EQ(*results.back()["value"].Number(), 3);
+    const auto mode = std::find_if(results.begin(), results.end(),
+                                   [](const Host::Json& each) { return *each["name"].Text() == "agc"; });
+    ASSERT_NE(mode, results.end());
+    EXPECT_EQ(*(*mode)["result"].Text(), "put back");
+    EXPECT_EQ(*(*mode)["saved"].Text(), "off");
+    EXPECT_EQ(*(*mode)["value"].Number(), 1);
+}
+
+TEST_F(HostRestore, BeginsWithAModeAsWell) {
+    Prepare("Orvik-390C", "agc=1", "agc=off gain=7");
+    const std::string text = Content(saved);
+    Write(saved,
+          Replaced(text, text.substr(text.find("    \"username\"")), "    \"agc\": 1,\n    \"gain\": 5\n  }\n}\n"));
+    const Outcome run = Run("restore Orvik-390C " + saved);
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(run.out, "gain                      ok          7 -> 5\n"
+                       "agc                       ok          off -> 1\n");
+    EXPECT_EQ(Get("agc"), "agc=1\n");
+}
+
+TEST_F(HostRestore, SetsNothingThatAModeLocksWhichCannotBeRead) {
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        Prepare(each, "gain=5", "gain=7");
+        const Outcome run = Run("restore " + model + " " + saved + " --fault failread:agc");
+        EXPECT_EQ(run.code, 1);
+        EXPECT_TRUE(
+            std::regex_search(run.out, std::regex("\ngain +refused +Read[A-Za-z]+ at 0x46020000 failed: no answer "
+                                                  "from the camera; asked for 5, the camera now holds 7\n")))
+            << run.out;
+        EXPECT_TRUE(Has(run.err, "2 of "));
+        EXPECT_EQ(Get("gain"), "gain=7\n");
+    }
+}
+
+/// The reader of the results goes away; the camera is set to all of them.
+TEST_F(HostRestore, GoesOnWhenNobodyReadsTheResults) {
+    Prepare("Orvik-390C", "agc=2 sharpness=3", "agc=1 sharpness=9");
+    {
+        Running restore(QDV12_HOST, {"restore", "--trace", "Orvik-390C", saved, "--state", state}, Running::both);
+        ASSERT_TRUE(restore.ReadUntil("username"));
+        restore.StopReading();
+        (void)restore.End();
+    }
+    EXPECT_EQ(Get("agc sharpness"), "agc=2\nsharpness=3\n");
+}
+
+} // namespace Scenario

@@ -1,0 +1,219 @@
+#include "InProcess.h"
+#include "SettingsFixture.h"
+
+#include <Channel/ChannelErrors.h>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <future>
+
+namespace Scenario {
+
+namespace {
+
+using Given = Host::Invocation::Given;
+
+/// A camera of another firmware, which lacks the registers of sharpness and of the overlays' colours.
+void Lack(const Host::Access& access) {
+    if (access.address == 0x18030000 || access.address == 0x66030000) {
+        throw Host::NoSuchAddress(access.operation, access.address, "the camera has no such address (0x8003)");
+    }
+}
+
+mode_t ModeOf(const std::string& file) {
+    struct stat status {};
+    stat(file.c_str(), &status);
+    return status.st_mode & 0777U;
+}
+
+} // namespace
+
+TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
+    const std::string lacking = "a simulated camera has no address for these, which are left out: ";
+    const Given save{{"MODEL", {"Orvik-390M"}}, {"FILE", {saved}}};
+    const Outcome run = RunInProcess(Host::Save, save, Lack);
+    EXPECT_EQ(run.code, 0);
+    EXPECT_TRUE(run.err.starts_with("qdv12host: " + lacking)) << run.err;
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    const std::string text = Content(saved);
+    EXPECT_FALSE(Has(text, "\"sharpness\": "));
+    EXPECT_TRUE(Has(text, "\n  \"missing\": [\n"));
+    EXPECT_TRUE(Has(text, "\n    \"sharpness\""));
+    EXPECT_TRUE(Has(RunInProcess(Host::Save, save, Lack, "", true).out, "\"missing\": [\n"));
+
+    const auto diff = [&](const Observer& observer) {
+        return RunInProcess(Host::Diff, {{"A", {saved}}, {"--live MODEL", {"Orvik-390M"}}}, observer);
+    };
+    EXPECT_EQ(diff(Lack).code, 0);
+    const Outcome whole = diff([](const Host::Access&) {});
+    EXPECT_EQ(whole.code, 2);
+    EXPECT_EQ(whole.out, "");
+    EXPECT_TRUE(whole.err.starts_with("qdv12host: \"" + saved + "\" does not hold these, which are not compared: "))
+        << whole.err;
+    EXPECT_EQ(Run("restore Orvik-390M " + saved).code, 0);
+    Write(other, Replaced(text, "\"sharpness\"", "\"sharpnes\""));
+    EXPECT_TRUE(Has(Run("diff " + other + " " + saved).err, "unknown function \"sharpnes\"; did you mean"));
+}
+
+TEST_F(HostSettings, ThatCannotBeComparedDoNotCountAsDifferent) {
+    ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
+    ASSERT_EQ(RunHost("save Orvik-710M " + other).code, 0);
+    Write(input, "{");
+    const std::string live = "diff " + saved + " --live Orvik-390M ";
+    const std::pair<std::string, int> cases[] = {
+        {live, 0},
+        {live + "--fault failread:sharpness", 2},
+        {live + "--fault fail:0x18030000 --json", 2},
+        {"diff " + saved + " " + other, 2},
+        {"diff " + saved + " " + input, 2},
+        {"diff " + saved + " - <" + other, 2},
+        {"diff - - <" + saved, 2},
+        {"diff " + saved + " --live Orvik-390", 3},
+        {live + "--plugin /nowhere/p.so", 3},
+        {live + "--json >/dev/full", 2},
+    };
+    for (const auto& [command, code] : cases) {
+        const Outcome run = RunHost("-c '" QDV12_HOST " " + command + "'", "sh");
+        EXPECT_EQ(run.code, code) << command;
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), code == 0 ? 0 : 1) << run.err;
+    }
+    ASSERT_EQ(Run("set Orvik-390M gain=7").code, 0);
+    const Outcome both = Run(live + "--fault failread:sharpness");
+    EXPECT_EQ(both.code, 2);
+    EXPECT_EQ(both.out, "gain                      0                       7\n");
+}
+
+TEST_F(HostSettings, KeepATextThatIsNoUtf8) {
+    for (const char* model : {"Orvik-390M", "Cerix-MV7"}) {
+        std::filesystem::remove(state);
+        // Latin-1, cut off, a surrogate, overlong, beyond the last character; and two that are right.
+        for (const char* name : {"caf\xE9", "caf\xC3", "\xED\xA0\x80", "\xC0\xAF", "\xF4\x90\x80\x80", "caf\xC3\xA9",
+                                 "\xF0\x9F\x93\xB7"}) {
+            ASSERT_EQ(Run("set " + std::string(model) + " username='" + name + "'").code, 0);
+            ASSERT_EQ(Run("save " + std::string(model) + " " + saved).code, 0);
+            const Outcome diff = Run("diff " + saved + " --live " + model);
+            EXPECT_EQ(diff.code, 0) << diff.out << diff.err;
+            EXPECT_TRUE(Has(Run("get --json " + std::string(model) + " username").out,
+                            std::string(name) == "caf\xE9" ? "\"username\": {\n    \"hex\": \"636166e9\"\n  }"
+                                                           : "\"username\": "));
+        }
+        EXPECT_TRUE(Has(Content(saved), "\"username\": \"\xF0\x9F\x93\xB7\""));
+        for (const char* hex : {"6", "6z", "00", "+1"}) {
+            Write(other, Replaced(Content(saved), "\"\xF0\x9F\x93\xB7\"", "{\"hex\": \"" + std::string(hex) + "\"}"));
+            EXPECT_EQ(Run("diff " + saved + " " + other).code, 2) << hex;
+        }
+    }
+}
+
+TEST_F(HostSettings, HoldAUserNameThatIsCutAtACharacter) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"15 characters..", "15 characters.."},
+        {"16 characters...", "16 characters.."},
+        {"fourteen bytes\xC3\xA9", "fourteen bytes"},
+        {"twelve bytes\xF0\x9F\x93\xB7", "twelve bytes"},
+        {"thirteen byte\xC3\xA9\xC3\xA9", "thirteen byte\xC3\xA9"},
+        {"Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", "Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9"},
+        {"no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9\xA9\xA9", "no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9"},
+    };
+    for (const char* model : {"Orvik-390M", "Cerix-MV7"}) {
+        for (const auto& [name, held] : cases) {
+            const Outcome run = RunHost("set " + std::string(model) + " username='" + name + "'");
+            EXPECT_EQ(run.out, "username=" + std::string(held) + "\n");
+        }
+    }
+}
+
+TEST_F(HostSettings, GoThroughStandardOutputAndInput) {
+    ASSERT_EQ(Run("set Orvik-390M gain=7").code, 0);
+    const Outcome save = Run("save Orvik-390M -");
+    EXPECT_EQ(save.code, 0);
+    EXPECT_EQ(save.err, "65 functions of Orvik-390M saved to standard output\n");
+    Write(saved, save.out);
+    ASSERT_EQ(Run("set Orvik-390M gain=9").code, 0);
+    const auto piped = [&](const std::string& arguments) {
+        return RunHost(arguments + " --state " + state, QDV12_HOST, saved);
+    };
+    EXPECT_EQ(piped("diff - --live Orvik-390M").out, "gain                      7                       9\n");
+    EXPECT_EQ(piped("diff " + saved + " -").code, 0);
+    EXPECT_TRUE(Has(piped("restore Orvik-390M -").out, "\ngain                      ok          9 -> 7\n"));
+    EXPECT_EQ(piped("diff --live Orvik-390M -").code, 0);
+    EXPECT_EQ(Run("diff - --live Orvik-390M").err, "qdv12host: standard input: is empty\n");
+
+    Write(input, "save -\nrestore -\ndiff -\n");
+    const Outcome shell = RunHost("shell Orvik-390M", QDV12_HOST, input);
+    EXPECT_TRUE(shell.out.starts_with("{\n  \"format\": "));
+    EXPECT_TRUE(
+        Has(shell.err, "\nqdv12host: standard input holds the commands of this shell; give a file\nqdv12host: "));
+}
+
+TEST_F(HostSettings, ThatCannotBeWrittenAreToldAndReplaceNothing) {
+    Write(saved, "precious");
+    const Outcome full = RunHost("-c '" QDV12_HOST " save Orvik-390M - >/dev/full'", "sh");
+    EXPECT_EQ(full.code, 1);
+    EXPECT_EQ(full.err, "qdv12host: the results could not be written\n");
+    const Outcome large =
+        RunHost("-c 'trap \"\" XFSZ; ulimit -f 1; exec " QDV12_HOST " save Orvik-390M " + saved + "'", "sh");
+    EXPECT_EQ(large.code, 1);
+    EXPECT_EQ(large.err, "qdv12host: \"" + saved + "\": cannot be written: File too large\n");
+    EXPECT_EQ(Content(saved), "precious");
+    const Outcome nowhere = Run("save Orvik-390M " + other + "/file");
+    EXPECT_EQ(nowhere.code, 2);
+    EXPECT_EQ(nowhere.err, "qdv12host: \"" + other + "/file\": cannot be written: No such file or directory\n");
+    EXPECT_TRUE(Has(Run("save Orvik-390M /dev/null").err, "is no regular file; - stands for standard output\n"));
+}
+
+TEST_F(HostSettings, MayBeSavedToOneFileAtTheSameTime) {
+    const std::filesystem::path folder = TemporaryFile("folder");
+    std::filesystem::create_directories(folder / "a.json.part"); // a name that somebody else may use
+    const std::string file = folder / "a.json";
+    std::vector<std::future<int>> saves;
+    for (int i = 0; i < 6; ++i) {
+        saves.push_back(std::async(std::launch::async, [&] { return RunHost("save Orvik-390M " + file).code; }));
+    }
+    for (auto& save : saves) {
+        EXPECT_EQ(save.get(), 0);
+    }
+    EXPECT_EQ(RunHost("diff " + file + " --live Orvik-390M").code, 0);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2); // nothing is left behind
+
+    const mode_t mask = umask(027);
+    std::filesystem::remove(file);
+    EXPECT_EQ(RunHost("save Orvik-390M " + file).code, 0);
+    EXPECT_EQ(ModeOf(file), 0640U);
+    chmod(file.c_str(), 0604);
+    EXPECT_EQ(RunHost("save Orvik-390M " + file).code, 0);
+    EXPECT_EQ(ModeOf(file), 0604U);
+    umask(mask);
+    std::filesystem::create_symlink("a.json", folder / "link.json");
+    EXPECT_EQ(RunHost("save Orvik-390C " + (folder / "link.json").string()).code, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.json"));
+    EXPECT_TRUE(Has(Content(file), "Orvik-390C"));
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(HostSettings, HoldTheFieldsOfRecordsByTheirNames) {
+    const auto values = [](const std::string& arguments) {
+        std::string text = RunHost("get --json " + arguments).out;
+        std::erase_if(text, [](char character) { return character == ' ' || character == '\n'; });
+        return text;
+    };
+    EXPECT_EQ(values("Orvik-390M imagesize readoutarea overlaysize.1 exposure revision"),
+              "{\"imagesize\":{\"width\":2256,\"height\":1728},"
+              "\"readoutarea\":{\"startx\":0,\"starty\":0,\"endx\":2255,\"endy\":1727},"
+              "\"overlaysize.1\":{\"width\":1,\"length\":10},\"exposure\":{\"base\":0,\"counter\":20000},"
+              "\"revision\":{\"value1\":2,\"value2\":1}}");
+    EXPECT_EQ(values("'Sollux G' measurewindow overlaystyle.1 defectpixel.2"),
+              "{\"measurewindow\":{\"radius\":100,\"width\":2,\"xpos\":0,\"ypos\":0,\"vstretch\":128},"
+              "\"overlaystyle.1\":{\"color\":1,\"style\":0},"
+              "\"defectpixel.2\":{\"xpos\":512,\"ypos\":44,\"mode\":2}}");
+    // They come back in whatever order they stand in.
+    ASSERT_EQ(Run("set Orvik-390C binning=1,1 colorbalance=1,2,3 overlayposition.1=20,30").code, 1); // no binning
+    ASSERT_EQ(Run("save Orvik-390C " + saved).code, 0);
+    const std::string text = Content(saved);
+    EXPECT_TRUE(Has(text, "\"red\": 1,\n      \"green\": 2,\n      \"blue\": 3\n"));
+    Write(other, Replaced(text, "\"posx\": 20,\n      \"posy\": 30\n", "\"posy\": 30,\n      \"posx\": 20\n"));
+    EXPECT_EQ(Run("diff " + saved + " " + other).code, 0);
+}
+
+} // namespace Scenario

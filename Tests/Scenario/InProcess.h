@@ -1,0 +1,41 @@
+#pragma once
+
+#include "HostProcess.h"
+
+#include <Commands/Commands.h>
+#include <Guarded.h>
+#include <Logging.h>
+
+#include <functional>
+#include <iostream>
+#include <sstream>
+
+namespace Scenario {
+
+/// Told of each port access once it was made; what it throws is how the access failed.
+using Observer = std::function<void(const Host::Access&)>;
+
+/// Runs a command of the host in this process, on a simulated camera that lives on in a file if one is given.
+inline Outcome RunInProcess(int (*command)(const Host::Invocation&), const Host::Invocation::Given& given,
+                            const Observer& observer, const std::string& state = "", bool json = false) {
+    Host::ConfigureLogging("off");
+    Host::Options options;
+    options.plugin = QDV12_PLUGIN;
+    options.json = json;
+    static Observer told; // since the host takes a plain function
+    told = observer;
+    options.camera.accesses = [](const Host::Access& access) { told(access); };
+    options.camera.simulation.state = state;
+    std::ostringstream out;
+    std::ostringstream err;
+    std::streambuf* const usualOut = std::cout.rdbuf(out.rdbuf());
+    std::streambuf* const usualErr = std::cerr.rdbuf(err.rdbuf());
+    Host::Program program(options);
+    const int code = Host::Guarded([&] { return command(Host::Invocation(program, given)); });
+    program.Finish();
+    std::cout.rdbuf(usualOut);
+    std::cerr.rdbuf(usualErr);
+    return {code, out.str(), err.str()};
+}
+
+} // namespace Scenario
