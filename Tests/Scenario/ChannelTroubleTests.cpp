@@ -115,7 +115,7 @@ TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
     const std::string file = TemporaryFile("json");
     ASSERT_EQ(camera.Run("save " + file).code, 0);
     for (const int signal : {SIGTERM, SIGHUP}) {
-        ASSERT_EQ(camera.Run("set gain=7 agc=2").code, 0);
+        ASSERT_EQ(camera.Run("set agc=off gain=7 agc=2").code, 0);
         Running restore(QDV12_HOST, {"restore", file, "--camera", "gige:192.168.1.10"}, Running::both);
         ASSERT_TRUE(restore.ReadUntil("\nexposuremode  ")) << restore.Read();
         restore.Signal(signal);
