@@ -24,6 +24,7 @@ public:
     Running(const std::string& program, std::vector<std::string> arguments, int stream) {
         std::array<int, 2> ends{};
         EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+        fcntl(ends[1], F_SETPIPE_SZ, 4096); // so that the program is never far ahead of who reads
         arguments.insert(arguments.begin(), program);
         std::vector<char*> words;
         words.reserve(arguments.size() + 1);
