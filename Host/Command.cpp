@@ -1,31 +1,8 @@
 #include "Command.h"
 
-#include <cstdio>
 #include <iostream>
 
 namespace Host {
-
-namespace {
-
-/// "a\nb", with the line feed as two characters.
-std::string InOneLine(const std::string& text) {
-    std::string line;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (character == '\n') {
-            line += "\\n";
-        } else if (byte < ' ' || byte == 0x7F) {
-            char escape[5];
-            std::snprintf(escape, sizeof escape, "\\x%02X", byte);
-            line += escape;
-        } else {
-            line += character;
-        }
-    }
-    return line;
-}
-
-} // namespace
 
 const std::vector<std::string>& Invocation::Texts(const std::string& parameter) const {
     static const std::vector<std::string> none;
@@ -42,7 +19,7 @@ Session& Invocation::Open() const { return program.Open(Text(modelParameter)); }
 
 void Complain(const std::string& text) {
     std::cout.flush(); // keeps the order of results and errors where both go to the same place
-    std::cerr << "qdv12host: " << InOneLine(text) << '\n';
+    std::cerr << "qdv12host: " << text << '\n';
 }
 
 } // namespace Host

@@ -60,8 +60,7 @@ struct Command {
 /// All commands, in the order of the help: the one place where a command is registered.
 [[nodiscard]] const std::vector<Command>& Commands();
 
-/// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE". Control characters, which texts of cameras and
-/// files may hold, are printed as escapes.
+/// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
 void Complain(const std::string& text);
 
 } // namespace Host
