@@ -46,6 +46,20 @@ std::optional<std::string> BytesOf(const std::string& hexadecimal) {
     return bytes;
 }
 
+/// What stands for a number or a text.
+std::optional<std::string> TextOf(const Json& element) {
+    if (const auto* const number = element.Number()) {
+        return std::to_string(*number);
+    }
+    return element.Text() == nullptr ? std::nullopt : std::optional(*element.Text());
+}
+
+std::optional<Value> TextFromJson(const Json& json) {
+    const auto* const hexadecimal = json[hexMember].Text();
+    const auto text = hexadecimal == nullptr ? TextOf(json) : BytesOf(*hexadecimal);
+    return text ? std::optional(Value{{}, *text}) : std::nullopt;
+}
+
 bool IsRecord(const Instance& instance) { return instance->shape.fields.size() > 1; }
 
 std::string Range(const Instance& instance, const FieldLimits& field) {
@@ -85,23 +99,16 @@ Json ToJson(const Instance& instance, const Value& value) {
 }
 
 std::optional<Value> FromJson(const Instance& instance, const Json& json) {
-    const auto textOf = [](const Json& element) -> std::optional<std::string> {
-        if (const auto* const number = element.Number()) {
-            return std::to_string(*number);
-        }
-        return element.Text() == nullptr ? std::nullopt : std::optional(*element.Text());
-    };
-    if (const auto* const hexadecimal = json[hexMember].Text(); hexadecimal && instance->shape.fields.empty()) {
-        const auto bytes = BytesOf(*hexadecimal);
-        return bytes ? std::optional(Value{{}, *bytes}) : std::nullopt;
+    if (instance->shape.fields.empty()) {
+        return TextFromJson(json);
     }
     if (!IsRecord(instance)) {
-        const auto text = textOf(json);
+        const auto text = TextOf(json);
         return text ? instance.Parse(*text) : std::nullopt;
     }
     std::string all;
     for (const Field& field : instance->shape.fields) {
-        const auto text = textOf(json[field.name]);
+        const auto text = TextOf(json[field.name]);
         if (!text) {
             return std::nullopt;
         }

@@ -101,7 +101,9 @@ TEST_F(HostRestore, NamesTheModesThatItCannotPutBack) {
     });
     EXPECT_TRUE(refused.out.ends_with("\nagc                       left off    no answer; it was 1\n")) << refused.out;
     EXPECT_TRUE(refused.err.ends_with(" not reached; automatic modes left off: agc\n")) << refused.err;
+}
 
+TEST_F(HostRestore, NamesTheModesThatAreOffWhenTheCameraIsLost) {
     for (const std::uint32_t last : {agc, sharpness}) {
         for (const bool json : {false, true}) {
             Prepare("Orvik-390C", "agc=off sharpness=3", "agc=1 sharpness=9");

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <array>
 #include <future>
 
 namespace Scenario {
@@ -174,9 +175,9 @@ TEST_F(HostSettings, MayBeSavedToOneFileAtTheSameTime) {
     const std::filesystem::path folder = TemporaryFile("folder");
     std::filesystem::create_directories(folder / "a.json.part"); // a name that somebody else may use
     const std::string file = folder / "a.json";
-    std::vector<std::future<int>> saves;
-    for (int i = 0; i < 6; ++i) {
-        saves.push_back(std::async(std::launch::async, [&] { return RunHost("save Orvik-390M " + file).code; }));
+    std::array<std::future<int>, 6> saves;
+    for (auto& save : saves) {
+        save = std::async(std::launch::async, [&] { return RunHost("save Orvik-390M " + file).code; });
     }
     for (auto& save : saves) {
         EXPECT_EQ(save.get(), 0);
