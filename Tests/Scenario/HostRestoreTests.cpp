@@ -27,6 +27,7 @@ protected:
         ASSERT_EQ(Run("set " + model + " " + changed).code, 0);
     }
     [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
+        signal(SIGHUP, SIG_DFL); // which nohup has ignored
         return RunInProcess(Host::RunRestore, {{"MODEL", {model}}, {"FILE", {saved}}}, observer, state, json);
     }
     [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
