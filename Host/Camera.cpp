@@ -209,4 +209,13 @@ Refusal Camera::RefusalOf(const Instance& instance) const {
     return {properties == nullptr ? SDK4_ERR_INVALID_PARAMETER : SDK4_ERR_OUTOFRANGE, true};
 }
 
+bool Camera::RoundsTo(const Instance& instance, const Value& asked, const Value& held) const {
+    bool announced = false;
+    if (instance->rounding != nullptr) { // which fails if what the rule goes by cannot be read
+        static_cast<void>(
+            Attempt([&] { announced = Calling(instance, [&] { return instance->rounding(control, asked, held); }); }));
+    }
+    return announced;
+}
+
 } // namespace Host

@@ -68,6 +68,10 @@ public:
     /// What happens to a value that it does not admit.
     [[nodiscard]] Refusal RefusalOf(const Instance& instance) const;
 
+    /// Whether the camera may hold the one value where the other was asked for, as the row announces. Asked of a
+    /// control through which other settings were set: it knows what is stale.
+    [[nodiscard]] bool RoundsTo(const Instance& instance, const Value& asked, const Value& held) const;
+
     template <typename Interface> [[nodiscard]] Interface* As() const { return dynamic_cast<Interface*>(&control); }
 
 private:

@@ -1,5 +1,7 @@
 #include "Command.h"
 
+#include "Text.h"
+
 #include <iostream>
 
 namespace Host {
@@ -19,7 +21,7 @@ Session& Invocation::Open() const { return program.Open(Text(modelParameter)); }
 
 void Complain(const std::string& text) {
     std::cout.flush(); // keeps the order of results and errors where both go to the same place
-    std::cerr << "qdv12host: " << text << '\n';
+    std::cerr << "qdv12host: " << InOneLine(text) << '\n';
 }
 
 } // namespace Host

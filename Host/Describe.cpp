@@ -150,6 +150,9 @@ std::string DescribeState(const Instance& instance, const Reading& reading) {
 }
 
 std::string DescribeForm(const Instance& instance, const Limits& limits) {
+    if (instance->shape.fields.empty()) {
+        return "a backslash begins \\\\, \\n, \\t, \\r or \\xHH";
+    }
     std::string form;
     for (const Field& field : instance->shape.fields) {
         form += (form.empty() ? "" : std::string(1, instance->shape.separator)) + field.name;

@@ -1,9 +1,9 @@
 #include "Format.h"
 
+#include "Text.h"
 #include "Value.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstring>
 
@@ -24,13 +24,13 @@ template <typename Record> std::string Fields(const Record& record) {
 
 /// The text in the bytes: at least four printable characters, then nothing but NULs. Empty if it is none.
 std::string TextIn(std::span<const std::uint8_t> bytes) {
-    const auto printable = [](std::uint8_t byte) { return std::isprint(byte) != 0; };
+    const auto printable = [](std::uint8_t byte) { return byte >= 0x20 && byte < 0x7F; }; // ASCII
     const auto end = std::find_if_not(bytes.begin(), bytes.end(), printable);
     const bool padded = std::all_of(end, bytes.end(), [](std::uint8_t byte) { return byte == 0; });
     return padded && end - bytes.begin() >= 4 ? std::string(bytes.begin(), end) : std::string();
 }
 
-std::string Quoted(const std::string& text) { return '"' + text + '"'; }
+std::string Quoted(const std::string& text) { return '"' + Escaped(text) + '"'; }
 
 std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(word) : Hex(word); }
 
@@ -43,8 +43,8 @@ std::string Hex(std::uint32_t value) {
 }
 
 std::string Pad(std::string text, std::size_t width) {
-    text.resize(std::max(width, text.size()), ' ');
-    return text;
+    const std::size_t taken = Width(text);
+    return text.append(taken < width ? width - taken : 0, ' ');
 }
 
 std::string Format(bool value) { return value ? "true" : "false"; }

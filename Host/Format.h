@@ -36,7 +36,7 @@ namespace Host {
 /// "0x" and eight digits.
 [[nodiscard]] std::string Hex(std::uint32_t value);
 
-/// The text, filled up with blanks to the width.
+/// An escaped text, filled up with blanks to the width, in columns of a terminal.
 [[nodiscard]] std::string Pad(std::string text, std::size_t width);
 
 } // namespace Host

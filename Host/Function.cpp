@@ -65,8 +65,8 @@ Function& Function::Keeps(std::int32_t code) {
     return *this;
 }
 
-Function& Function::Rounds() {
-    rounds = true;
+Function& Function::Rounds(RoundingRule rule) {
+    rounding = rule;
     return *this;
 }
 

@@ -56,6 +56,9 @@ struct Function {
     /// Limits that the camera tells, or that its model decides.
     using LimitsReader = Host::Limits (*)(IDynamicObject& control, std::string_view model);
 
+    /// Whether the camera may hold the one value where the other, which it admits, was asked for.
+    using RoundingRule = bool (*)(IDynamicObject& control, const Value& asked, const Value& held);
+
     std::string_view name;
     std::string_view topic; ///< what it belongs to: "identity", "exposure", ...
     std::string interfaceName;
@@ -71,9 +74,9 @@ struct Function {
     std::optional<Lock> lock;
     std::optional<Refusal> refusal; ///< where it is not the family's usual one
     Restore restore = Restore::Never;
-    bool rounds = false;       ///< the camera may make another value of an admitted one
-    bool trigger = false;      ///< has no value: writing it, whatever is written, is the command
-    std::string_view property; ///< what IPropertyState calls it, if it knows it
+    RoundingRule rounding = nullptr; ///< null: the camera holds what it accepts
+    bool trigger = false;            ///< has no value: writing it, whatever is written, is the command
+    std::string_view property;       ///< what IPropertyState calls it, if it knows it
     std::string_view presence; ///< the function whose reading tells whether the camera has this one, which none reads
 
     // What a row says beyond its name, getter and setter.
@@ -86,7 +89,7 @@ struct Function {
     Function& OneOf(Host::Codes named);                     ///< single values, all of which have names
     Function& Named(Host::Codes names);                     ///< names of some of its values
     Function& Keeps(std::int32_t code);                     ///< refuses with that code and keeps its value
-    Function& Rounds();
+    Function& Rounds(RoundingRule rule);
     Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0});
     Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open);
     Function& Instances(std::uint32_t number);

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <stdexcept>
 
 namespace Host {
@@ -33,6 +34,26 @@ Document ToDocument(const Json& json) {
         return *number;
     }
     return json.Bool() != nullptr ? Document(*json.Bool()) : Document();
+}
+
+/// Escapes the control characters that the library leaves alone, DEL and C1; they stand within texts alone.
+std::string Dump(const Json& json, int indent) {
+    const std::string text = ToDocument(json).dump(indent, ' ', false, Document::error_handler_t::replace);
+    std::string escaped;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const unsigned code = static_cast<unsigned char>(text[i]);
+        const unsigned next = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : 0;
+        const bool isC1 = code == 0xC2 && next < 0xA0;
+        if (!isC1 && code != 0x7F) {
+            escaped += text[i];
+            continue;
+        }
+        char escape[8];
+        std::snprintf(escape, sizeof escape, "\\u%04x", isC1 ? next : code);
+        escaped += escape;
+        i += isC1 ? 1 : 0;
+    }
+    return escaped;
 }
 
 Json FromDocument(const Document& document) {
@@ -94,13 +115,9 @@ const Json& Json::operator[](std::string_view name) const {
     return none;
 }
 
-std::string Json::Print() const {
-    return ToDocument(*this).dump(2, ' ', false, Document::error_handler_t::replace); // a camera's text may be anything
-}
+std::string Json::Print() const { return Dump(*this, 2); }
 
-std::string Json::PrintInOneLine() const {
-    return ToDocument(*this).dump(-1, ' ', false, Document::error_handler_t::replace);
-}
+std::string Json::PrintInOneLine() const { return Dump(*this, -1); }
 
 Json Json::Parse(const std::string& text) { return FromDocument(Document::parse(text)); }
 

@@ -1,6 +1,7 @@
 #include "Logging.h"
 
 #include "Errors.h"
+#include "Text.h"
 
 #include <log4cxx/consoleappender.h>
 #include <log4cxx/level.h>
@@ -12,10 +13,27 @@
 
 namespace Host {
 
+namespace {
+
+/// A line holds what the host handed to the library, a text to be set for one.
+class OneLineLayout final : public log4cxx::PatternLayout {
+public:
+    using PatternLayout::PatternLayout;
+
+    void format(log4cxx::LogString& output, const log4cxx::spi::LoggingEventPtr& event,
+                log4cxx::helpers::Pool& pool) const override {
+        log4cxx::LogString line;
+        PatternLayout::format(line, event, pool);
+        output += InOneLine(line) + '\n';
+    }
+};
+
+} // namespace
+
 void ConfigureLogging(const std::string& level, const std::string& configuration) {
     const auto root = log4cxx::Logger::getRootLogger();
     if (configuration.empty()) {
-        const auto layout = std::make_shared<log4cxx::PatternLayout>(LOG4CXX_STR("%-5p %F:%L  %m%n"));
+        const auto layout = std::make_shared<OneLineLayout>(LOG4CXX_STR("%-5p %F:%L  %m"));
         root->addAppender(std::make_shared<log4cxx::ConsoleAppender>(layout, log4cxx::ConsoleAppender::getSystemErr()));
     } else {
         if (!std::filesystem::is_regular_file(configuration)) {

@@ -3,6 +3,7 @@
 #include "Channel/ChannelErrors.h"
 #include "Channel/GigEConnection.h"
 #include "Nearest.h"
+#include "Text.h"
 
 #include <algorithm>
 
@@ -48,7 +49,7 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection, const s
     for (const std::string& name : NamesOf(plugin.Models())) {
         served += (served.empty() ? "" : ", ") + name;
     }
-    throw OpenError(connection.Describe() + " calls itself \"" + read + '"' +
+    throw OpenError(connection.Describe() + " calls itself \"" + Escaped(read) + '"' +
                     (mismatch ? ", not \"" + wanted + '"' : "") + "; the plug-in serves " + served +
                     " (--force-model opens it as one of these)");
 }

@@ -1,6 +1,7 @@
 #include "Value.h"
 
 #include "Format.h"
+#include "Text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -84,7 +85,7 @@ std::string Print(std::int64_t number, const Shape& shape, Codes codes) {
 
 std::string Print(const Value& value, const Shape& shape, Codes codes) {
     if (shape.fields.empty()) {
-        return value.text;
+        return Escaped(value.text);
     }
     std::string text;
     for (const std::int64_t number : value.numbers) {
@@ -96,8 +97,8 @@ std::string Print(const Value& value, const Shape& shape, Codes codes) {
 std::optional<Value> ParseValue(std::string_view text, const Shape& shape, Codes codes) {
     Value value;
     if (shape.fields.empty()) {
-        value.text = text;
-        return value;
+        const auto plain = Unescaped(text);
+        return plain ? std::optional(Value{{}, *plain}) : std::nullopt;
     }
     for (std::size_t i = 0; i < shape.fields.size(); ++i) {
         const bool last = i + 1 == shape.fields.size();

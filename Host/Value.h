@@ -42,7 +42,7 @@ using Codes = std::span<const Code>;
 [[nodiscard]] Value FromMemory(const void* memory, const Shape& shape);
 void ToMemory(const Value& value, const Shape& shape, void* memory);
 
-/// "1:2000", "0,0,1279,1023", "off", or the text itself. What this prints, ParseValue reads.
+/// "1:2000", "0,0,1279,1023", "off", or the text, escaped. What this prints, ParseValue reads.
 [[nodiscard]] std::string Print(const Value& value, const Shape& shape, Codes codes = {});
 /// One number of a value, by its name if it has one.
 [[nodiscard]] std::string Print(std::int64_t number, const Shape& shape, Codes codes = {});

@@ -3,6 +3,8 @@
 #include "Errors.h"
 
 #include <arpa/inet.h>
+#include <ifaddrs.h>
+#include <net/if.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -75,6 +77,20 @@ std::string PrintAddress(std::uint32_t address) {
     const in_addr network{htonl(address)};
     std::array<char, INET_ADDRSTRLEN> text{};
     return inet_ntop(AF_INET, &network, text.data(), text.size());
+}
+
+bool HasNetworkInterface() {
+    ifaddrs* list = nullptr;
+    if (getifaddrs(&list) != 0) {
+        return true; // nobody knows that there is none
+    }
+    bool found = false;
+    for (const ifaddrs* each = list; each != nullptr; each = each->ifa_next) {
+        const unsigned up = each->ifa_flags & (IFF_UP | IFF_LOOPBACK | IFF_POINTOPOINT);
+        found = found || (up == IFF_UP && each->ifa_addr != nullptr && each->ifa_addr->sa_family == AF_INET);
+    }
+    freeifaddrs(list);
+    return found;
 }
 
 std::string LocalAddressTowards(const std::string& address) { return Socket(address, controlPort).LocalAddress(); }

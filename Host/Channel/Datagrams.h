@@ -12,6 +12,10 @@ namespace Host {
 /// "192.168.1.10" for 0xC0A8010A
 [[nodiscard]] std::string PrintAddress(std::uint32_t address);
 
+/// Whether discovery reaches beyond this machine: by a network interface that is up, has an IPv4 address and is neither
+/// loopback nor a point-to-point link, which Aravis passes over.
+[[nodiscard]] bool HasNetworkInterface();
+
 /// Where this machine sends from what it sends to an address. Sends nothing.
 /// @throw OpenError if there is no way to it
 [[nodiscard]] std::string LocalAddressTowards(const std::string& address);

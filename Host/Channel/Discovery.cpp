@@ -1,5 +1,6 @@
 #include "Discovery.h"
 
+#include "AravisErrors.h"
 #include "Datagrams.h"
 #include "Errors.h"
 
@@ -26,6 +27,7 @@ std::string UserNameOf(const std::string& address) {
 } // namespace
 
 std::vector<FoundCamera> DiscoverCameras() {
+    SilenceAravis();
     arv_disable_interface("USB3Vision");
     arv_update_device_list();
     std::vector<FoundCamera> found;

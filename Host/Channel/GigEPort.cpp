@@ -1,5 +1,6 @@
 #include "GigEPort.h"
 
+#include "AravisErrors.h"
 #include "ChannelErrors.h"
 #include "Datagrams.h"
 #include "Errors.h"
@@ -41,33 +42,6 @@ struct FreeError {
 };
 using Error = std::unique_ptr<GError, FreeError>;
 
-/// What the camera answered, in words, for the statuses of the standard that Aravis tells apart.
-std::string Reason(const GError& error) {
-    struct Status {
-        int code;
-        const char* words;
-    };
-    static constexpr Status statuses[] = {
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, "the camera does not know the command (0x8001)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER, "invalid parameter (0x8002)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS, "the camera has no such address (0x8003)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT, "the register cannot be written (0x8004)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT, "bad alignment (0x8005)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED, "access denied (0x8006)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY, "the camera is busy (0x8007)"},
-        {ARV_DEVICE_ERROR_TIMEOUT, "no answer"},
-        {ARV_DEVICE_ERROR_GENICAM_NOT_FOUND, "its GenICam description cannot be read"},
-    };
-    if (error.domain == ARV_DEVICE_ERROR) {
-        for (const Status& status : statuses) {
-            if (status.code == error.code) {
-                return status.words;
-            }
-        }
-    }
-    return error.message;
-}
-
 bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_DEVICE_ERROR && error.code == code; }
 
 /// Makes an access, again and again for a while as long as the camera is busy.
@@ -86,14 +60,11 @@ Error Try(const std::function<bool(GError**)>& access) {
     }
 }
 
-/// What Aravis remarks beside its errors; each of these is told in one line.
-void Swallow(const char*, GLogLevelFlags, const char*, void*) {}
-
 ArvDevice* Open(const std::string& address) {
     const std::string local = LocalAddressTowards(address);
     const Address from(g_inet_address_new_from_string(local.c_str()));
     const Address to(g_inet_address_new_from_string(address.c_str()));
-    g_log_set_default_handler(Swallow, nullptr);
+    SilenceAravis();
     for (int trial = 1;; ++trial) {
         GError* failure = nullptr;
         if (ArvDevice* const opened = arv_gv_device_new(from.get(), to.get(), &failure)) {

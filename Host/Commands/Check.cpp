@@ -2,6 +2,7 @@
 
 #include "Format.h"
 #include "Json.h"
+#include "Text.h"
 
 #include <iostream>
 
@@ -26,8 +27,8 @@ void PrintAsJson(const PluginCheck& check) {
 }
 
 void Print(const PluginCheck& check) {
-    std::cout << "path    " << check.path << '\n'
-              << "loader  " << (check.loader.empty() ? "loaded" : check.loader) << '\n';
+    std::cout << "path    " << InOneLine(check.path) << '\n'
+              << "loader  " << (check.loader.empty() ? "loaded" : InOneLine(check.loader)) << '\n';
     for (const auto& [name, found] : check.exports) {
         std::cout << "export  " << Pad(name, 14) << (found ? "found" : "missing") << '\n';
     }

@@ -1,8 +1,10 @@
 #include "Commands.h"
 
+#include "Channel/Datagrams.h"
 #include "Channel/Discovery.h"
 #include "Format.h"
 #include "Json.h"
+#include "Text.h"
 
 #include <algorithm>
 #include <iostream>
@@ -12,8 +14,9 @@ namespace Host {
 namespace {
 
 void Print(const FoundCamera& camera, bool served) {
-    std::string line = Pad(camera.address, 17) + Pad(camera.mac, 19) + Pad(camera.model, 16) + Pad(camera.serial, 16) +
-                       Pad(camera.userName, served ? 0 : 16) + (served ? "" : "(not served)");
+    const auto column = [](const std::string& text, std::size_t width) { return Pad(Escaped(text) + ' ', width); };
+    std::string line = column(camera.address, 17) + column(camera.mac, 19) + column(camera.model, 16) +
+                       column(camera.serial, 16) + column(camera.userName, 16) + (served ? "" : "(not served)");
     std::cout << line.erase(line.find_last_not_of(' ') + 1) << '\n';
 }
 
@@ -37,10 +40,15 @@ int Discover(const Invocation& invocation) {
             Print(camera, known);
         }
     }
+    const bool unreachable = found.empty() && !HasNetworkInterface();
     if (invocation.Program().Json()) {
         std::cout << list.Print() << '\n';
-    } else if (found.empty()) {
+    } else if (found.empty() && !unreachable) {
         std::cout << "no camera was found\n";
+    }
+    if (unreachable) {
+        Complain("no network interface is up with an IPv4 address, other than loopback");
+        return Refused;
     }
     return AllWell;
 }

@@ -16,6 +16,7 @@ struct Result {
     Failure failure;
     std::string lockedBy;      ///< if that is the reason
     std::optional<Value> held; ///< by the camera, afterwards
+    bool rounded = false;      ///< to what it holds, as it may
 };
 
 /// @param reader tells what the camera holds, whatever the other control remembers
@@ -29,6 +30,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
         const Reading reading = Settled(reader, assignment.instance, assignment.value, wait);
         if (reading.error == 0) {
             result.held = reading.value;
+            result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
         }
     }
     return result;
@@ -39,7 +41,7 @@ std::string DescribeFate(const Camera& camera, const Assignment& assignment, con
     const std::string asked = assignment.instance.Print(assignment.value);
     const std::string held = assignment.instance.Print(*result.held);
     if (result.failure.code == 0) {
-        return asked + " was accepted, but the camera now holds " + held;
+        return asked + (result.rounded ? " was rounded to " : " was accepted, but the camera now holds ") + held;
     }
     const bool clamped = result.failure.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
     return clamped ? asked + " was clamped, the camera now holds " + held
@@ -61,7 +63,7 @@ bool Report(const Camera& camera, const Assignment& assignment, const Result& re
         text += ": " + DescribeFate(camera, assignment, result);
     }
     Complain(text);
-    return result.failure.code != 0 || !assignment.instance->rounds;
+    return result.failure.code != 0 || !result.rounded;
 }
 
 Json ToJson(const Assignment& assignment, const Result& result) {

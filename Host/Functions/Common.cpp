@@ -1,5 +1,6 @@
 #include "Codes.h"
 #include "Names.h"
+#include "Rounding.h"
 #include "Tables.h"
 #include "Utf8.h"
 
@@ -68,7 +69,7 @@ void AddNetwork(FunctionTable& table) {
     table.ReadOnly<&I::GetSecondUrl>                          ("secondurl");
     table.Row<&I::GetUserDefinedName, &SetUserName>           ("username")                                          .Restored(Network);
     table.Row<&GetDHCP, &SetDHCP>                             ("dhcp")        .OneOf(Named::onOff)                  .Restored(Network);
-    table.Row<&I::GetPacketSize, &I::SetPacketSize>           ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds().Restored(Network);
+    table.Row<&I::GetPacketSize, &I::SetPacketSize>           ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds(Rounding::DownToFours).Restored(Network);
     table.Row<&I::GetPacketDelay, &I::SetPacketDelay>         ("packetdelay") .Unit("ticks")                        .Restored(Network);
 }
 

@@ -1,5 +1,6 @@
 #include "Codes.h"
 #include "Names.h"
+#include "Rounding.h"
 #include "Tables.h"
 
 #include <SDK4/SDK4.h>
@@ -74,11 +75,11 @@ void AddOrvikExposure(FunctionTable& table) {
     table.Row<&E::GetExposureMode, &E::SetExposureMode>             (Name::exposureMode)  .OneOf(Named::exposureModes)    .Restored(Setting);
     table.ReadOnly<&ITiming::GetPixelClock>                         ("pixelclock")        .Unit("Hz");
     table.Row<&ISlowScan::GetSlowScan, &ISlowScan::SetSlowScan>     ("slowscan")          .OneOf(Named::onOff)            .Restored(Setting);
-    table.Row<&ITiming::GetReadoutTime, &ITiming::SetReadoutTime>   ("readouttime")       .Unit("us").Rounds()            .Restored(Setting);
+    table.Row<&ITiming::GetReadoutTime, &ITiming::SetReadoutTime>   ("readouttime")       .Unit("us").Rounds(Rounding::UpToTheFastest).Restored(Setting);
     table.ReadOnly<&ITiming::GetFrameDuration>                      ("frameduration")     .Unit("us");
     table.Row<&E::GetAET, &E::SetAET>                               (Name::aet)           .OneOf(0, 2).Named(Named::off)  .Restored(Mode);
     table.Row<&E::GetAutoExposureLevel, &E::SetAutoExposureLevel>   ("autoexposurelevel") .Range(0, 255)                  .Restored(Setting);
-    table.Row<&E::GetExposure, &E::SetExposure>                     (Name::exposure)      .Rounds().MovedBy(Name::aet)    .Restored(Setting);
+    table.Row<&E::GetExposure, &E::SetExposure>                     (Name::exposure)      .Rounds(Rounding::ToACount).MovedBy(Name::aet).Restored(Setting);
     table.Row<&IGain::GetAGC, &IGain::SetAGC>                       (Name::agc)           .OneOf(0, 2).Named(Named::off)  .Restored(Mode);
     table.Row<&IGain::GetGain, &IGain::SetGain>                     (Name::gain)          .Range(0, 511).MovedBy(Name::agc).Restored(Setting);
     table.Row<&T::GetTriggerTimer, &T::SetTriggerTimer>             ("triggertimer")                                      .Restored(Setting);
@@ -112,7 +113,7 @@ void AddOrvikOverlay(FunctionTable& table) {
     table.Row<&O::GetOverlaySize, &O::SetOverlaySize>               (Name::overlaySize)      .Instances(2).Unit("px")                                .Restored(Setting);
     table.Row<&A::GetMeasureFrameShow, &A::SetMeasureFrameShow>     (Name::measureFrameShow) .OneOf(Named::onOff)                                    .Restored(Setting);
     table.Row<&A::GetMeasureFrameColor, &A::SetMeasureFrameColor>   ("measureframecolor")                                                            .Restored(Setting);
-    table.Row<&A::GetMeasureWindow, &A::SetMeasureWindow>           (Name::measureWindow)    .Instances(2).Unit("px").Rounds()                       .Restored(Setting);
+    table.Row<&A::GetMeasureWindow, &A::SetMeasureWindow>           (Name::measureWindow)    .Instances(2).Unit("px").Rounds(Rounding::IntoTheImage) .Restored(Setting);
     table.ReadOnly<&A::GetMeasureValue>                             ("measurevalue")         .Instances(2);
 }
 

@@ -107,7 +107,7 @@ void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, con
     if (code != expectedCode) {
         tested.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
     }
-    const bool mayDiffer = instance->rounds && trial.value != before;
+    const bool mayDiffer = trial.value != before && setter.RoundsTo(instance, trial.value, held);
     if (held != expected && !mayDiffer) {
         tested.failures.push_back(what + "the camera holds " + instance.Print(held) + " instead of " +
                                   instance.Print(expected));
@@ -123,7 +123,12 @@ void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
             if (const std::int32_t code = Write(instance, neighbour); code != 0) {
                 tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
             }
-            taken = taken || Held(instance, neighbour) != current;
+            const Value held = Held(instance, neighbour);
+            taken = taken || held != current;
+            if (held != current && held != neighbour && !setter.RoundsTo(instance, neighbour, held)) {
+                tested.failures.push_back(instance.Print(neighbour) + ": the camera holds " + instance.Print(held) +
+                                          " instead");
+            }
             static_cast<void>(Write(instance, current));
             static_cast<void>(Held(instance, current));
         }

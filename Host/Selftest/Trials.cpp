@@ -76,7 +76,8 @@ std::vector<Value> Neighbours(const Instance& instance, const Value& value, std:
     std::vector<Value> neighbours;
     for (const std::int64_t step : {1, -1}) {
         const std::int64_t number = value.numbers[field] + step;
-        if (Fits(instance->shape.fields[field], number)) {
+        const bool isBelowAll = number < 0 && value.numbers[field] >= 0; // of what knows no negative ones
+        if (!isBelowAll && Fits(instance->shape.fields[field], number)) {
             neighbours.push_back(Replaced(value, field, number));
         }
     }

@@ -15,12 +15,12 @@ constexpr int passes = 3; ///< more than one setting needs that is moved by one 
 const Value off{{0}, {}};
 
 /// What became of a setting that was written, and then read.
-Fate FateOf(const Restored& result) {
+Fate FateOf(const Camera& camera, const Restored& result) {
     const bool accepted = result.reason.empty();
     if (result.held == result.saved) {
         return accepted ? Fate::Done : Fate::Refused;
     }
-    if (accepted && result.instance->rounds) {
+    if (accepted && camera.RoundsTo(result.instance, result.saved, *result.held)) {
         return Fate::Rounded;
     }
     return result.held != result.before ? Fate::Clamped : Fate::Refused;
@@ -103,7 +103,7 @@ Restored Restorer::Set(const Setting& setting) const {
         return result;
     }
     result.held = reading.value;
-    result.fate = FateOf(result);
+    result.fate = FateOf(setter, result);
     if (result.fate == Fate::Refused && result.reason.empty()) {
         result.reason = "the camera does not take it";
     }
