@@ -8,17 +8,22 @@ namespace Host {
 
 namespace {
 
-bool WantsColour() {
-    const char* const refused = std::getenv("NO_COLOR"); // any value but an empty one counts
-    return isatty(STDOUT_FILENO) == 1 && (refused == nullptr || *refused == '\0');
+std::string Environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
 }
 
 std::string Paint(const char* code, const std::string& text) {
-    static const bool wanted = WantsColour();
+    static const bool wanted = IsStyled(STDOUT_FILENO);
     return wanted ? "\033[" + std::string(code) + "m" + text + "\033[0m" : text;
 }
 
 } // namespace
+
+bool IsStyled(int stream) {
+    const std::string terminal = Environment("TERM");
+    return isatty(stream) == 1 && !terminal.empty() && terminal != "dumb" && Environment("NO_COLOR").empty();
+}
 
 std::string Dim(const std::string& text) { return Paint("2", text); }
 std::string Yellow(const std::string& text) { return Paint("33", text); }

@@ -2,11 +2,21 @@
 #include "Guarded.h"
 #include "Logging.h"
 
+#include <clocale>
 #include <iostream>
+#include <string_view>
 
 namespace Host {
 
 namespace {
+
+/// The prompt and the columns go by characters, which are UTF-8 where nobody says otherwise. Numbers stay as they are.
+void TakeUpLocale() {
+    const char* const locale = std::setlocale(LC_CTYPE, "");
+    if (locale == nullptr || std::string_view(locale) == "C") {
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+    }
+}
 
 /// What nobody gets to see is no success: a disk is full, for one.
 int AsSeen(int code, int failed) {
@@ -40,5 +50,6 @@ int Run(std::vector<std::string> arguments) {
 } // namespace Host
 
 int main(int argc, char** argv) {
+    Host::TakeUpLocale();
     return Host::Guarded([&] { return Host::Run({argv + 1, argv + argc}); });
 }

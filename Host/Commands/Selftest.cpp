@@ -19,10 +19,10 @@ namespace {
 
 constexpr const char* notPutBack = "the settings could not be put back";
 
-/// How far the run is; on a terminal alone.
+/// How far the run is; on a styled terminal alone.
 class Progress {
 public:
-    explicit Progress(std::size_t totalSteps) : total(totalSteps), shown(isatty(STDERR_FILENO) == 1) {}
+    explicit Progress(std::size_t totalSteps) : total(totalSteps), shown(IsStyled(STDERR_FILENO)) {}
     ~Progress() {
         if (shown) {
             std::cerr << "\r\033[K" << std::flush;
