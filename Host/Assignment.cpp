@@ -19,14 +19,14 @@ Assignment ParseAssignment(const Camera& camera, const std::string& text) {
         return {instance, {}};
     }
     if (equals == std::string::npos) {
-        throw UsageError("no value for \"" + name + "\": NAME=VALUE is wanted");
+        throw UsageError("no value for \"" + name + "\": NAME=VALUE is required");
     }
     const std::string given = text.substr(equals + 1);
     if (const auto value = instance.Parse(given)) {
         return {instance, *value};
     }
     const std::string form = DescribeForm(instance, camera.LimitsOf(instance));
-    throw UsageError("\"" + given + "\" is no value of " + name + (form.empty() ? "" : " (" + form + ")"));
+    throw UsageError("invalid value \"" + given + "\" for " + name + (form.empty() ? "" : " (" + form + ")"));
 }
 
 std::vector<Assignment> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts) {

@@ -15,8 +15,6 @@ namespace Host {
 
 namespace {
 
-constexpr const char* moreHelp = " (qdv12host --help says more)";
-
 /// What CLI11 filled in for the parameters of a command.
 struct Filled {
     CLI::App* app;
@@ -24,8 +22,7 @@ struct Filled {
     std::vector<std::pair<std::string, CLI::Option*>> options; ///< by the parameter's name
 };
 
-/// @param required whether the parser insists on what the parameter's name does not mark as optional
-CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter, bool required) {
+CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter, CameraFrom camera) {
     const std::string name = parameter.name;
     if (!IsPositional(parameter)) {
         const std::size_t blank = name.find(' ');
@@ -33,18 +30,17 @@ CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter, bool requir
                    ? app.add_flag(name, parameter.about)
                    : app.add_option(name.substr(0, blank), parameter.about)->type_name(name.substr(blank + 1));
     }
-    const bool optional = name.starts_with('[');
+    const bool required = !name.starts_with('[') && camera != CameraFrom::Network;
     const bool several = name.find("...") != std::string::npos;
-    CLI::Option* const option =
-        app.add_option(BareName(parameter), parameter.about)->type_name("")->required(required && !optional);
+    CLI::Option* const option = app.add_option(BareName(parameter), parameter.about)->type_name("")->required(required);
     return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
 }
 
-Filled AddCommand(CLI::App& app, const Command& command, bool inShell, bool required) {
+Filled AddCommand(CLI::App& app, const Command& command, CameraFrom camera) {
     Filled filled{app.add_subcommand(command.name, command.about), &command, {}};
     for (const Parameter& parameter : command.parameters) {
-        if (!inShell || parameter.name != std::string_view(modelParameter)) {
-            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter, required));
+        if (camera != CameraFrom::Shell || parameter.name != std::string_view(modelParameter)) {
+            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter, camera));
         }
     }
     return filled;
@@ -72,6 +68,7 @@ std::string AddressOf(const std::string& text) {
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     app.add_option("--plugin", options.plugin, "The plug-in to load (default: the installed one, else the built one)")
+        ->check([](const std::string& path) { return path.empty() ? "a path is required" : ""; })
         ->type_name("PATH");
     app.add_option("--index", options.camera.index,
                    "Camera index; with 2, the default, every value is read from the camera each time")
@@ -127,12 +124,21 @@ std::vector<std::string> OptionNames(const CLI::App& app) {
     return names;
 }
 
+std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name) {
+    std::vector<std::string> names;
+    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        names.push_back(command->get_name());
+    }
+    return "unknown command \"" + name + '"' + Suggestion(name, names);
+}
+
 /// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
 std::string Describe(CLI::App& app, const CLI::ParseError& error) {
     const auto unknown = app.remaining(true);
     const auto parsed = app.get_subcommands();
     if (unknown.empty()) {
-        return error.what();
+        const bool noCommand = parsed.empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+        return noCommand ? "COMMAND is required" : error.what();
     }
     const std::string quoted = " \"" + unknown.front() + '"';
     if (unknown.front().starts_with('-')) {
@@ -141,25 +147,38 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error) {
         names.insert(names.end(), more.begin(), more.end());
         return "unknown option" + quoted + Suggestion(unknown.front(), names);
     }
-    if (!parsed.empty()) {
-        return quoted.substr(1) + " was not expected";
+    return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : quoted.substr(1) + " was not expected";
+}
+
+/// Whether the parser found too few texts for the parameters of a command, but nothing else.
+bool LacksPositionals(const CLI::App& app, const CLI::ParseError& error) {
+    return dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && app.remaining(true).empty() &&
+           !app.get_subcommands().empty();
+}
+
+/// Prints what --help prints, of a command or of them all.
+/// @throw UsageError for what is no command
+void PrintHelp(const CLI::App& app, const std::string& name) {
+    if (name.empty()) {
+        std::cout << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);
+        return;
     }
-    std::vector<std::string> names;
-    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
-        names.push_back(command->get_name());
+    const auto found = app.get_subcommands([&](const CLI::App* command) { return command->get_name() == name; });
+    if (found.empty()) {
+        throw UsageError(DescribeUnknownCommand(app, name));
     }
-    return "unknown command" + quoted + Suggestion(unknown.front(), names);
+    std::cout << found.front()->help(app.get_name());
+}
+
+CameraFrom SourceOf(const std::vector<std::string>& arguments, bool inShell) {
+    return inShell ? CameraFrom::Shell : NamesCamera(arguments) ? CameraFrom::Network : CameraFrom::Model;
 }
 
 /// See Positionals.h.
-void LeaveModelOut(Request& request) {
-    try {
-        LeaveModelOut(*request.command, request.given);
-        if (request.options.camera.forceModel && !request.given.contains(modelParameter)) {
-            throw UsageError("MODEL is required with --force-model");
-        }
-    } catch (const UsageError& error) {
-        throw UsageError(error.what() + std::string(moreHelp));
+void Assign(Request& request, CameraFrom camera) {
+    AssignPositionals(*request.command, camera, request.given);
+    if (request.options.camera.forceModel && !request.given.contains(modelParameter)) {
+        throw UsageError("MODEL is required with --force-model");
     }
 }
 
@@ -167,45 +186,59 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, simulated ones or on the network.",
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.fallthrough(); // common options may stand behind the command
     Request request;
     bool trace = false;
-    const bool onNetwork = !inShell && NamesCamera(arguments);
     app.add_flag("--json", request.options.json, "Print results as JSON");
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, request.options, trace);
         app.footer("Exit codes: 0 all well; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
     }
+    const CameraFrom camera = SourceOf(arguments, inShell);
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
         if (command.inShell || !inShell) {
-            commands.push_back(AddCommand(app, command, inShell, !onNetwork));
+            commands.push_back(AddCommand(app, command, camera));
         }
     }
+    std::string helped;
+    CLI::App* const help = app.add_subcommand("help", "Say more about a command");
+    help->add_option("COMMAND", helped, "A command; without it, all are listed")->type_name("");
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() != 0) {
-            throw UsageError(Describe(app, error) + (inShell ? "" : moreHelp));
+        if (error.get_exit_code() == 0) {
+            app.exit(error);
+            return request;
         }
-        app.exit(error);
+        if (!LacksPositionals(app, error)) {
+            throw UsageError(Describe(app, error));
+        }
+    }
+    if (help->parsed()) {
+        PrintHelp(app, helped);
         return request;
     }
     if (trace) {
         request.options.camera.accesses = PrintAccess;
     }
     TakeGiven(commands, request);
-    if (onNetwork) {
-        LeaveModelOut(request);
-    }
+    Assign(request, camera);
     return request;
 }
 
 } // namespace
 
-Request ParseCommandLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), false); }
+Request ParseCommandLine(std::vector<std::string> arguments) {
+    try {
+        return Parse(std::move(arguments), false);
+    } catch (const UsageError& error) {
+        throw UsageError(error.what() + std::string(" (qdv12host --help says more)"));
+    }
+}
 
 Request ParseShellLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), true); }
 

@@ -4,11 +4,14 @@
 #include "Text.h"
 
 #include <log4cxx/consoleappender.h>
+#include <log4cxx/helpers/loglog.h>
 #include <log4cxx/level.h>
 #include <log4cxx/logger.h>
+#include <log4cxx/logmanager.h>
 #include <log4cxx/patternlayout.h>
 #include <log4cxx/propertyconfigurator.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace Host {
@@ -28,6 +31,14 @@ public:
     }
 };
 
+/// Whether lines go anywhere.
+bool HasAppender() {
+    const auto loggers = log4cxx::LogManager::getCurrentLoggers();
+    return !log4cxx::Logger::getRootLogger()->getAllAppenders().empty() ||
+           std::any_of(loggers.begin(), loggers.end(),
+                       [](const log4cxx::LoggerPtr& logger) { return !logger->getAllAppenders().empty(); });
+}
+
 } // namespace
 
 void ConfigureLogging(const std::string& level, const std::string& configuration) {
@@ -39,10 +50,14 @@ void ConfigureLogging(const std::string& level, const std::string& configuration
         if (!std::filesystem::is_regular_file(configuration)) {
             throw UsageError("no such log4cxx configuration: " + configuration);
         }
+        log4cxx::helpers::LogLog::setQuietMode(true); // else its remarks stand on standard error, several lines of them
         log4cxx::PropertyConfigurator::configure(configuration);
     }
     if (configuration.empty() || !level.empty()) {
         root->setLevel(log4cxx::Level::toLevel(level, log4cxx::Level::getOff()));
+    }
+    if (!HasAppender() && root->getEffectiveLevel()->toInt() != log4cxx::Level::OFF_INT) {
+        throw UsageError("log4cxx configuration " + configuration + ": no usable appender");
     }
 }
 

@@ -67,6 +67,9 @@ void Plugin::Load(const std::string& path) {
     library.reset(dlopen(check.path.c_str(), RTLD_NOW | RTLD_LOCAL | stayLoaded));
     if (!library) {
         check.loader = dlerror();
+        if (const std::string prefix = check.path + ": "; check.loader.starts_with(prefix)) { // which is said beside it
+            check.loader.erase(0, prefix.size());
+        }
         if (check.loader.find("undefined symbol") != std::string::npos &&
             check.loader.find("log4cxx") != std::string::npos) {
             check.advice = "the plug-in takes log4cxx from the program that loads it: link that with the shared "

@@ -16,7 +16,7 @@ namespace {
 constexpr const char* help = "help";
 constexpr const char* quit = "quit";
 
-/// Splits a line at blanks; what stands in quotes stays together.
+/// Splits a line at blanks; what stands in quotes stays together, and a remark begins with # where a word could.
 std::vector<std::string> WordsOf(const std::string& line) {
     std::vector<std::string> words;
     bool inWord = false;
@@ -25,6 +25,9 @@ std::vector<std::string> WordsOf(const std::string& line) {
         if (quote == '\0' && (character == ' ' || character == '\t' || character == '\r')) {
             inWord = false;
             continue;
+        }
+        if (!inWord && character == '#') {
+            break;
         }
         if (!inWord) {
             words.emplace_back();
@@ -39,7 +42,7 @@ std::vector<std::string> WordsOf(const std::string& line) {
         }
     }
     if (quote != '\0') {
-        throw UsageError(std::string("there is no second ") + quote);
+        throw UsageError(std::string("missing closing quote ") + quote);
     }
     return words;
 }
@@ -89,11 +92,7 @@ std::vector<std::string> Completions(const Camera& camera, const std::string& be
     return FunctionsFor(*command, camera);
 }
 
-int RunLine(Program& program, std::vector<std::string> words, bool json) {
-    if (words.front() == help) {
-        words.erase(words.begin());
-        words.emplace_back("--help");
-    }
+int RunLine(Program& program, const std::vector<std::string>& words, bool json) {
     if (const auto names = CommandNames();
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
         throw UsageError("unknown command \"" + words.front() + '"' + Suggestion(words.front(), names));
@@ -124,7 +123,7 @@ int Shell(const Invocation& invocation) {
         bool leaves = false;
         const int code = Guarded([&]() -> int {
             const auto words = WordsOf(*line);
-            if (words.empty() || words.front().starts_with('#')) {
+            if (words.empty()) {
                 return AllWell;
             }
             leaves = words.front() == quit;

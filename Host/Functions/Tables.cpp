@@ -1,5 +1,6 @@
 #include "Tables.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace Host {
@@ -25,6 +26,15 @@ const Functions* TableOf(std::string_view classId) {
         Collect({AddIdentity, AddNetwork, AddM2VXFormat, AddFrames, AddM2VXExposure, AddM2VXProcessing, AddProcessing,
                  AddM2VXOverlay, AddMemory, AddSettingsSets, AddTests, AddM2VXDevice});
     return classId == "Orvik" ? &orvik : classId == "M2VX" ? &m2vx : nullptr;
+}
+
+bool IsFunction(std::string_view name) {
+    const std::string_view row = name.substr(0, name.find('.'));
+    const auto has = [&](const char* family) {
+        const Functions& table = *TableOf(family);
+        return std::any_of(table.begin(), table.end(), [&](const Function& each) { return each.name == row; });
+    };
+    return has("Orvik") || has("M2VX");
 }
 
 } // namespace Host

@@ -9,6 +9,9 @@ namespace Host {
 /// The functions of the family whose control calls itself so, or null for one that is not known.
 [[nodiscard]] const Functions* TableOf(std::string_view classId);
 
+/// Whether a family has a function of that name, which may end in an index.
+[[nodiscard]] bool IsFunction(std::string_view name);
+
 // The rows, by subject. Of both families: a row that one of them does not implement is there to say so.
 void AddIdentity(FunctionTable& table);
 void AddNetwork(FunctionTable& table);

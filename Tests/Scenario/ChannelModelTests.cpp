@@ -49,7 +49,7 @@ TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
         {"get Orvik-710C functionmodelid --force-model", 0, ""},
         {"get --force-model gain", 2, "qdv12host: MODEL is required with --force-model (qdv12host --help says more)\n"},
         {"get Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
-        {"get", 2, "qdv12host: NAME is required (qdv12host --help says more)\n"},
+        {"get", 2, "qdv12host: NAME is required; usage: qdv12host get [MODEL] NAME... (qdv12host --help says more)\n"},
         {"get gain --seed 3", 2, "qdv12host: --camera excludes --seed (qdv12host --help says more)\n"},
         {"diff a b", 2, "qdv12host: a second file or --camera, not both\n"},
         {"check", 0, ""},

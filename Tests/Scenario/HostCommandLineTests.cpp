@@ -13,9 +13,10 @@ namespace {
 
 using Given = Host::Invocation::Given;
 
-/// What each parameter is given when MODEL may be left out, of texts that a parser put into their places in order.
-Given GivenTo(std::initializer_list<const char*> parameters, std::vector<std::string> texts) {
-    Host::Command command{"", "", {}, nullptr};
+/// What each parameter of a command is given, of texts that a parser put into their places in order.
+Given GivenTo(std::initializer_list<const char*> parameters, std::vector<std::string> texts,
+              Host::CameraFrom from = Host::CameraFrom::Network) {
+    Host::Command command{"do", "", {}, nullptr};
     Given given;
     for (const char* name : parameters) {
         command.parameters.push_back({name, ""});
@@ -26,7 +27,7 @@ Given GivenTo(std::initializer_list<const char*> parameters, std::vector<std::st
             texts.erase(texts.begin(), end);
         }
     }
-    Host::LeaveModelOut(command, given);
+    Host::AssignPositionals(command, from, given);
     return given;
 }
 
@@ -44,6 +45,7 @@ template <typename Call> std::string Refusal(const Call& call) {
 TEST(HostCommandLine, ModelMayBeLeftOutWhereTheCameraSaysIt) {
     const auto info = {"MODEL", "--all"};
     EXPECT_EQ(GivenTo(info, {}), Given{});
+    EXPECT_EQ(GivenTo(info, {}, Host::CameraFrom::Shell), Given{});
     EXPECT_EQ(GivenTo(info, {"anything"}), (Given{{"MODEL", {"anything"}}}));
     const auto set = {"MODEL", "NAME=VALUE..."};
     const std::vector<std::string> two = {"gain=1", "agc=off"};
@@ -55,17 +57,70 @@ TEST(HostCommandLine, ModelMayBeLeftOutWhereTheCameraSaysIt) {
     EXPECT_EQ(GivenTo(get, {"gain", "iomode.3"}), (Given{{"NAME...", {"gain", "iomode.3"}}}));
     EXPECT_EQ(GivenTo(get, {"sollux g", "gain"}), (Given{{"MODEL", {"sollux g"}}, {"NAME...", {"gain"}}}));
     EXPECT_EQ(GivenTo(get, {"Gain"}), (Given{{"NAME...", {"Gain"}}})); // of which the camera may say what is meant
-    EXPECT_EQ(Refusal([&] { GivenTo(get, {}); }), "NAME is required");
+    EXPECT_EQ(Refusal([&] { GivenTo(get, {}); }), "NAME is required; usage: qdv12host do [MODEL] NAME...");
+    EXPECT_EQ(Refusal([&] { GivenTo(get, {}, Host::CameraFrom::Shell); }), "NAME is required; usage: do NAME...");
     const auto watch = {"MODEL", "[NAME=VALUE...]", "--seconds N"};
     EXPECT_EQ(GivenTo(watch, {"Cerix-MV7"}), (Given{{"MODEL", {"Cerix-MV7"}}}));
     EXPECT_EQ(GivenTo(watch, {"gain=1"}), (Given{{"[NAME=VALUE...]", {"gain=1"}}}));
     const auto save = {"MODEL", "FILE"};
     EXPECT_EQ(GivenTo(save, {"Bench.json"}), (Given{{"FILE", {"Bench.json"}}}));
     EXPECT_EQ(GivenTo(save, {"Cerix-MV7", "a.json"}), (Given{{"MODEL", {"Cerix-MV7"}}, {"FILE", {"a.json"}}}));
-    EXPECT_EQ(Refusal([&] { GivenTo(save, {}); }), "FILE is required");
+    EXPECT_TRUE(Refusal([&] { GivenTo(save, {}); }).starts_with("FILE is required"));
     const auto diff = {"A", "[B]", "--live MODEL"};
     EXPECT_EQ(GivenTo(diff, {"a.json"}), (Given{{"A", {"a.json"}}}));
     EXPECT_EQ(GivenTo(diff, {"a.json", "b.json"}), (Given{{"A", {"a.json"}}, {"[B]", {"b.json"}}}));
+}
+
+TEST(HostCommandLine, TellsWhatIsMissing) {
+    const std::string more = " (qdv12host --help says more)\n";
+    const auto noCamera = [&](const std::string& usage) {
+        return "qdv12host: no camera: MODEL or --camera gige:ADDRESS is required; usage: qdv12host " + usage + more;
+    };
+    const std::pair<std::string, std::string> cases[] = {
+        {"set gain=3", noCamera("set MODEL NAME=VALUE...")},
+        {"set gain=3 agc=1", noCamera("set MODEL NAME=VALUE...")},
+        {"get gain", noCamera("get MODEL NAME...")},
+        {"get overlayshow.1 lenscontrol", noCamera("get MODEL NAME...")},
+        {"watch gain=3", noCamera("watch MODEL [NAME=VALUE...]")},
+        {"save bench.json", noCamera("save MODEL FILE")},
+        {"info", noCamera("info MODEL")},
+        {"get Orvik-710C", "qdv12host: NAME is required; usage: qdv12host get MODEL NAME..." + more},
+        {"save 'Sollux G'", "qdv12host: FILE is required; usage: qdv12host save MODEL FILE" + more},
+        {"diff", "qdv12host: A is required; usage: qdv12host diff A [B]" + more},
+        {"--json", "qdv12host: COMMAND is required" + more},
+        {"get --jsn", "qdv12host: unknown option \"--jsn\"; did you mean \"--json\"?" + more},
+    };
+    for (const auto& [arguments, said] : cases) {
+        const Outcome run = RunHost(arguments);
+        EXPECT_EQ(run.code, 2) << arguments;
+        EXPECT_EQ(run.err, said) << arguments;
+    }
+    EXPECT_EQ(RunHost("get orvik-710c gain").err,
+              "qdv12host: unknown model \"orvik-710c\"; did you mean \"Orvik-710C\"?\n");
+}
+
+TEST(HostCommandLine, KnowsHelpAsACommand) {
+    const Outcome all = RunHost("help");
+    EXPECT_EQ(all.code, 0);
+    EXPECT_EQ(all.out, RunHost("--help").out);
+    const Outcome set = RunHost("help set");
+    EXPECT_EQ(set.code, 0);
+    EXPECT_EQ(set.out, RunHost("set --help").out);
+    EXPECT_TRUE(Has(set.out, "Usage: qdv12host set [OPTIONS] MODEL NAME=VALUE...\n"));
+    const Outcome unknown = RunHost("help sett");
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(unknown.err, "qdv12host: unknown command \"sett\"; did you mean \"set\"? (qdv12host --help says more)\n");
+}
+
+TEST(HostCommandLine, RemarksStandBehindCommandsOfAShell) {
+    const std::string script = TemporaryFile("script");
+    std::ofstream(script) << "# all\n  # more\nset gain=3 # as on line 2\nset username='# 1' #it's\nset username=#2\n"
+                          << "get gain#\nhelp get # it\n";
+    const Outcome run = RunHost("shell Cerix-MV7", QDV12_HOST, script);
+    EXPECT_TRUE(run.out.starts_with("gain=3\nusername=# 1\nusername=#2\nPrint what functions hold\nUsage: get "))
+        << run.out;
+    EXPECT_EQ(run.err, "qdv12host: unknown function \"gain#\"; did you mean \"gain\"?\n");
+    std::filesystem::remove(script);
 }
 
 TEST(HostCommandLine, TellsWhatACameraOnTheNetworkIsGivenAs) {

@@ -70,8 +70,6 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
          "qdv12host: agc: SDK4_ERR_INVALID_PARAMETER: 7 was refused, the camera still holds off\n"},
         {"set Cerix-MV7 agc=7", 1, "agc=off\n",
          "qdv12host: agc: SDK4_ERR_OUTOFRANGE: 7 was refused, the camera still holds off\n"},
-        {"set Orvik-710C packetsize=1501", 0, "packetsize=1500\n",
-         "qdv12host: packetsize: 1501 was accepted, but the camera now holds 1500\n"},
         {"set Orvik-710C gain=5 lutmode=1 --fault failwrite:gain", 1, "gain=0\nlutmode=1\n",
          "qdv12host: gain: WriteMem at 0x14010000 failed: no answer from the camera: 5 was refused, the camera still "
          "holds 0\n"},
@@ -82,6 +80,31 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
          "},\n"
          "  {\n    \"name\": \"restart\",\n    \"asked\": null,\n    \"value\": null,\n    \"error\": null\n  }\n]\n",
          ""},
+    });
+}
+
+/// What a row announces ends well; any other difference does not.
+TEST(HostCommand, SetTellsRoundingFromOtherDifferences) {
+    ExpectRuns({
+        {"set Orvik-710C packetsize=1503", 0, "packetsize=1500\n", "qdv12host: packetsize: 1503 was rounded to 1500\n"},
+        {"set Cerix-MV7 packetsize=1503 --fault offset:packetsize=4", 1, "packetsize=1504\n",
+         "qdv12host: packetsize: 1503 was accepted, but the camera now holds 1504\n"},
+        {"set Orvik-710C readouttime=5", 0, "readouttime=22135\n", "qdv12host: readouttime: 5 was rounded to 22135\n"},
+        {"set Orvik-710C readouttime=30000 --fault clamp:readouttime=25000", 1, "readouttime=25000\n",
+         "qdv12host: readouttime: 30000 was accepted, but the camera now holds 25000\n"},
+        {"set Orvik-710C exposure=2:5000 --fault clamp:exposure=4992", 0, "exposure=2:4992\n",
+         "qdv12host: exposure: 2:5000 was rounded to 2:4992\n"},
+        {"set Orvik-710C exposure=-1:10", 1, "exposure=7:10\n",
+         "qdv12host: exposure: -1:10 was accepted, but the camera now holds 7:10\n"},
+        {"set Orvik-710C readoutarea=0,0,99,199 measurewindow.1=50,9999,9999,9999", 0,
+         "readoutarea=0,0,99,199\nmeasurewindow.1=50,199,99,199\n",
+         "qdv12host: measurewindow.1: 50,9999,9999,9999 was rounded to 50,199,99,199\n"},
+        {"set Orvik-710C measurewindow.0=100,9,50,50", 0, "measurewindow.0=100,9,100,50\n",
+         "qdv12host: measurewindow.0: 100,9,50,50 was rounded to 100,9,100,50\n"},
+        {"set Orvik-710C measurewindow.0=0,0,63,99 --fault clamp:measurewindow=63", 1, "measurewindow.0=0,0,63,63\n",
+         "qdv12host: measurewindow.0: 0,0,63,99 was accepted, but the camera now holds 0,0,63,63\n"},
+        {"set Orvik-710C username=1234567890123456", 1, "username=123456789012345\n",
+         "qdv12host: username: 1234567890123456 was accepted, but the camera now holds 123456789012345\n"},
     });
 }
 
@@ -110,7 +133,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Orvik-710C gain.0", 2, "", "qdv12host: unknown function \"gain.0\": there is gain, without a number\n"},
         {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" can only be written\n"},
         {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" can only be read\n"},
-        {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is wanted\n"},
+        {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is required\n"},
         {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: its name alone sets it off\n"},
         {"lst Orvik-710C", 2, "",
          "qdv12host: unknown command \"lst\"; did you mean \"list\"? (qdv12host --help says more)\n"},
@@ -119,10 +142,10 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"tour a b c", 2, "", "qdv12host: \"b\" was not expected (qdv12host --help says more)\n"},
         {"set Orvik-710C overlayshow=on", 2, "",
          "qdv12host: \"overlayshow\" is several: overlayshow.0 to overlayshow.1\n"},
-        {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: \"abc\" is no value of gain (0..511)\n"},
-        {"set Orvik-710C gain=-1", 2, "", "qdv12host: \"-1\" is no value of gain (0..511)\n"},
-        {"set Orvik-710C exposure=5", 2, "", "qdv12host: \"5\" is no value of exposure (base:counter)\n"},
-        {"set Orvik-710C exposure=1:2:3", 2, "", "qdv12host: \"1:2:3\" is no value of exposure (base:counter)\n"},
+        {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: invalid value \"abc\" for gain (0..511)\n"},
+        {"set Orvik-710C gain=-1", 2, "", "qdv12host: invalid value \"-1\" for gain (0..511)\n"},
+        {"set Orvik-710C exposure=5", 2, "", "qdv12host: invalid value \"5\" for exposure (base:counter)\n"},
+        {"set Orvik-710C exposure=1:2:3", 2, "", "qdv12host: invalid value \"1:2:3\" for exposure (base:counter)\n"},
         {"get Orvik-710C gain --fault nonsense:gain", 2, "",
          "qdv12host: fault \"nonsense:gain\": there is no kind \"nonsense\", but clamp, endless, fail, failread, "
          "failwrite, ignore, null, offset, stale\n"},
@@ -132,8 +155,10 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Cerix-MV7 gain --fault fail:0x934", 3, "",
          "qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: no answer from the camera\n"},
     });
-    for (const char* arguments : {"", "tour", "frobnicate", "--log loud models", "models --plugin", "get",
-                                  "get Orvik-710C", "models --config /nowhere"}) {
+    for (const char* arguments :
+         {"", "tour", "frobnicate", "--log loud models", "models --plugin", "get", "get Orvik-710C",
+          "models --config /nowhere", "models --config /etc/passwd", "models --plugin ''", "models --index x",
+          "get Orvik-710C '1\n2'", "'1\n2'", "models --index '1\n2'", "get Orvik-710C gain --fault '1\n2'"}) {
         const Outcome run = RunHost(arguments);
         EXPECT_EQ(run.code, 2) << arguments;
         EXPECT_EQ(Lines(run.err).size(), 1) << run.err;
@@ -263,12 +288,13 @@ TEST(HostCommand, CheckSaysWhyAPluginCannotBeUsed) {
     for (const char* arguments : {"check /nowhere/p.so", "models --plugin /nowhere/p.so"}) {
         const Outcome absent = RunHost(arguments);
         EXPECT_EQ(absent.code, 3);
-        EXPECT_EQ(absent.err, "qdv12host: cannot load /nowhere/p.so: /nowhere/p.so: cannot open shared object file: "
-                              "No such file or directory\n");
+        EXPECT_EQ(absent.err, "qdv12host: cannot load /nowhere/p.so: cannot open shared object file: No such file "
+                              "or directory\n");
     }
     const Outcome without = RunHost("check " QDV12_PLUGIN_WITHOUT_LOG4CXX);
     EXPECT_EQ(without.code, 3);
-    EXPECT_TRUE(Has(without.err, "undefined symbol: log4cxx_of_another_version; the plug-in takes log4cxx from the "
+    EXPECT_TRUE(Has(without.err, "cannot load " QDV12_PLUGIN_WITHOUT_LOG4CXX
+                                 ": undefined symbol: log4cxx_of_another_version; the plug-in takes log4cxx from the "
                                  "program that loads it: "));
 }
 

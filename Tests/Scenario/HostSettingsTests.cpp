@@ -1,10 +1,6 @@
 #include "SettingsFixture.h"
 
-#include <poll.h>
-#include <pty.h>
-
 #include <algorithm>
-#include <csignal>
 #include <set>
 #include <utility>
 
@@ -203,69 +199,9 @@ TEST_F(HostSettings, AreDrivenFromAShell) {
     EXPECT_TRUE(run.out.ends_with("{\n  \"gain\": 5\n}\nagc=off\n"));
     EXPECT_EQ(run.err, "qdv12host: unknown function \"gian\"; did you mean \"gain\"?\n"
                        "qdv12host: unknown command \"restre\"; did you mean \"restore\"?\n"
-                       "qdv12host: there is no second '\n");
+                       "qdv12host: missing closing quote '\n");
     EXPECT_EQ(Run("get Orvik-390M gain").out, "gain=5\n");
     EXPECT_EQ(RunHost("shell Orvik-39M").code, 3);
-}
-
-/// Types at a terminal: each text when what it waits for has appeared, and again where nothing comes of it. @return all
-/// that appeared
-std::string Type(const std::vector<std::pair<std::string, std::string>>& texts) {
-    int terminal = -1;
-    const pid_t process = forkpty(&terminal, nullptr, nullptr, nullptr);
-    if (process == 0) {
-        setenv("HOME", "/nowhere", 1);
-        execl(QDV12_HOST, QDV12_HOST, "shell", "Orvik-390M", nullptr);
-        _exit(127);
-    }
-    std::string all;
-    std::string seen;
-    std::string typed;
-    const auto type = [&] { EXPECT_EQ(write(terminal, typed.data(), typed.size()), ssize_t(typed.size())); };
-    auto next = texts.begin();
-    int silences = 0;
-    while (silences < 10) {
-        pollfd waiting{terminal, POLLIN, 0};
-        if (poll(&waiting, 1, 1000) == 0) {
-            ++silences;
-            type();
-            continue;
-        }
-        char character = 0;
-        if (read(terminal, &character, 1) != 1) {
-            break;
-        }
-        all += character;
-        seen += character;
-        if (next != texts.end() && seen.ends_with(next->first)) {
-            typed = next->second;
-            type();
-            seen.clear();
-            ++next;
-        }
-    }
-    if (silences == 10) {
-        kill(process, SIGKILL);
-    }
-    EXPECT_EQ(next, texts.end()) << all;
-    close(terminal);
-    int status = -1;
-    waitpid(process, &status, 0);
-    EXPECT_EQ(status, 0) << all;
-    return all;
-}
-
-TEST(HostShell, CompletesNamesAndOutlivesCtrlC) {
-    const std::string prompt = "Orvik-390M> ";
-    const std::string all = Type({{prompt, "set ga\t"},
-                                  {"in=", "7"}, // the completion shows that the editor is at work
-                                  {"7", "\x03"},
-                                  {prompt, "watch agc=1\r"},
-                                  {"off -> 1", "\x03"},
-                                  {prompt, "set agc=off gain=3\r"},
-                                  {prompt, "quit\r"}});
-    EXPECT_TRUE(Has(all, "\ngain=3"));
-    EXPECT_FALSE(Has(all, "\ngain=7")) << "it was not entered";
 }
 
 } // namespace Scenario

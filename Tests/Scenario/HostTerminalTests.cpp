@@ -1,0 +1,44 @@
+#include "HostProcess.h"
+#include "Terminal.h"
+
+namespace Scenario {
+
+TEST(HostShell, CompletesNamesAndOutlivesCtrlC) {
+    const std::string prompt = "Orvik-390M> ";
+    const std::string all = AtTerminal({"shell", "Orvik-390M"}, {},
+                                       {{prompt, "set ga\t"},
+                                        {"in=", "7"}, // the completion shows that the editor is at work
+                                        {"7", "\x03"},
+                                        {prompt, "watch agc=1\r"},
+                                        {"off -> 1", "\x03"},
+                                        {prompt, "set agc=off gain=3\r"},
+                                        {prompt, "quit\r"}});
+    EXPECT_TRUE(Has(all, "\ngain=3"));
+    EXPECT_FALSE(Has(all, "\ngain=7")) << "it was not entered";
+}
+
+TEST(HostShell, TakesWhatIsNoAscii) {
+    const std::string prompt = "Orvik-390M> ";
+    for (const char* locale : {"C.UTF-8", "C"}) {
+        const std::string all = AtTerminal({"shell", "Orvik-390M"}, {{"LC_ALL", locale}},
+                                           {{prompt, "set username=K\u00FChl\r"}, {prompt, "quit\r"}});
+        EXPECT_TRUE(Has(all, "\nusername=K\u00FChl\r")) << locale;
+    }
+}
+
+TEST(HostTerminal, ShowsColourAndProgressWhereTheyAreWelcome) {
+    const std::vector<std::string> selftest{"selftest", "Orvik-390M"};
+    const std::string styled = AtTerminal(selftest, {{"TERM", "xterm"}, {"NO_COLOR", ""}});
+    EXPECT_TRUE(Has(styled, "\033[32mpassed\033[0m"));
+    EXPECT_TRUE(Has(styled, "\r[#### "));
+    const Pairs refusals[] = {
+        {{"TERM", "dumb"}, {"NO_COLOR", ""}}, {{"TERM", ""}, {"NO_COLOR", ""}}, {{"TERM", "xterm"}, {"NO_COLOR", "1"}}};
+    for (const Pairs& environment : refusals) {
+        const std::string plain = AtTerminal(selftest, environment);
+        EXPECT_TRUE(Has(plain, "  passed\r\n")) << environment.front().second;
+        EXPECT_EQ(plain.find('\033'), std::string::npos) << environment.front().second;
+        EXPECT_EQ(plain.find("\r["), std::string::npos) << environment.front().second;
+    }
+}
+
+} // namespace Scenario

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <poll.h>
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Scenario {
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+/// Runs the reference host at a terminal of its own, and types: each text when what it waits for has appeared, and
+/// again where nothing comes of it.
+/// @param environment variables of it, by name
+/// @return all that appeared, in lines that end with "\r\n"
+inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& environment, const Pairs& typed = {}) {
+    arguments.insert(arguments.begin(), QDV12_HOST);
+    std::vector<char*> words;
+    for (std::string& argument : arguments) {
+        words.push_back(argument.data());
+    }
+    words.push_back(nullptr);
+    int terminal = -1;
+    const pid_t process = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (process == 0) {
+        setenv("HOME", "/nowhere", 1);
+        for (const auto& [name, value] : environment) {
+            setenv(name.c_str(), value.c_str(), 1);
+        }
+        execv(QDV12_HOST, words.data());
+        _exit(127);
+    }
+    std::string all;
+    std::string seen;
+    std::string last;
+    const auto type = [&] { EXPECT_EQ(write(terminal, last.data(), last.size()), ssize_t(last.size())); };
+    auto next = typed.begin();
+    int silences = 0;
+    while (silences < 10) {
+        pollfd waiting{terminal, POLLIN, 0};
+        if (poll(&waiting, 1, 1000) == 0) {
+            ++silences;
+            type();
+            continue;
+        }
+        char character = 0;
+        if (read(terminal, &character, 1) != 1) {
+            break;
+        }
+        all += character;
+        seen += character;
+        if (next != typed.end() && seen.ends_with(next->first)) {
+            last = next->second;
+            type();
+            seen.clear();
+            ++next;
+        }
+    }
+    if (silences == 10) {
+        kill(process, SIGKILL);
+    }
+    EXPECT_EQ(next, typed.end()) << all;
+    close(terminal);
+    int status = -1;
+    waitpid(process, &status, 0);
+    EXPECT_EQ(status, 0) << all;
+    return all;
+}
+
+} // namespace Scenario
