@@ -64,9 +64,6 @@ TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
 }
 
 TEST(ChannelModel, DiscoveryListsWhatIsThere) {
-    const Outcome nothing = RunHost("discover");
-    EXPECT_EQ(nothing.code, 0);
-    EXPECT_EQ(nothing.out, "no camera was found\n");
     const NetworkCamera orvik("Orvik-710C");
     const NetworkCamera m2vx("Sollux G", "192.168.1.20");
     const AravisCamera foreign;
@@ -88,6 +85,43 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
     const Outcome refused = RunHost("info --camera gige:127.0.0.1");
     EXPECT_EQ(refused.code, 3);
     EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 calls itself \"Fake\"; " + served);
+}
+
+TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
+    const std::string unreachable = "qdv12host: no network interface is up with an IPv4 address, other than loopback\n";
+    const std::string discover = QDV12_HOST " discover";
+    for (const std::string& run : {discover, "unshare -n " + discover}) { // where loopback is up, and down
+        const Outcome outcome = RunHost("", run);
+        EXPECT_EQ(outcome.code, 1) << run;
+        EXPECT_EQ(outcome.out, "") << run;
+        EXPECT_EQ(outcome.err, unreachable) << run;
+    }
+    const Outcome json = RunHost("discover --json");
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(json.out, "[]\n");
+
+    // A card without an address, which discovery passes over, and then one with it.
+    const std::string card = "ip link add card type veth peer name other && ip link set card up && ";
+    const std::string address = "ip address add 192.168.7.1/24 dev card && ";
+    const auto with = [&](const std::string& made) {
+        return RunHost("", "unshare -n sh -c '" + made + discover + "'");
+    };
+    if (RunHost("", "unshare -n sh -c '" + card + "true'").code != 0) {
+        GTEST_SKIP() << "this machine makes no virtual network card";
+    }
+    EXPECT_EQ(with(card).err, unreachable);
+    const Outcome none = with(card + address);
+    EXPECT_EQ(none.code, 0);
+    EXPECT_EQ(none.out, "no camera was found\n");
+    EXPECT_EQ(none.err, "");
+}
+
+TEST(ChannelModel, DiscoveryEscapesWhatACameraIsCalled) {
+    const NetworkCamera camera("Orvik-710C");
+    ASSERT_EQ(camera.Run("set username='\\x1B]0;owned\\x07'").code, 0);
+    const Outcome found = RunHost("discover");
+    EXPECT_TRUE(found.out.ends_with("710C-0042       \\x1B]0;owned\\x07\n")) << found.out;
+    EXPECT_TRUE(Has(RunHost("discover --json").out, "\"userName\": \"\\u001b]0;owned\\u0007\""));
 }
 
 // Its memory ends behind the bootstrap registers; it does not live on when it is asked for more.

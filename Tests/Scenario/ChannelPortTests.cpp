@@ -3,6 +3,10 @@
 #include <Channel/ChannelErrors.h>
 #include <Channel/GigEPort.h>
 
+#include <arpa/inet.h>
+#include <sys/socket.h>
+
+#include <array>
 #include <chrono>
 #include <memory>
 #include <thread>
@@ -29,7 +33,62 @@ template <typename Error = Host::ChannelError, typename Call> std::string Failur
     return "no failure";
 }
 
+/// A device that answers every request with one status.
+class RefusingDevice {
+public:
+    RefusingDevice(const std::string& address, std::uint16_t status) : handle(socket(AF_INET, SOCK_DGRAM, 0)) {
+        sockaddr_in own{};
+        own.sin_family = AF_INET;
+        own.sin_port = htons(3956);
+        inet_pton(AF_INET, address.c_str(), &own.sin_addr);
+        EXPECT_EQ(bind(handle, reinterpret_cast<const sockaddr*>(&own), sizeof own), 0);
+        answering = std::thread([this, status] {
+            std::array<std::uint8_t, 600> packet{};
+            sockaddr_in from{};
+            socklen_t size = sizeof from;
+            auto* const sender = reinterpret_cast<sockaddr*>(&from);
+            while (recvfrom(handle, packet.data(), packet.size(), 0, sender, &size) >= 8) {
+                packet[0] = static_cast<std::uint8_t>(status >> 8U);
+                packet[1] = static_cast<std::uint8_t>(status & 0xFFU);
+                ++packet[3]; // the command of the acknowledge
+                packet[4] = packet[5] = 0;
+                sendto(handle, packet.data(), 8, 0, sender, size);
+            }
+        });
+    }
+    ~RefusingDevice() {
+        shutdown(handle, SHUT_RDWR); // ends the waiting
+        answering.join();
+        close(handle);
+    }
+    RefusingDevice(const RefusingDevice&) = delete;
+    RefusingDevice& operator=(const RefusingDevice&) = delete;
+
+private:
+    int handle;
+    std::thread answering;
+};
+
 } // namespace
+
+TEST(ChannelPort, TellsEachStatusInItsOwnWords) {
+    const std::pair<std::uint16_t, std::string> statuses[] = {
+        {0x8001, "the camera does not know the command (0x8001)"},
+        {0x8002, "invalid parameter (0x8002)"},
+        {0x8003, "the camera has no such address (0x8003)"},
+        {0x8004, "the register cannot be written (0x8004)"},
+        {0x8005, "bad alignment (0x8005)"},
+        {0x8006, "access denied (0x8006)"},
+        {0x8007, "the camera is busy (0x8007)"},
+    };
+    const std::string failed = "qdv12host: the camera at 192.168.1.10 could not be opened: ";
+    for (const auto& [status, words] : statuses) {
+        const RefusingDevice device("192.168.1.10", status);
+        EXPECT_EQ(RunHost("info --camera gige:192.168.1.10").err, failed + words + "\n");
+    }
+    const NetworkCamera mute("Orvik-710C", "192.168.1.10", {"--fault", "fail:description"});
+    EXPECT_EQ(mute.Run("info").err, failed + "its GenICam description cannot be read\n");
+}
 
 TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
     const NetworkCamera camera("Orvik-710C");

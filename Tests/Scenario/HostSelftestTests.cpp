@@ -6,6 +6,12 @@
 #include <array>
 #include <regex>
 
+#include <Logging.h>
+#include <Selftest/Selftest.h>
+#include <Settings/ReadThrough.h>
+
+#include <SimulatedCamera.h>
+
 namespace Scenario {
 
 namespace {
@@ -169,6 +175,29 @@ TEST(HostSelftest, LeavesALockOutWhoseModeCanNoLongerBeRead) {
     });
     EXPECT_TRUE(Has(run.out, "\ngain                      5       passed\n"));
     EXPECT_TRUE(Has(run.out, "\nautomaticlevel            0       FAILED\n    no answer\n"));
+}
+
+TEST(HostSelftest, HoldsRoundingToWhatIsAnnounced) {
+    Host::ConfigureLogging("off");
+    const Host::Plugin plugin(QDV12_PLUGIN);
+    Host::Session session(plugin, "Orvik-390C", {.index = 2, .accesses = [](const Host::Access&) {}});
+    auto& camera = dynamic_cast<Host::SimulatedConnection&>(session.Connection()).Camera();
+    camera.AfterWrite("exposure", [](Simulation::RegisterSpace& space, const auto&) {
+        const auto exposure = space.Get("exposure");
+        space.Set("exposure", {exposure[0], exposure[1] / 10 * 10});
+    });
+    camera.AfterWrite("measurewindow", [](Simulation::RegisterSpace& space, const auto& change) {
+        auto window = space.Get("measurewindow", change.index);
+        window[2] += window[2] % 2 == 0 ? 1U : 0U;
+        space.Set("measurewindow", window, change.index);
+    });
+    const Host::ReadThrough setter(session);
+    const Host::ReadThrough reader(session);
+    const Host::Selftest selftest(setter.Camera(), reader.Camera(), Host::WaitFor(session), false);
+    const auto failures = [&](const char* name) { return selftest.Test(setter.Camera().FindOne(name)).failures; };
+    EXPECT_EQ(failures("exposure"), std::vector<std::string>()); // another count
+    EXPECT_EQ(failures("measurewindow.0"),
+              std::vector<std::string>{"0,0,64,63: the camera holds 0,0,65,63 instead"}); // within the image
 }
 
 } // namespace Scenario

@@ -86,7 +86,8 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
     const std::string script = TemporaryFile("script");
     std::ofstream(script) << "get username\nset username=a\nset username='\\x1B[2J'\ninfo\n";
     for (const std::string model : {"Orvik-710C", "Cerix-MV7"}) {
-        for (const std::string name : {"\\x1B]0;owned\\x07", "\\x9B1m\\n\\xC2\\x9D0;\\x7F\\\\"}) {
+        for (const std::string name :
+             {"\\x1B]0;owned\\x07", "\\\\x1B\\t\\xC2\\x9B", "\\x9B1m\\n\\xC2\\x9D0;\\x7F\\\\"}) {
             const auto run = [&](const std::string& arguments, const std::string& input = "/dev/null") {
                 const Outcome outcome = RunHost(arguments + " --state " + state, QDV12_HOST, input);
                 EXPECT_TRUE(IsHarmless(outcome.out)) << arguments;
@@ -99,7 +100,7 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
                       "username=" + name + "\n");
             EXPECT_EQ(run("get " + model + " username --trace --log debug").out, "username=" + name + "\n");
             EXPECT_TRUE(Has(run("info " + model).out, "\nusername              " + name + "\n"));
-            EXPECT_TRUE(Has(run("list " + model).out, "\nusername                  " + name + " "));
+            EXPECT_TRUE(Has(run("list " + model).out, "\nusername                  " + name + "\n"));
             EXPECT_EQ(run("diff " + saved + " --live " + model).out, Host::Pad("username", 50) + name + "\n");
             EXPECT_TRUE(Has(run("watch " + model + " username=x --seconds 0").out, name + " -> x\n"));
             EXPECT_TRUE(Has(run("watch " + model + " username='" + name + "' --seconds 0").out, "x -> " + name));
@@ -111,6 +112,7 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
             EXPECT_EQ(run("set " + model + " username='" + name + "\\q'").code, 2);
             run("selftest " + model);
             run("save " + model + " " + saved);
+            EXPECT_EQ(run("diff " + saved + " --live " + model).code, name.starts_with("\\x9B") ? 1 : 0); // no UTF-8
             EXPECT_EQ(run("restore " + model + " " + saved).code, 0);
             run("tour " + model + " --log debug");
         }
