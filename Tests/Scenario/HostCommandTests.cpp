@@ -346,6 +346,10 @@ TEST(HostCommand, TraceAndLogGoToStandardError) {
                           << "log4j.appender.file.layout.ConversionPattern=%p %m%n\n";
     EXPECT_EQ(RunHost("get Orvik-710C gain --config " + config).err, "");
     EXPECT_TRUE(Has(Content(log), "INFO QDV12: CreateObject(Orvik-710C)\n"));
+    std::ofstream(config) << "log4j.rootLogger=INFO, file\nlog4j.appender.file=Nonsense\n";
+    const Outcome wrong = RunHost("get Orvik-710C gain --config " + config);
+    EXPECT_EQ(wrong.code, 2);
+    EXPECT_EQ(wrong.err, "qdv12host: log4cxx configuration " + config + ": no usable appender\n");
     std::filesystem::remove(config);
     std::filesystem::remove(log);
 }

@@ -1,6 +1,7 @@
 #include "SettingsFixture.h"
 
 #include <algorithm>
+#include <regex>
 #include <set>
 #include <utility>
 
@@ -134,6 +135,18 @@ TEST_F(HostSettings, ThatAreRefusedDoNotStopTheOthers) {
     EXPECT_TRUE(Has(faulty.out, "gain                      refused     the camera does not take it; asked for 0, the "
                                 "camera now holds 511\n"));
     EXPECT_TRUE(Has(faulty.out, "sharpness                 ok          9 -> 0\n"));
+}
+
+TEST_F(HostSettings, AreRoundedAsTheCameraMay) {
+    ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
+    Write(other, std::regex_replace(Content(saved), std::regex("(\"readouttime\": )[0-9]+"), "$015"));
+    const Outcome up = Run("restore Orvik-390M " + other);
+    EXPECT_EQ(up.code, 0);
+    EXPECT_TRUE(Has(up.out, "readouttime               rounded     asked for 5, the camera now holds 12182\n"));
+    Write(other, std::regex_replace(Content(saved), std::regex("(\"readouttime\": )[0-9]+"), "$0130000"));
+    const Outcome down = Run("restore --fault clamp:readouttime=20000 Orvik-390M " + other);
+    EXPECT_EQ(down.code, 1);
+    EXPECT_TRUE(Has(down.out, "readouttime               clamped     asked for 30000, the camera now holds 20000\n"));
 }
 
 TEST_F(HostSettings, AreRefusedFromAFileThatIsNotTheirs) {

@@ -17,8 +17,8 @@ TEST(HostText, IsEscapedWhereATerminalWouldObey) {
         {"K\u00FChl \u00A0 \u20AC \U0001F4F7", "K\u00FChl \u00A0 \u20AC \U0001F4F7"},
         {"\u0080 \u009B31m", "\\xC2\\x80 \\xC2\\x9B31m"}, // C1
         {"\x9b \xff \xc3", "\\x9B \\xFF \\xC3"},          // no UTF-8: alone, ...
-        {"\xc1\x9b \xe0\x82\x9b \xf0\x80\x82\x9b",
-         "\\xC1\\x9B \\xE0\\x82\\x9B \\xF0\\x80\\x82\\x9B"}, // ... overlong, ...
+        {"\xc1\x81 \xe0\x81\x81 \xf0\x80\x81\x81",
+         "\\xC1\\x81 \\xE0\\x81\\x81 \\xF0\\x80\\x81\\x81"}, // ... overlong, ...
         {"\xed\xa0\x80 \xf4\x90\x80\x80 \xe2\x82", "\\xED\\xA0\\x80 \\xF4\\x90\\x80\\x80 \\xE2\\x82"}, // ... cut off
     };
     for (const auto& [text, escaped] : cases) {
@@ -29,6 +29,7 @@ TEST(HostText, IsEscapedWhereATerminalWouldObey) {
     for (const char* wrong : {"\\", "a\\", "\\q", "\\x", "\\x1", "\\xg0", "\\x1G"}) {
         EXPECT_EQ(Host::Unescaped(wrong), std::nullopt) << wrong;
     }
+    EXPECT_EQ(Host::Format("\x1b"), "\"\\x1B\"");
     EXPECT_EQ(Host::InOneLine("gain: \\x1B\n\u009B"), "gain: \\x1B\\n\\xC2\\x9B");
 }
 
@@ -85,37 +86,37 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
     const std::string saved = TemporaryFile("saved.json");
     const std::string script = TemporaryFile("script");
     std::ofstream(script) << "get username\nset username=a\nset username='\\x1B[2J'\ninfo\n";
-    for (const std::string model : {"Orvik-710C", "Cerix-MV7"}) {
-        for (const std::string name :
-             {"\\x1B]0;owned\\x07", "\\\\x1B\\t\\xC2\\x9B", "\\x9B1m\\n\\xC2\\x9D0;\\x7F\\\\"}) {
-            const auto run = [&](const std::string& arguments, const std::string& input = "/dev/null") {
-                const Outcome outcome = RunHost(arguments + " --state " + state, QDV12_HOST, input);
-                EXPECT_TRUE(IsHarmless(outcome.out)) << arguments;
-                EXPECT_TRUE(IsHarmless(outcome.err)) << arguments;
-                return outcome;
-            };
-            std::filesystem::remove(state);
-            EXPECT_EQ(run("save " + model + " " + saved).code, 0);
-            EXPECT_EQ(run("set " + model + " username='" + name + "' --log debug --trace").out,
-                      "username=" + name + "\n");
-            EXPECT_EQ(run("get " + model + " username --trace --log debug").out, "username=" + name + "\n");
-            EXPECT_TRUE(Has(run("info " + model).out, "\nusername              " + name + "\n"));
-            EXPECT_TRUE(Has(run("list " + model).out, "\nusername                  " + name + "\n"));
-            EXPECT_EQ(run("diff " + saved + " --live " + model).out, Host::Pad("username", 50) + name + "\n");
-            EXPECT_TRUE(Has(run("watch " + model + " username=x --seconds 0").out, name + " -> x\n"));
-            EXPECT_TRUE(Has(run("watch " + model + " username='" + name + "' --seconds 0").out, "x -> " + name));
-            EXPECT_TRUE(
-                Has(run("shell " + model, script).out, "username=" + name + "\nusername=a\nusername=\\x1B[2J\n"));
-            for (const char* command : {"get --json ", "list --json ", "info --json "}) {
-                run(command + model + (command[0] == 'g' ? " username" : ""));
-            }
-            EXPECT_EQ(run("set " + model + " username='" + name + "\\q'").code, 2);
-            run("selftest " + model);
-            run("save " + model + " " + saved);
-            EXPECT_EQ(run("diff " + saved + " --live " + model).code, name.starts_with("\\x9B") ? 1 : 0); // no UTF-8
-            EXPECT_EQ(run("restore " + model + " " + saved).code, 0);
-            run("tour " + model + " --log debug");
+    const std::pair<std::string, std::string> cameras[] = {{"Orvik-710C", "\\x1B]0;owned\\x07"},
+                                                           {"Cerix-MV7", "\\x1B]0;owned\\x07"},
+                                                           {"Orvik-710C", "\\\\x1B\\t\\xC2\\x9B"},
+                                                           {"Cerix-MV7", "\\x9B1m\\n\\xC2\\x9D0;\\x7F\\\\"}};
+    for (const auto& camera : cameras) {
+        const auto& [model, name] = camera;
+        const auto run = [&](const std::string& arguments, const std::string& input = "/dev/null") {
+            const Outcome outcome = RunHost(arguments + " --state " + state, QDV12_HOST, input);
+            EXPECT_TRUE(IsHarmless(outcome.out)) << arguments;
+            EXPECT_TRUE(IsHarmless(outcome.err)) << arguments;
+            return outcome;
+        };
+        std::filesystem::remove(state);
+        EXPECT_EQ(run("save " + model + " " + saved).code, 0);
+        EXPECT_EQ(run("set " + model + " username='" + name + "' --log debug --trace").out, "username=" + name + "\n");
+        EXPECT_EQ(run("get " + model + " username --trace --log debug").out, "username=" + name + "\n");
+        EXPECT_TRUE(Has(run("info " + model).out, "\nusername              " + name + "\n"));
+        EXPECT_TRUE(Has(run("list " + model).out, "\nusername                  " + name + "\n"));
+        EXPECT_EQ(run("diff " + saved + " --live " + model).out, Host::Pad("username", 50) + name + "\n");
+        EXPECT_TRUE(Has(run("shell " + model, script).out, "username=" + name + "\nusername=a\nusername=\\x1B[2J\n"));
+        EXPECT_TRUE(Has(run("watch " + model + " username=x --seconds 0").out, " \\x1B[2J -> x\n"));
+        EXPECT_TRUE(Has(run("watch " + model + " username='" + name + "' --seconds 0").out, "x -> " + name));
+        for (const char* command : {"get --json ", "list --json ", "info --json "}) {
+            run(command + model + (command[0] == 'g' ? " username" : ""));
         }
+        EXPECT_EQ(run("set " + model + " username='" + name + "\\q'").code, 2);
+        run("selftest " + model);
+        run("save " + model + " " + saved);
+        EXPECT_EQ(run("diff " + saved + " --live " + model).code, name.starts_with("\\x9B") ? 1 : 0); // no UTF-8
+        EXPECT_EQ(run("restore " + model + " " + saved).code, 0);
+        run("tour " + model);
     }
     for (const std::string& file : {state, saved, script}) {
         std::filesystem::remove(file);
