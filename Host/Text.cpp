@@ -1,5 +1,7 @@
 #include "Text.h"
 
+#include "Utf8.h"
+
 #include <algorithm>
 #include <cwchar>
 #include <utility>
@@ -12,32 +14,6 @@ constexpr std::pair<char, char> named[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}
 constexpr std::string_view digits = "0123456789ABCDEF";
 
 unsigned char Byte(char character) { return static_cast<unsigned char>(character); }
-
-/// A character of UTF-8, of so many bytes; a byte that begins none stands for itself.
-struct Character {
-    std::size_t length;
-    char32_t code;
-    bool valid;
-};
-
-Character FirstOf(std::string_view text) {
-    const char32_t lead = Byte(text.front());
-    const Character alone{1, lead, lead < 0x80};
-    const std::size_t length = lead < 0xC2 || lead > 0xF4 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    if (length == 1 || text.size() < length) {
-        return alone;
-    }
-    char32_t code = lead & (0x7FU >> length);
-    for (const char next : text.substr(1, length - 1)) {
-        if ((Byte(next) & 0xC0U) != 0x80) {
-            return alone;
-        }
-        code = code << 6 | (Byte(next) & 0x3FU);
-    }
-    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000}; // a longer form than needed is no UTF-8
-    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-    return code < least[length] || code > 0x10FFFF || isSurrogate ? alone : Character{length, code, true};
-}
 
 bool IsControl(char32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
 
@@ -53,7 +29,7 @@ std::string EscapeOf(char character) {
 std::string Escape(std::string_view text, bool backslashes) {
     std::string escaped;
     while (!text.empty()) {
-        const Character first = FirstOf(text);
+        const Character first = FirstCharacter(text);
         const bool asItIs = first.valid && !IsControl(first.code) && (first.code != '\\' || !backslashes);
         for (const char byte : text.substr(0, first.length)) {
             escaped += asItIs ? std::string(1, byte) : EscapeOf(byte);
@@ -102,7 +78,7 @@ std::optional<std::string> Unescaped(std::string_view text) {
 std::size_t Width(std::string_view text) {
     std::size_t width = 0;
     while (!text.empty()) {
-        const Character first = FirstOf(text);
+        const Character first = FirstCharacter(text);
         const int columns = wcwidth(static_cast<wchar_t>(first.code));
         width += columns < 0 ? 1 : static_cast<std::size_t>(columns); // the locale may not know it
         text.remove_prefix(first.length);

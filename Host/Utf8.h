@@ -6,6 +6,16 @@
 
 namespace Host {
 
+/// A character of UTF-8, of so many bytes; a byte that begins none stands for itself.
+struct Character {
+    std::size_t length;
+    char32_t code;
+    bool valid;
+};
+
+/// The first character of a text that is not empty.
+[[nodiscard]] Character FirstCharacter(std::string_view text);
+
 /// Whether a text is well-formed UTF-8. A camera holds any bytes as a text.
 [[nodiscard]] bool IsUtf8(std::string_view text);
 

@@ -121,8 +121,8 @@ TEST_F(HostSettings, HoldAUserNameThatIsCutAtACharacter) {
         {"fourteen bytes\xC3\xA9", "fourteen bytes"},
         {"twelve bytes\xF0\x9F\x93\xB7", "twelve bytes"},
         {"thirteen byte\xC3\xA9\xC3\xA9", "thirteen byte\xC3\xA9"},
-        {"Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", "Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9"},
-        {"no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9\xA9\xA9", "no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9"},
+        {"Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", R"(Latin-1 \xE9\xE9\xE9\xE9\xE9\xE9\xE9)"},
+        {"no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9\xA9\xA9", R"(no UTF-8 \xA9\xA9\xA9\xA9\xA9\xA9)"},
     };
     for (const char* model : {"Orvik-390M", "Cerix-MV7"}) {
         for (const auto& [name, held] : cases) {
