@@ -63,6 +63,11 @@ bool TellNotCompared(const Settings& settings, const Settings& other, const std:
     return missing.empty();
 }
 
+/// Whether one of the two is a camera of which another program has control.
+bool IsControlledElsewhere(const Invocation& invocation) {
+    return !invocation.Has("[B]") && !invocation.Open().Connection().HasControl();
+}
+
 } // namespace
 
 int Diff(const Invocation& invocation) {
@@ -85,7 +90,7 @@ int Diff(const Invocation& invocation) {
     const bool firstIsWhole = TellNotCompared(first, second, invocation.Text("A"));
     const bool secondIsWhole = TellNotCompared(second, first, invocation.Text("[B]"));
     if (!firstIsWhole || !secondIsWhole) {
-        return NotCompared;
+        return IsControlledElsewhere(invocation) ? NotOpened : NotCompared;
     }
     return differences.empty() ? AllWell : Differs;
 }

@@ -197,7 +197,7 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
                                 "overlaysize, measurewindow, iomode, "
                                 "ioport, iopolarity, iodelay\n";
     const Outcome diff = camera.Run("diff " + file);
-    EXPECT_EQ(diff.code, 2);
+    EXPECT_EQ(diff.code, 3);
     ExpectMatch(diff.out, "gain +0 +7\n");
     ExpectMatch(diff.err, missing);
 
