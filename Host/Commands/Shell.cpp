@@ -16,13 +16,17 @@ namespace {
 constexpr const char* help = "help";
 constexpr const char* quit = "quit";
 
+bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\r'; }
+
+bool IsQuote(char character) { return character == '"' || character == '\''; }
+
 /// Splits a line at blanks; what stands in quotes stays together, and a remark begins with # where a word could.
 std::vector<std::string> WordsOf(const std::string& line) {
     std::vector<std::string> words;
     bool inWord = false;
     char quote = '\0';
     for (const char character : line) {
-        if (quote == '\0' && (character == ' ' || character == '\t' || character == '\r')) {
+        if (quote == '\0' && IsBlank(character)) {
             inWord = false;
             continue;
         }
@@ -35,7 +39,7 @@ std::vector<std::string> WordsOf(const std::string& line) {
         }
         if (character == quote) {
             quote = '\0';
-        } else if (quote == '\0' && (character == '"' || character == '\'')) {
+        } else if (quote == '\0' && IsQuote(character)) {
             quote = character;
         } else {
             words.back() += character;

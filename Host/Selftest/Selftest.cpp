@@ -120,23 +120,28 @@ void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
         ++tested.checks;
         bool taken = false;
         for (const Value& neighbour : Neighbours(instance, current, field)) {
-            if (const std::int32_t code = Write(instance, neighbour); code != 0) {
-                tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
-            }
-            const Value held = Held(instance, neighbour);
-            taken = taken || held != current;
-            if (held != current && held != neighbour && !setter.RoundsTo(instance, neighbour, held)) {
-                tested.failures.push_back(instance.Print(neighbour) + ": the camera holds " + instance.Print(held) +
-                                          " instead");
-            }
-            static_cast<void>(Write(instance, current));
-            static_cast<void>(Held(instance, current));
+            taken = TryNeighbour(tested, neighbour, current) || taken;
         }
         if (!taken) {
             tested.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
                                       (current.numbers.size() == 1 ? "it" : instance->shape.fields[field].name));
         }
     }
+}
+
+bool Selftest::TryNeighbour(Tested& tested, const Value& neighbour, const Value& current) const {
+    const Instance& instance = tested.instance;
+    if (const std::int32_t code = Write(instance, neighbour); code != 0) {
+        tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
+    }
+    const Value held = Held(instance, neighbour);
+    if (held != current && held != neighbour && !setter.RoundsTo(instance, neighbour, held)) {
+        tested.failures.push_back(instance.Print(neighbour) + ": the camera holds " + instance.Print(held) +
+                                  " instead");
+    }
+    static_cast<void>(Write(instance, current));
+    static_cast<void>(Held(instance, current));
+    return held != current;
 }
 
 void Selftest::TestLock(Tested& tested) const {

@@ -42,6 +42,8 @@ private:
     void TestUnlocked(Tested& tested) const;
     void Try(Tested& tested, const Trial& trial, const Limits& limits, const Refusal& refusal) const;
     void TryNeighbours(Tested& tested, const Value& current) const;
+    /// @return whether the camera then holds another value than before
+    bool TryNeighbour(Tested& tested, const Value& neighbour, const Value& current) const;
     void TestLock(Tested& tested) const;
     [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
     [[nodiscard]] Value Held(const Instance& instance, const Value& expected) const;

@@ -93,7 +93,7 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
     for (const auto& camera : cameras) {
         const auto& [model, name] = camera;
         const auto run = [&](const std::string& arguments, const std::string& input = "/dev/null") {
-            const Outcome outcome = RunHost(arguments + " --state " + state, QDV12_HOST, input);
+            Outcome outcome = RunHost(arguments + " --state " + state, QDV12_HOST, input);
             EXPECT_TRUE(IsHarmless(outcome.out)) << arguments;
             EXPECT_TRUE(IsHarmless(outcome.err)) << arguments;
             return outcome;

@@ -24,6 +24,7 @@ using Pairs = std::vector<std::pair<std::string, std::string>>;
 inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& environment, const Pairs& typed = {}) {
     arguments.insert(arguments.begin(), QDV12_HOST);
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) {
         words.push_back(argument.data());
     }
