@@ -1,5 +1,6 @@
 #include "BootstrapRegisters.h"
 
+#include "Addresses.h"
 #include "Description.h"
 
 #include <algorithm>
@@ -48,6 +49,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
     const auto shown = Role::Shown;
     const auto kept = Role::Kept;
     const auto passing = Role::Volatile;
+    const auto channel = Role::Channel;
     std::string file = identity.model; // an address has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
     // clang-format off
@@ -70,13 +72,28 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"userdefinedname",            0x00E8, kept,    Text(16, "")},
         {"firsturl",                   0x0200, fixed,   Text(512, LocalUrl(file, identity.description.size()))},
         {"secondurl",                  0x0400, fixed,   Text(512, "http://192.168.1.10/" + file + ".xml")},
+        {"interfaces",                 0x0600, fixed,   Word(1)},
         {"persistentipaddress",        0x064C, kept,    Word(0)},
         {"persistentsubnetmask",       0x065C, kept,    Word(0)},
         {"persistentdefaultgateway",   0x066C, kept,    Word(0)},
+        {"messagechannels",            0x0900, fixed,   Word(0)},
+        {"streamchannels",             0x0904, fixed,   Word(1)},
         {"gvcpcapability",             0x0934, fixed,   Word(0xC0000003)},          // names, memory writes, several at once
+        {"heartbeat",                  0x0938, channel, Word(3000)},                // milliseconds
+        {"tickfrequencyhigh",          0x093C, fixed,   Word(0)},
+        {"tickfrequencylow",           0x0940, fixed,   Word(1000000)},             // the camera counts microseconds
+        {"clockcontrol",               0x0944, channel, Word(0)},
+        {"clockhigh",                  0x0948, channel, Word(0)},
+        {"clocklow",                   0x094C, channel, Word(0)},
         {"gvcpconfiguration",          0x0954, passing, Word(0)},
+        {"privilege",                  privilegeAddress, channel, Word(0)},
+        {"applicationport",            0x0A04, channel, Word(0)},
+        {"applicationaddress",         0x0A14, channel, Word(0)},
+        {"streamport",                 0x0D00, channel, Word(0)},
         {"packetsize",                 0x0D04, passing, Word(1404)},
         {"packetdelay",                0x0D08, passing, Word(0)},
+        {"streamdestination",          0x0D18, channel, Word(0)},
+        {"streamsourceport",           0x0D1C, channel, Word(0)},
         {"description",                descriptionAddress, fixed, Text(InWords(identity.description.size()), identity.description)},
     };
     // clang-format on

@@ -15,8 +15,7 @@ public:
 
 /// Writes what the camera holds to a file, for the next run of the program: permanent memory (settings sets, start-up
 /// set, user-defined name, persistent addresses, defect pixels), all registers as they are, and the camera's time. The
-/// file is replaced as a whole or not at all. Planted faults do not go into it, nor does what was written to addresses
-/// that no register claims.
+/// file is replaced as a whole or not at all. Planted faults do not go into it.
 /// @throw StateError
 void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path);
 

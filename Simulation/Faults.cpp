@@ -2,19 +2,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <optional>
 #include <utility>
 
 namespace Simulation {
 
 namespace {
-
-std::string Hexadecimal(std::uint32_t address) {
-    char text[11];
-    std::snprintf(text, sizeof text, "0x%08X", address);
-    return text;
-}
 
 /// A whole text as a number: decimal, or hexadecimal after "0x".
 std::optional<std::int64_t> ParseNumber(std::string_view text) {
@@ -109,17 +102,14 @@ std::pair<std::uint64_t, std::uint64_t> ExtentOf(const Order& order, const Regis
         const std::uint64_t bytes = instance.selector.size() + instance.value.size();
         return {target->address, target->address + bytes - 1};
     }
-    const auto address = static_cast<std::uint64_t>(*ParseNumber(order.target));
-    return {address, address + sizeof(std::uint32_t) - 1};
+    const auto address = static_cast<std::uint32_t>(*ParseNumber(order.target));
+    if (!space.HasAddresses(address, sizeof address)) {
+        throw FaultError("fault \"" + order.text + "\": this camera has no address " + order.target);
+    }
+    return {address, std::uint64_t{address} + sizeof address - 1};
 }
 
 } // namespace
-
-PortError::PortError(std::string failedOperation, std::uint32_t failedAddress, std::string why)
-    : std::runtime_error(failedOperation + " at " + Hexadecimal(failedAddress) + " failed: " + why),
-      operation(std::move(failedOperation)),
-      address(failedAddress),
-      reason(std::move(why)) {}
 
 void Faults::Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
     const Order order = Parse(text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PortError.h"
 #include "RegisterSpace.h"
 
 #include <cstdint>
@@ -16,16 +17,6 @@ namespace Simulation {
 class FaultError : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
-};
-
-/// An access that the camera did not answer.
-class PortError : public std::runtime_error {
-public:
-    PortError(std::string operation, std::uint32_t address, std::string reason);
-
-    std::string operation; ///< of the port, such as "WriteRegister"
-    std::uint32_t address;
-    std::string reason;
 };
 
 /// The faults that were planted in a camera; SimulatedCamera::PlantFault tells what there is.

@@ -22,11 +22,12 @@ enum class Role {
     Note,     ///< what was asked of a setting that shows as much of it as it can for now: goes with the settings
     Kept,     ///< permanent memory beside the settings sets
     Volatile, ///< commands, and what a start forgets
+    Channel,  ///< the control channel's: a device on the network sets it, any other camera shows that it has no channel
 };
 
 /// Whether the camera ignores what a host writes.
 [[nodiscard]] constexpr bool IsReadOnly(Role role) {
-    return role == Role::Fixed || role == Role::Shown || role == Role::Note;
+    return role == Role::Fixed || role == Role::Shown || role == Role::Note || role == Role::Channel;
 }
 
 /// One of the values behind an address, and the selector that leads to it.

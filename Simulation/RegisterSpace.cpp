@@ -1,5 +1,7 @@
 #include "RegisterSpace.h"
 
+#include "Addresses.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -21,30 +23,66 @@ RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
     }
 }
 
+bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) const {
+    const std::uint64_t end = std::uint64_t{address} + std::max<std::size_t>(length, 1);
+    if (address >= firstFunction) {
+        const std::uint32_t function = FunctionOf(address);
+        return function < firstNote && byAddress.contains(function) && end <= std::uint64_t{function} + functionSize;
+    }
+    const std::uint64_t wordSize = sizeof(std::uint32_t);
+    for (std::uint64_t word = address / wordSize * wordSize; word < end; word += wordSize) {
+        if (word >= discoverySize && Touched(static_cast<std::uint32_t>(word), wordSize).empty()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+const Register* RegisterSpace::IndexedAround(std::uint32_t address) const {
+    const std::uint32_t function = FunctionOf(address);
+    return indexed.contains(function) ? At(function) : nullptr;
+}
+
+Bytes RegisterSpace::BlockOf(const Register& entry) const {
+    const IndexedRegister& target = indexed.at(entry.address);
+    Bytes block = target.selected;
+    const Bytes value = ValueOf(entry, target.selected);
+    block.insert(block.end(), value.begin(), value.end());
+    return block;
+}
+
 void RegisterSpace::Read(std::uint32_t address, std::span<std::uint8_t> bytes) const {
-    const auto found = indexed.find(address);
-    if (found == indexed.end()) {
+    const Register* const entry = IndexedAround(address);
+    if (entry == nullptr) {
         memory.Read(address, bytes);
         return;
     }
-    const IndexedRegister& target = found->second;
-    Bytes block = target.selected;
-    if (const auto instance = target.instances.find(target.selected); instance != target.instances.end()) {
-        block.insert(block.end(), instance->second.begin(), instance->second.end());
-    }
-    block.resize(bytes.size()); // what lies behind the register reads as zeros
-    std::copy(block.begin(), block.end(), bytes.begin());
+    const Bytes block = BlockOf(*entry);
+    const std::size_t offset = std::min<std::size_t>(address - entry->address, block.size());
+    const std::size_t count = std::min(bytes.size(), block.size() - offset);
+    std::fill(std::copy_n(block.begin() + static_cast<std::ptrdiff_t>(offset), count, bytes.begin()), bytes.end(),
+              std::uint8_t{0}); // what lies behind the register
 }
 
 std::vector<RegisterSpace::Change> RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> bytes) {
+    if (const Register* const entry = IndexedAround(address)) {
+        Bytes block = BlockOf(*entry);
+        const std::size_t offset = address - entry->address;
+        if (offset >= block.size()) {
+            return {};
+        }
+        block.resize(offset); // a part of the register reaches the instance that is chosen
+        block.insert(block.end(), bytes.begin(), bytes.end());
+        return WriteIndexed(*entry, block);
+    }
     std::vector<Change> changes;
     for (const Register* entry : Touched(address, bytes.size())) {
-        if (indexed.contains(entry->address)) {
-            return WriteIndexed(*entry, bytes);
-        }
         changes.push_back({*entry, 0, Get(entry->name)});
+        const auto size = static_cast<std::uint32_t>(entry->powerUp.instances.front().value.size());
+        const std::uint32_t first = std::max(address, entry->address);
+        const auto written = bytes.subspan(first - address);
+        memory.Write(first, written.first(std::min<std::size_t>(written.size(), entry->address + size - first)));
     }
-    memory.Write(address, bytes);
     return changes;
 }
 

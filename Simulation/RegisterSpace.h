@@ -14,10 +14,19 @@ namespace Simulation {
 /// What a camera holds. The port reaches it by address, the camera's own behaviour by a register's name.
 ///
 /// Every access of the port is a read or a write of some bytes at an address; whether they came as a word, a pair, a
-/// block, a text or memory makes no difference. Plain registers, and every address that no register claims, are memory.
-/// An indexed register is a selector and a value: a write of the selector alone chooses an instance, a longer write
-/// sets the instance that it names, if there is one, and a read gives the chosen selector back, followed by its value.
-/// Some registers take a selector of two words with its halves exchanged when it is written alone.
+/// block, a text or memory makes no difference. A camera has these addresses, and no other ones:
+///
+/// | Addresses             | What is there                                                                    |
+/// |-----------------------|----------------------------------------------------------------------------------|
+/// | 0x00000000-0x000000F7 | the bootstrap registers of a discovery, and zeros where the standard reserves    |
+/// | 0x000000F8-0x00FFFFFF | registers; what lies between them the camera does not have                       |
+/// | 0xGGFF0000-0xGGFFFFFF | the camera's function GGFF: its register, and zeros behind it                    |
+/// | 0xE0000000-0xFFFFFFFF | nothing for the port: the camera's own notes                                     |
+///
+/// Where no register is, zeros are read and nothing can be written. An indexed register is a selector and a value: a
+/// write of the selector alone chooses an instance, a longer write sets the instance that it names, if there is one, a
+/// write of the value or of a part of it the chosen one, and a read gives the chosen selector back, followed by its
+/// value. Some registers take a selector of two words with its halves exchanged when it is written alone.
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
@@ -29,6 +38,8 @@ public:
         Words before;        ///< what it held until then
     };
 
+    /// Whether the port reaches all of these addresses; a length of 0 is that of one.
+    [[nodiscard]] bool HasAddresses(std::uint32_t address, std::size_t length) const;
     void Read(std::uint32_t address, std::span<std::uint8_t> bytes) const;
     /// Writes without asking what the registers admit, and says which of them it reached.
     std::vector<Change> Write(std::uint32_t address, std::span<const std::uint8_t> bytes);
@@ -61,6 +72,10 @@ private:
         std::map<Bytes, Bytes> instances; ///< by selector; one that is missing reads as zeros
     };
 
+    /// The indexed register in whose function the address lies, or null.
+    [[nodiscard]] const Register* IndexedAround(std::uint32_t address) const;
+    /// An indexed register as it is read: the chosen selector, then the value behind it.
+    [[nodiscard]] Bytes BlockOf(const Register& entry) const;
     [[nodiscard]] std::vector<Change> WriteIndexed(const Register& entry, std::span<const std::uint8_t> bytes);
     [[nodiscard]] const Register& Named(const std::string& name) const;
     [[nodiscard]] Bytes ValueOf(const Register& entry, const Bytes& selector) const;

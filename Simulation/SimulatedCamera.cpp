@@ -86,11 +86,18 @@ bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
     return true;
 }
 
+void SimulatedCamera::Begin(const char* operation, bool writes, std::uint32_t address, std::size_t length) {
+    Pass(accessTime);
+    if (!space.HasAddresses(address, length)) {
+        throw InvalidAddressError(operation, address);
+    }
+    faults.Check(operation, writes, address, length);
+}
+
 void SimulatedCamera::Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length) {
     RefuseNull(data);
-    Pass(accessTime);
     const auto size = static_cast<std::size_t>(length);
-    faults.Check(operation, true, address, size);
+    Begin(operation, true, address, size);
     const auto changes = space.Write(address, {static_cast<const std::uint8_t*>(data), size});
     for (const auto& change : changes) {
         if (Takes(change)) {
@@ -105,9 +112,8 @@ void SimulatedCamera::Write(const char* operation, std::uint32_t address, const 
 
 void SimulatedCamera::Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length) {
     RefuseNull(data);
-    Pass(accessTime);
     const auto size = static_cast<std::size_t>(length);
-    faults.Check(operation, false, address, size);
+    Begin(operation, false, address, size);
     space.Read(address, {static_cast<std::uint8_t*>(data), size});
 }
 

@@ -21,6 +21,7 @@ namespace Simulation {
 ///
 /// What a host writes passes the camera before it is held: a read-only register, an instance that does not exist and a
 /// code that is not admitted change nothing, a number is moved to the nearest admitted one. Then the camera acts on it.
+/// An access to addresses that the camera does not have throws InvalidAddressError.
 ///
 /// The camera lives in a time of its own: each port access takes half a millisecond of it, and nothing else does unless
 /// a host lets time pass. So the same accesses always meet the same camera.
@@ -57,13 +58,14 @@ public:
     /// | ignore:gain         | ignores what is written to the register; a command is not carried out              |
     /// | clamp:exposure=1000 | holds 1000 when more is written (each word of the register)                        |
     /// | offset:gain=1       | holds more than was written (each word), past the limit too; may be negative       |
-    /// | fail:0x14010000     | does not answer: accesses that touch the register, or any address, throw PortError |
+    /// | fail:0x14010000     | does not answer: accesses that touch the register throw PortError; an address that |
+    /// |                     | no register begins at stands for the four bytes there                              |
     /// | failread:, failwrite: | the same for one direction                                                       |
     /// | null:measurewindow  | answers the read of a block that begins there with nothing                         |
     /// | endless:agc         | does not stop the automatic mode once it was on                                    |
     /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
     ///
-    /// @throw FaultError for a text that is none of these, or a register that this camera does not have.
+    /// @throw FaultError for a text that is none of these, or a register or an address that this camera does not have.
     void PlantFault(std::string_view fault) { faults.Plant(fault, space, automatics); }
 
     /// What the camera holds, for a look past the port.
@@ -103,6 +105,8 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
+    /// What comes before every access. @throw PortError
+    void Begin(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }

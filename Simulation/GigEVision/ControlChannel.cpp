@@ -1,5 +1,7 @@
 #include "GigEVision/ControlChannel.h"
 
+#include "Addresses.h"
+
 namespace Simulation::GigEVision {
 
 namespace {
@@ -11,7 +13,7 @@ constexpr std::uint32_t controlAccess = 2;
 
 bool ControlChannel::MayRead(const Sender& sender, std::uint32_t address, std::size_t length) const {
     const bool privilegeAlone = address == privilegeAddress && length == sizeof(std::uint32_t);
-    return privilegeAlone || !IsHeld() || controller == sender || registers.Get(privilegeAddress) != exclusiveAccess;
+    return privilegeAlone || !IsHeld() || controller == sender || registers.Privilege() != exclusiveAccess;
 }
 
 Status ControlChannel::SetPrivilege(const Sender& sender, std::uint32_t privilege, Time now) {

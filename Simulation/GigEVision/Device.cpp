@@ -1,5 +1,7 @@
 #include "GigEVision/Device.h"
 
+#include "Addresses.h"
+
 namespace Simulation::GigEVision {
 
 namespace {
@@ -31,7 +33,7 @@ std::optional<Bytes> Refuse(const Request& request, Status status) {
 Device::Device(SimulatedCamera& served, const Network& place, Time now)
     : camera(served),
       network(place),
-      channel(served.Time()),
+      channel(served.Registers(), served.Time()),
       memory(served, channel),
       start(now),
       cameraStart(served.Time()) {
@@ -70,7 +72,7 @@ void Device::Reboot(Time now) {
     control.Release();
     lastAnswers.Forget();
     camera.Restart();
-    channel = ChannelRegisters(camera.Time());
+    channel.Restart(camera.Time());
     ShowAddress();
 }
 

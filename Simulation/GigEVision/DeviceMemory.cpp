@@ -1,5 +1,7 @@
 #include "GigEVision/DeviceMemory.h"
 
+#include "Addresses.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
@@ -14,11 +16,6 @@ namespace {
 static_assert(std::endian::native == std::endian::little, "vendor registers travel with little-endian words");
 
 constexpr std::uint32_t wordSize = 4;
-constexpr std::uint32_t firstFunction = 0x01000000;
-constexpr std::uint32_t functionSize = 0x00010000;
-constexpr std::uint32_t firstNote = 0xE0000000;
-
-std::uint32_t FunctionOf(std::uint32_t address) { return address & ~(functionSize - 1); }
 
 std::size_t SelectorSize(const Register& entry) { return entry.powerUp.instances.front().selector.size(); }
 
@@ -48,13 +45,6 @@ Status DeviceMemory::Read(std::uint32_t address, std::span<std::uint8_t> bytes) 
         const Bytes block = FromCamera(address, bytes.size());
         std::copy(block.begin(), block.end(), bytes.begin());
         ExchangeWords(address, bytes);
-        for (std::size_t i = 0; i < bytes.size(); i += wordSize) {
-            if (const auto own = address + static_cast<std::uint32_t>(i); channel.Has(own)) {
-                Bytes word;
-                Put32(word, channel.Get(own));
-                std::copy(word.begin(), word.end(), bytes.begin() + static_cast<std::ptrdiff_t>(i));
-            }
-        }
     });
 }
 
@@ -68,10 +58,11 @@ Status DeviceMemory::Write(std::uint32_t address, std::span<const std::uint8_t> 
     return Try([&] {
         Bytes block(bytes.begin(), bytes.end());
         ExchangeWords(address, block);
-        ToCamera(address, block);
+        camera.WriteBlock(address, block.data(), static_cast<std::uint32_t>(block.size()));
         for (std::size_t i = 0; i < bytes.size(); i += wordSize) {
-            if (const auto own = address + static_cast<std::uint32_t>(i); channel.Has(own)) {
-                channel.Write(own, Get32(bytes.subspan(i)), camera.Time());
+            const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
+            if (entry != nullptr && entry->role == Role::Channel) {
+                channel.Write(*entry, Get32(bytes.subspan(i)), camera.Time());
             }
         }
     });
@@ -100,23 +91,7 @@ Status DeviceMemory::CheckAddress(std::uint32_t address, std::size_t length) con
     if (address % wordSize != 0) {
         return Status::BadAlignment;
     }
-    const std::uint64_t end = std::uint64_t{address} + length;
-    if (address >= firstFunction) {
-        const std::uint32_t function = FunctionOf(address);
-        const bool known = function < firstNote && camera.Registers().At(function) != nullptr;
-        return known && end <= std::uint64_t{function} + functionSize ? Status::Success : Status::InvalidAddress;
-    }
-    for (std::uint64_t word = address; word < end; word += wordSize) {
-        // What the standard reserves among the registers of a discovery reads as zeros.
-        if (word >= discoverySize && !IsClaimed(static_cast<std::uint32_t>(word))) {
-            return Status::InvalidAddress;
-        }
-    }
-    return Status::Success;
-}
-
-bool DeviceMemory::IsClaimed(std::uint32_t address) const {
-    return channel.Has(address) || !camera.Registers().Touched(address, wordSize).empty();
+    return camera.Registers().HasAddresses(address, length) ? Status::Success : Status::InvalidAddress;
 }
 
 bool DeviceMemory::IsProtected(std::uint32_t address, std::size_t length) const {
@@ -125,9 +100,11 @@ bool DeviceMemory::IsProtected(std::uint32_t address, std::size_t length) const 
     }
     for (std::uint32_t word = address; word < address + length; word += wordSize) {
         const auto touched = camera.Registers().Touched(word, wordSize);
-        const bool open =
-            channel.Has(word) ? channel.IsWritable(word) : !touched.empty() && !IsReadOnly(touched.front()->role);
-        if (!open) {
+        if (touched.empty()) {
+            return true;
+        }
+        const Register& entry = *touched.front();
+        if (entry.role == Role::Channel ? !ChannelRegisters::IsWritable(entry) : IsReadOnly(entry.role)) {
             return true;
         }
     }
@@ -144,36 +121,13 @@ void DeviceMemory::ExchangeWords(std::uint32_t address, std::span<std::uint8_t> 
     }
 }
 
-const Register* DeviceMemory::IndexedAround(std::uint32_t address) const {
-    const Register* const entry = address < firstFunction ? nullptr : camera.Registers().At(FunctionOf(address));
-    return entry != nullptr && SelectorSize(*entry) != 0 ? entry : nullptr;
-}
-
 Bytes DeviceMemory::FromCamera(std::uint32_t address, std::size_t length) {
-    // The camera gives the value of an indexed register out behind its selector alone.
-    const std::uint32_t from = IndexedAround(address) == nullptr ? address : FunctionOf(address);
-    const std::size_t before = address - from;
     const std::unique_ptr<unsigned char, decltype(&std::free)> block(
-        camera.ReadBlock(from, static_cast<std::uint32_t>(before + length)), &std::free);
+        camera.ReadBlock(address, static_cast<std::uint32_t>(length)), &std::free);
     if (block == nullptr) {
-        throw PortError("ReadBlock", from, "no block from the camera");
+        throw PortError("ReadBlock", address, "no block from the camera");
     }
-    return {block.get() + before, block.get() + before + length};
-}
-
-void DeviceMemory::ToCamera(std::uint32_t address, std::span<const std::uint8_t> bytes) {
-    if (address < firstFunction) {
-        camera.WriteBlock(address, bytes.data(), static_cast<std::uint32_t>(bytes.size()));
-        return;
-    }
-    const std::uint32_t function = FunctionOf(address);
-    const std::size_t before = address - function;
-    const std::size_t length = std::min(bytes.size(), Size(*camera.Registers().At(function)) - before);
-    // A part of an indexed register reaches the instance that is selected, which the camera wants named.
-    Bytes block = IndexedAround(address) != nullptr && before != 0 ? FromCamera(function, before) : Bytes();
-    const auto from = block.empty() ? address : function;
-    block.insert(block.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length));
-    camera.WriteBlock(from, block.data(), static_cast<std::uint32_t>(block.size()));
+    return {block.get(), block.get() + length};
 }
 
 } // namespace Simulation::GigEVision

@@ -14,9 +14,6 @@ constexpr std::uint16_t port = 3956;
 constexpr std::size_t headerSize = 8;
 constexpr std::size_t largestPayload = 576 - 20 - 8; ///< of a UDP datagram: no packet needs to be fragmented anywhere
 constexpr std::size_t largestMemory = 536;           ///< that one packet reads or writes
-constexpr std::size_t discoverySize = 0xF8;        ///< the bootstrap registers that a discovery acknowledge is made of
-constexpr std::uint32_t bootstrapEnd = 0x00010000; ///< below it the standard rules, and words are big-endian
-constexpr std::uint32_t privilegeAddress = 0x00000A00; ///< of the control channel privilege
 
 enum class Command : std::uint16_t {
     Discovery = 0x0002,

@@ -143,6 +143,74 @@ TEST_F(DeviceTest, FillsThePacketsThatTheStandardAllows) {
     EXPECT_EQ(FromHex(Ask("4201 0084 0008 0003 00000200 00000218")).size(), 548U);
 }
 
+// One camera has the same addresses for a port in its process as over the control channel.
+TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
+    struct Row {
+        std::uint32_t address;
+        std::uint32_t length;
+        bool orvik;
+        bool m2vx;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {0x00000000, 0xF8,  true,  true},  // what a discovery tells, with what the standard reserves there
+        {0x00000018, 4,     true,  true},
+        {0x000000F4, 8,     false, false},
+        {0x000000F8, 4,     false, false},
+        {0x000001FC, 8,     false, false},
+        {0x00000200, 536,   true,  true},  // both addresses of the description
+        {0x00000600, 4,     true,  true},
+        {0x00000604, 4,     false, false},
+        {0x0000064C, 8,     false, false},
+        {0x00000934, 24,    true,  true},  // capability to clock: also of the channel itself
+        {0x00000950, 4,     false, false},
+        {0x00000954, 4,     true,  true},
+        {0x00000A00, 8,     true,  true},
+        {0x00000A08, 4,     false, false},
+        {0x00000D00, 12,    true,  true},
+        {0x00000D10, 16,    false, false},
+        {0x00010000, 536,   true,  true},  // the description
+        {0x00030000, 4,     false, false},
+        {0x00088120, 12,    false, true},
+        {0x00088134, 8,     true,  true},
+        {0x00FFFFFC, 8,     false, false},
+        {0x0A0F0000, 4,     false, false},
+        {0x14010000, 536,   true,  true},
+        {0x1401FFFC, 4,     true,  true},
+        {0x1401FFFC, 8,     false, false},
+        {0x14020000, 4,     false, false},
+        {0x28090004, 16,    true,  false}, // behind a selector
+        {0x6E140000, 8,     false, true},
+        {0xE0010000, 4,     false, false}, // the camera's notes
+        {0xFFFFFFFC, 4,     false, false},
+        {0xFFFFFFFC, 8,     false, false},
+    };
+    // clang-format on
+    for (const char* const model : {"Orvik-710C", "Cerix-MV7"}) {
+        const auto camera = Simulation::MakeCamera(model);
+        Device device(*camera, {0x7F00004D, 0xFF000000}, {});
+        std::uint16_t id = 0;
+        for (const Row& row : rows) {
+            const bool there = model == std::string("Orvik-710C") ? row.orvik : row.m2vx;
+            char request[40];
+            std::snprintf(request, sizeof request, "4201 0084 0008 %04x %08x %08x", ++id, row.address, row.length);
+            const auto answer = device.Answer(one, FromHex(request), {});
+            ASSERT_TRUE(answer);
+            EXPECT_EQ(ToHex(*answer).substr(0, 4), there ? "0000" : "8003") << model << ' ' << request;
+            Bytes bytes(row.length);
+            std::uint64_t length = row.length;
+            if (there) {
+                EXPECT_NO_THROW(camera->ReadMem(row.address, bytes.data(), &length)) << model << ' ' << request;
+            } else {
+                EXPECT_THROW(camera->ReadMem(row.address, bytes.data(), &length), Simulation::InvalidAddressError)
+                    << model << ' ' << request;
+                EXPECT_THROW(camera->WriteMem(row.address, bytes.data(), &length), Simulation::InvalidAddressError)
+                    << model << ' ' << request;
+            }
+        }
+    }
+}
+
 TEST_F(DeviceTest, AnswersAnErrorWhereAFaultWasPlanted) {
     TakeControl();
     camera->PlantFault("fail:gain");

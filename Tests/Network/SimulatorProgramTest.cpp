@@ -180,9 +180,9 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--fault", "ignore:nothing"},
          2,
          "fault \"ignore:nothing\": this camera has no register \"nothing\""},
-        {{"Orvik-710C", "--address", OwnAddress(), "--record", "/nowhere/at.all"},
+        {{"Orvik-710C", "--address", OwnAddress(), "--record", "/dev/null/at.all"},
          3,
-         "recording cannot be written: /nowhere/at.all: No such file or directory"},
+         "recording cannot be written: /dev/null/at.all: Not a directory"},
         {{"Orvik-710C", "--state", "/dev/null"}, 3, "camera state /dev/null: damaged: "},
         {{"Orvik-710C", "--state", "/"}, 3, "camera state /: it cannot be read (Is a directory)"},
     };

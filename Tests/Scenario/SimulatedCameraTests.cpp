@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -58,17 +59,48 @@ TEST_F(SimulatedOrvik, ServesAnIndexedRegisterInEveryStyleOfBlock) {
     EXPECT_EQ(ReadBlock(*camera, 0x1E030000, 20), (std::array<std::uint32_t, 12>{1, 10, 20, 30, 40}));
 }
 
-TEST_F(SimulatedOrvik, IsMemoryWhereNoRegisterIsIndexed) {
-    EXPECT_EQ(camera->ReadRegister(0x12345678), 0U);
-    WriteMem(0x12345678, {1, 2, 3, 4, 5}, 20);
-    EXPECT_EQ(camera->ReadRegister(0x1234567C), 2U);
-    EXPECT_EQ(camera->ReadRegisterPair(0x12345680), 4ULL << 32 | 3);
-    WriteMem(0xFFFFFFFC, {6, 7}, 8); // over the end of the address space
-    EXPECT_EQ(camera->ReadRegister(0xFFFFFFFC), 6U);
+TEST_F(SimulatedOrvik, TakesAPartOfARegister) {
+    WriteMem(0x66110000, {4, 1500}, 8);
+    camera->WriteRegister(0x66110004, 77); // the value alone, of the instance that is chosen
+    EXPECT_EQ(camera->ReadRegister(0x66110004), 77U);
+    EXPECT_EQ(ReadMem(0x66110000, 8), (Block{4, 77}));
+    std::uint64_t one = 1;
+    std::uint8_t byte = 0x12;
+    camera->WriteMem(0x18010001, &byte, &one); // brightness, up to 2047
+    EXPECT_EQ(camera->ReadRegister(0x18010000), 2047U);
+    camera->ReadMem(0x18010001, &byte, &one);
+    EXPECT_EQ(byte, 0x07);
 
     EXPECT_EQ(ReadMem(0x0008, 8), (Block{0x00000200, 0x12070710})); // both words of the MAC
     EXPECT_STREQ(camera->ReadString(0x0068, 32), "Orvik-710C");
     EXPECT_STREQ(camera->ReadString(0x64010000, 24) + 4, "Orvik-710C"); // behind its leading word
+}
+
+TEST_F(SimulatedOrvik, HoldsNothingBehindARegister) {
+    WriteMem(0x14010000, {5, 6, 7}, 12);
+    WriteMem(0x1401FFFC, {8}, 4);
+    WriteMem(0x66110008, {9}, 4);
+    WriteMem(0x0014, {7, 0x11111111, 0x22222222}, 12); // with what the standard reserves behind it
+    EXPECT_EQ(ReadMem(0x14010000, 12), (Block{5, 0, 0}));
+    EXPECT_EQ(camera->ReadRegister(0x1401FFFC), 0U);
+    EXPECT_EQ(ReadMem(0x66110000, 12), (Block{0, 0, 0}));
+    EXPECT_EQ(ReadMem(0x0014, 12), (Block{7, 0, 0}));
+}
+
+TEST_F(SimulatedOrvik, RefusesAnAddressThatItDoesNotHave) {
+    const auto before = camera->Time();
+    try {
+        camera->WriteRegisterPair(0x00030000, 1);
+        ADD_FAILURE();
+    } catch (const Simulation::InvalidAddressError& error) {
+        EXPECT_EQ(error.operation, "WriteRegisterPair");
+        EXPECT_EQ(error.address, 0x00030000U);
+        EXPECT_STREQ(error.what(), "WriteRegisterPair at 0x00030000 failed: the camera has no such address (0x8003)");
+    }
+    EXPECT_EQ(camera->Time() - before, std::chrono::microseconds(500)); // an access as any other
+    EXPECT_THROW((void)camera->ReadString(0x00F4, 8), Simulation::PortError);
+    EXPECT_THROW(WriteMem(0x0D08, {2000, 1}, 8), Simulation::InvalidAddressError); // half of it
+    EXPECT_EQ(camera->ReadRegister(0x0D08), 0U);
 }
 
 TEST_F(SimulatedOrvik, ActsAfterAWriteOfAnyStyle) {

@@ -1,4 +1,4 @@
-// A simulated camera's memory in a file, and the faults that can be planted in it.
+// A simulated camera's memory in a file.
 
 #include "Files.h"
 
@@ -144,101 +144,6 @@ TEST_F(CameraState, StaysAsItWasWhenItCannotBeWritten) {
     std::filesystem::create_directories(file / "in the way");
     EXPECT_THROW(Simulation::SaveState(*camera, file), Simulation::StateError);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
-}
-
-TEST(PlantedFault, ChangesWhatTheCameraHolds) {
-    const auto camera = MakeCamera("Orvik-710C");
-    const auto& held = camera->Registers();
-    camera->WriteRegister(0x51030000, 1);
-    for (const char* fault : {"ignore:gain", "clamp:contrast=100", "offset:sharpness=1", "clamp:lutindex=-2",
-                              "ignore:0x51020000", "stale:saturation"}) {
-        camera->PlantFault(fault);
-    }
-    camera->WriteRegister(0x14010000, 5);
-    camera->WriteRegister(0x18020000, 101);
-    camera->WriteRegister(0x18030000, 255);
-    camera->WriteRegister(0x19010000, 3);
-    camera->WriteRegister(0x18010000, 9);
-    EXPECT_EQ(held.Get("gain"), Words{0});
-    EXPECT_EQ(held.Get("contrast"), Words{100});
-    EXPECT_EQ(held.Get("sharpness"), Words{256});
-    EXPECT_EQ(held.Get("lutindex"), Words{0U - 2U});
-    camera->WriteRegister(0x51020000, 1); // ignored
-    EXPECT_EQ(held.Get("brightness"), Words{9});
-
-    const auto other = MakeCamera("Orvik-710C");
-    other->PlantFault("stale:saturation");
-    other->WriteRegister(0x15040000, 9);
-    other->WriteRegister(0x18010000, 9);
-    other->WriteRegister(0x51020000, 0);
-    EXPECT_EQ(other->Registers().Get("saturation"), Words{9});
-    EXPECT_EQ(other->Registers().Get("brightness"), Words{0});
-}
-
-TEST(PlantedFault, KeepsAnAutomaticModeFromStopping) {
-    for (const char* model : {"Orvik-710M", "Cerix-MV7"}) {
-        const auto camera = MakeCamera(model);
-        camera->PlantFault("endless:agc");
-        camera->WriteRegister(0x14010000, 500);
-        EXPECT_EQ(camera->Registers().Get("gain"), Words{500}) << model; // it was not on yet
-        camera->WriteRegister(0x46020000, 1);
-        camera->WriteRegister(0x46020000, 0);
-        camera->WriteRegister(0x14010000, 500);
-        EXPECT_LT(camera->Registers().Get("gain")[0], 400U) << model;
-    }
-}
-
-TEST(PlantedFault, FailsAccesses) {
-    const auto camera = MakeCamera("Cerix7-MV");
-    camera->PlantFault("fail:0x14010000");
-    camera->PlantFault("fail:305419896"); // 0x12345678, where no register is
-    camera->PlantFault("failwrite:exposure");
-    camera->PlantFault("failread:overlayposition");
-    camera->PlantFault("null:measurewindow");
-    try {
-        camera->WriteRegister(0x14010000, 1);
-        ADD_FAILURE();
-    } catch (const Simulation::PortError& error) {
-        EXPECT_EQ(error.operation, "WriteRegister");
-        EXPECT_EQ(error.address, 0x14010000U);
-        EXPECT_EQ(error.reason, "no answer from the camera");
-        EXPECT_STREQ(error.what(), "WriteRegister at 0x14010000 failed: no answer from the camera");
-    }
-    EXPECT_EQ(camera->Registers().Get("gain"), Words{0});
-    std::uint8_t bytes[16] = {};
-    std::uint64_t length = sizeof bytes;
-    EXPECT_THROW(camera->ReadMem(0x1400FFF8, bytes, &length), Simulation::PortError); // which reaches over it
-    EXPECT_THROW((void)camera->ReadRegister(0x12345678), Simulation::PortError);
-    EXPECT_EQ(camera->ReadRegister(0x0A030000), 33U);
-    EXPECT_THROW(camera->WriteRegister(0x0A030000, 34), Simulation::PortError);
-    camera->WriteRegister(0x17020000, 1);
-    EXPECT_THROW((void)camera->ReadBlock(0x17020000, 12), Simulation::PortError);
-    EXPECT_EQ(camera->ReadBlock(0x1E030000, 20), nullptr);
-}
-
-TEST(PlantedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
-    const auto camera = MakeCamera("Orvik-710M");
-    const auto reason = [&](const char* fault) -> std::string {
-        try {
-            camera->PlantFault(fault);
-            return "";
-        } catch (const Simulation::FaultError& error) {
-            return error.what();
-        }
-    };
-    // clang-format off
-    EXPECT_EQ(reason("ignore:gian"),       "fault \"ignore:gian\": this camera has no register \"gian\"");
-    EXPECT_EQ(reason("ignore"),            "fault \"ignore\": this camera has no register \"\"");
-    EXPECT_EQ(reason("ignore:0x14010004"), "fault \"ignore:0x14010004\": no register of this camera begins at 0x14010004");
-    EXPECT_EQ(reason("fail:0x114010000"),  "fault \"fail:0x114010000\": this camera has no register \"0x114010000\"");
-    EXPECT_EQ(reason("clamp:gain"),        "fault \"clamp:gain\": clamp needs a number, as in \"clamp:gain=1\"");
-    EXPECT_EQ(reason("ignore:gain=1"),     "fault \"ignore:gain=1\": only clamp and offset take a number");
-    EXPECT_EQ(reason("clamp:gain=ten"),    "fault \"clamp:gain=ten\": what stands behind = is not a number");
-    EXPECT_EQ(reason("endless:gain"),      "fault \"endless:gain\": gain is no automatic mode; this camera has acc, aet, agc, awb");
-    EXPECT_EQ(reason("stale:temperature"), "fault \"stale:temperature\": no settings set holds temperature");
-    EXPECT_EQ(reason("break:gain"),        "fault \"break:gain\": there is no kind \"break\", but clamp, endless, fail, failread, "
-                                           "failwrite, ignore, null, offset, stale");
-    // clang-format on
 }
 
 } // namespace Scenario
