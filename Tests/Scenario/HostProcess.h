@@ -4,7 +4,7 @@
 #include "Running.h"
 
 #include <atomic>
-#include <cstdlib>
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -29,8 +29,11 @@ inline Outcome RunHost(const std::string& arguments, const std::string& program 
     const std::string out = TemporaryFile("out" + run);
     const std::string err = TemporaryFile("err" + run);
     const std::string files = " >" + out + " 2>" + err + " <" + input;
-    const int status = std::system((program + " " + arguments + files).c_str());
-    Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content(out), Content(err)};
+    const std::chrono::minutes deadline{10}; // what a camera loses takes minutes
+    Running shell("/bin/sh", {"-c", program + " " + arguments + files}, Running::both, deadline);
+    const int code = shell.End();
+    const Outcome outcome{code, Content(out), Content(err)};
+    EXPECT_FALSE(shell.HasTimedOut()) << outcome.out << outcome.err;
     std::filesystem::remove(out);
     std::filesystem::remove(err);
     return outcome;

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <string>
 #include <utility>
@@ -15,13 +18,24 @@
 
 namespace Test {
 
-/// A program whose output is read while it runs, and which ends with this object at the latest.
+/// A program whose output is read while it runs, and which ends with this object at the latest, with all that it
+/// started. One that keeps the test waiting for longer than a deadline is killed, and the test fails.
 class Running {
+    using Clock = std::chrono::steady_clock;
+
 public:
     static constexpr int both = -1;
+#ifdef QDV12_SANITIZED
+    static constexpr std::chrono::seconds usualDeadline{180};
+#else
+    static constexpr std::chrono::seconds usualDeadline{60}; ///< long, as the machine may be busy
+#endif
 
     /// @param stream STDOUT_FILENO or STDERR_FILENO, the other one goes nowhere; or both
-    Running(const std::string& program, std::vector<std::string> arguments, int stream) {
+    /// @param longestWait of ReadUntil and of End
+    Running(const std::string& program, std::vector<std::string> arguments, int stream,
+            std::chrono::milliseconds longestWait = usualDeadline)
+        : deadline(longestWait) {
         std::array<int, 2> ends{};
         EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
         fcntl(ends[1], F_SETPIPE_SZ, 4096); // so that the program is never far ahead of who reads
@@ -29,11 +43,13 @@ public:
         std::vector<char*> words;
         words.reserve(arguments.size() + 1);
         for (std::string& argument : arguments) {
+            command += argument + ' ';
             words.push_back(argument.data());
         }
         words.push_back(nullptr);
         process = fork();
         if (process == 0) {
+            setpgid(0, 0);
             for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
                 ::signal(signal, SIG_DFL); // whatever the tests were started from
             }
@@ -45,12 +61,13 @@ public:
             execvp(words[0], words.data());
             _exit(127);
         }
+        setpgid(process, process); // whichever of the two processes comes first
         close(ends[1]);
         from = ends[0];
     }
     ~Running() {
         if (process > 0) {
-            kill(process, SIGKILL);
+            kill(-process, SIGKILL);
             waitpid(process, nullptr, 0);
         }
         close(from);
@@ -60,8 +77,9 @@ public:
 
     /// Reads until the text has come. As long as nobody reads on, the program stands still when the pipe is full.
     bool ReadUntil(const std::string& text) {
+        const auto end = Clock::now() + deadline;
         while (read.find(text) == std::string::npos) {
-            if (!ReadSome()) {
+            if (!ReadSome(end)) {
                 return false;
             }
         }
@@ -70,24 +88,51 @@ public:
     /// Leaves it with output that nobody reads.
     void StopReading() { close(std::exchange(from, -1)); }
     void Signal(int signal) const { kill(process, signal); }
-    /// Reads the rest. @return the exit code
+    /// Reads the rest. @return the exit code, -1 if a signal ended it
     int End() {
-        while (ReadSome()) {
+        const auto end = Clock::now() + deadline;
+        while (ReadSome(end)) {
         }
         int status = 0;
-        waitpid(std::exchange(process, -1), &status, 0);
+        while (waitpid(process, &status, WNOHANG) == 0) {
+            if (Clock::now() >= end) {
+                TimeOut("did not end");
+            }
+            usleep(1000);
+        }
+        process = -1;
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
+    /// Whether it kept the test waiting for too long.
+    [[nodiscard]] bool HasTimedOut() const { return timedOut; }
     [[nodiscard]] const std::string& Read() const { return read; }
 
 private:
-    bool ReadSome() {
+    bool ReadSome(Clock::time_point end) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
+        pollfd readable{from, POLLIN, 0};
+        if (!timedOut && from >= 0 && poll(&readable, 1, static_cast<int>(std::max<long>(left, 0))) == 0) {
+            TimeOut("did not go on");
+        }
+        if (timedOut || from < 0) {
+            return false;
+        }
         std::array<char, 4096> some{};
         const ssize_t got = ::read(from, some.data(), some.size());
         read.append(some.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
         return got > 0;
     }
+    void TimeOut(const char* what) {
+        if (!std::exchange(timedOut, true)) {
+            ADD_FAILURE() << command << what << " within " << deadline.count() << " ms; it was killed. It printed:\n"
+                          << read;
+            kill(-process, SIGKILL);
+        }
+    }
 
+    std::string command; ///< with a blank behind each word
+    std::chrono::milliseconds deadline;
+    bool timedOut = false;
     pid_t process = -1;
     int from = -1;
     std::string read;
