@@ -5,11 +5,16 @@
 // can be reached from there passes as well, a control that is never deleted, for one: LoadTest notices that, as it
 // holds what a control leaves to a number of bytes.
 
-#if defined(__has_feature)
+#if defined(__SANITIZE_ADDRESS__) // GCC
+#define SDK4_LEAKS_CHECKED
+#elif defined(__has_feature)
 #if __has_feature(address_sanitizer)
-#include <sanitizer/lsan_interface.h>
 #define SDK4_LEAKS_CHECKED
 #endif
+#endif
+
+#ifdef SDK4_LEAKS_CHECKED
+#include <sanitizer/lsan_interface.h>
 #endif
 
 namespace SDK4 {
