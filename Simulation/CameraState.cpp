@@ -1,9 +1,12 @@
 #include "CameraState.h"
 
+#include "Identity.h"
+
 #include <nlohmann/json.hpp>
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -18,18 +21,16 @@ namespace {
 using Json = nlohmann::json;
 
 const char* const format = "simulated camera";
+const char* const serialNumber = "serial number";
+const char* const macAddress = "MAC address";
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
 const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile};
 
-std::string TextOf(const RegisterSpace& space, const char* name, std::size_t leading) {
-    const Bytes bytes = ToBytes(space.Get(name));
-    const std::string text(bytes.begin() + static_cast<std::ptrdiff_t>(leading), bytes.end());
-    return text.substr(0, text.find('\0'));
+std::string Model(const RegisterSpace& space) {
+    const Bytes bytes = ToBytes(space.Get("modelname"));
+    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
 }
-
-std::string Model(const RegisterSpace& space) { return TextOf(space, "modelname", 0); }
-std::string SerialNumber(const RegisterSpace& space) { return TextOf(space, "serialnumber", sizeof(std::uint32_t)); }
 
 /// Without what only a planted fault can have put there.
 RegisterSpace::Content Sane(const RegisterSpace& space, RegisterSpace::Content content) {
@@ -142,9 +143,25 @@ void CheckOwner(const Json& file, const RegisterSpace& space) {
         throw std::runtime_error("it belongs to a camera of model " + Member(file, "model").dump() + ", not " +
                                  Model(space));
     }
-    if (Member(file, "serial number") != SerialNumber(space)) {
-        throw std::runtime_error("it belongs to camera " + Member(file, "serial number").dump() + ", not " +
-                                 SerialNumber(space));
+}
+
+/// The serial number, and the MAC address unless the file is of a version of the program that wrote none.
+RegisterSpace::Content ReadIdentity(const Json& file, const RegisterSpace& space) {
+    const auto text = [&](const char* name) {
+        const Json& value = Member(file, name);
+        if (!value.is_string()) {
+            Damaged(std::string("\"") + name + "\" is no text");
+        }
+        return value.get<std::string>();
+    };
+    try {
+        RegisterSpace::Content identity = SerialNumberRegisters(space, text(serialNumber));
+        if (file.contains(macAddress)) {
+            identity.merge(MacAddressRegisters(text(macAddress)));
+        }
+        return identity;
+    } catch (const IdentityError& error) {
+        Damaged(error.what());
     }
 }
 
@@ -152,7 +169,8 @@ void Apply(const Json& file, SimulatedCamera& camera) {
     RegisterSpace& space = camera.Registers();
     CheckOwner(file, space);
     const auto time = Number(Member(file, "microseconds"), longestTime, "the time");
-    const auto content = ReadContent(Member(file, "registers"), space, space.Save(rememberedRoles));
+    auto content = ReadContent(Member(file, "registers"), space, space.Save(rememberedRoles));
+    content.merge(ReadIdentity(file, space));
     auto sets = ReadSets(Member(file, "settings sets"), space);
 
     space.Load(content);
@@ -172,7 +190,8 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
     const Json file = {{"format", format},
                        {"version", version},
                        {"model", Model(space)},
-                       {"serial number", SerialNumber(space)},
+                       {serialNumber, SerialNumberOf(space)},
+                       {macAddress, MacAddressOf(space)},
                        {"microseconds", static_cast<std::uint64_t>(camera.Time().count())},
                        {"registers", Sane(space, space.Save(rememberedRoles))},
                        {"settings sets", sets}};

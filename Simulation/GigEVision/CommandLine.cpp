@@ -91,6 +91,9 @@ std::optional<Order> ParseCommandLine(int argc, char** argv) {
         ->check(SeedFault)
         ->type_name("N");
     app.add_option("--state", order.state, "Keeps the camera in a file between two runs")->type_name("FILE");
+    app.add_option("--serial", order.serial, "Its serial number, to tell it from others of its model")
+        ->type_name("TEXT");
+    app.add_option("--mac", order.mac, "Its MAC address, such as 02:00:12:07:07:11")->type_name("MAC");
     app.add_option("--fault", order.faults, "Plants a fault in the camera, such as ignore:gain")
         ->type_name("TEXT")
         ->allow_extra_args(false); // else it would take the model for a fault too

@@ -15,7 +15,9 @@ struct Order {
     std::string model{};
     std::uint32_t address = 0;
     std::uint64_t seed = 0;
-    std::string state{};               ///< a file that holds the camera between two runs; none if empty
+    std::string state{}; ///< a file that holds the camera between two runs; none if empty
+    std::optional<std::string> serial{};
+    std::optional<std::string> mac{};
     std::vector<std::string> faults{}; ///< to be planted in the camera
     Disturbances disturbances{};
     std::string record{}; ///< a file for packets; none if empty

@@ -3,9 +3,9 @@
 #include "GigEVision/CommandLine.h"
 #include "GigEVision/Network.h"
 #include "GigEVision/Server.h"
+#include "Identity.h"
 #include "Suggestion.h"
 
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <iostream>
@@ -19,6 +19,22 @@ enum ExitCode { AllWell = 0, WrongUsage = 2, NotServed = 3 };
 
 std::string AddressText(std::uint32_t address) { return asio::ip::address_v4(address).to_string(); }
 
+/// Gives the camera the identity that was asked for, whatever the state file says.
+void Name(RegisterSpace& space, const Order& order) {
+    const char* option = "--serial: ";
+    try {
+        if (order.serial) {
+            space.Load(SerialNumberRegisters(space, *order.serial));
+        }
+        option = "--mac: ";
+        if (order.mac) {
+            space.Load(MacAddressRegisters(*order.mac));
+        }
+    } catch (const IdentityError& error) {
+        throw UsageError(option + std::string(error.what()));
+    }
+}
+
 std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
     auto camera = MakeCamera(order.model, {.seed = order.seed});
     if (!camera) {
@@ -28,6 +44,7 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
     if (HasState(order.state)) {
         LoadState(*camera, order.state);
     }
+    Name(camera->Registers(), order);
     for (const std::string& fault : order.faults) {
         camera->PlantFault(fault);
     }
@@ -36,15 +53,8 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
 
 /// Tells those who wait for it that the camera can be reached.
 void Announce(const Order& order, const RegisterSpace& space) {
-    char mac[18];
-    const std::uint32_t high = space.Get("machigh")[0];
-    const std::uint32_t low = space.Get("maclow")[0];
-    std::snprintf(mac, sizeof mac, "%02X:%02X:%02X:%02X:%02X:%02X", high >> 8 & 0xFF, high & 0xFF, low >> 24,
-                  low >> 16 & 0xFF, low >> 8 & 0xFF, low & 0xFF);
-    const Bytes serial = ToBytes(space.Get("bootstrapserialnumber"));
-    std::cout << order.model << " at " << AddressText(order.address) << ':' << port << ", MAC " << mac
-              << ", serial number " << std::string(serial.begin(), std::find(serial.begin(), serial.end(), '\0'))
-              << std::endl;
+    std::cout << order.model << " at " << AddressText(order.address) << ':' << port << ", MAC " << MacAddressOf(space)
+              << ", serial number " << SerialNumberOf(space) << std::endl;
 }
 
 void Keep(const Order& order, const SimulatedCamera& camera) {
@@ -64,6 +74,7 @@ void Serve(const Order& order) {
         recorder.emplace(order.record);
         server.RecordTo(*recorder);
     }
+    Keep(order, *camera); // now, since a file that cannot be written would be known too late at the end
     Announce(order, camera->Registers());
     try {
         server.Run();

@@ -98,6 +98,23 @@ TEST(SimulatorProgramTest, ServesUntilItIsTerminatedAndKeepsTheCamera) {
     std::filesystem::remove(state);
 }
 
+TEST(SimulatorProgramTest, IsTheCameraThatItsOptionsNameOrElseItsStateFile) {
+    const std::string address = OwnAddress();
+    const std::string state = TemporaryFile("state");
+    const auto announced = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"Orvik-710C", "--address", address, "--state", state});
+        Simulator simulator(options);
+        simulator.Signal(SIGTERM);
+        EXPECT_EQ(simulator.End(), 0);
+        return simulator.Read().substr(simulator.Read().find("MAC"));
+    };
+    EXPECT_EQ(announced({"--serial", "rig-1"}), "MAC 02:00:12:07:07:10, serial number rig-1\n");
+    EXPECT_EQ(announced({"--mac", "0a:1B:2c:3D:4e:5F"}), "MAC 0A:1B:2C:3D:4E:5F, serial number rig-1\n");
+    EXPECT_EQ(announced({"--serial", "rig-2"}), "MAC 0A:1B:2C:3D:4E:5F, serial number rig-2\n");
+    EXPECT_EQ(announced({}), "MAC 0A:1B:2C:3D:4E:5F, serial number rig-2\n");
+    std::filesystem::remove(state);
+}
+
 TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
     const std::string address = OwnAddress();
     const std::string record = TemporaryFile("pcap");
@@ -164,6 +181,9 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         std::string line;
     };
     const std::string more = " (qdv12sim --help says more)";
+    const std::string serial = "--serial: invalid serial number ";
+    const std::string mac = "--mac: invalid MAC address ";
+    const std::string device = ", expected that of one device, such as 02:00:12:07:07:10";
     const Row rows[] = {
         {{}, 2, "MODEL is required" + more},
         {{"orvik710m"}, 2, "unknown model \"orvik710m\"; did you mean \"Orvik-710M\"? (qdv12sim --help lists them)"},
@@ -183,6 +203,25 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--address", OwnAddress(), "--record", "/dev/null/at.all"},
          3,
          "recording cannot be written: /dev/null/at.all: Not a directory"},
+        {{"Orvik-710C", "--serial", ""}, 2, serial + "\"\", expected 1 to 12 ASCII characters without blanks"},
+        {{"Orvik-710C", "--serial", "1234567890123"},
+         2,
+         serial + "\"1234567890123\", expected 1 to 12 ASCII characters without blanks"},
+        {{"Sollux G", "--serial", "1234567890123456"},
+         2,
+         serial + "\"1234567890123456\", expected 1 to 15 ASCII characters without blanks"},
+        {{"Orvik-710C", "--serial", "no 7"}, 2, serial + "\"no 7\", expected 1 to 12 ASCII"},
+        {{"Orvik-710C", "--serial", "n\xC3\xB6"}, 2, serial + "\"n\xC3\xB6\", expected 1 to 12 ASCII"},
+        {{"Orvik-710C", "--mac", ""}, 2, mac + "\"\"" + device},
+        {{"Orvik-710C", "--mac", "02:00:12:07:07"}, 2, mac + "\"02:00:12:07:07\"" + device},
+        {{"Orvik-710C", "--mac", "02:00:12:07:07:1"}, 2, mac + "\"02:00:12:07:07:1\"" + device},
+        {{"Orvik-710C", "--mac", "02:00:12:07:07:1g"}, 2, mac + "\"02:00:12:07:07:1g\"" + device},
+        {{"Orvik-710C", "--mac", "02-00-12-07-07-10"}, 2, mac + "\"02-00-12-07-07-10\"" + device},
+        {{"Orvik-710C", "--mac", "00:00:00:00:00:00"}, 2, mac + "\"00:00:00:00:00:00\"" + device},
+        {{"Orvik-710C", "--mac", "03:00:12:07:07:10"}, 2, mac + "\"03:00:12:07:07:10\"" + device}, // a group
+        {{"Orvik-710C", "--address", OwnAddress(), "--state", "/dev/null/state"},
+         3,
+         "camera state /dev/null/state: it cannot be written (Not a directory)"},
         {{"Orvik-710C", "--state", "/dev/null"}, 3, "camera state /dev/null: damaged: "},
         {{"Orvik-710C", "--state", "/"}, 3, "camera state /: it cannot be read (Is a directory)"},
     };

@@ -124,6 +124,22 @@ TEST(ChannelModel, DiscoveryEscapesWhatACameraIsCalled) {
     EXPECT_TRUE(Has(RunHost("discover --json").out, "\"userName\": \"\\u001b]0;owned\\u0007\""));
 }
 
+TEST(ChannelModel, TwoCamerasOfAModelAreToldApart) {
+    for (const std::string model : {"Orvik-710C", "Sollux G"}) {
+        const NetworkCamera one(model);
+        const NetworkCamera other(model, "192.168.1.20", {"--serial", "left-rig.042", "--mac", "02:00:12:34:56:78"});
+        const Outcome found = RunHost("discover");
+        EXPECT_TRUE(Has(found.out, "192.168.1.10     02:00:12:0"));
+        EXPECT_TRUE(std::regex_search(
+            found.out, std::regex("192\\.168\\.1\\.20 +02:00:12:34:56:78 +" + model + " +left-rig\\.042\n")))
+            << found.out;
+        // From the bootstrap registers and from the camera's own one.
+        EXPECT_EQ(other.Run("get serialnumber macaddress").out,
+                  "serialnumber=left-rig.042\nmacaddress=02:00:12:34:56:78\n");
+        EXPECT_FALSE(Has(one.Run("get serialnumber macaddress").out, "left-rig.042"));
+    }
+}
+
 // Its memory ends behind the bootstrap registers; it does not live on when it is asked for more.
 TEST(ChannelModel, AgreesWithAravisAboutItsCamera) {
     const AravisCamera camera;

@@ -88,6 +88,23 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1); // nothing else is left behind
 }
 
+TEST_F(CameraState, TellsWhichCameraOfItsModelItIs) {
+    const auto camera = MakeCamera("Orvik-710M");
+    Simulation::SaveState(*camera, file);
+    const std::string saved = Content(file);
+    std::ofstream(file) << Replaced(Replaced(saved, "710M-0042", "710M-0043"), "02:00:12:06:07:10",
+                                    "02:00:12:06:07:11");
+    Simulation::LoadState(*camera, file);
+    EXPECT_STREQ(camera->ReadString(0x00D8, 16), "710M-0043");
+    EXPECT_STREQ(camera->ReadString(0x64020000, 16) + 4, "710M-0043");
+    EXPECT_EQ(camera->ReadRegister(0x000C), 0x12060711U);
+
+    std::ofstream(file) << Replaced(saved, "  \"MAC address\": \"02:00:12:06:07:10\",\n", ""); // as it once was written
+    const auto next = MakeCamera("Orvik-710M");
+    Simulation::LoadState(*next, file);
+    EXPECT_EQ(next->ReadRegister(0x000C), 0x12060710U);
+}
+
 TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
     const auto camera = MakeCamera("Orvik-710M");
     camera->WriteRegister(0x51030000, 1);
@@ -99,7 +116,9 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
         return text.find(part) != std::string::npos ? testing::AssertionSuccess() : testing::AssertionFailure() << text;
     };
     EXPECT_TRUE(has(Refusal(good, "Orvik-710C"), "model \"Orvik-710M\", not Orvik-710C"));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "710M-0042", "710M-0043")), "camera \"710M-0043\", not 710M-0042"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "710M-0042", "")), "damaged: invalid serial number \"\""));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"710M-0042\"", "[1]")), "damaged: \"serial number\" is no text"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "02:00", "03:00")), "damaged: invalid MAC address \"03:00"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"version\": 1", "\"version\": 2")), "format version 2, known is 1"));
     EXPECT_TRUE(has(Refusal("{}"), "not the memory of a simulated camera"));
     EXPECT_TRUE(has(Refusal("[1]"), "not the memory of a simulated camera"));

@@ -1,0 +1,71 @@
+#include "Identity.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+
+namespace Simulation {
+
+namespace {
+
+constexpr std::size_t leadingWord = sizeof(std::uint32_t); ///< of the camera's own register
+
+std::size_t SizeOf(const RegisterSpace& space, const char* name) {
+    return space.Find(name)->powerUp.instances.front().value.size();
+}
+
+Words WordsOf(const Value& value) { return ToWords(value.instances.front().value); }
+
+} // namespace
+
+std::string SerialNumberOf(const RegisterSpace& space) {
+    const Bytes bytes = ToBytes(space.Get("bootstrapserialnumber"));
+    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
+}
+
+RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial) {
+    const std::size_t standard = SizeOf(space, "bootstrapserialnumber");
+    const std::size_t own = SizeOf(space, "serialnumber");
+    const std::size_t longest = std::min(standard - 1, own - leadingWord); // the standard wants a zero at the end
+    const bool isVisible = std::all_of(serial.begin(), serial.end(), [](unsigned char c) { return std::isgraph(c); });
+    if (serial.empty() || serial.size() > longest || !isVisible) {
+        throw IdentityError("invalid serial number \"" + serial + "\", expected 1 to " + std::to_string(longest) +
+                            " ASCII characters without blanks");
+    }
+    return {{"bootstrapserialnumber", {WordsOf(Text(standard, serial))}},
+            {"serialnumber", {WordsOf(LedText(own, serial))}}};
+}
+
+std::string MacAddressOf(const RegisterSpace& space) {
+    const std::uint32_t high = space.Get("machigh")[0];
+    const std::uint32_t low = space.Get("maclow")[0];
+    char text[18];
+    std::snprintf(text, sizeof text, "%02X:%02X:%02X:%02X:%02X:%02X", high >> 8 & 0xFF, high & 0xFF, low >> 24,
+                  low >> 16 & 0xFF, low >> 8 & 0xFF, low & 0xFF);
+    return text;
+}
+
+RegisterSpace::Content MacAddressRegisters(const std::string& mac) {
+    const std::size_t octets = 6;
+    std::uint64_t number = 0;
+    bool isAddress = mac.size() == 3 * octets - 1;
+    for (std::size_t i = 0; isAddress && i < mac.size(); ++i) {
+        const auto character = static_cast<unsigned char>(mac[i]);
+        if (i % 3 == 2) {
+            isAddress = character == ':';
+        } else {
+            isAddress = std::isxdigit(character) != 0;
+            const int digit = std::isdigit(character) != 0 ? character - '0' : std::toupper(character) - 'A' + 10;
+            number = number << 4 | static_cast<std::uint64_t>(digit);
+        }
+    }
+    const std::uint64_t groupBit = std::uint64_t{1} << 40;
+    if (!isAddress || number == 0 || (number & groupBit) != 0) {
+        throw IdentityError("invalid MAC address \"" + mac + "\", expected that of one device, such as " +
+                            "02:00:12:07:07:10");
+    }
+    return {{"machigh", {{static_cast<std::uint32_t>(number >> 32)}}},
+            {"maclow", {{static_cast<std::uint32_t>(number)}}}};
+}
+
+} // namespace Simulation

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "RegisterSpace.h"
+
+#include <stdexcept>
+#include <string>
+
+// What tells cameras of one model apart: a serial number, which the bootstrap registers and the camera's own registers
+// hold, and a MAC address.
+namespace Simulation {
+
+/// A serial number or a MAC address that the camera cannot have; the text says what it may be.
+class IdentityError : public std::invalid_argument {
+public:
+    using std::invalid_argument::invalid_argument;
+};
+
+[[nodiscard]] std::string SerialNumberOf(const RegisterSpace& space);
+/// What the registers hold that tell the serial number.
+/// @param serial visible ASCII characters, as many as both registers have room for
+/// @throw IdentityError
+[[nodiscard]] RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial);
+
+/// Such as "02:00:12:07:07:10".
+[[nodiscard]] std::string MacAddressOf(const RegisterSpace& space);
+/// What the registers hold that tell the MAC address.
+/// @throw IdentityError
+[[nodiscard]] RegisterSpace::Content MacAddressRegisters(const std::string& mac);
+
+} // namespace Simulation
