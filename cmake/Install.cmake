@@ -3,11 +3,48 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+set(products qdv12ctrl)
+set(files $<TARGET_FILE:qdv12ctrl>)
+if(QDV12_BUILD_TOOLS)
+    list(APPEND products qdv12host qdv12sim)
+    list(APPEND files $<TARGET_FILE:qdv12host> $<TARGET_FILE:qdv12sim>)
+    find_program(HELP2MAN help2man)
+endif()
+
+# The manual pages are what the programs say of themselves.
+function(qdv12_add_manual program about)
+    set(page ${CMAKE_BINARY_DIR}/${program}.1)
+    add_custom_command(OUTPUT ${page}
+        COMMAND ${HELP2MAN} --no-info --section=1 --name ${about} --output=${page} $<TARGET_FILE:${program}>
+        DEPENDS ${program} VERBATIM)
+    add_custom_target(${program}_manual ALL DEPENDS ${page})
+endfunction()
+if(QDV12_BUILD_TOOLS AND HELP2MAN AND NOT QDV12_SANITIZERS)
+    qdv12_add_manual(qdv12host "drive GigE Vision cameras through libqdv12ctrl.so")
+    qdv12_add_manual(qdv12sim "put a simulated GigE Vision camera on the network")
+    set(manuals ${CMAKE_BINARY_DIR}/qdv12host.1 ${CMAKE_BINARY_DIR}/qdv12sim.1)
+    list(APPEND products qdv12host_manual qdv12sim_manual)
+    list(APPEND files ${manuals})
+endif()
+
+# `cmake --install` builds nothing: it says what to build, before it lays anything down.
+add_custom_target(qdv12_product DEPENDS ${products})
+install(CODE "
+    foreach(file ${files})
+        if(NOT EXISTS \"\${file}\")
+            message(FATAL_ERROR \"not built yet: \${file}; build it first:\n\"
+                \"  cmake --build ${CMAKE_BINARY_DIR} --target qdv12_product\")
+        endif()
+    endforeach()")
+
 # A plug-in is loaded, not linked: it lies in a folder of its own, which no linker searches.
 set(QDV12_MODULE_DIR lib/qdv12)
 install(TARGETS qdv12ctrl LIBRARY DESTINATION ${QDV12_MODULE_DIR})
-install(TARGETS qdv12host qdv12sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY Include/SDK4 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(QDV12_BUILD_TOOLS)
+    install(TARGETS qdv12host qdv12sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(FILES ${manuals} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QDV12Control)
 install(TARGETS SDK4 EXPORT QDV12ControlTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
@@ -19,23 +56,13 @@ write_basic_package_version_file(QDV12ControlConfigVersion.cmake COMPATIBILITY S
 install(FILES ${CMAKE_BINARY_DIR}/QDV12ControlConfig.cmake ${CMAKE_BINARY_DIR}/QDV12ControlConfigVersion.cmake
     DESTINATION ${package_dir})
 
+# pkg-config finds the prefix from where its file is, however deep that lies.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
+    OUTPUT_VARIABLE pc_to_prefix)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}
+    OUTPUT_VARIABLE prefix_to_include)
 configure_file(cmake/qdv12control.pc.in qdv12control.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/qdv12control.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-
-# The manual pages are what the programs say of themselves.
-find_program(HELP2MAN help2man)
-function(qdv12_add_manual program about)
-    set(page ${CMAKE_BINARY_DIR}/${program}.1)
-    add_custom_command(OUTPUT ${page}
-        COMMAND ${HELP2MAN} --no-info --section=1 --name ${about} --output=${page} $<TARGET_FILE:${program}>
-        DEPENDS ${program} VERBATIM)
-    add_custom_target(${program}_manual ALL DEPENDS ${page})
-    install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-endfunction()
-if(HELP2MAN AND NOT QDV12_SANITIZERS)
-    qdv12_add_manual(qdv12host "drive GigE Vision cameras through libqdv12ctrl.so")
-    qdv12_add_manual(qdv12sim "put a simulated GigE Vision camera on the network")
-endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME qdv12control)
@@ -50,10 +77,16 @@ The plug-in takes log4cxx from its host: a host that loads it must itself be
 linked with the shared log4cxx, or loading fails with undefined symbols.
 .
 The package also holds the headers and the CMake and pkg-config files that a
-host is built with, the reference host qdv12host with simulated cameras, and
-qdv12sim, which puts a simulated camera on the network.")
+host is built with.")
+if(QDV12_BUILD_TOOLS)
+    string(APPEND CPACK_DEBIAN_PACKAGE_DESCRIPTION "
+.
+qdv12host is the reference host, with simulated cameras; qdv12sim puts a
+simulated camera on the network.")
+endif()
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS liblog4cxx-dev) # which a host is built with
 include(CPack)
