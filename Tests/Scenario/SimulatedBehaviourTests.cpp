@@ -1,34 +1,8 @@
 // What simulated cameras do by themselves. They are driven through the port and looked at past it.
 
-#include <Cameras.h>
-
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <cstdint>
-#include <string>
-#include <vector>
+#include "Simulated.h"
 
 namespace Scenario {
-
-using Simulation::Words;
-using namespace std::chrono_literals;
-
-class Simulated {
-public:
-    explicit Simulated(const char* model, std::uint64_t seed = 0) : camera(Simulation::MakeCamera(model, {seed})) {}
-
-    void Write(std::uint32_t address, const Words& words) const {
-        camera->WriteBlock(address, reinterpret_cast<const unsigned char*>(words.data()),
-                           static_cast<std::uint32_t>(words.size() * sizeof words[0]));
-    }
-    [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const {
-        return camera->Registers().Get(name, index);
-    }
-    void Pass(std::chrono::microseconds time) const { camera->Pass(time); }
-
-    std::unique_ptr<Simulation::SimulatedCamera> camera;
-};
 
 TEST(SimulatedGeometry, FollowsBinningAndAreaAndGoesBackWithThem) {
     const Simulated camera("Orvik-710M");                 // 3208 x 2208
@@ -203,59 +177,6 @@ TEST(SimulatedAcquisition, ShowsAndLocksGeometryUntilItStops) {
     other.Write(0x00088134, {1});
     other.Write(0x51020000, {0});
     EXPECT_EQ(other.Get("gain"), Words{7});
-}
-
-TEST(SimulatedRestart, TakesTheStartUpSetAndThePersistentAddress) {
-    for (const char* model : {"Orvik-31200C", "Cerix7-MV"}) {
-        const Simulated camera(model);
-        camera.Write(0x14010000, {40});
-        camera.Write(0x51030000, {2}); // saved,
-        camera.Write(0x51040000, {2}); // and to be started with
-        camera.Write(0x14010000, {50});
-        camera.Write(0x0014, {7});
-        camera.Write(0x064C, {0xC0A80114});
-        camera.Write(0x065C, {0xFFFF0000});
-        camera.Write(0x0D04, {8000});
-        camera.Write(0x00088134, {1});
-        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A8010A});
-        camera.Write(0x51010000, {0});
-        EXPECT_EQ(camera.Get("gain"), Words{40}) << model;
-        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A80114});
-        EXPECT_EQ(camera.Get("currentsubnetmask"), Words{0xFFFF0000});
-        EXPECT_EQ(camera.Get("packetsize"), Words{1404});
-        EXPECT_EQ(camera.Get("startacquisition"), Words{0});
-        camera.Write(0x0014, {0}); // link-local stays
-        camera.Write(0x51010000, {0});
-        EXPECT_EQ(camera.Get("currentipconfig"), Words{4});
-        EXPECT_EQ(camera.Get("currentipaddress"), Words{0xC0A8010A});
-    }
-}
-
-TEST(SimulatedMotor, TravelsToWhereItIsSent) {
-    const Simulated camera("Cerix7-MV");
-    camera.Write(0x6E140000, {255, 40000});
-    camera.Write(0x6E140000, {3, 5});
-    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{8192});
-    EXPECT_EQ(camera.Get("motorcontrol", 3), Words{5});
-    camera.Pass(64ms);
-    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{24576});
-    camera.Write(0x6E140000, {255, 100}); // sent back on its way
-    camera.Pass(1s);
-    EXPECT_EQ(camera.Get("motorcontrol", 255), Words{100});
-    camera.Write(0x0C080000, {1, 2000});
-    camera.Pass(1s);
-    EXPECT_EQ(camera.Get("lenscontrol", 1), Words{2000});
-}
-
-TEST(SimulatedDefectPixels, AreCountedUpToTheLastPairInUse) {
-    const Simulated camera("Cerix7-MV");
-    camera.Write(0x0B020000, {9, 1, 50, 60, 2});
-    EXPECT_EQ(camera.Get("defectpixelcount"), Words{10});
-    camera.Write(0x0B020000, {9, 1, 50, 60, 0});
-    EXPECT_EQ(camera.Get("defectpixelcount"), Words{2});
-    camera.Write(0x0B020000, {9, 1, 50, 60, 3}); // there is no mode 3
-    camera.Write(0x0B030000, {0});
-    EXPECT_EQ(camera.Get("defectpixelcount"), Words{3});
 }
 
 /// What a camera holds after some time with its automatic modes on.
