@@ -3,6 +3,8 @@
 #include "Channel/ChannelErrors.h"
 #include "Command.h"
 
+#include <PortError.h>
+
 #include <SDK4/X4Error.h>
 
 #include <exception>
@@ -45,6 +47,8 @@ Failure Attempt(const std::function<void()>& calls) {
     } catch (const ChannelLost&) {
         throw;
     } catch (const NoSuchAddress& error) {
+        return {SDK4_ERR_ERROR, error.what(), true};
+    } catch (const Simulation::InvalidAddressError& error) {
         return {SDK4_ERR_ERROR, error.what(), true};
     } catch (const ControlHeld&) { // who has it is told once, at the end of the command
         return {SDK4_ERR_ERROR, needsControl};

@@ -3,6 +3,8 @@
 
 #include <Channel/ChannelErrors.h>
 
+#include <PortError.h>
+
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -15,10 +17,14 @@ namespace {
 
 using Given = Host::Invocation::Given;
 
-/// A camera of another firmware, which lacks the registers of sharpness and of the overlays' colours.
+/// A camera of another firmware, which lacks the registers of sharpness, as on the network, and of the levels of the
+/// I/O lines, as in this process.
 void Lack(const Host::Access& access) {
-    if (access.address == 0x18030000 || access.address == 0x66030000) {
+    if (access.address == 0x18030000) {
         throw Host::NoSuchAddress(access.operation, access.address, "the camera has no such address (0x8003)");
+    }
+    if (access.address == 0x66030000) {
+        throw Simulation::InvalidAddressError(access.operation, access.address);
     }
 }
 
