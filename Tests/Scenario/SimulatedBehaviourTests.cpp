@@ -110,6 +110,11 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     camera.Write(0x0A020000, {3});
     EXPECT_EQ(camera.Get("exposure"), Words{99});
     EXPECT_EQ(camera.Get("frameduration"), Words{99000});
+    camera.Write(0x51030000, {1}); // what follows from a setting follows also when it is loaded
+    camera.Write(0x51020000, {0});
+    EXPECT_EQ(camera.Get("frameduration"), Words{33333});
+    camera.Write(0x51020000, {1});
+    EXPECT_EQ(camera.Get("frameduration"), Words{99000});
 
     EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
     camera.Write(0x47090000, {0, 600});

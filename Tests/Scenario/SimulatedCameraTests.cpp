@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace Scenario {
@@ -140,6 +141,21 @@ TEST(SimulatedM2VX, ClampsSignedAndUnsignedWordsAndKeepsWhatItAdmits) {
     EXPECT_EQ(camera->ReadRegisterPair(0x1B020000), 0xFFFFFF8000000002);
     camera->WriteRegister(0x1B020000, 3);
     EXPECT_EQ(camera->ReadRegisterPair(0x1B020000), 0x0000007F00000003U);
+}
+
+TEST(SimulatedCamera, CarriesItsDescriptionWhereItsUrlSays) {
+    for (const std::string& model : Simulation::ModelNames()) {
+        const auto camera = Simulation::MakeCamera(model);
+        const std::string url = camera->ReadString(0x0200, 512);
+        const std::size_t size = std::stoul(url.substr(url.rfind(';') + 1), nullptr, 16);
+        const std::string text(camera->ReadString(0x00010000, static_cast<std::uint32_t>(size)), size);
+        std::string type = model;
+        std::replace_if(
+            type.begin(), type.end(), [](char character) { return character == '-' || character == ' '; }, '_');
+        EXPECT_TRUE(text.starts_with("<?xml ") && text.find("</RegisterDescription>") != std::string::npos) << model;
+        EXPECT_NE(text.find("ModelName=\"" + type + "\""), std::string::npos) << model;
+        EXPECT_EQ(text.find('$'), std::string::npos) << model << ": a placeholder is left";
+    }
 }
 
 } // namespace Scenario
