@@ -77,6 +77,11 @@ TEST_F(SimulatedOrvik, TakesAPartOfARegister) {
     EXPECT_STREQ(camera->ReadString(0x64010000, 24) + 4, "Orvik-710C"); // behind its leading word
 }
 
+TEST_F(SimulatedOrvik, TakesSeveralRegistersAtOnce) {
+    WriteMem(0x0D00, {9, 8001, 77}, 12); // the first one is the control channel's
+    EXPECT_EQ(ReadMem(0x0D00, 12), (Block{0, 8000, 77}));
+}
+
 TEST_F(SimulatedOrvik, HoldsNothingBehindARegister) {
     WriteMem(0x14010000, {5, 6, 7}, 12);
     WriteMem(0x1401FFFC, {8}, 4);
@@ -100,6 +105,9 @@ TEST_F(SimulatedOrvik, RefusesAnAddressThatItDoesNotHave) {
     }
     EXPECT_EQ(camera->Time() - before, std::chrono::microseconds(500)); // an access as any other
     EXPECT_THROW((void)camera->ReadString(0x00F4, 8), Simulation::PortError);
+    EXPECT_THROW((void)camera->ReadString(0x064B, 1), Simulation::InvalidAddressError); // right before a register
+    EXPECT_NO_THROW((void)camera->ReadString(0x064F, 1));
+    EXPECT_THROW((void)camera->ReadString(0x064F, 2), Simulation::InvalidAddressError);
     EXPECT_THROW(WriteMem(0x0D08, {2000, 1}, 8), Simulation::InvalidAddressError); // half of it
     EXPECT_EQ(camera->ReadRegister(0x0D08), 0U);
 }

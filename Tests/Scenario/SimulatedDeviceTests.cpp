@@ -11,11 +11,12 @@ TEST(SimulatedRestart, TakesTheStartUpSet) {
         camera.Write(0x51030000, {2}); // saved,
         camera.Write(0x51040000, {2}); // and to be started with
         camera.Write(0x14010000, {50});
-        camera.Write(0x0D04, {8000});
+        camera.Write(0x0D04, {8000, 77});
         camera.Write(0x00088134, {1});
         camera.Write(0x51010000, {0});
         EXPECT_EQ(camera.Get("gain"), Words{40}) << model;
         EXPECT_EQ(camera.Get("packetsize"), Words{1404});
+        EXPECT_EQ(camera.Get("packetdelay"), Words{0});
         EXPECT_EQ(camera.Get("startacquisition"), Words{0});
     }
 }
@@ -84,12 +85,15 @@ TEST(SimulatedMotor, TravelsToWhereItIsSent) {
 
 TEST(SimulatedLens, TravelsByItself) {
     const Simulated camera("Sollux G");
+    camera.Write(0x0C080000, {0, 1024}); // as far as one step goes
     camera.Write(0x0C080000, {1, 3000}); // from 120
-    camera.Write(0x0C080000, {3, 1024}); // as far as one step goes
+    camera.Write(0x0C080000, {3, 1500});
+    EXPECT_EQ(camera.Get("lenscontrol", 0), Words{1024});
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{1144});
     EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1024});
-    camera.Pass(31ms); // with the two accesses it is one step
+    camera.Pass(31ms); // with the accesses it is one step
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{2168});
+    EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1500});
     camera.Write(0x6E140000, {0, 65535}); // a motor moves meanwhile
     camera.Pass(32ms);
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{3000});
