@@ -1,5 +1,7 @@
 #include "Log.h"
 
+#include <locale>
+
 namespace SDK4 {
 
 namespace {
@@ -20,20 +22,15 @@ log4cxx::LevelPtr LevelOf(LogLevel level) {
 
 } // namespace
 
-LogLine::LogLine() : stream(buffer), before(nullptr) {
-    before.copyfmt(stream);
-    stream.flags(std::ios::dec | std::ios::skipws);
-    stream.width(0);
-    stream.fill(' ');
-    stream.imbue(std::locale::classic()); // others group digits
+LogLine::LogLine() {
+    stream.imbue(std::locale::classic()); // the host's may group digits
 }
-
-LogLine::~LogLine() { stream.copyfmt(before); }
 
 void LogLine::Write(LogLevel level, const Location& location) {
     using log4cxx::spi::LocationInfo;
+    log4cxx::helpers::MessageBuffer message;
     logger->forcedLog(
-        LevelOf(level), buffer.str(stream),
+        LevelOf(level), message.str(message << stream.str()), // which leaves the shared stream alone
         LocationInfo(location.file, LocationInfo::calcShortFileName(location.file), location.function, location.line));
 }
 

@@ -8,8 +8,7 @@
 #include <log4cxx/logger.h>
 
 #include <cstdint>
-#include <ios>
-#include <ostream>
+#include <sstream>
 
 namespace SDK4 {
 
@@ -25,22 +24,17 @@ struct Location {
     int line;
 };
 
-/// A line while it is put together. log4cxx lends all lines of a thread, the host's too, one stream: while one of these
-/// lives, that stream formats like a new one, whatever the host left on it; afterwards it formats as before.
+/// A line while it is put together, on a stream of its own: the one that log4cxx lends to all lines of a thread carries
+/// what the host left there, flags, fill, locale or half a message.
 class LogLine {
 public:
     LogLine();
-    ~LogLine();
-    LogLine(const LogLine&) = delete;
-    LogLine& operator=(const LogLine&) = delete;
 
     [[nodiscard]] std::ostream& Stream() { return stream; }
     void Write(LogLevel level, const Location& location);
 
 private:
-    log4cxx::helpers::MessageBuffer buffer;
-    std::ostream& stream;
-    std::ios before;
+    std::ostringstream stream;
 };
 
 /// Writes the one warning line and throws.
@@ -52,7 +46,6 @@ private:
 #define SDK4_HERE (::SDK4::Location{__FILE__, __PRETTY_FUNCTION__, __LINE__})
 
 /// Logs what is streamed, for example SDK4_LOG(Debug, "ctor " << name). The level is Debug, Info, Warn or Error.
-/// Nothing that may log or throw (a port access, for one) may stand inside a message: there is one stream per thread.
 #define SDK4_LOG(level, message)                                                                                       \
     do {                                                                                                               \
         if (::SDK4::logger->is##level##Enabled()) {                                                                    \

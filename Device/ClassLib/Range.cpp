@@ -6,7 +6,7 @@ namespace SDK4 {
 
 namespace {
 
-/// Returns whether that changed the field: under a minimum above the maximum a value may move up and back again.
+/// Returns whether that changed the field. If the minimum is above the maximum, it can be raised and lowered back.
 bool ClampField(std::uint32_t& field, std::uint32_t min, std::uint32_t max) {
     const std::uint32_t before = field;
     Clamp(field, min, max);

@@ -69,7 +69,7 @@ public:
 
 private:
     unsigned int declared; ///< bytes of the block, the leading word included
-    unsigned int length;   ///< bytes to ask for: what the camera delivered last, at most `declared`
+    unsigned int length;   ///< bytes to ask for: what was delivered last, if that held the leading word
 };
 
 } // namespace SDK4

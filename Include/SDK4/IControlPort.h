@@ -12,25 +12,29 @@ namespace SDK4 {
 /// Addresses are those of the GigE Vision control channel, 32 bits. The slot order is fixed. The library checks no
 /// result but a null block; an exception that the port throws passes through the library unchanged.
 ///
-/// On a control channel each operation is one access of the GigE Vision standard:
+/// On a control channel each operation uses one kind of access of the GigE Vision standard:
 ///
 /// | Operations                          | Access            | What is moved                                     |
 /// |-------------------------------------|-------------------|---------------------------------------------------|
 /// | ReadRegister, WriteRegister         | READREG, WRITEREG | a value, in the host's byte order at this port    |
-/// | ReadRegisterPair, WriteRegisterPair | READMEM, WRITEMEM | 8 bytes: two little-endian words, first word first |
-/// | ReadBlock, WriteBlock               | READMEM, WRITEMEM | the bytes as the camera holds them, none exchanged |
+/// | ReadRegisterPair, WriteRegisterPair | READMEM, WRITEMEM | two little-endian words, the first word first     |
+/// | ReadBlock, WriteBlock               | READMEM, WRITEMEM | the bytes as the camera holds them, not exchanged |
 /// | ReadMem, WriteMem                   | READMEM, WRITEMEM | the same                                          |
 /// | ReadString, WriteString             | READMEM, WRITEMEM | the same                                          |
 ///
 /// The library takes the words of a block in the byte order of its machine: vendor registers hold little-endian words.
 /// Bootstrap registers hold big-endian ones; the library reads them by READREG, or as text. Memory access moves whole
 /// words, at addresses that are multiples of 4, at most 536 bytes in a packet: a port splits what is longer. What the
-/// library asks for by itself is aligned so; IGigEVisionPort passes on the host's own addresses and lengths. The
-/// reference host and the simulated cameras keep to this. It was never tried on a camera.
+/// library asks for by itself is aligned so, unless the port itself reported another length for a text.
+/// IGigEVisionPort passes on the host's own addresses and lengths.
+///
+/// A write just before a read of the same address may select what is read, an instance of an indexed register: no other
+/// access to that address may come between the two.
+///
+/// The reference host and the simulated cameras keep to this. It was never tried on a camera.
 class SDK4_PUBLIC IControlPort {
 public:
-    /// Writes one word. Before a ReadMem, ReadBlock or ReadRegisterPair of the same address it selects an instance of
-    /// an indexed register: no other access to that address may come between the two.
+    /// Writes one word.
     virtual void WriteRegister(std::uint32_t address, std::uint32_t value) = 0;
 
     /// Reads one word.

@@ -13,10 +13,10 @@
 /// is what the camera calls itself, letter by letter: the model name of its discovery acknowledge, which is bootstrap
 /// register 0x0068 of the GigE Vision standard, 32 bytes up to the first NUL. The text must live as long as the
 /// control. A null port is refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik
-/// model by the first access. What fails while an M2VX camera is read reaches the host from CreateObject, and there is
-/// nothing to give back then. The host casts the result to IDynamicObject*, reaches every other interface from it with
-/// dynamic_cast, and gives it back with Release. The slot order of every interface is fixed: operations are never
-/// moved, removed or inserted.
+/// model by the first access. What fails while a camera is read (M2VX, or Orvik with debug logging) reaches the host
+/// from CreateObject, and there is nothing to give back then. The host casts the result to IDynamicObject*, reaches
+/// every other interface from it with dynamic_cast, and gives it back with Release. The slot order of every interface
+/// is fixed: operations are never moved, removed or inserted.
 ///
 /// Rules of every interface, told here once:
 ///

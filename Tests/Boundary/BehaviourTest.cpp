@@ -254,7 +254,7 @@ TEST_F(BehaviourTest, InfoLinesTellWhatTurnedStaleAndWhatIsRefused) {
                                                          "warn SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"}));
 }
 
-TEST_F(BehaviourTest, LinesNameEveryRegisterAndItsAddress) {
+TEST_F(BehaviourTest, LinesNameTheRegistersTheyTellOf) {
     std::set<std::string> read, written;
     for (const Operation& row : Operations()) {
         if (!row.state.IsM2VX()) {

@@ -21,8 +21,9 @@ public:
 
     /// Sets the exposure time, 1 to 2000.
     /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the value, and "exposure" holds what it made of it.
-    /// @throws SDK4_ERR_DISABLED after a mode other than 3 was set or, by a control that remembers, found at opening;
-    ///         nothing is written.
+    /// @throws SDK4_ERR_DISABLED after mode 1, 2 or 4 was set or, by a control that remembers, found at opening;
+    /// nothing
+    ///         is written.
     virtual void SetExposure(unsigned int exposure) = 0;
 
     /// Status of the frame-on-demand unit, a word of the camera; always read from it. Register 0x0A0D0000.
