@@ -173,6 +173,22 @@ TEST_F(HostRestore, SetsNothingThatAModeLocksWhichCannotBeRead) {
     }
 }
 
+TEST_F(HostRestore, SaysWhyAValueCannotBeReadBack) {
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        Prepare(each, "sharpness=5", "sharpness=7");
+        bool isWritten = false;
+        const Outcome run = Restore([&](const Host::Access& access) {
+            isWritten = isWritten || Writes(access, sharpness);
+            if (isWritten && !access.write && access.address == sharpness) {
+                throw std::runtime_error("the answer is lost");
+            }
+        });
+        EXPECT_EQ(run.code, 1);
+        EXPECT_TRUE(Has(run.out, "\nsharpness                 refused     the answer is lost; asked for 5\n")) << run.out;
+        EXPECT_EQ(Get("sharpness"), "sharpness=5\n");
+    }
+}
+
 /// Its output can no longer be written from then on; the camera is set to all of the file.
 TEST_F(HostRestore, GoesOnWhenNobodyReadsOn) {
     Prepare("Cerix-MV7", "agc=2 sharpness=3", "agc=1 sharpness=9");
