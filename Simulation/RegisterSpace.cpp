@@ -27,7 +27,8 @@ bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) cons
     const std::uint64_t end = std::uint64_t{address} + std::max<std::size_t>(length, 1);
     if (address >= firstFunction) {
         const std::uint32_t function = FunctionOf(address);
-        return function < firstNote && byAddress.contains(function) && end <= std::uint64_t{function} + functionSize;
+        const bool known = function < firstNote && byAddress.contains(function);
+        return known && end <= std::uint64_t{function} + functionSize;
     }
     const std::uint64_t wordSize = sizeof(std::uint32_t);
     for (std::uint64_t word = address / wordSize * wordSize; word < end; word += wordSize) {

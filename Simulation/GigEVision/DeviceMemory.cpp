@@ -42,8 +42,12 @@ Status DeviceMemory::Read(std::uint32_t address, std::span<std::uint8_t> bytes) 
         return status;
     }
     return Try([&] {
-        const Bytes block = FromCamera(address, bytes.size());
-        std::copy(block.begin(), block.end(), bytes.begin());
+        const std::unique_ptr<unsigned char, decltype(&std::free)> block(
+            camera.ReadBlock(address, static_cast<std::uint32_t>(bytes.size())), &std::free);
+        if (block == nullptr) {
+            throw PortError("ReadBlock", address, "no block from the camera");
+        }
+        std::copy_n(block.get(), bytes.size(), bytes.begin());
         ExchangeWords(address, bytes);
     });
 }
@@ -119,15 +123,6 @@ void DeviceMemory::ExchangeWords(std::uint32_t address, std::span<std::uint8_t> 
                          bytes.begin() + static_cast<std::ptrdiff_t>(i + wordSize));
         }
     }
-}
-
-Bytes DeviceMemory::FromCamera(std::uint32_t address, std::size_t length) {
-    const std::unique_ptr<unsigned char, decltype(&std::free)> block(
-        camera.ReadBlock(address, static_cast<std::uint32_t>(length)), &std::free);
-    if (block == nullptr) {
-        throw PortError("ReadBlock", address, "no block from the camera");
-    }
-    return {block.get(), block.get() + length};
 }
 
 } // namespace Simulation::GigEVision

@@ -30,7 +30,6 @@ private:
     [[nodiscard]] bool IsProtected(std::uint32_t address, std::size_t length) const;
     /// Exchanges what the camera and the wire have in different byte order.
     void ExchangeWords(std::uint32_t address, std::span<std::uint8_t> bytes) const;
-    [[nodiscard]] Bytes FromCamera(std::uint32_t address, std::size_t length);
 
     SimulatedCamera& camera;
     ChannelRegisters& channel;

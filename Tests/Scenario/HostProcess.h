@@ -32,7 +32,7 @@ inline Outcome RunHost(const std::string& arguments, const std::string& program 
     const std::chrono::minutes deadline{10}; // what a camera loses takes minutes
     Running shell("/bin/sh", {"-c", program + " " + arguments + files}, Running::both, deadline);
     const int code = shell.End();
-    const Outcome outcome{code, Content(out), Content(err)};
+    Outcome outcome{code, Content(out), Content(err)};
     EXPECT_FALSE(shell.HasTimedOut()) << outcome.out << outcome.err;
     std::filesystem::remove(out);
     std::filesystem::remove(err);
