@@ -258,6 +258,35 @@ TEST(HostCommand, EveryModelListsAllItsFunctions) {
     EXPECT_EQ(models, 13U);
 }
 
+TEST(HostCommand, ListAsJsonTellsTopicsAndHowManyThereAreOfAKind) {
+    const std::pair<const char*, const char*> families[] = {
+        {"Orvik-710C",
+         "identity network image exposure processing color processing overlay memory settings tests outputs"},
+        {"Cerix-MV7", "identity network image exposure processing correction processing overlay memory settings tests "
+                      "correction outputs"},
+    };
+    for (const auto& [model, expected] : families) {
+        const Host::Json document = Host::Json::Parse(RunHost("list --json " + std::string(model)).out);
+        std::vector<std::string> topics;
+        std::map<std::string, std::int64_t> counts;
+        for (const Host::Json& function : *document.Elements()) {
+            if (topics.empty() || topics.back() != *function["topic"].Text()) {
+                topics.push_back(*function["topic"].Text());
+            }
+            if (const auto* const count = function["count"].Number()) {
+                counts[*function["name"].Text()] = *count;
+            }
+        }
+        std::string joined;
+        for (const std::string& topic : topics) {
+            joined += (joined.empty() ? "" : " ") + topic;
+        }
+        EXPECT_EQ(joined, expected);
+        const std::map<std::string, std::int64_t> many{{"defectpixel", 256}, {"motorcontrol", 256}};
+        EXPECT_EQ(counts, model[0] == 'C' ? many : decltype(many)());
+    }
+}
+
 TEST(HostCommand, ModelsAndInfoTellWhoACameraIs) {
     const Outcome models = RunHost("models");
     EXPECT_TRUE(models.out.starts_with("Orvik-31200M    qdv12   Orvik\nOrvik-31200C    qdv12   Orvik\n"));
@@ -337,6 +366,8 @@ TEST(HostCommand, TraceAndLogGoToStandardError) {
     EXPECT_EQ(trace.out, "gain=0\n");
     EXPECT_TRUE(trace.err.starts_with("read  ReadMem           0x14010000  0  ")) << trace.err;
     EXPECT_TRUE(trace.err.ends_with(" us\n")) << trace.err;
+    const Outcome failed = RunHost("get Orvik-710C gain --trace --fault fail:0x14010000");
+    EXPECT_TRUE(failed.err.starts_with("read  ReadMem           0x14010000   (failed)  ")) << failed.err;
 
     const std::string config = TemporaryFile("log.properties");
     const std::string log = TemporaryFile("log");
