@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RegisterMap.h"
+
 #include <SDK4/Enums.h>
 #include <SDK4/IControlPort.h>
 #include <SDK4/Records.h>
@@ -10,9 +12,9 @@ namespace SDK4::Control {
 
 /// The registers that only the J40 cameras have, or that they access in another way than CRT6Camera does. No state, no
 /// cache, no validation. A block that the port does not deliver throws SDK4_ERR_CANTGETFEATURE.
-class CJ40Camera {
+class CJ40Camera : private RegisterMap {
 public:
-    explicit CJ40Camera(IControlPort* controlPort) : port(controlPort) {}
+    explicit CJ40Camera(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     SDK4_KEXPOSURE GetExposure();
     void SetExposure(SDK4_KEXPOSURE exposure);
@@ -50,9 +52,6 @@ public:
     std::uint32_t GetAutoWhiteset();
     void SetAutoWhiteset(std::uint32_t mode);
     std::uint32_t GetTemperature(std::uint32_t sensor);
-
-private:
-    IControlPort* port;
 };
 
 } // namespace SDK4::Control

@@ -34,6 +34,14 @@ void LogLine::Write(LogLevel level, const Location& location) {
         LocationInfo(location.file, LocationInfo::calcShortFileName(location.file), location.function, location.line));
 }
 
+void LogCall(const Location& location) {
+    if (logger->isDebugEnabled()) {
+        LogLine line;
+        line.Stream() << "Call";
+        line.Write(LogLevel::Debug, location);
+    }
+}
+
 void Throw(std::int32_t code, const char* text, const Location& location) {
     if (logger->isWarnEnabled()) {
         LogLine line;

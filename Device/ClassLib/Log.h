@@ -37,6 +37,9 @@ private:
     std::ostringstream stream;
 };
 
+/// Writes the line that an operation writes when it is entered, "Call", at debug level.
+void LogCall(const Location& location);
+
 /// Writes the one warning line and throws.
 /// @param text the expression that the line names
 [[noreturn]] void Throw(std::int32_t code, const char* text, const Location& location);
@@ -56,7 +59,7 @@ private:
     } while (false)
 
 /// The line that an operation writes when it is entered.
-#define SDK4_LOG_CALL() SDK4_LOG(Debug, "Call")
+#define SDK4_LOG_CALL() ::SDK4::LogCall(SDK4_HERE)
 
 /// Throws X4Error with one of the SDK4_ERR codes, after the one warning line that names the code.
 #define SDK4_THROW(code) ::SDK4::Throw(code, "X4Error(" #code ")", SDK4_HERE)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RegisterMap.h"
+
 #include <SDK4/Enums.h>
 #include <SDK4/IControlPort.h>
 #include <SDK4/Records.h>
@@ -10,9 +12,9 @@ namespace SDK4::Control {
 
 /// The registers that only the M2VX cameras have, or that they access in another way than CRT6Camera does. No state, no
 /// cache, no validation. A block that the port does not deliver throws SDK4_ERR_CANTGETFEATURE.
-class CM2VXCamera {
+class CM2VXCamera : private RegisterMap {
 public:
-    explicit CM2VXCamera(IControlPort* controlPort) : port(controlPort) {}
+    explicit CM2VXCamera(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     std::uint32_t GetExposure();
     void SetExposure(std::uint32_t exposure);
@@ -66,9 +68,6 @@ public:
     std::uint32_t GetTestPattern(std::uint32_t index);
     void SetTestPattern(std::uint32_t index, std::uint32_t pattern);
     std::int32_t GetTemperaturePCB();
-
-private:
-    IControlPort* port;
 };
 
 } // namespace SDK4::Control

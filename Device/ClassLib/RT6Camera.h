@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RegisterMap.h"
+
 #include <SDK4/Enums.h>
 #include <SDK4/IControlPort.h>
 #include <SDK4/Records.h>
@@ -11,9 +13,9 @@ namespace SDK4::Control {
 /// The registers that the platforms of the property-based controls share, one method per camera function. No state, no
 /// cache, no validation: ranges and availability are the control's. A block that the port does not deliver throws
 /// SDK4_ERR_CANTGETFEATURE; the index has been written by then.
-class CRT6Camera {
+class CRT6Camera : private RegisterMap {
 public:
-    explicit CRT6Camera(IControlPort* controlPort) : port(controlPort) {}
+    explicit CRT6Camera(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     char* GetSerialNumber();
     std::uint32_t GetFunctionModelID();
@@ -105,9 +107,6 @@ public:
     void SetIoPolarity(std::uint32_t line, std::uint32_t polarity);
     std::uint32_t GetIoDelay(std::uint32_t line);
     void SetIoDelay(std::uint32_t line, std::uint32_t delay);
-
-private:
-    IControlPort* port;
 };
 
 } // namespace SDK4::Control

@@ -18,92 +18,112 @@ namespace SDK4::Control {
 
 static_assert(std::endian::native == std::endian::little, "records travel in memory order as words and register pairs");
 
-// Plain words.
+/// Reads and writes registers through the host's port. T is what the value is at the interface: a number, an
+/// enumeration or a record.
+class RegisterAccess {
+public:
+    using Address = RegisterMap::Address;
 
-template <typename T = std::uint32_t> [[nodiscard]] T ReadWord(IControlPort* port, Register::Address address) {
-    return static_cast<T>(port->ReadRegister(address));
-}
+    explicit RegisterAccess(IControlPort* controlPort) : port(controlPort) {}
 
-template <typename T> void WriteWord(IControlPort* port, Register::Address address, T value) {
-    port->WriteRegister(address, static_cast<std::uint32_t>(value));
-}
+    // Plain words.
 
-// Records of two words in one register pair, first field in the lower half.
+    template <typename T = std::uint32_t> [[nodiscard]] T Word(Address address) const {
+        return static_cast<T>(port->ReadRegister(Number(address)));
+    }
 
-template <typename Record> [[nodiscard]] Record ReadPair(IControlPort* port, Register::Address address) {
-    return std::bit_cast<Record>(port->ReadRegisterPair(address));
-}
+    template <typename T> void SetWord(Address address, T value) const {
+        port->WriteRegister(Number(address), static_cast<std::uint32_t>(value));
+    }
 
-template <typename Record> void WritePair(IControlPort* port, Register::Address address, const Record& record) {
-    port->WriteRegisterPair(address, std::bit_cast<std::uint64_t>(record));
-}
+    // Records of two words in one register pair, first field in the lower half; also the pair as one number.
 
-// Indexed words: one register stands for several values. Index and value are the halves of a pair, and a read is
-// preceded by a write of the index alone.
+    template <typename T> [[nodiscard]] T Pair(Address address) const {
+        return std::bit_cast<T>(port->ReadRegisterPair(Number(address)));
+    }
 
-template <typename T = std::uint32_t>
-[[nodiscard]] T ReadIndexedWord(IControlPort* port, Register::Address address, std::uint32_t index) {
-    port->WriteRegister(address, index);
-    return static_cast<T>(static_cast<std::uint32_t>(port->ReadRegisterPair(address) >> 32));
-}
+    template <typename T> void SetPair(Address address, const T& record) const {
+        port->WriteRegisterPair(Number(address), std::bit_cast<std::uint64_t>(record));
+    }
 
-template <typename T>
-void WriteIndexedWord(IControlPort* port, Register::Address address, std::uint32_t index, T value) {
-    port->WriteRegisterPair(address, std::uint64_t{static_cast<std::uint32_t>(value)} << 32 | index);
-}
+    // Indexed words: one register stands for several values. Index and value are the halves of a pair, and a read is
+    // preceded by a write of the index alone.
 
-// Blocks: a record of more than two words, or one behind the key that selects it.
+    template <typename T = std::uint32_t> [[nodiscard]] T Indexed(Address address, std::uint32_t index) const {
+        port->WriteRegister(Number(address), index);
+        return static_cast<T>(static_cast<std::uint32_t>(port->ReadRegisterPair(Number(address)) >> 32));
+    }
 
-struct FreeBlock {
-    void operator()(unsigned char* block) const { std::free(block); }
+    template <typename T> void SetIndexed(Address address, std::uint32_t index, T value) const {
+        port->WriteRegisterPair(Number(address), std::uint64_t{static_cast<std::uint32_t>(value)} << 32 | index);
+    }
+
+    // Blocks: a record of more than two words, or one behind the key that selects it.
+
+    /// Reads a block that holds a record behind @p skip bytes. Throws SDK4_ERR_CANTGETFEATURE when the port has none.
+    template <typename T> [[nodiscard]] T Block(Address address, std::size_t skip = 0) const {
+        const auto length = static_cast<std::uint32_t>(skip + sizeof(T));
+        const std::unique_ptr<unsigned char, Free> block(port->ReadBlock(Number(address), length));
+        if (!block) {
+            SDK4_THROW(SDK4_ERR_CANTGETFEATURE);
+        }
+        T record{};
+        std::memcpy(&record, block.get() + skip, sizeof record);
+        return record;
+    }
+
+    template <typename T> void SetBlock(Address address, const T& record) const {
+        port->WriteBlock(Number(address), reinterpret_cast<const unsigned char*>(&record), sizeof record);
+    }
+
+    /// Reads the record of an index, written ahead as a plain word.
+    template <typename T> [[nodiscard]] T Record(Address address, std::uint32_t index) const {
+        port->WriteRegister(Number(address), index);
+        return Block<T>(address, sizeof index);
+    }
+
+    /// Reads the record of a selection of two words, written ahead as a pair.
+    template <typename T, typename Select> [[nodiscard]] T Selected(Address address, const Select& select) const {
+        // Intended: the camera takes the first word in the upper half here, exchanged against its place in memory and
+        // against its place in the block that is written.
+        port->WriteRegisterPair(Number(address), std::rotl(std::bit_cast<std::uint64_t>(select), 32));
+        return Block<T>(address, sizeof select);
+    }
+
+    /// Writes the record of an index or of a selection as one block: the key in memory order, then the record.
+    template <typename Key, typename T> void SetRecord(Address address, const Key& key, const T& record) const {
+        std::array<unsigned char, sizeof key + sizeof record> block{};
+        std::memcpy(block.data(), &key, sizeof key);
+        std::memcpy(block.data() + sizeof key, &record, sizeof record);
+        SetBlock(address, block);
+    }
+
+    /// Reads an identity text: a word, then the text. Null if the port has none.
+    [[nodiscard]] char* Text(Address address) const {
+        char* text = port->ReadString(Number(address), 24);
+        return text == nullptr ? nullptr : text + sizeof(std::uint32_t);
+    }
+
+    /// Writes bytes of any number; the port does the chunking.
+    void SetBytes(Address address, void* data, std::uint64_t count) const {
+        port->WriteMem(Number(address), static_cast<std::uint8_t*>(data), &count);
+    }
+
+private:
+    static std::uint32_t Number(Address address) { return static_cast<std::uint32_t>(address); }
+
+    struct Free {
+        void operator()(unsigned char* block) const { std::free(block); }
+    };
+
+    IControlPort* port; ///< not owned
 };
 
-/// Reads a block that holds a record behind @p skip bytes. Throws SDK4_ERR_CANTGETFEATURE when the port has none.
-template <typename Record>
-[[nodiscard]] Record ReadBlock(IControlPort* port, Register::Address address, std::size_t skip = 0) {
-    const auto length = static_cast<std::uint32_t>(skip + sizeof(Record));
-    const std::unique_ptr<unsigned char, FreeBlock> block(port->ReadBlock(address, length));
-    if (!block) {
-        SDK4_THROW(SDK4_ERR_CANTGETFEATURE);
-    }
-    Record record{};
-    std::memcpy(&record, block.get() + skip, sizeof record);
-    return record;
-}
+inline RegisterAccess RegisterMap::Access() const { return RegisterAccess(port); }
 
-template <typename Record> void WriteBlock(IControlPort* port, Register::Address address, const Record& record) {
-    port->WriteBlock(address, reinterpret_cast<const unsigned char*>(&record), sizeof record);
-}
-
-/// Writes one block: the key in memory order, then the record.
-template <typename Key, typename Record>
-void WriteKeyedBlock(IControlPort* port, Register::Address address, const Key& key, const Record& record) {
-    std::array<unsigned char, sizeof key + sizeof record> block{};
-    std::memcpy(block.data(), &key, sizeof key);
-    std::memcpy(block.data() + sizeof key, &record, sizeof record);
-    WriteBlock(port, address, block);
-}
-
-/// Reads the record of an index, written ahead as a plain word. Writing is WriteKeyedBlock.
-template <typename Record>
-[[nodiscard]] Record ReadIndexedRecord(IControlPort* port, Register::Address address, std::uint32_t index) {
-    port->WriteRegister(address, index);
-    return ReadBlock<Record>(port, address, sizeof index);
-}
-
-/// Reads the record of a selection of two words, written ahead as a pair. Writing is WriteKeyedBlock.
-template <typename Record, typename Select>
-[[nodiscard]] Record ReadSelectedRecord(IControlPort* port, Register::Address address, const Select& select) {
-    // Intended: the camera takes the first word in the upper half here, exchanged against its place in memory and
-    // against its place in the block that is written.
-    port->WriteRegisterPair(address, std::rotl(std::bit_cast<std::uint64_t>(select), 32));
-    return ReadBlock<Record>(port, address, sizeof select);
-}
-
-/// Reads an identity text: a word, then the text. Null if the port has none.
-[[nodiscard]] inline char* ReadIdentityText(IControlPort* port, Register::Address address) {
-    char* text = port->ReadString(address, 24);
-    return text == nullptr ? nullptr : text + sizeof(std::uint32_t);
+inline RegisterAccess RegisterMap::Call(const Location& location) const {
+    LogCall(location);
+    return Access();
 }
 
 } // namespace SDK4::Control

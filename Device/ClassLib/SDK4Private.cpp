@@ -123,34 +123,34 @@ void CBootstrap::SetUserDefinedName(const char* name) {
 }
 
 // clang-format off
-const char*    CGigEGufi::GetDeviceName()              { SDK4_LOG_CALL(); return ReadIdentityText(port, Register::DeviceName); }
-const char*    CGigEGufi::GetSerialNumber()            { SDK4_LOG_CALL(); return ReadIdentityText(port, Register::SerialNumber); }
-unsigned int   CGigEGufi::GetFunctionModelID()         { SDK4_LOG_CALL(); return ReadWord(port, Register::FunctionModelID); }
-SDK4_KVERSION  CGigEGufi::GetFunctionModelVersion()    { SDK4_LOG_CALL(); return ReadPair<SDK4_KVERSION>(port, Register::FunctionModelVersion); }
-SDK4_KREVISION CGigEGufi::GetRevision()                { SDK4_LOG_CALL(); return ReadPair<SDK4_KREVISION>(port, Register::Revision); }
-const char*    CGigEGufi::GetSoftwareBuild()           { SDK4_LOG_CALL(); return ReadIdentityText(port, Register::SoftwareBuild); }
-SDK4_KVERSION  CGigEGufi::GetSoftwareVersion()         { SDK4_LOG_CALL(); return ReadPair<SDK4_KVERSION>(port, Register::SoftwareVersion); }
-SDK4_KVERSION  CGigEGufi::GetHardwareVersion()         { SDK4_LOG_CALL(); return ReadPair<SDK4_KVERSION>(port, Register::HardwareVersion); }
-SDK4_KVERSION  CGigEGufi::GetFirmwareVersion()         { SDK4_LOG_CALL(); return ReadPair<SDK4_KVERSION>(port, Register::FirmwareVersion); }
+const char*    CGigEGufi::GetDeviceName()           { return Call(SDK4_HERE).Text(DeviceName); }
+const char*    CGigEGufi::GetSerialNumber()         { return Call(SDK4_HERE).Text(SerialNumber); }
+unsigned int   CGigEGufi::GetFunctionModelID()      { return Call(SDK4_HERE).Word(FunctionModelID); }
+SDK4_KVERSION  CGigEGufi::GetFunctionModelVersion() { return Call(SDK4_HERE).Pair<SDK4_KVERSION>(FunctionModelVersion); }
+SDK4_KREVISION CGigEGufi::GetRevision()             { return Call(SDK4_HERE).Pair<SDK4_KREVISION>(Revision); }
+const char*    CGigEGufi::GetSoftwareBuild()        { return Call(SDK4_HERE).Text(SoftwareBuild); }
+SDK4_KVERSION  CGigEGufi::GetSoftwareVersion()      { return Call(SDK4_HERE).Pair<SDK4_KVERSION>(SoftwareVersion); }
+SDK4_KVERSION  CGigEGufi::GetHardwareVersion()      { return Call(SDK4_HERE).Pair<SDK4_KVERSION>(HardwareVersion); }
+SDK4_KVERSION  CGigEGufi::GetFirmwareVersion()      { return Call(SDK4_HERE).Pair<SDK4_KVERSION>(FirmwareVersion); }
 
 const char* CGigEAcqControl::GetClassID()         { SDK4_LOG_CALL(); return port->ReadString(bootstrap::ModelName, bootstrap::ModelNameLength); }
-uint32_t    CGigEAcqControl::GetAcquisitionMode() { SDK4_LOG_CALL(); return ReadWord(port, Register::AcquisitionMode); }
-uint32_t    CGigEAcqControl::GetPixelFormat()     { SDK4_LOG_CALL(); return ReadWord(port, Register::PixelFormat); }
-uint32_t    CGigEAcqControl::GetWidth()           { SDK4_LOG_CALL(); return ReadWord(port, Register::Width); }
-uint32_t    CGigEAcqControl::GetHeight()          { SDK4_LOG_CALL(); return ReadWord(port, Register::Height); }
+uint32_t    CGigEAcqControl::GetAcquisitionMode() { return Call(SDK4_HERE).Word(AcquisitionMode); }
+uint32_t    CGigEAcqControl::GetPixelFormat()     { return Call(SDK4_HERE).Word(PixelFormat); }
+uint32_t    CGigEAcqControl::GetWidth()           { return Call(SDK4_HERE).Word(Width); }
+uint32_t    CGigEAcqControl::GetHeight()          { return Call(SDK4_HERE).Word(Height); }
 
-void CGigEAcqControl::SetAcquisitionMode(uint32_t mode) { SDK4_LOG(Debug, "Call(" << mode << ")"); WriteWord(port, Register::AcquisitionMode, mode); }
-void CGigEAcqControl::StartAcquisition()                { SDK4_LOG(Info, "Call"); WriteWord(port, Register::AcquisitionStart, 1u); }
+void CGigEAcqControl::SetAcquisitionMode(uint32_t mode) { SDK4_LOG(Debug, "Call(" << mode << ")"); Access().SetWord(AcquisitionMode, mode); }
+void CGigEAcqControl::StartAcquisition()                { SDK4_LOG(Info, "Call"); Access().SetWord(AcquisitionStart, 1u); }
 // Intended: stopping is the write as such, of 0 to a register of its own.
-void CGigEAcqControl::StopAcquisition()                 { SDK4_LOG(Info, "Call"); WriteWord(port, Register::AcquisitionStop, 0u); }
+void CGigEAcqControl::StopAcquisition()                 { SDK4_LOG(Info, "Call"); Access().SetWord(AcquisitionStop, 0u); }
 
-SDK4_AFE_PARAM CAFE::GetAFE(SDK4_AFE_SELECT select)                       { SDK4_LOG_CALL(); return ReadSelectedRecord<SDK4_AFE_PARAM>(port, Register::AFE, select); }
-void           CAFE::SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) { SDK4_LOG_CALL(); WriteKeyedBlock(port, Register::AFE, select, param); }
+SDK4_AFE_PARAM CAFE::GetAFE(SDK4_AFE_SELECT select)                       { return Call(SDK4_HERE).Selected<SDK4_AFE_PARAM>(AFE, select); }
+void           CAFE::SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) { Call(SDK4_HERE).SetRecord(AFE, select, param); }
 
-void     CClaryon::SetCCDControl(uint32_t value) { SDK4_LOG(Debug, "Call(" << value << ")"); WriteWord(port, Register::CCDControl, value); }
-uint32_t CClaryon::GetCCDControl()               { SDK4_LOG_CALL(); return ReadWord(port, Register::CCDControl); }
-void     CClaryon::WriteCOM(uint32_t value)      { SDK4_LOG(Debug, "Call(" << value << ")"); WriteWord(port, Register::COM, value); }
-uint32_t CClaryon::ReadCOM()                     { SDK4_LOG_CALL(); return ReadWord(port, Register::COM); }
+void     CClaryon::SetCCDControl(uint32_t value) { SDK4_LOG(Debug, "Call(" << value << ")"); Access().SetWord(CCDControl, value); }
+uint32_t CClaryon::GetCCDControl()               { return Call(SDK4_HERE).Word(CCDControl); }
+void     CClaryon::WriteCOM(uint32_t value)      { SDK4_LOG(Debug, "Call(" << value << ")"); Access().SetWord(COM, value); }
+uint32_t CClaryon::ReadCOM()                     { return Call(SDK4_HERE).Word(COM); }
 // clang-format on
 
 } // namespace SDK4::Control

@@ -3,6 +3,8 @@
 // Device access of the property-based controls: network, identity, acquisition, analogue front end, sensor control.
 // Every object keeps the host's port and nothing else; nothing is cached.
 
+#include "RegisterMap.h"
+
 #include <SDK4/IControl.h>
 #include <SDK4/IControlPort.h>
 #include <SDK4/IGigECamera.h>
@@ -67,9 +69,9 @@ private:
 };
 
 /// Who the camera is. The texts are the port's own.
-class CGigEGufi final : public IGufi {
+class CGigEGufi final : public IGufi, private RegisterMap {
 public:
-    explicit CGigEGufi(IControlPort* controlPort) : port(controlPort) {}
+    explicit CGigEGufi(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     const char* GetDeviceName() override;
     const char* GetSerialNumber() override;
@@ -80,15 +82,12 @@ public:
     SDK4_KVERSION GetSoftwareVersion() override;
     SDK4_KVERSION GetHardwareVersion() override;
     SDK4_KVERSION GetFirmwareVersion() override;
-
-private:
-    IControlPort* port;
 };
 
 /// Acquisition and image geometry.
-class CGigEAcqControl final : public SDK4::IControl {
+class CGigEAcqControl final : public SDK4::IControl, private RegisterMap {
 public:
-    explicit CGigEAcqControl(IControlPort* controlPort) : port(controlPort) {}
+    explicit CGigEAcqControl(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     const char* GetClassID() override; ///< the device's model name
 
@@ -99,33 +98,24 @@ public:
     std::uint32_t GetPixelFormat();
     std::uint32_t GetWidth();
     std::uint32_t GetHeight();
-
-private:
-    IControlPort* port;
 };
 
-class CAFE final : public IAFE {
+class CAFE final : public IAFE, private RegisterMap {
 public:
-    explicit CAFE(IControlPort* controlPort) : port(controlPort) {}
+    explicit CAFE(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     SDK4_AFE_PARAM GetAFE(SDK4_AFE_SELECT select) override;
     void SetAFE(SDK4_AFE_SELECT select, SDK4_AFE_PARAM param) override;
-
-private:
-    IControlPort* port;
 };
 
-class CClaryon final : public IClaryon {
+class CClaryon final : public IClaryon, private RegisterMap {
 public:
-    explicit CClaryon(IControlPort* controlPort) : port(controlPort) {}
+    explicit CClaryon(IControlPort* controlPort) : RegisterMap(controlPort) {}
 
     void SetCCDControl(std::uint32_t value) override;
     std::uint32_t GetCCDControl() override;
     void WriteCOM(std::uint32_t value) override;
     std::uint32_t ReadCOM() override;
-
-private:
-    IControlPort* port;
 };
 
 } // namespace SDK4::Control

@@ -348,8 +348,9 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
         EXPECT_EQ(operation(), row.result);
         EXPECT_EQ(port.TakeLog(), row.accesses);
         ASSERT_FALSE(capture.Lines().empty());
-        const std::string function = capture.Lines().front().function;
-        EXPECT_TRUE(function.ends_with(row.name.substr(row.name.find("::") + 2))) << function;
+        const LogCapture::Line& entry = capture.Lines().front();
+        EXPECT_TRUE(entry.function.ends_with(row.name.substr(row.name.find("::") + 2))) << entry.function;
+        EXPECT_EQ(entry.className, row.name.substr(0, row.name.find("::")));
         EXPECT_EQ(Joined(capture.TakeTexts()), row.log);
     }
 }
