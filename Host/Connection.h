@@ -27,9 +27,6 @@ public:
     /// Tells that time has passed for this host.
     virtual void Passed(std::chrono::microseconds time) = 0;
 
-    /// What the register at an address is called, for people; empty if nobody knows.
-    [[nodiscard]] virtual std::string RegisterAt(std::uint32_t address) const = 0;
-
     /// Whether the camera takes what this host writes.
     [[nodiscard]] virtual bool HasControl() const = 0;
     /// For commands that write. Takes control, if another program had it and gave it back.

@@ -42,11 +42,6 @@ SDK4::IControlPort& SimulatedConnection::Port() { return *camera; }
 
 void SimulatedConnection::Wait(std::chrono::microseconds time) { camera->Pass(time); }
 
-std::string SimulatedConnection::RegisterAt(std::uint32_t address) const {
-    const auto* const entry = camera->Registers().At(address);
-    return entry == nullptr ? "" : entry->name;
-}
-
 void SimulatedConnection::SaveState() const {
     if (!state.empty()) {
         Simulation::SaveState(*camera, state);

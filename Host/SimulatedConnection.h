@@ -33,7 +33,6 @@ public:
     [[nodiscard]] std::string Describe() const override { return "a simulated camera"; }
     void Wait(std::chrono::microseconds time) override;
     void Passed(std::chrono::microseconds time) override { Wait(time); }
-    [[nodiscard]] std::string RegisterAt(std::uint32_t address) const override;
     [[nodiscard]] bool HasControl() const override { return true; }
     void RequireControl() override {}
     [[nodiscard]] std::string TakeDenial() override { return ""; }

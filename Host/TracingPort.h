@@ -29,9 +29,6 @@ public:
     /// Without an observer: what was accessed since the last call.
     [[nodiscard]] std::vector<Access> Take() { return std::exchange(accesses, {}); }
 
-    /// How many accesses Take would give back.
-    [[nodiscard]] std::size_t Count() const { return accesses.size(); }
-
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
     std::uint32_t ReadRegister(std::uint32_t address) override;
     void WriteRegisterPair(std::uint32_t address, std::uint64_t value) override;

@@ -21,7 +21,6 @@ public:
     /// Also after a signal: what is put back then needs its time as well.
     void Wait(std::chrono::microseconds time) override { std::this_thread::sleep_for(time); }
     void Passed(std::chrono::microseconds /*time*/) override {}
-    [[nodiscard]] std::string RegisterAt(std::uint32_t /*address*/) const override { return ""; }
     [[nodiscard]] bool HasControl() const override { return port.HasControl(); }
     void RequireControl() override {
         port.TryToTakeControl();

@@ -29,7 +29,6 @@ const std::vector<Command>& Commands() {
                    {model, {"[NAME=VALUE...]", "What to set when it has begun"}, {"--seconds N", "Ends after that time"}}, Watch},
         {"selftest", "Test every function that can be set, and put all settings back", {model, outputs}, RunSelftest},
         {"shell",  "Run these commands at a prompt, on one camera",       {model}, Shell, false},
-        {"tour",   "Walk through every interface of a camera, with its port accesses; changes it, and puts nothing back", {model}, RunTour, false},
     };
     // clang-format on
     return commands;

@@ -3,6 +3,8 @@
 #include "Format.h"
 #include "Json.h"
 
+#include <SDK4/IControl.h>
+
 #include <iostream>
 
 namespace Host {

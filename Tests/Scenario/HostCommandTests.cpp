@@ -139,7 +139,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
          "qdv12host: unknown command \"lst\"; did you mean \"list\"? (qdv12host --help says more)\n"},
         {"selftest Orvik-710C --output --jsn", 2, "",
          "qdv12host: unknown option \"--output\"; did you mean \"--outputs\"? (qdv12host --help says more)\n"},
-        {"tour a b c", 2, "", "qdv12host: \"b\" was not expected (qdv12host --help says more)\n"},
+        {"list a b c", 2, "", "qdv12host: \"b\" was not expected (qdv12host --help says more)\n"},
         {"set Orvik-710C overlayshow=on", 2, "",
          "qdv12host: \"overlayshow\" is several: overlayshow.0 to overlayshow.1\n"},
         {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: invalid value \"abc\" for gain (0..511)\n"},
@@ -156,7 +156,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
          "qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: no answer from the camera\n"},
     });
     for (const char* arguments :
-         {"", "tour", "frobnicate", "--log loud models", "models --plugin", "get", "get Orvik-710C",
+         {"", "list", "frobnicate", "--log loud models", "models --plugin", "get", "get Orvik-710C",
           "models --config /nowhere", "models --config /etc/passwd", "models --plugin ''", "models --index x",
           "get Orvik-710C '1\n2'", "'1\n2'", "models --index '1\n2'", "get Orvik-710C gain --fault '1\n2'"}) {
         const Outcome run = RunHost(arguments);
@@ -383,6 +383,11 @@ TEST(HostCommand, TraceAndLogGoToStandardError) {
     EXPECT_EQ(wrong.err, "qdv12host: log4cxx configuration " + config + ": no usable appender\n");
     std::filesystem::remove(config);
     std::filesystem::remove(log);
+
+    const Outcome logged = RunHost("set Orvik-390C agc=1 gain=5 --log INFO");
+    EXPECT_TRUE(Has(logged.err, "QDV12: CreateObject(Orvik-390C)"));
+    EXPECT_TRUE(Has(logged.err, "SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"));
+    EXPECT_FALSE(Has(logged.err, "DEBUG"));
 }
 
 } // namespace Scenario

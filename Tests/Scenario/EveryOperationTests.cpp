@@ -1,0 +1,42 @@
+#include "OperationsOn.h"
+
+namespace Scenario {
+
+namespace {
+
+/// The rows tell what a camera with image memory and without colour answers. With index 0 an M2VX control takes every
+/// mode for on, as the rows do.
+bool IsAsInTheTable(std::string_view model, int index) {
+    const bool monoWithMemory = model == "Orvik-710M" || model == "Orvik-390M" || model == "Orvik-530M";
+    return monoWithMemory || (!model.starts_with("Orvik") && index == 0);
+}
+
+std::string RefusalIn(const std::string& outcome) { return outcome.starts_with("SDK4_ERR") ? outcome : "none"; }
+
+} // namespace
+
+class EveryOperation : public testing::TestWithParam<const char*> {};
+
+TEST_P(EveryOperation, FindsItsRegistersInTheSimulatedCamera) {
+    const std::string model = GetParam();
+    for (const ::Test::Operation* row : OperationsOf(model)) {
+        for (const int index : {row->state.RememberingIndex(), row->state.ReadingIndex()}) {
+            SCOPED_TRACE(row->name + " with index " + std::to_string(index));
+            Host::Session session(LoadedPlugin(), model, {.index = index});
+            const std::string outcome = OutcomeOf(*row, *session.As<IDynamicObject>());
+            if (!row->name.starts_with("IGigEVisionPort::")) { // whose rows go to an address that no camera has
+                EXPECT_EQ(outcome.find(" failed: "), std::string::npos) << outcome;
+            }
+            if (row->state.presets.empty() && IsAsInTheTable(model, index)) {
+                EXPECT_EQ(RefusalIn(outcome), RefusalIn(row->result));
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, EveryOperation,
+                         testing::Values("Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M",
+                                         "Orvik-390C", "Orvik-520M", "Orvik-520C", "Orvik-530M", "Orvik-530C",
+                                         "Cerix7-MV", "Cerix-MV7", "Sollux G"));
+
+} // namespace Scenario

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ScenarioFixture.h"
+
+#include <Operations.h>
+
+#include <exception>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Scenario {
+
+/// Every operation that the model's family has.
+inline std::vector<const ::Test::Operation*> OperationsOf(std::string_view model) {
+    std::vector<const ::Test::Operation*> rows;
+    for (const ::Test::Operation& row : ::Test::Operations()) {
+        if (row.state.IsM2VX() != model.starts_with("Orvik")) {
+            rows.push_back(&row);
+        }
+    }
+    return rows;
+}
+
+/// The result of an operation, the name of the code that refuses it, or what the port says of an access that fails.
+inline std::string OutcomeOf(const ::Test::Operation& row, IDynamicObject& camera) {
+    try {
+        if (row.state.before) {
+            (void)::Test::Outcome(row.state.before, camera);
+        }
+        return ::Test::Outcome(row.call, camera);
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+} // namespace Scenario
