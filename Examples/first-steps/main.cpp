@@ -1,6 +1,7 @@
-// First steps with either family of cameras: what calls cost, how they are refused, and what a host does then. The code
-// of an X4Error tells what the camera holds after a refusal: SDK4_ERR_OUTOFRANGE the nearest admitted value, the others
-// what it held before. The port is that of minimal-host: it prints what is written to the camera, and counts.
+// First steps with either family of cameras: how calls are refused, what a host does then, and what calls cost. The
+// code of an X4Error tells what to do next: clamped (ask what the camera holds), locked (release the lock), not
+// available (change the mode), not implemented (do without). The port is that of minimal-host: it prints what is
+// written to the camera, and counts the accesses.
 
 #include "BytePort.h"
 
@@ -38,14 +39,17 @@ template <class Call> void Do(const char* text, const Call& call) {
     call();
 }
 
-/// The same for a call that may be refused: returns the code, and prints its name for the caller to go on with.
-template <class Call> std::int32_t Try(const char* text, const Call& call) {
+/// The same for a call that may be refused with that code: tells whether it was. Any other refusal ends the program.
+template <class Call> bool Refused(std::int32_t code, const char* text, const Call& call) {
     try {
         Do(text, call);
-        return 0;
+        return false;
     } catch (const SDK4::X4Error& error) {
-        std::printf("  %s: ", SDK4::ErrorName(error.code));
-        return error.code;
+        if (error.code != code) {
+            throw;
+        }
+        std::printf("  %s: ", SDK4::ErrorName(code));
+        return true;
     }
 }
 
@@ -60,11 +64,11 @@ template <class Get> void Show(const char* text, const BytePort& port, const Get
 
 void RefuseAndRecover(IDynamicObject& camera) {
     auto& gain = dynamic_cast<IGain&>(camera);
-    if (Try("SetGain(600)", [&] { gain.SetGain(600); }) == SDK4_ERR_OUTOFRANGE) {
+    if (Refused(SDK4_ERR_OUTOFRANGE, "SetGain(600)", [&] { gain.SetGain(600); })) {
         std::printf("clamped to %u\n", gain.GetGain());
     }
     Do("SetAGC(1)", [&] { gain.SetAGC(1); });
-    if (Try("SetGain(100)", [&] { gain.SetGain(100); }) == SDK4_ERR_CANTSETFEATURE) {
+    if (Refused(SDK4_ERR_CANTSETFEATURE, "SetGain(100)", [&] { gain.SetGain(100); })) {
         std::printf("locked by automatic gain; switching it off\n");
         gain.SetAGC(SDK4_AGC_OFF);
         gain.SetGain(100);
@@ -72,14 +76,14 @@ void RefuseAndRecover(IDynamicObject& camera) {
 
     auto& trigger = dynamic_cast<ITrigger&>(camera);
     const auto setDelay = [&] { trigger.SetTriggerDelay({1, 250}); };
-    if (Try("SetTriggerDelay(base 1, counter 250)", setDelay) == SDK4_ERR_DISABLED) {
+    if (Refused(SDK4_ERR_DISABLED, "SetTriggerDelay(base 1, counter 250)", setDelay)) {
         std::printf("not available in this exposure mode; changing it\n");
         dynamic_cast<IExposure&>(camera).SetExposureMode(SDK4_EXPOSUREMODE_RESETRESTART);
         setDelay();
     }
 
     auto& slowScan = dynamic_cast<ISlowScan&>(camera);
-    if (Try("SetSlowScan(on)", [&] { slowScan.SetSlowScan(SDK4_SWITCH_ON); }) == SDK4_ERR_NOT_IMPLEMENTED) {
+    if (Refused(SDK4_ERR_NOT_IMPLEMENTED, "SetSlowScan(on)", [&] { slowScan.SetSlowScan(SDK4_SWITCH_ON); })) {
         std::printf("this camera does not have it\n");
     }
 }
@@ -111,7 +115,7 @@ void FollowProperties(IDynamicObject& camera, const BytePort& port) {
     Do("SetGain(300)", [&] { gain.SetGain(300); });
     Show("GetGain()", port, [&] { return gain.GetGain(); });
     Do("SetAGC(1)", [&] { gain.SetAGC(1); }); // a mode enables and disables what depends on it
-    if (Try("SetGain(100)", [&] { gain.SetGain(100); }) == SDK4_ERR_DISABLED) {
+    if (Refused(SDK4_ERR_DISABLED, "SetGain(100)", [&] { gain.SetGain(100); })) {
         std::printf("automatic gain owns the value\n");
     }
     properties.RemoveCallback(PrintChange);
