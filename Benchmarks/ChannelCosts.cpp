@@ -1,12 +1,12 @@
 // What the plug-in and the host's port add to the accesses that they make to a camera on the network: each call beside
 // the same accesses by Aravis alone, to another camera of the same model. Writes a table of docs/performance.md.
 
-#include "RawChannel.h"
-#include "Timing.h"
+#include "Benchmarks/RawChannel.h"
+#include "Benchmarks/Timing.h"
 
-#include <Channel/GigEPort.h>
-#include <Logging.h>
-#include <Plugin.h>
+#include "Host/Channel/GigEPort.h"
+#include "Host/Logging.h"
+#include "Host/Plugin.h"
 #include <SDK4/SDK4.h>
 
 #include <cstdio>

@@ -2,10 +2,10 @@
 // docs/performance.md to the standard output, and its numbers to a file for the plot.
 
 #include "BaseControlHelper.h"
+#include "Benchmarks/Table.h"
 #include "Feature.h"
-#include "FlatPort.h"
-#include "LogCapture.h"
-#include "Table.h"
+#include "Tests/Support/FlatPort.h"
+#include "Tests/Support/LogCapture.h"
 
 #include <cstdio>
 #include <cstdlib>

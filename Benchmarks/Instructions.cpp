@@ -1,8 +1,8 @@
 // Runs five operations for callgrind to count their instructions: collection is on during the calls only, and each
 // operation's count is dumped under its name. Without callgrind it just runs them.
 
-#include "LogCapture.h"
-#include "Workbench.h"
+#include "Benchmarks/Workbench.h"
+#include "Tests/Support/LogCapture.h"
 
 #include <valgrind/callgrind.h>
 

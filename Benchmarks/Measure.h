@@ -3,8 +3,8 @@
 // How every row is measured: calls are timed in batches of some microseconds, and what counts is the median batch of a
 // repetition. A batch that another program interrupted is one of many.
 
-#include "Allocations.h"
-#include "Timing.h"
+#include "Benchmarks/Timing.h"
+#include "Tests/Support/Allocations.h"
 
 #include <benchmark/benchmark.h>
 

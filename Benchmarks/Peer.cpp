@@ -1,4 +1,4 @@
-#include "Peer.h"
+#include "Benchmarks/Peer.h"
 
 #include <arv.h>
 

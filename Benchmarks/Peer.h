@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Table.h"
+#include "Benchmarks/Table.h"
 
 namespace Bench {
 

@@ -1,9 +1,9 @@
 // What a call costs beside the same kind of call of Aravis, on cameras that answer from memory. Writes the table of
 // docs/performance.md.
 
-#include "LogCapture.h"
-#include "Peer.h"
-#include "Workbench.h"
+#include "Benchmarks/Peer.h"
+#include "Benchmarks/Workbench.h"
+#include "Tests/Support/LogCapture.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "RawChannel.h"
+#include "Benchmarks/RawChannel.h"
 
-#include <Channel/Datagrams.h>
+#include "Host/Channel/Datagrams.h"
 
 #include <arv.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TracingPort.h>
+#include "Host/TracingPort.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "Table.h"
+#include "Benchmarks/Table.h"
 
 namespace Bench {
 

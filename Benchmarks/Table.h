@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Measure.h"
+#include "Benchmarks/Measure.h"
 
 #include <map>
 #include <string>

@@ -1,6 +1,6 @@
-#include "Workbench.h"
+#include "Benchmarks/Workbench.h"
 
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
 
 namespace Bench {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FlatPort.h"
-#include "Plugin.h"
+#include "Tests/Support/FlatPort.h"
+#include "Tests/Support/Plugin.h"
 
 #include <SDK4/SDK4.h>
 

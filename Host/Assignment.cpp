@@ -1,7 +1,7 @@
-#include "Assignment.h"
+#include "Host/Assignment.h"
 
-#include "Describe.h"
-#include "Errors.h"
+#include "Host/Describe.h"
+#include "Host/Errors.h"
 
 namespace Host {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Camera.h"
+#include "Host/Camera.h"
 
 #include <string>
 #include <vector>

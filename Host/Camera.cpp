@@ -1,10 +1,10 @@
-#include "Camera.h"
+#include "Host/Camera.h"
 
-#include "Channel/ChannelErrors.h"
-#include "Errors.h"
-#include "Functions/Tables.h"
-#include "Guarded.h"
-#include "Nearest.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Errors.h"
+#include "Host/Functions/Tables.h"
+#include "Host/Guarded.h"
+#include "Host/Nearest.h"
 
 #include <SDK4/IControl.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Function.h"
+#include "Host/Function.h"
 
 #include <SDK4/IPropertyState.h>
 

@@ -1,6 +1,6 @@
-#include "Command.h"
+#include "Host/Command.h"
 
-#include "Text.h"
+#include "Host/Text.h"
 
 #include <iostream>
 

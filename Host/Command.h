@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Errors.h"
-#include "Program.h"
+#include "Host/Errors.h"
+#include "Host/Program.h"
 
 #include <map>
 #include <string>

@@ -1,11 +1,11 @@
-#include "CommandLine.h"
+#include "Host/CommandLine.h"
 
-#include "Channel/Datagrams.h"
-#include "Nearest.h"
-#include "Positionals.h"
-#include "Trace.h"
+#include "Host/Channel/Datagrams.h"
+#include "Host/Nearest.h"
+#include "Host/Positionals.h"
+#include "Host/Trace.h"
 
-#include <Seed.h>
+#include "Simulation/Seed.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
-#include "Describe.h"
+#include "Host/Describe.h"
 
-#include "Guarded.h"
-#include "Utf8.h"
+#include "Host/Guarded.h"
+#include "Host/Utf8.h"
 
 #include <algorithm>
 #include <charconv>

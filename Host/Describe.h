@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Camera.h"
-#include "Json.h"
+#include "Host/Camera.h"
+#include "Host/Json.h"
 
 #include <optional>
 #include <string>

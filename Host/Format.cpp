@@ -1,6 +1,6 @@
-#include "Format.h"
+#include "Host/Format.h"
 
-#include "Text.h"
+#include "Host/Text.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "Function.h"
+#include "Host/Function.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Value.h"
+#include "Host/Value.h"
 
 #include <SDK4/IDynamicObject.h>
 #include <SDK4/X4Error.h>

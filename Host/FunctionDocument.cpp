@@ -2,11 +2,11 @@
 // of it is written down here: the functions come from the host's table, limits and presence from the control of each
 // model, registers from the accesses that a call comes to.
 
-#include "Describe.h"
-#include "Errors.h"
-#include "Format.h"
-#include "Logging.h"
-#include "Program.h"
+#include "Host/Describe.h"
+#include "Host/Errors.h"
+#include "Host/Format.h"
+#include "Host/Logging.h"
+#include "Host/Program.h"
 
 #include <algorithm>
 #include <iostream>

@@ -1,9 +1,9 @@
-#include "Guarded.h"
+#include "Host/Guarded.h"
 
-#include "Channel/ChannelErrors.h"
-#include "Command.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Command.h"
 
-#include <PortError.h>
+#include "Simulation/PortError.h"
 
 #include <SDK4/X4Error.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Errors.h"
+#include "Host/Errors.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "Interrupts.h"
+#include "Host/Interrupts.h"
 
 #include <ctime>
 

@@ -1,4 +1,4 @@
-#include "Json.h"
+#include "Host/Json.h"
 
 #include <nlohmann/json.hpp>
 

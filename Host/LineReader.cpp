@@ -1,4 +1,4 @@
-#include "LineReader.h"
+#include "Host/LineReader.h"
 
 #include <editline/readline.h>
 #include <unistd.h>

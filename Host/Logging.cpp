@@ -1,7 +1,7 @@
-#include "Logging.h"
+#include "Host/Logging.h"
 
-#include "Errors.h"
-#include "Text.h"
+#include "Host/Errors.h"
+#include "Host/Text.h"
 
 #include <log4cxx/consoleappender.h>
 #include <log4cxx/helpers/loglog.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Suggestion.h>
+#include "Simulation/Suggestion.h"
 
 namespace Host {
 

@@ -1,4 +1,4 @@
-#include "Plugin.h"
+#include "Host/Plugin.h"
 
 #include <SDK4/IModelRegistry.h>
 

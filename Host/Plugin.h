@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Control.h"
-#include "Errors.h"
+#include "Host/Control.h"
+#include "Host/Errors.h"
 
 #include <SDK4/IControlPort.h>
 

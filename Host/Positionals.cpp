@@ -1,7 +1,7 @@
-#include "Positionals.h"
+#include "Host/Positionals.h"
 
-#include "Errors.h"
-#include "Functions/Tables.h"
+#include "Host/Errors.h"
+#include "Host/Functions/Tables.h"
 
 #include <algorithm>
 #include <cstddef>

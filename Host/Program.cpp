@@ -1,6 +1,6 @@
-#include "Program.h"
+#include "Host/Program.h"
 
-#include "Command.h"
+#include "Host/Command.h"
 
 namespace Host {
 

@@ -1,9 +1,9 @@
-#include "Session.h"
+#include "Host/Session.h"
 
-#include "Channel/ChannelErrors.h"
-#include "Channel/GigEConnection.h"
-#include "Nearest.h"
-#include "Text.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/GigEConnection.h"
+#include "Host/Nearest.h"
+#include "Host/Text.h"
 
 #include <algorithm>
 

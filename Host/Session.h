@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Camera.h"
-#include "Plugin.h"
-#include "SimulatedConnection.h"
-#include "TracingPort.h"
+#include "Host/Camera.h"
+#include "Host/Plugin.h"
+#include "Host/SimulatedConnection.h"
+#include "Host/TracingPort.h"
 
 #include <cstdint>
 #include <memory>

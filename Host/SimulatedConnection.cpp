@@ -1,10 +1,10 @@
-#include "SimulatedConnection.h"
+#include "Host/SimulatedConnection.h"
 
-#include "Errors.h"
+#include "Host/Errors.h"
 
-#include <CameraState.h>
-#include <Cameras.h>
-#include <SimulatedCamera.h>
+#include "Simulation/CameraState.h"
+#include "Simulation/Cameras.h"
+#include "Simulation/SimulatedCamera.h"
 
 namespace Host {
 

@@ -1,4 +1,4 @@
-#include "Style.h"
+#include "Host/Style.h"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
-#include "Text.h"
+#include "Host/Text.h"
 
-#include "Utf8.h"
+#include "Host/Utf8.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,6 +1,6 @@
-#include "Trace.h"
+#include "Host/Trace.h"
 
-#include "Format.h"
+#include "Host/Format.h"
 
 #include <cmath>
 #include <iostream>

@@ -1,4 +1,4 @@
-#include "TracingPort.h"
+#include "Host/TracingPort.h"
 
 #include <chrono>
 

@@ -1,4 +1,4 @@
-#include "Utf8.h"
+#include "Host/Utf8.h"
 
 namespace Host {
 

@@ -1,7 +1,7 @@
-#include "Value.h"
+#include "Host/Value.h"
 
-#include "Format.h"
-#include "Text.h"
+#include "Host/Format.h"
+#include "Host/Text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
-#include "CommandLine.h"
-#include "Guarded.h"
-#include "Logging.h"
+#include "Host/CommandLine.h"
+#include "Host/Guarded.h"
+#include "Host/Logging.h"
 
 #include <clocale>
 #include <iostream>

@@ -1,4 +1,4 @@
-#include "Automatic.h"
+#include "Simulation/Automatic.h"
 
 namespace Simulation {
 

@@ -1,4 +1,4 @@
-#include "Axes.h"
+#include "Simulation/Axes.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SimulatedCamera.h"
+#include "Simulation/SimulatedCamera.h"
 
 namespace Simulation {
 

@@ -1,7 +1,7 @@
-#include "BootstrapRegisters.h"
+#include "Simulation/BootstrapRegisters.h"
 
-#include "Addresses.h"
-#include "Description.h"
+#include "Simulation/Addresses.h"
+#include "Simulation/Description.h"
 
 #include <algorithm>
 #include <cstdio>

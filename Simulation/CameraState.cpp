@@ -1,6 +1,6 @@
-#include "CameraState.h"
+#include "Simulation/CameraState.h"
 
-#include "Identity.h"
+#include "Simulation/Identity.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,10 +1,10 @@
-#include "Cameras.h"
+#include "Simulation/Cameras.h"
 
-#include "BootstrapRegisters.h"
-#include "Description.h"
-#include "M2VX.h"
-#include "Orvik.h"
-#include "World.h"
+#include "Simulation/BootstrapRegisters.h"
+#include "Simulation/Description.h"
+#include "Simulation/M2VX.h"
+#include "Simulation/Orvik.h"
+#include "Simulation/World.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SimulatedCamera.h"
+#include "Simulation/SimulatedCamera.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "Description.h"
+#include "Simulation/Description.h"
 
 #include "Descriptions.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "M2VX.h"
-#include "Orvik.h"
+#include "Simulation/M2VX.h"
+#include "Simulation/Orvik.h"
 
 #include <cstdint>
 #include <string>

@@ -1,4 +1,4 @@
-#include "Faults.h"
+#include "Simulation/Faults.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "PortError.h"
-#include "RegisterSpace.h"
+#include "Simulation/PortError.h"
+#include "Simulation/RegisterSpace.h"
 
 #include <cstdint>
 #include <map>

@@ -1,4 +1,4 @@
-#include "Identity.h"
+#include "Simulation/Identity.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Register.h"
-#include "SimulatedCamera.h"
-#include "World.h"
+#include "Simulation/Register.h"
+#include "Simulation/SimulatedCamera.h"
+#include "Simulation/World.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
-#include "Automatic.h"
-#include "Axes.h"
-#include "M2VX.h"
-#include "Temperature.h"
+#include "Simulation/Automatic.h"
+#include "Simulation/Axes.h"
+#include "Simulation/M2VX.h"
+#include "Simulation/Temperature.h"
 
 #include <algorithm>
 

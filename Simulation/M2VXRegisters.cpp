@@ -1,4 +1,4 @@
-#include "M2VX.h"
+#include "Simulation/M2VX.h"
 
 namespace Simulation {
 

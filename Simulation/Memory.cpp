@@ -1,4 +1,4 @@
-#include "Memory.h"
+#include "Simulation/Memory.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "Automatic.h"
-#include "Orvik.h"
-#include "Temperature.h"
+#include "Simulation/Automatic.h"
+#include "Simulation/Orvik.h"
+#include "Simulation/Temperature.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 // of its sensor, and shows as much of it as the image admits: a change of binning or area that is taken back leaves
 // nothing changed.
 
-#include "Orvik.h"
+#include "Simulation/Orvik.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "Orvik.h"
+#include "Simulation/Orvik.h"
 
 namespace Simulation {
 

@@ -1,6 +1,6 @@
 // Readout time and frame duration follow from what is read out, how long it is exposed and how many bytes are sent.
 
-#include "Orvik.h"
+#include "Simulation/Orvik.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "PortError.h"
+#include "Simulation/PortError.h"
 
 #include <cstdio>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "Register.h"
+#include "Simulation/Register.h"
 
 #include <algorithm>
 #include <cstring>

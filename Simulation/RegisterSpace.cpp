@@ -1,6 +1,6 @@
-#include "RegisterSpace.h"
+#include "Simulation/RegisterSpace.h"
 
-#include "Addresses.h"
+#include "Simulation/Addresses.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Memory.h"
-#include "Register.h"
+#include "Simulation/Memory.h"
+#include "Simulation/Register.h"
 
 #include <map>
 #include <span>

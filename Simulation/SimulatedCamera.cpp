@@ -1,4 +1,4 @@
-#include "SimulatedCamera.h"
+#include "Simulation/SimulatedCamera.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Faults.h"
-#include "RegisterSpace.h"
-#include "SettingsSets.h"
+#include "Simulation/Faults.h"
+#include "Simulation/RegisterSpace.h"
+#include "Simulation/SettingsSets.h"
 
 #include <SDK4/IControlPort.h>
 

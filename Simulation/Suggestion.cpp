@@ -1,4 +1,4 @@
-#include "Suggestion.h"
+#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <array>

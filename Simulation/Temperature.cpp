@@ -1,4 +1,4 @@
-#include "Temperature.h"
+#include "Simulation/Temperature.h"
 
 namespace Simulation {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "SimulatedCamera.h"
-#include "World.h"
+#include "Simulation/SimulatedCamera.h"
+#include "Simulation/World.h"
 
 namespace Simulation {
 

@@ -1,6 +1,6 @@
-#include "AravisErrors.h"
+#include "Host/Channel/AravisErrors.h"
 
-#include "Text.h"
+#include "Host/Text.h"
 
 #include <arv.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Format.h"
+#include "Host/Format.h"
 
 #include <cstdint>
 #include <stdexcept>

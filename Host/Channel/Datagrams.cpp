@@ -1,6 +1,6 @@
-#include "Datagrams.h"
+#include "Host/Channel/Datagrams.h"
 
-#include "Errors.h"
+#include "Host/Errors.h"
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>

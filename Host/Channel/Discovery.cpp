@@ -1,8 +1,8 @@
-#include "Discovery.h"
+#include "Host/Channel/Discovery.h"
 
-#include "AravisErrors.h"
-#include "Datagrams.h"
-#include "Errors.h"
+#include "Host/Channel/AravisErrors.h"
+#include "Host/Channel/Datagrams.h"
+#include "Host/Errors.h"
 
 #include <arv.h>
 

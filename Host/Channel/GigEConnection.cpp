@@ -1,9 +1,9 @@
-#include "GigEConnection.h"
+#include "Host/Channel/GigEConnection.h"
 
-#include "ChannelErrors.h"
-#include "Errors.h"
-#include "GigEPort.h"
-#include "OrderlyEnd.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/GigEPort.h"
+#include "Host/Channel/OrderlyEnd.h"
+#include "Host/Errors.h"
 
 #include <thread>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Connection.h"
+#include "Host/Connection.h"
 
 #include <memory>
 #include <string>

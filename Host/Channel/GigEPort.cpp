@@ -1,11 +1,11 @@
-#include "GigEPort.h"
+#include "Host/Channel/GigEPort.h"
 
-#include "AravisErrors.h"
-#include "ChannelErrors.h"
-#include "Datagrams.h"
-#include "Errors.h"
-#include "Little.h"
-#include "OrderlyEnd.h"
+#include "Host/Channel/AravisErrors.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/Datagrams.h"
+#include "Host/Channel/Little.h"
+#include "Host/Channel/OrderlyEnd.h"
+#include "Host/Errors.h"
 
 #include <arv.h>
 

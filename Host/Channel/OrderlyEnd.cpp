@@ -1,4 +1,4 @@
-#include "OrderlyEnd.h"
+#include "Host/Channel/OrderlyEnd.h"
 
 namespace Host {
 

@@ -1,6 +1,6 @@
-#include "Discovery.h"
-#include "Errors.h"
-#include "GigEConnection.h"
+#include "Host/Channel/Discovery.h"
+#include "Host/Channel/GigEConnection.h"
+#include "Host/Errors.h"
 
 // Compiled where Aravis is missing, instead of what needs it.
 

@@ -1,8 +1,8 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Format.h"
-#include "Json.h"
-#include "Text.h"
+#include "Host/Format.h"
+#include "Host/Json.h"
+#include "Host/Text.h"
 
 #include <iostream>
 

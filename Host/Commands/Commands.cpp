@@ -1,4 +1,4 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
 namespace Host {
 

@@ -1,9 +1,9 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Describe.h"
-#include "Format.h"
-#include "Settings/LiveSettings.h"
-#include "Settings/SettingsFile.h"
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Settings/LiveSettings.h"
+#include "Host/Settings/SettingsFile.h"
 
 #include <iostream>
 #include <vector>

@@ -1,10 +1,10 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Channel/Datagrams.h"
-#include "Channel/Discovery.h"
-#include "Format.h"
-#include "Json.h"
-#include "Text.h"
+#include "Host/Channel/Datagrams.h"
+#include "Host/Channel/Discovery.h"
+#include "Host/Format.h"
+#include "Host/Json.h"
+#include "Host/Text.h"
 
 #include <algorithm>
 #include <iostream>

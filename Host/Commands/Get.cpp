@@ -1,6 +1,6 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Describe.h"
+#include "Host/Describe.h"
 
 #include <iostream>
 

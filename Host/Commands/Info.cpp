@@ -1,8 +1,8 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Describe.h"
-#include "Format.h"
-#include "Functions/Names.h"
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Functions/Names.h"
 
 #include <algorithm>
 #include <iostream>

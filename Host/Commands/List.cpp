@@ -1,9 +1,9 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Describe.h"
-#include "Format.h"
-#include "Guarded.h"
-#include "Style.h"
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Guarded.h"
+#include "Host/Style.h"
 
 #include <iostream>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Format.h"
-#include "Json.h"
+#include "Host/Format.h"
+#include "Host/Json.h"
 
 #include <SDK4/IControl.h>
 

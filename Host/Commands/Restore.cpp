@@ -1,13 +1,13 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Channel/ChannelErrors.h"
-#include "Describe.h"
-#include "Format.h"
-#include "Interrupts.h"
-#include "Settings/ReadThrough.h"
-#include "Settings/Restorer.h"
-#include "Settings/SettingsFile.h"
-#include "Style.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Interrupts.h"
+#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/Restorer.h"
+#include "Host/Settings/SettingsFile.h"
+#include "Host/Style.h"
 
 #include <algorithm>
 #include <iostream>

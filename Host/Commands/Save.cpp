@@ -1,8 +1,8 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Json.h"
-#include "Settings/LiveSettings.h"
-#include "Settings/SettingsFile.h"
+#include "Host/Json.h"
+#include "Host/Settings/LiveSettings.h"
+#include "Host/Settings/SettingsFile.h"
 
 #include <iostream>
 

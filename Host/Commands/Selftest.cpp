@@ -1,13 +1,13 @@
-#include "Selftest/Selftest.h"
+#include "Host/Selftest/Selftest.h"
 
-#include "Channel/ChannelErrors.h"
-#include "Commands.h"
-#include "Format.h"
-#include "Interrupts.h"
-#include "Json.h"
-#include "Settings/ReadThrough.h"
-#include "Settings/Restorer.h"
-#include "Style.h"
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Commands/Commands.h"
+#include "Host/Format.h"
+#include "Host/Interrupts.h"
+#include "Host/Json.h"
+#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/Restorer.h"
+#include "Host/Style.h"
 
 #include <unistd.h>
 

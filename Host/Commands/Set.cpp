@@ -1,10 +1,10 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Assignment.h"
-#include "Describe.h"
-#include "Guarded.h"
-#include "Settings/ReadThrough.h"
-#include "Settings/Settled.h"
+#include "Host/Assignment.h"
+#include "Host/Describe.h"
+#include "Host/Guarded.h"
+#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/Settled.h"
 
 #include <iostream>
 

@@ -1,10 +1,10 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "CommandLine.h"
-#include "Guarded.h"
-#include "Interrupts.h"
-#include "LineReader.h"
-#include "Nearest.h"
+#include "Host/CommandLine.h"
+#include "Host/Guarded.h"
+#include "Host/Interrupts.h"
+#include "Host/LineReader.h"
+#include "Host/Nearest.h"
 
 #include <algorithm>
 #include <iostream>

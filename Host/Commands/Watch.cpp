@@ -1,11 +1,11 @@
-#include "Commands.h"
+#include "Host/Commands/Commands.h"
 
-#include "Assignment.h"
-#include "Describe.h"
-#include "Format.h"
-#include "Guarded.h"
-#include "Interrupts.h"
-#include "Settings/ReadThrough.h"
+#include "Host/Assignment.h"
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Guarded.h"
+#include "Host/Interrupts.h"
+#include "Host/Settings/ReadThrough.h"
 
 #include <charconv>
 #include <iostream>

@@ -1,8 +1,8 @@
-#include "Codes.h"
-#include "Names.h"
-#include "Rounding.h"
-#include "Tables.h"
-#include "Utf8.h"
+#include "Host/Functions/Codes.h"
+#include "Host/Functions/Names.h"
+#include "Host/Functions/Rounding.h"
+#include "Host/Functions/Tables.h"
+#include "Host/Utf8.h"
 
 #include <SDK4/SDK4.h>
 

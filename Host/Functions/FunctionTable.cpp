@@ -1,4 +1,4 @@
-#include "FunctionTable.h"
+#include "Host/Functions/FunctionTable.h"
 
 #include <cxxabi.h>
 

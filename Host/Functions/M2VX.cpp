@@ -1,6 +1,6 @@
-#include "Codes.h"
-#include "Names.h"
-#include "Tables.h"
+#include "Host/Functions/Codes.h"
+#include "Host/Functions/Names.h"
+#include "Host/Functions/Tables.h"
 
 #include <SDK4/SDK4.h>
 

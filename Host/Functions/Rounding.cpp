@@ -1,6 +1,6 @@
-#include "Rounding.h"
+#include "Host/Functions/Rounding.h"
 
-#include "FunctionTable.h"
+#include "Host/Functions/FunctionTable.h"
 
 #include <SDK4/SDK4.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Function.h"
+#include "Host/Function.h"
 
 /// What a camera may make of an admitted value, as the rows of the table announce it.
 namespace Host::Rounding {

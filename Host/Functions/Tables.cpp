@@ -1,4 +1,4 @@
-#include "Tables.h"
+#include "Host/Functions/Tables.h"
 
 #include <algorithm>
 #include <initializer_list>

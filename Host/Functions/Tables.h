@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FunctionTable.h"
+#include "Host/Functions/FunctionTable.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
-#include "Selftest.h"
+#include "Host/Selftest/Selftest.h"
 
-#include "Guarded.h"
-#include "Settings/Unlock.h"
+#include "Host/Guarded.h"
+#include "Host/Settings/Unlock.h"
 
 #include <algorithm>
 #include <stdexcept>

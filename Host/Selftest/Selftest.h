@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Settings/Settings.h"
-#include "Settings/Settled.h"
-#include "Trials.h"
+#include "Host/Selftest/Trials.h"
+#include "Host/Settings/Settings.h"
+#include "Host/Settings/Settled.h"
 
 #include <string>
 #include <vector>

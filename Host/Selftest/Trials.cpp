@@ -1,4 +1,4 @@
-#include "Trials.h"
+#include "Host/Selftest/Trials.h"
 
 #include <algorithm>
 #include <limits>

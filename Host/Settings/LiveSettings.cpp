@@ -1,8 +1,8 @@
-#include "LiveSettings.h"
+#include "Host/Settings/LiveSettings.h"
 
-#include "Command.h"
-#include "Guarded.h"
-#include "ReadThrough.h"
+#include "Host/Command.h"
+#include "Host/Guarded.h"
+#include "Host/Settings/ReadThrough.h"
 
 #include <stdexcept>
 

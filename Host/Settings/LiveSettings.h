@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Session.h"
-#include "Settings.h"
+#include "Host/Session.h"
+#include "Host/Settings/Settings.h"
 
 namespace Host {
 

@@ -1,4 +1,4 @@
-#include "ReplaceFile.h"
+#include "Host/Settings/ReplaceFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
-#include "Restorer.h"
+#include "Host/Settings/Restorer.h"
 
-#include "Guarded.h"
-#include "Unlock.h"
+#include "Host/Guarded.h"
+#include "Host/Settings/Unlock.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Settings.h"
-#include "Settled.h"
+#include "Host/Settings/Settings.h"
+#include "Host/Settings/Settled.h"
 
 #include <functional>
 #include <optional>

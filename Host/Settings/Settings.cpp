@@ -1,7 +1,7 @@
-#include "Settings.h"
+#include "Host/Settings/Settings.h"
 
-#include "Functions/Names.h"
-#include "Functions/Tables.h"
+#include "Host/Functions/Names.h"
+#include "Host/Functions/Tables.h"
 
 #include <algorithm>
 #include <ctime>

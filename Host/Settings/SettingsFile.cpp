@@ -1,10 +1,10 @@
-#include "SettingsFile.h"
+#include "Host/Settings/SettingsFile.h"
 
-#include "Describe.h"
-#include "Errors.h"
-#include "Functions/Tables.h"
-#include "Nearest.h"
-#include "ReplaceFile.h"
+#include "Host/Describe.h"
+#include "Host/Errors.h"
+#include "Host/Functions/Tables.h"
+#include "Host/Nearest.h"
+#include "Host/Settings/ReplaceFile.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Settings.h"
+#include "Host/Settings/Settings.h"
 
 #include <string>
 

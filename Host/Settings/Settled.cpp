@@ -1,4 +1,4 @@
-#include "Settled.h"
+#include "Host/Settings/Settled.h"
 
 namespace Host {
 

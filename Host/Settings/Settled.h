@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Session.h"
+#include "Host/Session.h"
 
 #include <chrono>
 #include <functional>

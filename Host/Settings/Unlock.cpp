@@ -1,6 +1,6 @@
-#include "Unlock.h"
+#include "Host/Settings/Unlock.h"
 
-#include "Channel/ChannelErrors.h"
+#include "Host/Channel/ChannelErrors.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "GigEVision/ChannelRegisters.h"
+#include "Simulation/GigEVision/ChannelRegisters.h"
 
 #include <algorithm>
 #include <string_view>

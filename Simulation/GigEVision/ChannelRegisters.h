@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RegisterSpace.h"
+#include "Simulation/RegisterSpace.h"
 
 #include <chrono>
 #include <cstdint>

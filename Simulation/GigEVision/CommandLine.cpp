@@ -1,7 +1,7 @@
-#include "GigEVision/CommandLine.h"
+#include "Simulation/GigEVision/CommandLine.h"
 
-#include "Cameras.h"
-#include "Seed.h"
+#include "Simulation/Cameras.h"
+#include "Simulation/Seed.h"
 
 #include <CLI/CLI.hpp>
 #include <arpa/inet.h>

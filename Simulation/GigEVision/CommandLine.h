@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GigEVision/Disturbances.h"
+#include "Simulation/GigEVision/Disturbances.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
-#include "GigEVision/ControlChannel.h"
+#include "Simulation/GigEVision/ControlChannel.h"
 
-#include "Addresses.h"
+#include "Simulation/Addresses.h"
 
 namespace Simulation::GigEVision {
 

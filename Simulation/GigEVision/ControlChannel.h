@@ -1,7 +1,7 @@
 #pragma once
 
-#include "GigEVision/ChannelRegisters.h"
-#include "GigEVision/Gvcp.h"
+#include "Simulation/GigEVision/ChannelRegisters.h"
+#include "Simulation/GigEVision/Gvcp.h"
 
 #include <chrono>
 #include <cstdint>

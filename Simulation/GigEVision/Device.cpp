@@ -1,6 +1,6 @@
-#include "GigEVision/Device.h"
+#include "Simulation/GigEVision/Device.h"
 
-#include "Addresses.h"
+#include "Simulation/Addresses.h"
 
 namespace Simulation::GigEVision {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "GigEVision/ChannelRegisters.h"
-#include "GigEVision/ControlChannel.h"
-#include "GigEVision/DeviceMemory.h"
-#include "GigEVision/Gvcp.h"
-#include "GigEVision/LastAnswers.h"
-#include "SimulatedCamera.h"
+#include "Simulation/GigEVision/ChannelRegisters.h"
+#include "Simulation/GigEVision/ControlChannel.h"
+#include "Simulation/GigEVision/DeviceMemory.h"
+#include "Simulation/GigEVision/Gvcp.h"
+#include "Simulation/GigEVision/LastAnswers.h"
+#include "Simulation/SimulatedCamera.h"
 
 #include <chrono>
 #include <cstdint>

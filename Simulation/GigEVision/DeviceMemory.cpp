@@ -1,6 +1,6 @@
-#include "GigEVision/DeviceMemory.h"
+#include "Simulation/GigEVision/DeviceMemory.h"
 
-#include "Addresses.h"
+#include "Simulation/Addresses.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "GigEVision/ChannelRegisters.h"
-#include "GigEVision/Gvcp.h"
-#include "SimulatedCamera.h"
+#include "Simulation/GigEVision/ChannelRegisters.h"
+#include "Simulation/GigEVision/Gvcp.h"
+#include "Simulation/SimulatedCamera.h"
 
 #include <cstdint>
 #include <span>

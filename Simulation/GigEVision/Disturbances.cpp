@@ -1,4 +1,4 @@
-#include "GigEVision/Disturbances.h"
+#include "Simulation/GigEVision/Disturbances.h"
 
 #include <algorithm>
 

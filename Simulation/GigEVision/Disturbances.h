@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GigEVision/Device.h"
+#include "Simulation/GigEVision/Device.h"
 
 #include <chrono>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "GigEVision/Gvcp.h"
+#include "Simulation/GigEVision/Gvcp.h"
 
 namespace Simulation::GigEVision {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Register.h"
+#include "Simulation/Register.h"
 
 #include <cstddef>
 #include <cstdint>

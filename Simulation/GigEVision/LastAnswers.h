@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GigEVision/ControlChannel.h"
+#include "Simulation/GigEVision/ControlChannel.h"
 
 #include <algorithm>
 #include <cstddef>

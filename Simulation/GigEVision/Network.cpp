@@ -1,4 +1,4 @@
-#include "GigEVision/Network.h"
+#include "Simulation/GigEVision/Network.h"
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>

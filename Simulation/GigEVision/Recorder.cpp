@@ -1,6 +1,6 @@
-#include "GigEVision/Recorder.h"
+#include "Simulation/GigEVision/Recorder.h"
 
-#include "GigEVision/Gvcp.h"
+#include "Simulation/GigEVision/Gvcp.h"
 
 #include <sys/time.h>
 

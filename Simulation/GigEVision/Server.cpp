@@ -1,4 +1,4 @@
-#include "GigEVision/Server.h"
+#include "Simulation/GigEVision/Server.h"
 
 #include <csignal>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "GigEVision/Disturbances.h"
-#include "GigEVision/Recorder.h"
+#include "Simulation/GigEVision/Disturbances.h"
+#include "Simulation/GigEVision/Recorder.h"
 
 #include <asio.hpp>
 

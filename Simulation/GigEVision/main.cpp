@@ -1,10 +1,10 @@
-#include "CameraState.h"
-#include "Cameras.h"
-#include "GigEVision/CommandLine.h"
-#include "GigEVision/Network.h"
-#include "GigEVision/Server.h"
-#include "Identity.h"
-#include "Suggestion.h"
+#include "Simulation/CameraState.h"
+#include "Simulation/Cameras.h"
+#include "Simulation/GigEVision/CommandLine.h"
+#include "Simulation/GigEVision/Network.h"
+#include "Simulation/GigEVision/Server.h"
+#include "Simulation/Identity.h"
+#include "Simulation/Suggestion.h"
 
 #include <csignal>
 #include <cstdio>

@@ -1,8 +1,8 @@
 // With logging off, what a host calls most asks for no memory: getters that answer from the cache, and setters.
 
-#include "Allocations.h"
-#include "FlatPort.h"
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
+#include "Tests/Support/Allocations.h"
+#include "Tests/Support/FlatPort.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,9 +1,9 @@
 // A host that does what no host should: numbers far outside, texts of any length, null, calls in any order and from
 // within each other. Each is refused with the right code before the camera is touched, or is harmless.
 
-#include "Observed.h"
-#include "Rows.h"
-#include "WildCalls.h"
+#include "Tests/Boundary/Rows.h"
+#include "Tests/Boundary/WildCalls.h"
+#include "Tests/Support/Observed.h"
 
 #include <climits>
 #include <random>

@@ -1,6 +1,6 @@
 // What takes more than one call to see: admitted values, conditions, automatic modes, failures between calls.
 
-#include "CameraTest.h"
+#include "Tests/Boundary/CameraTest.h"
 
 #include <chrono>
 

@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
 
 #include <map>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "LogCapture.h"
-#include "Operations.h"
-#include "Plugin.h"
+#include "Tests/Operations/Operations.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Plugin.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The two exports, the life of a control, and its log lines.
 
-#include "CameraTest.h"
+#include "Tests/Boundary/CameraTest.h"
 
 #include <dlfcn.h>
 

@@ -2,9 +2,9 @@
 
 // Failures of the port, one access at a time.
 
-#include "Allocations.h"
-#include "Observed.h"
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
+#include "Tests/Support/Allocations.h"
+#include "Tests/Support/Observed.h"
 
 #include <optional>
 #include <stdexcept>

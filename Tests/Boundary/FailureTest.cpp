@@ -1,7 +1,7 @@
 // Every port access of every operation fails in turn: what reaches the host, what the library says and keeps of it, and
 // whether the object works on.
 
-#include "Failing.h"
+#include "Tests/Boundary/Failing.h"
 
 #include <algorithm>
 #include <span>

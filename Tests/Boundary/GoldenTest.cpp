@@ -1,6 +1,6 @@
 // Holds the built library to golden/boundary.txt: what a host that was compiled earlier relies on.
 
-#include "CameraTest.h"
+#include "Tests/Boundary/CameraTest.h"
 
 #include <cxxabi.h>
 #include <dlfcn.h>

@@ -1,6 +1,6 @@
 // What an M2VX camera remembers and refuses, how failures leave it, and what it logs.
 
-#include "M2VXTest.h"
+#include "Tests/Boundary/M2VXTest.h"
 
 using namespace SDK4::Control;
 

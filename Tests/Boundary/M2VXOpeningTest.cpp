@@ -1,6 +1,6 @@
 // How an M2VX camera is opened: what that costs, what is remembered from it, and what can go wrong.
 
-#include "M2VXTest.h"
+#include "Tests/Boundary/M2VXTest.h"
 
 using namespace SDK4::Control;
 

@@ -1,7 +1,7 @@
 // The properties of an M2VX camera as a host sees them: their list and limits, who is told what, and what a mode
 // switches on and off.
 
-#include "M2VXTest.h"
+#include "Tests/Boundary/M2VXTest.h"
 
 #include <iterator>
 #include <set>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CameraTest.h"
-#include "Observed.h"
+#include "Tests/Boundary/CameraTest.h"
+#include "Tests/Support/Observed.h"
 
 namespace Test {
 

@@ -1,6 +1,6 @@
 // Every port access of opening a camera fails in turn.
 
-#include "Failing.h"
+#include "Tests/Boundary/Failing.h"
 
 #include <set>
 

@@ -1,6 +1,6 @@
 // Every row of the table of operations, and what holds for all of them.
 
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
 
 #include <set>
 

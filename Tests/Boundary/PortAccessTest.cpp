@@ -1,7 +1,7 @@
 // docs/port-accesses.md: what every row of the table of operations costs, measured. The document is written by this
 // test when QDV12_RENEW is set, and compared otherwise.
 
-#include "Rows.h"
+#include "Tests/Boundary/Rows.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 
 // What tests that go through the whole table of operations share.
 
-#include "CameraTest.h"
+#include "Tests/Boundary/CameraTest.h"
 
 #include <algorithm>
 #include <cctype>

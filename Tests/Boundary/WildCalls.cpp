@@ -1,4 +1,4 @@
-#include "WildCalls.h"
+#include "Tests/Boundary/WildCalls.h"
 
 using namespace SDK4::Control;
 

@@ -2,7 +2,7 @@
 
 // Every operation that takes numbers, to be called with any.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 #include <algorithm>
 #include <cstdint>

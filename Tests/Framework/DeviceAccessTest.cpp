@@ -6,9 +6,9 @@
 #include "RT6Camera.h"
 #include "SDK4Private.h"
 
-#include "LogCapture.h"
-#include "Observed.h"
-#include "RecordingPort.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Observed.h"
+#include "Tests/Support/RecordingPort.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Feature.h"
-#include "LogCapture.h"
-#include "Observed.h"
-#include "RecordingPort.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Observed.h"
+#include "Tests/Support/RecordingPort.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "Log.h"
 
-#include "LogCapture.h"
-#include "Observed.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Observed.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "BaseControlHelper.h"
 
-#include "LogCapture.h"
-#include "Observed.h"
+#include "Tests/Support/LogCapture.h"
+#include "Tests/Support/Observed.h"
 
 #include <gtest/gtest.h>
 
@@ -140,9 +140,9 @@ TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
     (void)control.State().GetIntValue(1, "position.x");
     EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call"}));
     (void)control.State().IsIndexed(nullptr);
-    EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call", "debug gain", "debug position.x",
-                                          "debug position.x", "debug both", "debug " + longName, "debug disabled",
-                                          "debug missing"}));
+    EXPECT_EQ(capture.TakeTexts(),
+              (Texts{"debug Call", "debug Call", "debug gain", "debug position.x", "debug position.x", "debug both",
+                     "debug " + longName, "debug disabled", "debug missing"}));
 }
 
 TEST(PropertyState, NamesByPositionShareOneBuffer) {

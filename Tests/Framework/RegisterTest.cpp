@@ -1,4 +1,4 @@
-#include "FrameworkTest.h"
+#include "Tests/Framework/FrameworkTest.h"
 
 using namespace SDK4;
 

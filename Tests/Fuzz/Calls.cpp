@@ -1,7 +1,7 @@
 // Everything that a host can call, on either family. A new interface goes to the end of the last list: then the inputs
 // that there are keep their meaning.
 
-#include "Session.h"
+#include "Tests/Fuzz/Session.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // Plays one input: opens a camera, calls it, releases it, while the camera answers as the input says. For libFuzzer and
 // for Replay.cpp.
 
-#include "Session.h"
+#include "Tests/Fuzz/Session.h"
 
 #include <log4cxx/appenderskeleton.h>
 #include <log4cxx/logger.h>

@@ -1,4 +1,4 @@
-#include "HostilePort.h"
+#include "Tests/Fuzz/HostilePort.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Failures.h"
-#include "Input.h"
+#include "Tests/Fuzz/Failures.h"
+#include "Tests/Fuzz/Input.h"
 
 #include <SDK4/IControlPort.h>
 

@@ -1,12 +1,12 @@
 // Plays one input: a simulated camera on the network gets the datagrams that the input says, from several programs.
 
-#include "PacketFuzzer.h"
+#include "Tests/Fuzz/PacketFuzzer.h"
 
-#include "Failures.h"
-#include "Input.h"
+#include "Tests/Fuzz/Failures.h"
+#include "Tests/Fuzz/Input.h"
 
-#include <Cameras.h>
-#include <GigEVision/Device.h>
+#include "Simulation/Cameras.h"
+#include "Simulation/GigEVision/Device.h"
 
 #include <array>
 #include <chrono>

@@ -1,6 +1,6 @@
 // packet-storm COUNT SEED: sends a camera as many datagrams, the same ones for the same seed.
 
-#include "PacketFuzzer.h"
+#include "Tests/Fuzz/PacketFuzzer.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "Session.h"
+#include "Tests/Fuzz/Session.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Failures.h"
-#include "HostilePort.h"
-#include "Input.h"
+#include "Tests/Fuzz/Failures.h"
+#include "Tests/Fuzz/HostilePort.h"
+#include "Tests/Fuzz/Input.h"
 
 #include <SDK4/SDK4.h>
 

@@ -1,4 +1,4 @@
-#include "DeviceFixture.h"
+#include "Tests/Network/DeviceFixture.h"
 
 namespace Network {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <Cameras.h>
-#include <GigEVision/Device.h>
+#include "Simulation/Cameras.h"
+#include "Simulation/GigEVision/Device.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "DeviceFixture.h"
+#include "Tests/Network/DeviceFixture.h"
 
-#include <GigEVision/Disturbances.h>
+#include "Simulation/GigEVision/Disturbances.h"
 
 #include <algorithm>
 

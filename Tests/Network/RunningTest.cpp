@@ -1,7 +1,7 @@
 // What the tests run programs with fails where a program hangs, instead of hanging with it.
 
-#include "Files.h"
-#include "Running.h"
+#include "Tests/Support/Running.h"
+#include "Tests/Support/Files.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>

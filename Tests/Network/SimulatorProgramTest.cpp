@@ -1,6 +1,6 @@
-#include "DeviceFixture.h"
-#include "Files.h"
-#include "Running.h"
+#include "Tests/Network/DeviceFixture.h"
+#include "Tests/Support/Files.h"
+#include "Tests/Support/Running.h"
 
 #include <arpa/inet.h>
 #include <fcntl.h>

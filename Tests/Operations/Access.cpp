@@ -1,6 +1,6 @@
 // The control itself, the stream and its video frames, raw access, and who the camera is.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4;
 using namespace SDK4::Control;

@@ -1,6 +1,6 @@
 // Image memory, I/O lines, settings sets, test pictures and temperatures.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4::Control;
 

@@ -1,6 +1,6 @@
 // Exposure, gain, timing, trigger, and the geometry and coding of the image.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4::Control;
 

@@ -1,7 +1,7 @@
 // The M2VX family: the control itself, who and where the camera is, its settings sets, its motor and lens units, and
 // the properties behind it all.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4;
 using namespace SDK4::Control;

@@ -1,6 +1,6 @@
 // The M2VX family: exposure, gain, corrections of the image, what is drawn into it, and its memory.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4::Control;
 

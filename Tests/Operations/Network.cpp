@@ -1,6 +1,6 @@
 // How the camera sits on the network: the bootstrap registers of the GigE Vision standard.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4::Control;
 

@@ -1,4 +1,4 @@
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 #include <algorithm>
 #include <cstring>

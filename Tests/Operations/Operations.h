@@ -6,8 +6,8 @@
 // Every row holds for two ways to open the camera, by family: remembering what it can (Orvik index 0, M2VX index 3),
 // and reading the camera every time (Orvik index 2, M2VX index 0).
 
-#include "FlatPort.h"
-#include "RecordingPort.h"
+#include "Tests/Support/FlatPort.h"
+#include "Tests/Support/RecordingPort.h"
 
 #include <SDK4/SDK4.h>
 

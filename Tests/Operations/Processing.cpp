@@ -1,6 +1,6 @@
 // What the camera does with the picture: enhancement, colour, look-up table, overlay, measurement.
 
-#include "Operations.h"
+#include "Tests/Operations/Operations.h"
 
 using namespace SDK4::Control;
 

@@ -1,4 +1,4 @@
-#include "ScenarioFixture.h"
+#include "Tests/Scenario/ScenarioFixture.h"
 
 #include <ostream>
 

@@ -1,4 +1,4 @@
-#include "NetworkCamera.h"
+#include "Tests/Scenario/NetworkCamera.h"
 
 #include <regex>
 

@@ -1,7 +1,7 @@
-#include "NetworkCamera.h"
+#include "Tests/Scenario/NetworkCamera.h"
 
-#include <Channel/ChannelErrors.h>
-#include <Channel/GigEPort.h>
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/GigEPort.h"
 
 #include <arpa/inet.h>
 #include <sys/socket.h>

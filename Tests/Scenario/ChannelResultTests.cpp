@@ -1,5 +1,5 @@
-#include "NetworkCamera.h"
-#include "OperationsOn.h"
+#include "Tests/Scenario/NetworkCamera.h"
+#include "Tests/Scenario/OperationsOn.h"
 
 #include <future>
 #include <regex>

@@ -1,4 +1,4 @@
-#include "OperationsOn.h"
+#include "Tests/Scenario/OperationsOn.h"
 
 namespace Scenario {
 

@@ -1,9 +1,9 @@
-#include "HostProcess.h"
+#include "Tests/Scenario/HostProcess.h"
 
-#include <Channel/Discovery.h>
-#include <Channel/GigEConnection.h>
-#include <Errors.h>
-#include <Positionals.h>
+#include "Host/Channel/Discovery.h"
+#include "Host/Channel/GigEConnection.h"
+#include "Host/Errors.h"
+#include "Host/Positionals.h"
 
 #include <initializer_list>
 

@@ -1,9 +1,9 @@
-#include "HostProcess.h"
+#include "Tests/Scenario/HostProcess.h"
 
-#include <Channel/ChannelErrors.h>
-#include <Commands/Commands.h>
-#include <Json.h>
-#include <Logging.h>
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Commands/Commands.h"
+#include "Host/Json.h"
+#include "Host/Logging.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Files.h"
-#include "Running.h"
+#include "Tests/Support/Files.h"
+#include "Tests/Support/Running.h"
 
 #include <atomic>
 #include <chrono>

@@ -1,8 +1,8 @@
-#include "InProcess.h"
-#include "SettingsFixture.h"
+#include "Tests/Scenario/InProcess.h"
+#include "Tests/Scenario/SettingsFixture.h"
 
-#include <Channel/ChannelErrors.h>
-#include <Json.h>
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Json.h"
 
 #include <csignal>
 #include <regex>
@@ -184,7 +184,8 @@ TEST_F(HostRestore, SaysWhyAValueCannotBeReadBack) {
             }
         });
         EXPECT_EQ(run.code, 1);
-        EXPECT_TRUE(Has(run.out, "\nsharpness                 refused     the answer is lost; asked for 5\n")) << run.out;
+        EXPECT_TRUE(Has(run.out, "\nsharpness                 refused     the answer is lost; asked for 5\n"))
+            << run.out;
         EXPECT_EQ(Get("sharpness"), "sharpness=5\n");
     }
 }

@@ -1,16 +1,16 @@
-#include "InProcess.h"
-#include "SettingsFixture.h"
+#include "Tests/Scenario/InProcess.h"
+#include "Tests/Scenario/SettingsFixture.h"
 
 #include <pty.h>
 
 #include <array>
 #include <regex>
 
-#include <Logging.h>
-#include <Selftest/Selftest.h>
-#include <Settings/ReadThrough.h>
+#include "Host/Logging.h"
+#include "Host/Selftest/Selftest.h"
+#include "Host/Settings/ReadThrough.h"
 
-#include <SimulatedCamera.h>
+#include "Simulation/SimulatedCamera.h"
 
 namespace Scenario {
 

@@ -1,9 +1,9 @@
-#include "InProcess.h"
-#include "SettingsFixture.h"
+#include "Tests/Scenario/InProcess.h"
+#include "Tests/Scenario/SettingsFixture.h"
 
-#include <Channel/ChannelErrors.h>
+#include "Host/Channel/ChannelErrors.h"
 
-#include <PortError.h>
+#include "Simulation/PortError.h"
 
 #include <sys/stat.h>
 

@@ -1,4 +1,4 @@
-#include "SettingsFixture.h"
+#include "Tests/Scenario/SettingsFixture.h"
 
 #include <algorithm>
 #include <regex>

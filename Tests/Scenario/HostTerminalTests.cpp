@@ -1,5 +1,5 @@
-#include "HostProcess.h"
-#include "Terminal.h"
+#include "Tests/Scenario/HostProcess.h"
+#include "Tests/Scenario/Terminal.h"
 
 namespace Scenario {
 

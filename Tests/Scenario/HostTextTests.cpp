@@ -1,8 +1,8 @@
-#include "HostProcess.h"
+#include "Tests/Scenario/HostProcess.h"
 
-#include <Describe.h>
-#include <Format.h>
-#include <Text.h>
+#include "Host/Describe.h"
+#include "Host/Format.h"
+#include "Host/Text.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "HostProcess.h"
+#include "Tests/Scenario/HostProcess.h"
 
-#include <Commands/Commands.h>
-#include <Guarded.h>
-#include <Logging.h>
+#include "Host/Commands/Commands.h"
+#include "Host/Guarded.h"
+#include "Host/Logging.h"
 
 #include <functional>
 #include <iostream>

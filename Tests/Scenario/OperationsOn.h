@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ScenarioFixture.h"
+#include "Tests/Scenario/ScenarioFixture.h"
 
-#include <Operations.h>
+#include "Tests/Operations/Operations.h"
 
 #include <exception>
 #include <string>

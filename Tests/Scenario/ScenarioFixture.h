@@ -1,8 +1,8 @@
 #pragma once
 
-#include <Logging.h>
-#include <Session.h>
-#include <SimulatedCamera.h>
+#include "Host/Logging.h"
+#include "Host/Session.h"
+#include "Simulation/SimulatedCamera.h"
 
 #include <SDK4/SDK4.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HostProcess.h"
+#include "Tests/Scenario/HostProcess.h"
 
 namespace Scenario {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Cameras.h>
+#include "Simulation/Cameras.h"
 
 #include <gtest/gtest.h>
 

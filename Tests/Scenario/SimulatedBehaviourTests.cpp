@@ -1,6 +1,6 @@
 // What simulated cameras do by themselves. They are driven through the port and looked at past it.
 
-#include "Simulated.h"
+#include "Tests/Scenario/Simulated.h"
 
 namespace Scenario {
 

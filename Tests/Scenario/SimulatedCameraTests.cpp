@@ -1,4 +1,4 @@
-#include <Cameras.h>
+#include "Simulation/Cameras.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What simulated cameras do by themselves when they start, where their motors, lenses and defect pixels are concerned.
 
-#include "Simulated.h"
+#include "Tests/Scenario/Simulated.h"
 
 namespace Scenario {
 

@@ -1,6 +1,6 @@
 // The faults that can be planted in a simulated camera.
 
-#include <Cameras.h>
+#include "Simulation/Cameras.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // A simulated camera's memory in a file.
 
-#include "Files.h"
+#include "Tests/Support/Files.h"
 
-#include <CameraState.h>
-#include <Cameras.h>
+#include "Simulation/CameraState.h"
+#include "Simulation/Cameras.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Allocations.h"
+#include "Tests/Support/Allocations.h"
 
 #include <atomic>
 #include <cerrno>

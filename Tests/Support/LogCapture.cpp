@@ -1,4 +1,4 @@
-#include "LogCapture.h"
+#include "Tests/Support/LogCapture.h"
 
 #include <log4cxx/appenderskeleton.h>
 #include <log4cxx/logger.h>

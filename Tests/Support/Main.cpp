@@ -1,4 +1,4 @@
-#include "LogCapture.h"
+#include "Tests/Support/LogCapture.h"
 
 #include <gtest/gtest.h>
 

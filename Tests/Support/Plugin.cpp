@@ -1,4 +1,4 @@
-#include "Plugin.h"
+#include "Tests/Support/Plugin.h"
 
 #include <dlfcn.h>
 

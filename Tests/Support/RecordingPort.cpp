@@ -1,4 +1,4 @@
-#include "RecordingPort.h"
+#include "Tests/Support/RecordingPort.h"
 
 #include <algorithm>
 #include <cstdio>
