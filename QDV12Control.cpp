@@ -1,4 +1,4 @@
-#include "LeftOnPurpose.h"
+#include "IntentionalLeak.h"
 #include "Log.h"
 #include "M2VXCameraBaseCtrl.h"
 #include "OrvikControlImpl/OrvikFeatureCtrl.h"
@@ -21,7 +21,7 @@ namespace {
 using Factory = IDynamicObject* (*)(const char* model, IControlPort* port, std::int32_t index);
 
 IDynamicObject* CreateOrvik(const char* model, IControlPort* port, std::int32_t index) {
-    [[maybe_unused]] const LeftOnPurpose listEntries; // see ReleaseStorage.h; and the media type, which a host may keep
+    [[maybe_unused]] const IntentionalLeak listEntries; // see ReleaseStorage.h; and the media type, which a host may keep
     auto features = std::make_unique<CFeatureList>();
     auto registers = std::make_unique<CRegisterList>();
     if (port == nullptr)

@@ -1,10 +1,10 @@
 #include "Host/Camera.h"
 
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
-#include "Host/Guarded.h"
-#include "Host/Nearest.h"
+#include "Simulation/Suggestion.h"
 
 #include <SDK4/IControl.h>
 
@@ -36,11 +36,11 @@ FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const ch
     if (properties.IsUnsigned(name)) {
         limits.min = properties.GetUIntMin(name);
         limits.max = properties.GetUIntMax(name);
-        limits.standard = properties.GetUIntDefault(name);
+        limits.defaultValue = properties.GetUIntDefault(name);
     } else {
         limits.min = properties.GetIntMin(name);
         limits.max = properties.GetIntMax(name);
-        limits.standard = properties.GetIntDefault(name);
+        limits.defaultValue = properties.GetIntDefault(name);
     }
     if (properties.IsEnumerated(name)) { // the codes of such a family have no gaps
         for (std::int64_t code = limits.min; code <= limits.max; ++code) {
@@ -86,7 +86,7 @@ std::vector<Instance> Camera::Find(std::string_view name) const {
         for (const Function& function : *functions) {
             known.emplace_back(function.name);
         }
-        throw UsageError("unknown function \"" + std::string(name) + '"' + Suggestion(row, known));
+        throw UsageError("unknown function \"" + std::string(name) + '"' + Simulation::Suggestion(row, known));
     }
     if (row.size() == name.size()) {
         return InstancesOf(*found);
@@ -189,7 +189,7 @@ Limits Camera::PublishedLimits(const Instance& instance) const {
         }
         limits.push_back(LimitsOfProperty(*properties, name.c_str()));
         if (instance.index != 0) { // the defaults of the others are not published
-            limits.back().standard.reset();
+            limits.back().defaultValue.reset();
         }
     }
     return limits;

@@ -19,7 +19,7 @@ std::string Invocation::Text(const std::string& parameter) const {
 
 Session& Invocation::Open() const { return program.Open(Text(modelParameter)); }
 
-void Complain(const std::string& text) {
+void PrintError(const std::string& text) {
     std::cout.flush(); // keeps the order of results and errors where both go to the same place
     std::cerr << "qdv12host: " << InOneLine(text) << '\n';
 }

@@ -39,7 +39,7 @@ public:
     /// The camera that the command is about: that of the shell, or MODEL, opened now.
     [[nodiscard]] Session& Open() const;
     /// Its functions.
-    [[nodiscard]] Camera OpenCamera() const { return Open().Functions(); }
+    [[nodiscard]] Camera OpenCamera() const { return Open().Camera(); }
 
 private:
     Host::Program& program;
@@ -61,6 +61,6 @@ struct Command {
 [[nodiscard]] const std::vector<Command>& Commands();
 
 /// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
-void Complain(const std::string& text);
+void PrintError(const std::string& text);
 
 } // namespace Host

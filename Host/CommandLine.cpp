@@ -1,9 +1,9 @@
 #include "Host/CommandLine.h"
 
 #include "Host/Channel/Datagrams.h"
-#include "Host/Nearest.h"
 #include "Host/Positionals.h"
 #include "Host/Trace.h"
+#include "Simulation/Suggestion.h"
 
 #include "Simulation/Seed.h"
 
@@ -129,7 +129,7 @@ std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name)
     for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
         names.push_back(command->get_name());
     }
-    return "unknown command \"" + name + '"' + Suggestion(name, names);
+    return "unknown command \"" + name + '"' + Simulation::Suggestion(name, names);
 }
 
 /// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
@@ -145,7 +145,7 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error) {
         auto names = OptionNames(app);
         const auto more = parsed.empty() ? std::vector<std::string>() : OptionNames(*parsed.front());
         names.insert(names.end(), more.begin(), more.end());
-        return "unknown option" + quoted + Suggestion(unknown.front(), names);
+        return "unknown option" + quoted + Simulation::Suggestion(unknown.front(), names);
     }
     return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : quoted.substr(1) + " was not expected";
 }

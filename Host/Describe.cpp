@@ -1,6 +1,6 @@
 #include "Host/Describe.h"
 
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Utf8.h"
 
 #include <algorithm>

@@ -6,7 +6,7 @@ namespace Host {
 
 /// How the program ends.
 enum ExitCode {
-    AllWell = 0,
+    Success = 0,
     Refused = 1,     ///< the camera or the library refused
     Differs = 1,     ///< of a comparison, ...
     NotCompared = 2, ///< ... of which everything that fails is told apart from that

@@ -25,7 +25,7 @@ Function& Function::Fields(std::span<const Field> fields) {
 }
 
 Function& Function::Range(std::int64_t min, std::int64_t max) {
-    limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .standard = {}});
+    limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .defaultValue = {}});
     return *this;
 }
 

@@ -20,7 +20,7 @@ struct FieldLimits {
     std::int64_t min = 0;
     std::int64_t max = 0;
     std::vector<std::int64_t> admitted;
-    std::optional<std::int64_t> standard; ///< the default, where the family publishes one
+    std::optional<std::int64_t> defaultValue; ///< the default, where the family publishes one
 
     [[nodiscard]] bool Admits(std::int64_t number) const;
 };

@@ -38,7 +38,7 @@ void Unlock(const Camera& camera, const Instance& instance) {
 
 /// The register that a call reaches last, behind those that decide whether it may be made.
 std::string RegisterOf(Session& session, const Function& function) {
-    const Camera camera = session.Functions();
+    const Camera camera = session.Camera();
     const Instance instance{&function};
     Unlock(camera, instance);
     (void)session.Port().Take();
@@ -54,7 +54,7 @@ std::string RegisterOf(Session& session, const Function& function) {
 /// Enters the model of the camera, if it has the function.
 /// @return whether it has
 bool Enter(Session& session, Line& line) {
-    const Camera camera = session.Functions();
+    const Camera camera = session.Camera();
     const Instance instance{line.function};
     const Reading reading = camera.Look(instance);
     if (reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE) {
@@ -69,7 +69,7 @@ bool Enter(Session& session, Line& line) {
 /// Cameras of their own for each function: one call must not decide what the next one meets.
 void AddModel(const Plugin& plugin, const std::string& model, std::map<std::string, Family>& families) {
     Session first(plugin, model, {.index = 2});
-    const Camera camera = first.Functions();
+    const Camera camera = first.Camera();
     Family& family = families[camera.Family()];
     family.models.push_back(model);
     if (family.lines.empty()) {
@@ -172,5 +172,5 @@ int main() {
     for (const char* const family : {"Orvik", "M2VX"}) {
         Print(family, families.at(family));
     }
-    return AllWell;
+    return Success;
 }

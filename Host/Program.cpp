@@ -20,7 +20,7 @@ Session& Program::Open(const std::string& model) {
 
 void Program::TellWhoControls() {
     if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {
-        Complain(denial + "; what needs control could not be read");
+        PrintError(denial + "; what needs control could not be read");
     }
 }
 

@@ -2,8 +2,8 @@
 
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/GigEConnection.h"
-#include "Host/Nearest.h"
 #include "Host/Text.h"
+#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 
@@ -29,7 +29,7 @@ bool Serves(const Plugin& plugin, const std::string& model) {
 
 void RequireServed(const Plugin& plugin, const std::string& model) {
     if (!Serves(plugin, model)) {
-        throw OpenError("unknown model \"" + model + '"' + Suggestion(model, NamesOf(plugin.Models())));
+        throw OpenError("unknown model \"" + model + '"' + Simulation::Suggestion(model, NamesOf(plugin.Models())));
     }
 }
 

@@ -41,7 +41,7 @@ public:
 
     /// The functions of the control.
     /// @throw OpenError for a control of a family whose functions are not known
-    [[nodiscard]] Host::Camera Functions() const { return {*control, model}; }
+    [[nodiscard]] Host::Camera Camera() const { return {*control, model}; }
 
     /// Opens the same camera once more, on the same port.
     /// @throw OpenError; ChannelLost

@@ -1,5 +1,5 @@
 #include "Host/CommandLine.h"
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Logging.h"
 
 #include <clocale>
@@ -23,26 +23,26 @@ int AsSeen(int code, int failed) {
     if (std::cout.flush()) {
         return code;
     }
-    Complain("the results could not be written");
-    return code == AllWell || code == Differs ? failed : code;
+    PrintError("the results could not be written");
+    return code == Success || code == Differs ? failed : code;
 }
 
 int Run(std::vector<std::string> arguments) {
     const Request request = ParseCommandLine(std::move(arguments));
     if (request.command == nullptr) {
-        return AsSeen(AllWell, Refused);
+        return AsSeen(Success, Refused);
     }
     ConfigureLogging(request.options.logLevel, request.options.logConfig);
     const int failed = request.command->failed;
     Program program(request.options);
-    const int code = Guarded([&] { return request.command->run(Invocation(program, request.given)); }, failed);
+    const int code = RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, failed);
     program.TellWhoControls();
     const auto finish = [&]() -> int {
         program.Finish();
-        return AllWell;
+        return Success;
     };
-    const int end = Guarded(finish, failed);
-    return AsSeen(end == AllWell ? code : end, failed);
+    const int end = RunAndReport(finish, failed);
+    return AsSeen(end == Success ? code : end, failed);
 }
 
 } // namespace
@@ -51,5 +51,5 @@ int Run(std::vector<std::string> arguments) {
 
 int main(int argc, char** argv) {
     Host::TakeUpLocale();
-    return Host::Guarded([&] { return Host::Run({argv + 1, argv + argc}); });
+    return Host::RunAndReport([&] { return Host::Run({argv + 1, argv + argc}); });
 }

@@ -47,8 +47,8 @@ std::string LocalUrl(const std::string& file, std::size_t length) {
 std::vector<Register> BootstrapRegisters(const Identity& identity) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
-    const auto kept = Role::Kept;
-    const auto passing = Role::Volatile;
+    const auto flash = Role::NonVolatile;
+    const auto dynamic = Role::Volatile;
     const auto channel = Role::Channel;
     std::string file = identity.model; // an address has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
@@ -60,7 +60,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"machigh",                    0x0008, fixed,   Word(0x00000200)},          // locally administered
         {"maclow",                     0x000C, fixed,   Word(0x12000000 | identity.number)},
         {"supportedipconfig",          0x0010, fixed,   Word(7)},                   // persistent, DHCP, link-local
-        {"currentipconfig",            0x0014, kept,    Word(6)},                   // DHCP, link-local
+        {"currentipconfig",            0x0014, flash,   Word(6)},                   // DHCP, link-local
         {"currentipaddress",           0x0024, shown,   Word(Address(192, 168, 1, 10))},
         {"currentsubnetmask",          0x0034, shown,   Word(Address(255, 255, 255, 0))},
         {"currentdefaultgateway",      0x0044, shown,   Word(Address(192, 168, 1, 1))},
@@ -69,13 +69,13 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"deviceversion",              0x0088, fixed,   Text(32, "1.0")},
         {"manufacturerinfo",           0x00A8, fixed,   Text(48, "A camera that lives in memory")},
         {"bootstrapserialnumber",      0x00D8, fixed,   Text(16, identity.serial)},
-        {"userdefinedname",            0x00E8, kept,    Text(16, "")},
+        {"userdefinedname",            0x00E8, flash,   Text(16, "")},
         {"firsturl",                   0x0200, fixed,   Text(512, LocalUrl(file, identity.description.size()))},
         {"secondurl",                  0x0400, fixed,   Text(512, "http://192.168.1.10/" + file + ".xml")},
         {"interfaces",                 0x0600, fixed,   Word(1)},
-        {"persistentipaddress",        0x064C, kept,    Word(0)},
-        {"persistentsubnetmask",       0x065C, kept,    Word(0)},
-        {"persistentdefaultgateway",   0x066C, kept,    Word(0)},
+        {"persistentipaddress",        0x064C, flash,   Word(0)},
+        {"persistentsubnetmask",       0x065C, flash,   Word(0)},
+        {"persistentdefaultgateway",   0x066C, flash,   Word(0)},
         {"messagechannels",            0x0900, fixed,   Word(0)},
         {"streamchannels",             0x0904, fixed,   Word(1)},
         {"gvcpcapability",             0x0934, fixed,   Word(0xC0000003)},          // names, memory writes, several at once
@@ -85,13 +85,13 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"clockcontrol",               0x0944, channel, Word(0)},
         {"clockhigh",                  0x0948, channel, Word(0)},
         {"clocklow",                   0x094C, channel, Word(0)},
-        {"gvcpconfiguration",          0x0954, passing, Word(0)},
+        {"gvcpconfiguration",          0x0954, dynamic, Word(0)},
         {"privilege",                  privilegeAddress, channel, Word(0)},
         {"applicationport",            0x0A04, channel, Word(0)},
         {"applicationaddress",         0x0A14, channel, Word(0)},
         {"streamport",                 0x0D00, channel, Word(0)},
-        {"packetsize",                 0x0D04, passing, Word(1404)},
-        {"packetdelay",                0x0D08, passing, Word(0)},
+        {"packetsize",                 0x0D04, dynamic, Word(1404)},
+        {"packetdelay",                0x0D08, dynamic, Word(0)},
         {"streamdestination",          0x0D18, channel, Word(0)},
         {"streamsourceport",           0x0D1C, channel, Word(0)},
         {"description",                descriptionAddress, fixed, Text(InWords(identity.description.size()), identity.description)},

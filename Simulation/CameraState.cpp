@@ -25,7 +25,7 @@ const char* const serialNumber = "serial number";
 const char* const macAddress = "MAC address";
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
-const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::Kept, Role::Volatile};
+const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::NonVolatile, Role::Volatile};
 
 std::string Model(const RegisterSpace& space) {
     const Bytes bytes = ToBytes(space.Get("modelname"));

@@ -23,8 +23,8 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
     const auto shown = Role::Shown;
     const auto setting = Role::Setting;
     const auto note = Role::Note;
-    const auto kept = Role::Kept;
-    const auto passing = Role::Volatile;
+    const auto flash = Role::NonVolatile;
+    const auto dynamic = Role::Volatile;
     const Limits onOff = Codes(0, 1);
     const Limits axis = Range(0, 65535);
     const Limits inCircle = Range(-500, 499);
@@ -38,27 +38,27 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"width",                    0x00088120, shown,   Word(1024)},
         {"height",                   0x00088124, shown,   Word(1024)},
         {"pixelformat",              0x00088128, shown,   Word(0x01100025)},      // Mono14
-        {"acquisitionmode",          0x00088130, passing, Word(0)},
-        {"startacquisition",         0x00088134, passing, Word(0),                {Codes({1})}},
-        {"stopacquisition",          0x00088138, passing, Word(0)},
+        {"acquisitionmode",          0x00088130, dynamic, Word(0)},
+        {"startacquisition",         0x00088134, dynamic, Word(0),                {Codes({1})}},
+        {"stopacquisition",          0x00088138, dynamic, Word(0)},
 
         {"exposuremode",             0x0A020000, setting, Word(1),                {Codes(1, 4)}}, // free running
         {"exposure",                 0x0A030000, setting, Word(33),               {Range(1, 2000)}},
-        {"afe",                      0x0A0C0000, kept,    Table(2, std::vector<Words>(4, frontEnd))},
+        {"afe",                      0x0A0C0000, flash,   Table(2, std::vector<Words>(4, frontEnd))},
         {"fodstatus",                0x0A0D0000, shown,   Word(1)},
         {"twinmodeshutteroffset",    0x0A130000, setting, Word(0),                {Range(0, 2000)}},
 
-        {"defectpixel",              0x0B020000, kept,    DefectPixels(), defectPixel},
-        {"autocompensation",         0x0B030000, passing, Word(0)},
+        {"defectpixel",              0x0B020000, flash,   DefectPixels(), defectPixel},
+        {"autocompensation",         0x0B030000, dynamic, Word(0)},
         {"defectpixelcount",         0x0B040000, shown,   Word(2)},               // pairs
         {"defectpixelshow",          0x0B0A0000, setting, Word(0),                {onOff}},
-        {"lenscontrol",              0x0C080000, kept,    Indexed({{0}, {120}, {64}, {0}}), {axis}},
+        {"lenscontrol",              0x0C080000, flash,   Indexed({{0}, {120}, {64}, {0}}), {axis}},
 
         {"gain",                     0x14010000, setting, Word(0),                {Range(0, 568)}},
         {"verticalflip",             0x16020000, setting, Word(0),                {onOff}},
         {"horizontalflip",           0x16030000, setting, Word(0),                {onOff}},
         {"lastimagehold",            0x16040000, setting, Word(0),                {onOff}},
-        {"storeimage",               0x16050000, passing, Word(0),                {onOff}},
+        {"storeimage",               0x16050000, dynamic, Word(0),                {onOff}},
         {"imagesubtraction",         0x16060000, setting, Word(0),                {onOff}},
         {"recursivefilter",          0x16070000, setting, Word(0),                {Codes(0, 4)}},
         {"automotiondetection",      0x16080000, setting, Word(0),                {onOff}},
@@ -101,16 +101,16 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"abcthreshold",             0x47090000, setting, Indexed({{358}, {255}}), {Range(0, 1023)}},
         {"abcxrlevel",               0x470A0000, shown,   Word(301)},             // measured
 
-        {"device",                   0x50050000, kept,    Selected({{{1, 0, 0}, {1207}}, {{1, 1, 0}, {64}}})},
-        {"restart",                  0x51010000, passing, Word(0)},
-        {"loadsettings",             0x51020000, passing, Word(0),                {Codes(0, 2)}},
-        {"savesettings",             0x51030000, passing, Word(0),                {Codes(1, 2)}},
-        {"startupsettings",          0x51040000, kept,    Word(0),                {Codes(0, 2)}},
+        {"device",                   0x50050000, flash,   Selected({{{1, 0, 0}, {1207}}, {{1, 1, 0}, {64}}})},
+        {"restart",                  0x51010000, dynamic, Word(0)},
+        {"loadsettings",             0x51020000, dynamic, Word(0),                {Codes(0, 2)}},
+        {"savesettings",             0x51030000, dynamic, Word(0),                {Codes(1, 2)}},
+        {"startupsettings",          0x51040000, flash,   Word(0),                {Codes(0, 2)}},
         {"operationmode",            0x52020000, shown,   Word(1)},
         {"errorregister",            0x52030000, shown,   Word(0)},
-        {"updatefile",               0x53020000, passing, Word(0)},
+        {"updatefile",               0x53020000, dynamic, Word(0)},
         {"updatestatus",             0x53030000, shown,   Record({0, 0})},
-        {"testpattern",              0x5A010000, passing, Indexed({{0}, {0}}),    {Codes(0, 6)}},
+        {"testpattern",              0x5A010000, dynamic, Indexed({{0}, {0}}),    {Codes(0, 6)}},
         {"temperature",              0x5A030000, shown,   Word(38)},              // degrees Celsius
 
         {"devicename",               0x64010000, fixed,   LedText(24, model.name)},
@@ -128,9 +128,9 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"iopolarity",               0x660F0000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}}), {onOff}},
         {"iodelay",                  0x66110000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}})},
 
-        {"motorcontrol",             0x6E140000, kept,    Indexed(std::vector<Words>(256, Words{0})), {axis}},
-        {"ccdcontrol",               0x6F010000, passing, Word(0)},
-        {"com",                      0x6F020000, passing, Word(0)},
+        {"motorcontrol",             0x6E140000, flash,   Indexed(std::vector<Words>(256, Words{0})), {axis}},
+        {"ccdcontrol",               0x6F010000, dynamic, Word(0)},
+        {"com",                      0x6F020000, dynamic, Word(0)},
 
         // The camera's own notes, where no host looks.
         {"asked exposure",           0xE0010000, note,    Word(33)},

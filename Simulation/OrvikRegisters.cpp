@@ -22,13 +22,13 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const auto shown = Role::Shown;
     const auto setting = Role::Setting;
     const auto note = Role::Note;
-    const auto kept = Role::Kept;
-    const auto passing = Role::Volatile;
+    const auto flash = Role::NonVolatile;
+    const auto dynamic = Role::Volatile;
     // What a model lacks is there to be read, and ignores what is written to it.
     const auto color = model.color ? setting : fixed;
     const auto mono = model.color ? fixed : setting;
     const auto memory = model.memory ? setting : fixed;
-    const auto store = model.memory ? passing : fixed;
+    const auto store = model.memory ? dynamic : fixed;
 
     const Limits onOff = Codes(0, 1);
     const Limits byte = Range(0, 255);
@@ -42,12 +42,12 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     // clang-format off
     return {
         // name                address     role     kind and power-up value  and what each word admits
-        {"startacquisition",   0x00088134, passing, Word(0),                {Codes({1})}},
-        {"stopacquisition",    0x00088138, passing, Word(0)},
+        {"startacquisition",   0x00088134, dynamic, Word(0),                {Codes({1})}},
+        {"stopacquisition",    0x00088138, dynamic, Word(0)},
 
         {"exposuremode",       0x0A020000, setting, Word(1),                {Codes(1, 4)}}, // free running
         {"exposure",           0x0A030000, setting, Record({0, 20000}),     {Range(0, 7)}}, // base, counter
-        {"softtrigger",        0x0A070000, passing, Word(0)},
+        {"softtrigger",        0x0A070000, dynamic, Word(0)},
         {"triggertimer",       0x0A080000, setting, Word(0)},
         {"pixelclock",         0x0A090000, shown,   Word(160000000)},
         {"readouttime",        0x0A0A0000, setting, Word(0)},               // the fastest
@@ -95,12 +95,12 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"awb",                0x46040000, color,   Word(0),                {Codes(0, 2)}},
         {"acc",                0x46050000, setting, Word(0),                {Codes(0, 4)}},
 
-        {"restart",            0x51010000, passing, Word(0)},
-        {"loadsettings",       0x51020000, passing, Word(0),                {Codes(0, 2)}},
-        {"savesettings",       0x51030000, passing, Word(0),                {Codes(1, 2)}},
-        {"startupsettings",    0x51040000, kept,    Word(0),                {Codes(0, 2)}},
+        {"restart",            0x51010000, dynamic, Word(0)},
+        {"loadsettings",       0x51020000, dynamic, Word(0),                {Codes(0, 2)}},
+        {"savesettings",       0x51030000, dynamic, Word(0),                {Codes(1, 2)}},
+        {"startupsettings",    0x51040000, flash,   Word(0),                {Codes(0, 2)}},
         {"operationmode",      0x52020000, shown,   Word(1)},
-        {"patterngenerator",   0x5A010000, passing, Word(0),                {Codes(0, model.color ? 1 : 3)}},
+        {"patterngenerator",   0x5A010000, dynamic, Word(0),                {Codes(0, model.color ? 1 : 3)}},
         {"temperature",        0x5A030000, shown,   Indexed({{41}})},       // degrees Celsius
 
         {"devicename",         0x64010000, fixed,   LedText(24, model.name)},

@@ -16,13 +16,13 @@ using Words = std::vector<std::uint32_t>;
 
 /// Who changes a register, and what becomes of it when settings are loaded or the camera starts anew.
 enum class Role {
-    Fixed,    ///< identity: nobody changes it
-    Shown,    ///< the camera's own: it shows it, hosts read it
-    Setting,  ///< a settings set saves and loads it
-    Note,     ///< what was asked of a setting that shows as much of it as it can for now: goes with the settings
-    Kept,     ///< permanent memory beside the settings sets
-    Volatile, ///< commands, and what a start forgets
-    Channel,  ///< the control channel's: a device on the network sets it, any other camera shows that it has no channel
+    Fixed,       ///< identity: nobody changes it
+    Shown,       ///< the camera's own: it shows it, hosts read it
+    Setting,     ///< a settings set saves and loads it
+    Note,        ///< what was asked of a setting that shows as much of it as it can for now: goes with the settings
+    NonVolatile, ///< permanent memory beside the settings sets
+    Volatile,    ///< commands, and what a start forgets
+    Channel, ///< the control channel's: a device on the network sets it, any other camera shows that it has no channel
 };
 
 /// Whether the camera ignores what a host writes.

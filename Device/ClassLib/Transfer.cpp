@@ -1,6 +1,6 @@
 #include "Transfer.h"
 
-#include "LeftOnPurpose.h"
+#include "IntentionalLeak.h"
 #include "Log.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
     if (delivered < LeadingWord)
         return {};
     length = delivered;
-    [[maybe_unused]] const LeftOnPurpose cache; // of a list entry, see ReleaseStorage.h
+    [[maybe_unused]] const IntentionalLeak cache; // of a list entry, see ReleaseStorage.h
     return Trimmed({block.begin() + LeadingWord, block.begin() + length});
 }
 

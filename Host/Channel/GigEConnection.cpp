@@ -1,8 +1,8 @@
 #include "Host/Channel/GigEConnection.h"
 
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/DeferredTermination.h"
 #include "Host/Channel/GigEPort.h"
-#include "Host/Channel/OrderlyEnd.h"
 #include "Host/Errors.h"
 
 #include <thread>
@@ -40,7 +40,7 @@ public:
     void SaveState() const override {} // the camera keeps itself
 
 private:
-    OrderlyEnd end; // before the port, which gives control back
+    DeferredTermination end; // before the port, which gives control back
     GigEPort port;
 };
 

@@ -3,8 +3,8 @@
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/Datagrams.h"
-#include "Host/Channel/Little.h"
-#include "Host/Channel/OrderlyEnd.h"
+#include "Host/Channel/DeferredTermination.h"
+#include "Host/Channel/LittleEndian.h"
 #include "Host/Errors.h"
 
 #include <arv.h>
@@ -165,7 +165,7 @@ void GigEPort::Access(const Operation& operation, const std::function<bool(GErro
 }
 
 void GigEPort::RequireNoEnd(const Operation& operation) {
-    if (OrderlyEnd::IsDue()) {
+    if (DeferredTermination::IsDue()) {
         lost = Lost::Ending;
         FailAsLost(operation);
     }
@@ -251,7 +251,7 @@ std::uint32_t GigEPort::ReadRegister(std::uint32_t address) {
     if (address % wordSize != 0) {
         std::array<std::uint8_t, wordSize> bytes{};
         Read(operation, bytes.data(), bytes.size());
-        return static_cast<std::uint32_t>(FromLittle(bytes));
+        return static_cast<std::uint32_t>(FromLittleEndian(bytes));
     }
     guint32 value = 0;
     Access(operation,
@@ -260,14 +260,14 @@ std::uint32_t GigEPort::ReadRegister(std::uint32_t address) {
 }
 
 void GigEPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
-    const auto bytes = ToLittle(value);
+    const auto bytes = ToLittleEndian(value);
     Write({"WriteRegisterPair", address, true}, bytes.data(), bytes.size());
 }
 
 std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
     std::array<std::uint8_t, sizeof(std::uint64_t)> bytes{};
     Read({"ReadRegisterPair", address, false}, bytes.data(), bytes.size());
-    return FromLittle(bytes);
+    return FromLittleEndian(bytes);
 }
 
 unsigned char* GigEPort::ReadBlock(std::uint32_t address, std::uint32_t length) {

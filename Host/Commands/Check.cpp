@@ -46,7 +46,7 @@ int Check(const Invocation& invocation) {
     if (const std::string fault = check.Fault(); !fault.empty()) {
         throw OpenError(fault);
     }
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

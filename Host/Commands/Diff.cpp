@@ -58,7 +58,7 @@ Json ToJson(const Difference& difference) {
 bool TellNotCompared(const Settings& settings, const Settings& other, const std::string& file) {
     const auto missing = LeftUncompared(settings, other);
     if (!missing.empty() && !file.empty()) { // of a camera it was told when it was read
-        Complain(Quoted(file) + " does not hold these, which are not compared: " + NamesOf(missing));
+        PrintError(Quoted(file) + " does not hold these, which are not compared: " + NamesOf(missing));
     }
     return missing.empty();
 }
@@ -92,7 +92,7 @@ int Diff(const Invocation& invocation) {
     if (!firstIsWhole || !secondIsWhole) {
         return IsControlledElsewhere(invocation) ? NotOpened : NotCompared;
     }
-    return differences.empty() ? AllWell : Differs;
+    return differences.empty() ? Success : Differs;
 }
 
 } // namespace Host

@@ -47,10 +47,10 @@ int Discover(const Invocation& invocation) {
         std::cout << "no camera was found\n";
     }
     if (unreachable) {
-        Complain("no network interface is up with an IPv4 address, other than loopback");
+        PrintError("no network interface is up with an IPv4 address, other than loopback");
         return Refused;
     }
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

@@ -22,7 +22,7 @@ int Get(const Invocation& invocation) {
         const Reading reading = camera.TryRead(instance);
         if (reading.error != 0) {
             refused = true;
-            Complain(instance.Name() + ": " + reading.errorText);
+            PrintError(instance.Name() + ": " + reading.errorText);
             document.Add(instance.Name(), Json());
         } else if (invocation.Program().Json()) {
             document.Add(instance.Name(), ToJson(instance, reading.value));
@@ -33,7 +33,7 @@ int Get(const Invocation& invocation) {
     if (invocation.Program().Json()) {
         std::cout << document.Print() << '\n';
     }
-    return refused ? Refused : AllWell;
+    return refused ? Refused : Success;
 }
 
 } // namespace Host

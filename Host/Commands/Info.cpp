@@ -42,7 +42,7 @@ int Info(const Invocation& invocation) {
     if (json) {
         std::cout << document.Print() << '\n';
     }
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

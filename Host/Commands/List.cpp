@@ -1,8 +1,8 @@
 #include "Host/Commands/Commands.h"
 
 #include "Host/Describe.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Format.h"
-#include "Host/Guarded.h"
 #include "Host/Style.h"
 
 #include <iostream>
@@ -15,7 +15,7 @@ namespace {
 struct Row {
     std::string name;
     std::string value;
-    std::string standard;
+    std::string defaultValue;
     std::string limits;
     std::string state;
 };
@@ -24,10 +24,10 @@ struct Row {
 std::optional<Value> DefaultOf(const Limits& limits) {
     Value value;
     for (const FieldLimits& field : limits) {
-        if (!field.standard) {
+        if (!field.defaultValue) {
             return std::nullopt;
         }
-        value.numbers.push_back(*field.standard);
+        value.numbers.push_back(*field.defaultValue);
     }
     return limits.empty() ? std::nullopt : std::optional(value);
 }
@@ -67,8 +67,8 @@ Row Describe(const Camera& camera, const Instance& instance, bool all) {
                 : many                       ? std::to_string(instance->count) + " values"
                                              : PrintWithUnit(instance, reading.value);
     row.state = state;
-    const auto standard = DefaultOf(limits);
-    row.standard = standard ? instance.Print(*standard) : "";
+    const auto defaultValue = DefaultOf(limits);
+    row.defaultValue = defaultValue ? instance.Print(*defaultValue) : "";
     row.limits = instance->set != nullptr ? DescribeLimits(instance, limits) : "";
     return row;
 }
@@ -82,7 +82,7 @@ void Print(const Row& row) {
         }
     };
     add(26, row.value);
-    add(50, row.standard);
+    add(50, row.defaultValue);
     add(66, row.limits);
     add(92, row.state);
     const bool missing = row.state.find('(') != std::string::npos || row.state == needsControl;
@@ -123,7 +123,7 @@ Json LimitsToJson(const Instance& instance, const Limits& limits) {
 
 Json Document(const Camera& camera, const Instance& instance, bool all) {
     const auto [reading, limits, state] = Look(camera, instance);
-    const auto standard = DefaultOf(limits);
+    const auto defaultValue = DefaultOf(limits);
     const bool many = StandsForMany(instance, all);
     Json codes(Json::Object{});
     for (const Code& code : instance->codes) {
@@ -134,7 +134,7 @@ Json Document(const Camera& camera, const Instance& instance, bool all) {
                   {"topic", instance->topic},
                   {"value", HasValue(instance, reading) && !many ? ToJson(instance, reading.value) : Json()},
                   {"unit", instance->unit},
-                  {"default", standard ? ToJson(instance, *standard) : Json()},
+                  {"default", defaultValue ? ToJson(instance, *defaultValue) : Json()},
                   {"limits", LimitsToJson(instance, limits)},
                   {"codes", codes},
                   {"readable", instance->get != nullptr},
@@ -154,14 +154,14 @@ int List(const Invocation& invocation) {
     const bool all = invocation.Has("--all");
     if (!invocation.Program().Json()) {
         PrintTable(camera, all);
-        return AllWell;
+        return Success;
     }
     Json document(Json::List{});
     for (const Instance& instance : camera.All(all)) {
         document.Add(Document(camera, instance, all));
     }
     std::cout << document.Print() << '\n';
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

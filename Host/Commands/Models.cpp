@@ -38,7 +38,7 @@ int Models(const Invocation& invocation) {
     if (invocation.Program().Json()) {
         std::cout << list.Print() << '\n';
     }
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

@@ -19,23 +19,23 @@ namespace {
 /// "7 -> 100", and whatever is not as wanted.
 std::string Describe(const Restored& result) {
     const Instance& instance = result.instance;
-    switch (result.fate) {
-    case Fate::Done:
-    case Fate::Planned:
+    switch (result.status) {
+    case RestoreStatus::Done:
+    case RestoreStatus::Planned:
         return (result.before ? instance.Print(*result.before) + " -> " : "") + instance.Print(result.saved);
-    case Fate::Unchanged:
+    case RestoreStatus::Unchanged:
         return instance.Print(result.saved);
-    case Fate::Skipped:
+    case RestoreStatus::Skipped:
         return result.reason;
-    case Fate::PutBack:
+    case RestoreStatus::PutBack:
         return instance.Print(*result.held) + ", as it was before";
-    case Fate::LeftOff:
+    case RestoreStatus::LeftOff:
         return result.reason + (result.reason.empty() ? "" : "; ") + "it was " + instance.Print(*result.before) +
                (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
-    case Fate::Pending:
-    case Fate::Rounded:
-    case Fate::Clamped:
-    case Fate::Refused:
+    case RestoreStatus::Pending:
+    case RestoreStatus::Rounded:
+    case RestoreStatus::Clamped:
+    case RestoreStatus::Refused:
         break;
     }
     const std::string reason = result.reason + (result.reason.empty() ? "" : "; ");
@@ -44,13 +44,14 @@ std::string Describe(const Restored& result) {
 }
 
 void Print(const Restored& result) {
-    const std::string fate = Pad(NameOf(result.fate), 10);
-    const bool left = result.fate == Fate::Unchanged || result.fate == Fate::Skipped;
-    const std::string name = result.fate == Fate::Skipped ? std::string(result.instance->name) : result.instance.Name();
+    const std::string status = Pad(NameOf(result.status), 10);
+    const bool left = result.status == RestoreStatus::Unchanged || result.status == RestoreStatus::Skipped;
+    const std::string name =
+        result.status == RestoreStatus::Skipped ? std::string(result.instance->name) : result.instance.Name();
     std::cout << Pad(name, 24) << "  "
-              << (IsFailure(result.fate) ? Red(fate)
-                  : left                 ? Dim(fate)
-                                         : Green(fate))
+              << (IsFailure(result.status) ? Red(status)
+                  : left                   ? Dim(status)
+                                           : Green(status))
               << "  " << Describe(result) << std::endl; // whoever reads it waits for it
 }
 
@@ -58,7 +59,7 @@ void Print(const Restored& result) {
 class Printer {
 public:
     void operator()(const Restored& result) {
-        const Function* const skipped = result.fate == Fate::Skipped ? result.instance.function : nullptr;
+        const Function* const skipped = result.status == RestoreStatus::Skipped ? result.instance.function : nullptr;
         if (skipped == nullptr || skipped != lastSkipped) {
             Print(result);
         }
@@ -74,7 +75,7 @@ Json ToJson(const Restored& result) {
         return value ? ToJson(result.instance, *value) : Json();
     };
     return Json{{"name", result.instance.Name()},
-                {"result", NameOf(result.fate)},
+                {"result", NameOf(result.status)},
                 {"saved", ToJson(result.instance, result.saved)},
                 {"before", json(result.before)},
                 {"value", json(result.held)},
@@ -84,7 +85,7 @@ Json ToJson(const Restored& result) {
 void PrintAsJson(const std::vector<Restored>& results) {
     Json document(Json::List{});
     for (const Restored& result : results) {
-        if (result.fate != Fate::Pending) {
+        if (result.status != RestoreStatus::Pending) {
             document.Add(ToJson(result));
         }
     }
@@ -100,11 +101,13 @@ std::string DescribeProgress(const Restorer& restorer) {
     std::vector<Instance> putBack;
     const auto& results = restorer.Results();
     for (const Restored& result : results) {
-        const Fate fate = result.fate;
-        restored += fate == Fate::Done || fate == Fate::Unchanged || fate == Fate::Rounded ? 1 : 0;
-        skipped += fate == Fate::Skipped ? 1 : 0;
-        refused += fate == Fate::Clamped || fate == Fate::Refused ? 1 : 0;
-        if (fate == Fate::PutBack) {
+        const RestoreStatus status = result.status;
+        restored +=
+            status == RestoreStatus::Done || status == RestoreStatus::Unchanged || status == RestoreStatus::Rounded ? 1
+                                                                                                                    : 0;
+        skipped += status == RestoreStatus::Skipped ? 1 : 0;
+        refused += status == RestoreStatus::Clamped || status == RestoreStatus::Refused ? 1 : 0;
+        if (status == RestoreStatus::PutBack) {
             putBack.push_back(result.instance);
         }
     }
@@ -142,16 +145,16 @@ void RunAndPrint(Restorer& restorer, bool dryRun, bool json) {
 /// Says on standard error what did not go as asked for. @return the exit code
 int Report(const Restorer& restorer) {
     if (restorer.IsStopped()) {
-        Complain("interrupted; " + DescribeProgress(restorer));
+        PrintError("interrupted; " + DescribeProgress(restorer));
         return Refused;
     }
     const auto& results = restorer.Results();
     const auto failures =
-        std::count_if(results.begin(), results.end(), [](const Restored& result) { return IsFailure(result.fate); });
+        std::count_if(results.begin(), results.end(), [](const Restored& result) { return IsFailure(result.status); });
     if (failures != 0) {
-        Complain(std::to_string(failures) + " of " + std::to_string(results.size()) + " functions not restored");
+        PrintError(std::to_string(failures) + " of " + std::to_string(results.size()) + " functions not restored");
     }
-    return failures == 0 ? AllWell : Refused;
+    return failures == 0 ? Success : Refused;
 }
 
 } // namespace
@@ -177,7 +180,7 @@ int RunRestore(const Invocation& invocation) {
         pipes.emplace();
         options.isToStop = Interrupts::Came;
     }
-    const Camera camera = session.Functions();
+    const Camera camera = session.Camera();
     const ReadThrough reader(session);
     Restorer restorer(saved, camera, reader.Camera(), WaitFor(session), options);
     RunAndPrint(restorer, dryRun, json);

@@ -36,7 +36,7 @@ int Save(const Invocation& invocation) {
         stream << count << " functions of " << settings.model << " saved to "
                << (toStandardOutput ? "standard output" : file) << '\n';
     }
-    return AllWell;
+    return Success;
 }
 
 } // namespace Host

@@ -54,7 +54,7 @@ public:
         try {
             static_cast<void>(PutBack());
         } catch (const std::exception& error) {
-            Complain(notPutBack + std::string(": ") + error.what());
+            PrintError(notPutBack + std::string(": ") + error.what());
         }
     }
     Preserved(const Preserved&) = delete;
@@ -199,13 +199,13 @@ int RunSelftest(const Invocation& invocation) {
     }
     const int failures = Report(results, invocation.Program().Json());
     for (const Difference& difference : left) {
-        Complain("not put back: " + difference.instance.Name());
+        PrintError("not put back: " + difference.instance.Name());
     }
     if (Interrupts::Came()) {
-        Complain(left.empty() ? "interrupted; the settings are put back" : "interrupted");
+        PrintError(left.empty() ? "interrupted; the settings are put back" : "interrupted");
         return Refused;
     }
-    return failures == 0 && left.empty() ? AllWell : Refused;
+    return failures == 0 && left.empty() ? Success : Refused;
 }
 
 } // namespace Host

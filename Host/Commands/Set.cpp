@@ -2,9 +2,9 @@
 
 #include "Host/Assignment.h"
 #include "Host/Describe.h"
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Settings/ReadThrough.h"
-#include "Host/Settings/Settled.h"
+#include "Host/Settings/ReadWhenSettled.h"
 
 #include <iostream>
 
@@ -27,7 +27,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
         result.lockedBy = camera.Look(assignment.instance).lockedBy;
     }
     if (assignment.instance->get != nullptr) {
-        const Reading reading = Settled(reader, assignment.instance, assignment.value, wait);
+        const Reading reading = ReadWhenSettled(reader, assignment.instance, assignment.value, wait);
         if (reading.error == 0) {
             result.held = reading.value;
             result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
@@ -37,7 +37,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
 }
 
 /// What became of a value that the camera does not hold as it was asked for.
-std::string DescribeFate(const Camera& camera, const Assignment& assignment, const Result& result) {
+std::string DescribeHeld(const Camera& camera, const Assignment& assignment, const Result& result) {
     const std::string asked = assignment.instance.Print(assignment.value);
     const std::string held = assignment.instance.Print(*result.held);
     if (result.failure.code == 0) {
@@ -60,9 +60,9 @@ bool Report(const Camera& camera, const Assignment& assignment, const Result& re
         text += ": " + result.failure.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
     }
     if (differs) {
-        text += ": " + DescribeFate(camera, assignment, result);
+        text += ": " + DescribeHeld(camera, assignment, result);
     }
-    Complain(text);
+    PrintError(text);
     return result.failure.code != 0 || !result.rounded;
 }
 
@@ -96,7 +96,7 @@ int Set(const Invocation& invocation) {
     if (invocation.Program().Json()) {
         std::cout << document.Print() << '\n';
     }
-    return refused ? Refused : AllWell;
+    return refused ? Refused : Success;
 }
 
 } // namespace Host

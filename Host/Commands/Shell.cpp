@@ -1,10 +1,10 @@
 #include "Host/Commands/Commands.h"
 
 #include "Host/CommandLine.h"
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Interrupts.h"
 #include "Host/LineReader.h"
-#include "Host/Nearest.h"
+#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <iostream>
@@ -99,18 +99,18 @@ std::vector<std::string> Completions(const Camera& camera, const std::string& be
 int RunLine(Program& program, const std::vector<std::string>& words, bool json) {
     if (const auto names = CommandNames();
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
-        throw UsageError("unknown command \"" + words.front() + '"' + Suggestion(words.front(), names));
+        throw UsageError("unknown command \"" + words.front() + '"' + Simulation::Suggestion(words.front(), names));
     }
     const Request request = ParseShellLine(words);
     if (request.command == nullptr) {
         if (words.size() == 1) {
             std::cout << "\nhelp COMMAND says more about a command; quit leaves the shell.\n";
         }
-        return AllWell;
+        return Success;
     }
     program.SetJson(json || request.options.json);
     const int code =
-        Guarded([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
+        RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
     program.TellWhoControls();
     return code;
 }
@@ -122,24 +122,24 @@ int Shell(const Invocation& invocation) {
     const bool json = program.Json();
     const Camera camera = invocation.OpenCamera();
     LineReader lines(camera.Model() + "> ", [&](const std::string& before) { return Completions(camera, before); });
-    int firstFailure = AllWell;
+    int firstFailure = Success;
     while (const auto line = lines.Next()) {
         bool leaves = false;
-        const int code = Guarded([&]() -> int {
+        const int code = RunAndReport([&]() -> int {
             const auto words = WordsOf(*line);
             if (words.empty()) {
-                return AllWell;
+                return Success;
             }
             leaves = words.front() == quit;
-            return leaves ? int{AllWell} : RunLine(program, words, json);
+            return leaves ? int{Success} : RunLine(program, words, json);
         });
-        firstFailure = firstFailure == AllWell ? code : firstFailure;
+        firstFailure = firstFailure == Success ? code : firstFailure;
         if (leaves || Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal())) {
             break;
         }
     }
     program.SetJson(json);
-    return lines.IsTerminal() ? int{AllWell} : firstFailure;
+    return lines.IsTerminal() ? int{Success} : firstFailure;
 }
 
 } // namespace Host

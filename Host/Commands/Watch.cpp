@@ -2,8 +2,8 @@
 
 #include "Host/Assignment.h"
 #include "Host/Describe.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Format.h"
-#include "Host/Guarded.h"
 #include "Host/Interrupts.h"
 #include "Host/Settings/ReadThrough.h"
 
@@ -153,7 +153,7 @@ std::optional<milliseconds> DurationOf(const Invocation& invocation) {
 int Watch(const Invocation& invocation) {
     const auto duration = DurationOf(invocation);
     Session& session = invocation.Open();
-    const Camera camera = session.Functions();
+    const Camera camera = session.Camera();
     if (invocation.Has("[NAME=VALUE...]")) {
         session.Connection().RequireControl();
     }
@@ -162,13 +162,13 @@ int Watch(const Invocation& invocation) {
     const Interrupts interrupts;
     const Changes changes(invocation.Program().Json());
     Watched watched(reader.Camera());
-    int code = AllWell;
+    int code = Success;
     {
         const Listener listener(camera, changes);
         for (const Assignment& assignment : assignments) {
             const Failure failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
             if (failure.code != 0) { // the camera is watched all the same
-                Complain(assignment.instance.Name() + ": " + failure.reason);
+                PrintError(assignment.instance.Name() + ": " + failure.reason);
                 code = Refused;
             }
         }

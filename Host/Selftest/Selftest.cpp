@@ -1,6 +1,6 @@
 #include "Host/Selftest/Selftest.h"
 
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Settings/Unlock.h"
 
 #include <algorithm>
@@ -101,7 +101,7 @@ void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, con
     const Value before = reader.Read(instance);
     const std::int32_t code = Write(instance, trial.value);
     const std::int32_t expectedCode = trial.admitted ? 0 : refusal.code;
-    const Value expected = trial.admitted ? trial.value : refusal.keeps ? before : Nearest(limits, trial.value);
+    const Value expected = trial.admitted ? trial.value : refusal.keeps ? before : Clamped(limits, trial.value);
     const Value held = Held(instance, expected);
     const std::string what = trial.what + " (" + instance.Print(trial.value) + "): ";
     if (code != expectedCode) {
@@ -196,7 +196,7 @@ std::int32_t Selftest::Write(const Instance& instance, const Value& value) const
 
 /// What the camera holds after a write. @throw std::runtime_error if it cannot be read any more
 Value Selftest::Held(const Instance& instance, const Value& expected) const {
-    const Reading reading = Settled(reader, instance, expected, wait);
+    const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
     if (reading.error != 0) {
         throw std::runtime_error("reading it back: " + reading.errorText);
     }

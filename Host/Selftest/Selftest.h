@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Host/Selftest/Trials.h"
+#include "Host/Settings/ReadWhenSettled.h"
 #include "Host/Settings/Settings.h"
-#include "Host/Settings/Settled.h"
 
 #include <string>
 #include <vector>

@@ -65,7 +65,7 @@ std::vector<Trial> TrialsOf(const Instance& instance, const Limits& limits, cons
     return trials;
 }
 
-Value Nearest(const Limits& limits, Value value) {
+Value Clamped(const Limits& limits, Value value) {
     for (std::size_t i = 0; i < limits.size(); ++i) {
         value.numbers[i] = std::clamp(value.numbers[i], limits[i].min, limits[i].max);
     }

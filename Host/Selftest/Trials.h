@@ -19,7 +19,7 @@ struct Trial {
                                           const Value& current);
 
 /// The admitted value that is nearest to another one, field by field.
-[[nodiscard]] Value Nearest(const Limits& limits, Value value);
+[[nodiscard]] Value Clamped(const Limits& limits, Value value);
 
 /// Values beside one, for a function of which nobody says what it admits: each field one more, and one less.
 [[nodiscard]] std::vector<Value> Neighbours(const Instance& instance, const Value& value, std::size_t field);

@@ -1,7 +1,7 @@
 #include "Host/Settings/LiveSettings.h"
 
 #include "Host/Command.h"
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Settings/ReadThrough.h"
 
 #include <stdexcept>
@@ -33,11 +33,11 @@ struct Missing {
     }
     void Tell(Connection& connection) const {
         if (!withoutAddress.empty()) {
-            Complain(connection.Describe() +
-                     " has no address for these, which are left out: " + NamesOf(withoutAddress));
+            PrintError(connection.Describe() +
+                       " has no address for these, which are left out: " + NamesOf(withoutAddress));
         }
         if (!withoutControl.empty()) {
-            Complain(connection.TakeDenial() + "; without control these cannot be read: " + NamesOf(withoutControl));
+            PrintError(connection.TakeDenial() + "; without control these cannot be read: " + NamesOf(withoutControl));
         }
     }
 };
@@ -60,7 +60,7 @@ Settings TakeReadableSettings(Session& session) {
     Missing missing;
     Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
         if (!missing.Note(instance, reading)) {
-            Complain(instance.Name() + ": " + reading.errorText);
+            PrintError(instance.Name() + ": " + reading.errorText);
         }
     });
     missing.Tell(session.Connection());

@@ -1,6 +1,6 @@
 #include "Host/Settings/Restorer.h"
 
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Settings/Unlock.h"
 
 #include <algorithm>
@@ -15,15 +15,15 @@ constexpr int passes = 3; ///< more than one setting needs that is moved by one 
 const Value off{{0}, {}};
 
 /// What became of a setting that was written, and then read.
-Fate FateOf(const Camera& camera, const Restored& result) {
+RestoreStatus StatusOf(const Camera& camera, const Restored& result) {
     const bool accepted = result.reason.empty();
     if (result.held == result.saved) {
-        return accepted ? Fate::Done : Fate::Refused;
+        return accepted ? RestoreStatus::Done : RestoreStatus::Refused;
     }
     if (accepted && camera.RoundsTo(result.instance, result.saved, *result.held)) {
-        return Fate::Rounded;
+        return RestoreStatus::Rounded;
     }
-    return result.held != result.before ? Fate::Clamped : Fate::Refused;
+    return result.held != result.before ? RestoreStatus::Clamped : RestoreStatus::Refused;
 }
 
 bool IsMode(const Instance& instance) { return instance->restore == Restore::Mode; }
@@ -32,27 +32,27 @@ bool WasSwitchedOff(const Restored& mode) { return mode.before && *mode.before !
 
 } // namespace
 
-const char* NameOf(Fate fate) {
-    switch (fate) {
-    case Fate::Pending:
+const char* NameOf(RestoreStatus status) {
+    switch (status) {
+    case RestoreStatus::Pending:
         return "pending";
-    case Fate::Done:
+    case RestoreStatus::Done:
         return "ok";
-    case Fate::Unchanged:
+    case RestoreStatus::Unchanged:
         return "unchanged";
-    case Fate::Rounded:
+    case RestoreStatus::Rounded:
         return "rounded";
-    case Fate::Clamped:
+    case RestoreStatus::Clamped:
         return "clamped";
-    case Fate::Refused:
+    case RestoreStatus::Refused:
         return "refused";
-    case Fate::Skipped:
+    case RestoreStatus::Skipped:
         return "skipped";
-    case Fate::Planned:
+    case RestoreStatus::Planned:
         return "would set";
-    case Fate::PutBack:
+    case RestoreStatus::PutBack:
         return "put back";
-    case Fate::LeftOff:
+    case RestoreStatus::LeftOff:
         return "left off";
     }
     return "";
@@ -74,37 +74,37 @@ std::string Restorer::WhyNot(const Instance& instance) const {
 }
 
 Restored Restorer::Compare(const Setting& setting) const {
-    Restored result{setting.instance, Fate::Planned, setting.value, {}, {}, WhyNot(setting.instance)};
+    Restored result{setting.instance, RestoreStatus::Planned, setting.value, {}, {}, WhyNot(setting.instance)};
     if (!result.reason.empty()) {
-        result.fate = Fate::Skipped;
+        result.status = RestoreStatus::Skipped;
         return result;
     }
     const Reading reading = reader.TryRead(setting.instance);
     if (reading.error == 0) {
         result.before = reading.value;
         result.held = reading.value;
-        result.fate = reading.value == setting.value ? Fate::Unchanged : Fate::Planned;
+        result.status = reading.value == setting.value ? RestoreStatus::Unchanged : RestoreStatus::Planned;
     }
     return result;
 }
 
 Restored Restorer::Set(const Setting& setting) const {
     Restored result = Compare(setting);
-    if (result.fate != Fate::Planned) {
+    if (result.status != RestoreStatus::Planned) {
         return result;
     }
     const auto set = [&] { setter.SetUnlessLocked(setting.instance, setting.value); };
     result.reason = Attempt([&] { WhileUnlocked(setter, setting.instance, set); }).reason;
-    const Reading reading = Settled(reader, setting.instance, setting.value, wait);
+    const Reading reading = ReadWhenSettled(reader, setting.instance, setting.value, wait);
     if (reading.error != 0) {
         result.held.reset();
         result.reason = result.reason.empty() ? reading.errorText : result.reason;
-        result.fate = Fate::Refused;
+        result.status = RestoreStatus::Refused;
         return result;
     }
     result.held = reading.value;
-    result.fate = FateOf(setter, result);
-    if (result.fate == Fate::Refused && result.reason.empty()) {
+    result.status = StatusOf(setter, result);
+    if (result.status == RestoreStatus::Refused && result.reason.empty()) {
         result.reason = "the camera does not take it";
     }
     return result;
@@ -117,12 +117,12 @@ bool Restorer::MustStop() {
 
 void Restorer::Settle(Restored& result, Restored now) {
     now.before = result.before;
-    if (now.fate == Fate::Done && now.before == now.saved) { // another setting moved it meanwhile
-        now.fate = Fate::Unchanged;
-    } else if (now.fate == Fate::Unchanged && now.before && now.before != now.saved) { // or brought it there
-        now.fate = Fate::Done;
+    if (now.status == RestoreStatus::Done && now.before == now.saved) { // another setting moved it meanwhile
+        now.status = RestoreStatus::Unchanged;
+    } else if (now.status == RestoreStatus::Unchanged && now.before && now.before != now.saved) { // or brought it there
+        now.status = RestoreStatus::Done;
     }
-    const bool told = result.fate == now.fate && result.held == now.held && result.reason == now.reason;
+    const bool told = result.status == now.status && result.held == now.held && result.reason == now.reason;
     result = std::move(now);
     if (!told) {
         options.settled(result);
@@ -132,7 +132,7 @@ void Restorer::Settle(Restored& result, Restored now) {
 void Restorer::Look() {
     for (const Setting& setting : settings.values) {
         results.push_back(Compare(setting));
-        results.back().fate = Fate::Pending;
+        results.back().status = RestoreStatus::Pending;
     }
 }
 
@@ -150,12 +150,12 @@ bool Restorer::SetValues(bool again) {
     bool changed = false;
     for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
         Restored& result = results[i];
-        if (IsMode(result.instance) || (again && IsFailure(result.fate))) {
+        if (IsMode(result.instance) || (again && IsFailure(result.status))) {
             continue;
         }
         Restored now = Set(settings.values[i]);
-        changed |= now.fate == Fate::Done;
-        if (!again || now.fate != Fate::Unchanged) {
+        changed |= now.status == RestoreStatus::Done;
+        if (!again || now.status != RestoreStatus::Unchanged) {
             Settle(result, std::move(now));
         }
     }
@@ -178,7 +178,7 @@ void Restorer::SetModes() {
 void Restorer::PutBack(Restored& mode) {
     const Restored now = Set({mode.instance, *mode.before});
     mode.held = now.held;
-    mode.fate = now.held == mode.before ? Fate::PutBack : Fate::LeftOff;
+    mode.status = now.held == mode.before ? RestoreStatus::PutBack : RestoreStatus::LeftOff;
     mode.reason = now.reason;
     options.settled(mode);
 }
@@ -201,8 +201,9 @@ void Restorer::Plan() {
 std::vector<Instance> Restorer::ModesLeftOff() const {
     std::vector<Instance> modes;
     for (const Restored& result : results) {
-        const bool restored = result.fate == Fate::Done || result.fate == Fate::Unchanged;
-        if (result.fate == Fate::LeftOff || (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {
+        const bool restored = result.status == RestoreStatus::Done || result.status == RestoreStatus::Unchanged;
+        if (result.status == RestoreStatus::LeftOff ||
+            (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {
             modes.push_back(result.instance);
         }
     }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Host/Settings/ReadWhenSettled.h"
 #include "Host/Settings/Settings.h"
-#include "Host/Settings/Settled.h"
 
 #include <functional>
 #include <optional>
@@ -11,7 +11,7 @@
 namespace Host {
 
 /// What became of a function that was to be restored.
-enum class Fate {
+enum class RestoreStatus {
     Pending, ///< nothing yet, and nothing any more if the restore was stopped
     Done,
     Unchanged, ///< the camera held the value already
@@ -26,16 +26,16 @@ enum class Fate {
 
 struct Restored {
     Instance instance;
-    Fate fate;
+    RestoreStatus status;
     Value saved;
     std::optional<Value> before; ///< what the camera held, if it is known
     std::optional<Value> held;   ///< what it holds now, if it is known
     std::string reason;          ///< the name of the code that refused it; why it was skipped
 };
 
-[[nodiscard]] const char* NameOf(Fate fate);
-[[nodiscard]] inline bool IsFailure(Fate fate) {
-    return fate == Fate::Clamped || fate == Fate::Refused || fate == Fate::LeftOff;
+[[nodiscard]] const char* NameOf(RestoreStatus status);
+[[nodiscard]] inline bool IsFailure(RestoreStatus status) {
+    return status == RestoreStatus::Clamped || status == RestoreStatus::Refused || status == RestoreStatus::LeftOff;
 }
 
 /// Sets a camera to saved settings.

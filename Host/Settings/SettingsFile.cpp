@@ -3,8 +3,8 @@
 #include "Host/Describe.h"
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
-#include "Host/Nearest.h"
 #include "Host/Settings/ReplaceFile.h"
+#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -89,7 +89,7 @@ public:
     [[nodiscard]] const Instance& Find(const std::string& name, const std::string& file) const {
         const auto found = std::find(names.begin(), names.end(), name);
         if (found == names.end()) {
-            Fail(file, "unknown function \"" + name + '"' + Suggestion(name, names));
+            Fail(file, "unknown function \"" + name + '"' + Simulation::Suggestion(name, names));
         }
         return instances[static_cast<std::size_t>(found - names.begin())];
     }

@@ -4,12 +4,12 @@
 
 namespace Simulation::GigEVision {
 
-bool Mishap::Happens(std::mt19937_64& random) {
+bool RandomOccurrence::Occurs(std::mt19937_64& random) {
     if (share <= 0) {
         return false;
     }
     if (cases == 0 || next < cases) { // the place of the next one, within its part of the cases
-        const double place = static_cast<double>(mishaps++) + std::uniform_real_distribution<>()(random);
+        const double place = static_cast<double>(occurrences++) + std::uniform_real_distribution<>()(random);
         const double never = 1e18;
         next = std::max(cases, static_cast<std::uint64_t>(std::min(place / share, never)));
     }
@@ -18,13 +18,13 @@ bool Mishap::Happens(std::mt19937_64& random) {
 
 std::vector<Sending> DisturbedDevice::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now) {
     std::vector<Sending> sendings;
-    if (drop.Happens(random)) {
+    if (drop.Occurs(random)) {
         return sendings;
     }
     if (const auto answer = AnswerAtDevice(from, datagram, now)) {
-        const int copies = duplicate.Happens(random) ? 2 : 1;
+        const int copies = duplicate.Occurs(random) ? 2 : 1;
         for (int i = 0; i < copies; ++i) {
-            if (!drop.Happens(random)) {
+            if (!drop.Occurs(random)) {
                 sendings.push_back({*answer, Delay()});
             }
         }
@@ -39,7 +39,7 @@ std::optional<Bytes> DisturbedDevice::AnswerAtDevice(const Sender& from, std::sp
         disturbances.rebootAfter.reset(); // once
         device.Reboot(now);
     }
-    const bool isBusy = request && request->command != Command::Discovery && nack.Happens(random);
+    const bool isBusy = request && request->command != Command::Discovery && nack.Occurs(random);
     return device.Answer(from, datagram, now, isBusy);
 }
 

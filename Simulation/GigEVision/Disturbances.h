@@ -28,17 +28,17 @@ struct Sending {
 
 /// What befalls a share of all cases: of ten with a share of 0.1 one of ten, of the next ten another one, which one is
 /// random. So the share is kept exactly, and a small one never befalls all repetitions of a request.
-class Mishap {
+class RandomOccurrence {
 public:
-    explicit Mishap(double shareOfCases) : share(shareOfCases) {}
+    explicit RandomOccurrence(double shareOfCases) : share(shareOfCases) {}
 
     /// Whether it befalls this case.
-    [[nodiscard]] bool Happens(std::mt19937_64& random);
+    [[nodiscard]] bool Occurs(std::mt19937_64& random);
 
 private:
     double share;
     std::uint64_t cases = 0;
-    std::uint64_t mishaps = 0;
+    std::uint64_t occurrences = 0;
     std::uint64_t next = 0; ///< the case that the next mishap befalls
 };
 
@@ -63,9 +63,9 @@ private:
 
     Device& device;
     Disturbances disturbances;
-    Mishap drop;
-    Mishap duplicate;
-    Mishap nack;
+    RandomOccurrence drop;
+    RandomOccurrence duplicate;
+    RandomOccurrence nack;
     std::mt19937_64 random;
     std::uint64_t requests = 0;
 };

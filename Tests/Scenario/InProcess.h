@@ -3,7 +3,7 @@
 #include "Tests/Scenario/HostProcess.h"
 
 #include "Host/Commands/Commands.h"
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 #include "Host/Logging.h"
 
 #include <functional>
@@ -31,7 +31,7 @@ inline Outcome RunInProcess(int (*command)(const Host::Invocation&), const Host:
     std::streambuf* const usualOut = std::cout.rdbuf(out.rdbuf());
     std::streambuf* const usualErr = std::cerr.rdbuf(err.rdbuf());
     Host::Program program(options);
-    const int code = Host::Guarded([&] { return command(Host::Invocation(program, given)); });
+    const int code = Host::RunAndReport([&] { return command(Host::Invocation(program, given)); });
     program.Finish();
     std::cout.rdbuf(usualOut);
     std::cerr.rdbuf(usualErr);

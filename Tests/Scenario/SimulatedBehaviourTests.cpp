@@ -194,7 +194,7 @@ Simulation::RegisterSpace::Content Afternoon(const char* model, std::uint64_t se
     }
     camera.Pass(100s);
     return camera.camera->Registers().Save(
-        {Simulation::Role::Shown, Simulation::Role::Setting, Simulation::Role::Kept, Simulation::Role::Fixed});
+        {Simulation::Role::Shown, Simulation::Role::Setting, Simulation::Role::NonVolatile, Simulation::Role::Fixed});
 }
 
 TEST(SimulatedWorld, IsDecidedByItsSeedAlone) {

@@ -13,6 +13,7 @@ using Wait = std::function<void(std::chrono::milliseconds)>;
 
 /// What a function holds; of one that reaches what is wired to the camera, once it has arrived there, or does not get
 /// there in the time that a motor needs from one end to the other.
-[[nodiscard]] Reading Settled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait);
+[[nodiscard]] Reading ReadWhenSettled(const Camera& reader, const Instance& instance, const Value& expected,
+                                      const Wait& wait);
 
 } // namespace Host

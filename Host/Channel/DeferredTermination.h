@@ -8,12 +8,12 @@ namespace Host {
 /// While one lives, a signal that would end this program does so only when this object ends, so that the control of a
 /// camera is given back before; whoever dies with it holds it until the heartbeat times out. A second one ends the
 /// program at once. Who handles signals meanwhile (Interrupts) handles them instead.
-class OrderlyEnd {
+class DeferredTermination {
 public:
-    OrderlyEnd();
-    ~OrderlyEnd();
-    OrderlyEnd(const OrderlyEnd&) = delete;
-    OrderlyEnd& operator=(const OrderlyEnd&) = delete;
+    DeferredTermination();
+    ~DeferredTermination();
+    DeferredTermination(const DeferredTermination&) = delete;
+    DeferredTermination& operator=(const DeferredTermination&) = delete;
 
     /// Whether this program is to end.
     [[nodiscard]] static bool IsDue();

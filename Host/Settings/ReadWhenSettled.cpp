@@ -1,4 +1,4 @@
-#include "Host/Settings/Settled.h"
+#include "Host/Settings/ReadWhenSettled.h"
 
 namespace Host {
 
@@ -15,7 +15,7 @@ Wait WaitFor(Session& session) {
     return [&session](milliseconds time) { session.Connection().Wait(time); };
 }
 
-Reading Settled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait) {
+Reading ReadWhenSettled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait) {
     Reading reading = reader.TryRead(instance);
     if (instance->restore == Restore::Output) {
         for (milliseconds waited{0}; reading.error == 0 && reading.value != expected && waited < travel;

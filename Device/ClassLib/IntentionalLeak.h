@@ -1,7 +1,7 @@
 #pragma once
 
-// LeftOnPurpose: while one lives, the leak check of a sanitized build does not look for what is allocated. Elsewhere it
-// is nothing. Told here, it costs nothing; found out by the names of functions, it costs seconds a process. Whatever
+// IntentionalLeak: while one lives, the leak check of a sanitized build does not look for what is allocated. Elsewhere
+// it is nothing. Told here, it costs nothing; found out by the names of functions, it costs seconds a process. Whatever
 // can be reached from there passes as well, a control that is never deleted, for one: LoadTest notices that, as it
 // holds what a control leaves to a number of bytes.
 
@@ -20,9 +20,9 @@
 namespace SDK4 {
 
 #ifdef SDK4_LEAKS_CHECKED
-using LeftOnPurpose = __lsan::ScopedDisabler;
+using IntentionalLeak = __lsan::ScopedDisabler;
 #else
-struct LeftOnPurpose {};
+struct IntentionalLeak {};
 #endif
 
 } // namespace SDK4

@@ -8,7 +8,7 @@ namespace Host {
 
 // Numbers as cameras keep them in their memory: the low byte first, whatever the order of this machine.
 
-template <std::size_t Size> std::uint64_t FromLittle(const std::array<std::uint8_t, Size>& bytes) {
+template <std::size_t Size> std::uint64_t FromLittleEndian(const std::array<std::uint8_t, Size>& bytes) {
     std::uint64_t value = 0;
     for (std::size_t i = 0; i < Size; ++i) {
         value |= std::uint64_t{bytes[i]} << 8 * i;
@@ -16,7 +16,7 @@ template <std::size_t Size> std::uint64_t FromLittle(const std::array<std::uint8
     return value;
 }
 
-inline std::array<std::uint8_t, 8> ToLittle(std::uint64_t value) {
+inline std::array<std::uint8_t, 8> ToLittleEndian(std::uint64_t value) {
     std::array<std::uint8_t, 8> bytes{};
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<std::uint8_t>(value >> 8 * i);

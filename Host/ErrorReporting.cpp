@@ -1,4 +1,4 @@
-#include "Host/Guarded.h"
+#include "Host/ErrorReporting.h"
 
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Command.h"
@@ -12,28 +12,28 @@
 
 namespace Host {
 
-int Guarded(const std::function<int()>& action, int failed) {
+int RunAndReport(const std::function<int()>& action, int failed) {
     try {
         return action();
     } catch (const UsageError& error) {
-        Complain(error.what());
+        PrintError(error.what());
         return WrongUsage;
     } catch (const OpenError& error) {
-        Complain(error.what());
+        PrintError(error.what());
         return NotOpened;
     } catch (const SDK4::X4Error& error) {
-        Complain(std::string(SDK4::ErrorName(error.code)) + " (" + std::to_string(error.code) + ")");
+        PrintError(std::string(SDK4::ErrorName(error.code)) + " (" + std::to_string(error.code) + ")");
         return failed;
     } catch (const ControlHeld& error) {
-        Complain(error.Describe());
+        PrintError(error.Describe());
         return NotOpened;
     } catch (const Ending&) {
         return failed;
     } catch (const ChannelError& error) {
-        Complain(error.Describe());
+        PrintError(error.Describe());
         return failed;
     } catch (const std::exception& error) { // of a simulated camera, for one
-        Complain(error.what());
+        PrintError(error.what());
         return failed;
     }
 }

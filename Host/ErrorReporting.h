@@ -11,7 +11,7 @@ namespace Host {
 /// Runs an action and reports what it throws.
 /// @param failed the ExitCode that belongs to what is neither wrong usage nor a camera that could not be opened
 /// @return what the action returns, or the ExitCode that belongs to what it throws
-int Guarded(const std::function<int()>& action, int failed = Refused);
+int RunAndReport(const std::function<int()>& action, int failed = Refused);
 
 /// The reason why a call of the plug-in failed that writes, if only an index, while another program has control.
 constexpr const char* needsControl = "needs control";

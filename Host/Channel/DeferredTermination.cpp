@@ -1,4 +1,4 @@
-#include "Host/Channel/OrderlyEnd.h"
+#include "Host/Channel/DeferredTermination.h"
 
 namespace Host {
 
@@ -8,7 +8,7 @@ volatile std::sig_atomic_t due = 0; ///< the signal that came
 
 } // namespace
 
-OrderlyEnd::OrderlyEnd() {
+DeferredTermination::DeferredTermination() {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
         struct sigaction action {};
         sigaction(signal, nullptr, &action);
@@ -21,7 +21,7 @@ OrderlyEnd::OrderlyEnd() {
     }
 }
 
-OrderlyEnd::~OrderlyEnd() {
+DeferredTermination::~DeferredTermination() {
     for (const auto& [signal, action] : before) {
         sigaction(signal, &action, nullptr);
     }
@@ -30,6 +30,6 @@ OrderlyEnd::~OrderlyEnd() {
     }
 }
 
-bool OrderlyEnd::IsDue() { return due != 0; }
+bool DeferredTermination::IsDue() { return due != 0; }
 
 } // namespace Host

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "Simulation/Suggestion.h"
-
-namespace Host {
-
-using Simulation::Suggestion;
-
-} // namespace Host
