@@ -18,6 +18,5 @@ int RunRestore(const Invocation& invocation);
 int Watch(const Invocation& invocation);
 int RunSelftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);
-int RunTour(const Invocation& invocation);
 
 } // namespace Host
