@@ -21,23 +21,6 @@ if(QDV12_SANITIZERS)
     add_link_options(-fsanitize=${QDV12_SANITIZERS})
 endif()
 
-# Sources that are slow to optimise and run once: command lines, files, tables. qdv12_leave_unoptimised(FILE...)
-macro(qdv12_leave_unoptimised)
-    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O0 SKIP_PRECOMPILE_HEADERS ON)
-endmacro()
-
-# What stands around the plug-in runs for moments, or waits for the camera: optimising it as much takes longer than it
-# saves. qdv12_optimise_little(TARGET LEVEL_WHEN_SANITIZED)
-function(qdv12_optimise_little target sanitized)
-    if(QDV12_SANITIZERS)
-        target_compile_options(${target} PRIVATE ${sanitized})
-    else()
-        # Optimising so little, GCC 12 does not see which member a variant holds.
-        target_compile_options(${target} PRIVATE
-            "$<$<CONFIG:Release,RelWithDebInfo>:-O1;$<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>>")
-    endif()
-endfunction()
-
 # Half the time that a source takes is for reading other people's headers. Every source includes what it uses all the
 # same: scripts/check compiles without.
 function(qdv12_precompile target)
