@@ -84,9 +84,11 @@ std::string PrintWithUnit(const Instance& instance, const Value& value) {
     return instance.Print(value) + (instance->unit.empty() ? "" : " " + std::string(instance->unit));
 }
 
+Json TextToJson(const std::string& text) { return IsUtf8(text) ? Json(text) : Json{{hexMember, Hexadecimal(text)}}; }
+
 Json ToJson(const Instance& instance, const Value& value) {
     if (instance->shape.fields.empty()) {
-        return IsUtf8(value.text) ? Json(value.text) : Json{{hexMember, Hexadecimal(value.text)}};
+        return TextToJson(value.text);
     }
     if (!IsRecord(instance)) {
         return ToJson(instance, value.numbers.at(0));

@@ -13,8 +13,10 @@ namespace Host {
 /// "22235 us"
 [[nodiscard]] std::string PrintWithUnit(const Instance& instance, const Value& value);
 
-/// A number, the name of a code, a text, or for a record an object with its fields. For a text that is not UTF-8, which
-/// JSON cannot hold, an object with its bytes: {"hex": "6e616d65e9"}.
+/// A text; one that is not UTF-8, which JSON cannot hold, as an object with its bytes: {"hex": "6e616d65e9"}.
+[[nodiscard]] Json TextToJson(const std::string& text);
+
+/// A number, the name of a code, a text as above, or for a record an object with its fields.
 [[nodiscard]] Json ToJson(const Instance& instance, const Value& value);
 
 /// What ToJson made, read back; numbers may stand for codes.

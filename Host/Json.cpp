@@ -119,6 +119,15 @@ std::string Json::Print() const { return Dump(*this, 2); }
 
 std::string Json::PrintInOneLine() const { return Dump(*this, -1); }
 
-Json Json::Parse(const std::string& text) { return FromDocument(Document::parse(text)); }
+Json Json::Parse(const std::string& text) {
+    // Documents are walked by recursion: one that is nested without end would end the program.
+    constexpr int deepest = 64;
+    return FromDocument(Document::parse(text, [](int depth, Document::parse_event_t, const Document&) {
+        if (depth > deepest) {
+            throw std::runtime_error("nested too deeply");
+        }
+        return true;
+    }));
+}
 
 } // namespace Host

@@ -24,10 +24,16 @@ void Program::TellWhoControls() {
     }
 }
 
+void Program::SaveState() {
+    if (session) {
+        session->Connection().SaveState();
+    }
+}
+
 void Program::Finish() {
     if (session) {
         session->Connection().RequireUnbroken();
-        session->Connection().SaveState();
+        SaveState();
     }
 }
 

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     /// Once a command has ended: tells on standard error who has control, if the command lacked it here and there.
     void TellWhoControls();
+    /// Has the state file, if there is one, hold the camera as it is now.
+    void SaveState();
     /// Once all have ended: makes sure that its camera was there all the time, and has the state file, if there is
     /// one, hold it.
     /// @throw ChannelLost

@@ -21,8 +21,8 @@ public:
             function = name;
         }
     }
-    /// What the failure left undone, for the same line.
-    void SetConsequence(const std::string& text) { consequence = "; " + text; }
+    /// What the failure left undone, for the same line; may be more than one thing.
+    void AddConsequence(const std::string& text) { consequence += "; " + text; }
     /// "gain: ReadRegister at 0x14010000 failed: ...", without the function if it is not known.
     [[nodiscard]] std::string Describe() const {
         return (function.empty() ? "" : function + ": ") + what() + consequence;

@@ -94,6 +94,15 @@ GigEPort::GigEPort(const std::string& address) : camera("the camera at " + addre
     TryToTakeControl(); // Aravis asked once, when the camera may have been busy
 }
 
+/// Aravis gives control back as well, but takes a busy camera's word for it; control would stay taken until the
+/// heartbeat times out.
+GigEPort::~GigEPort() {
+    if (controls && (lost == Lost::No || lost == Lost::Ending)) {
+        static_cast<void>(Try(
+            [&](GError** error) { return arv_gv_device_leave_control(ARV_GV_DEVICE(device.get()), error) != FALSE; }));
+    }
+}
+
 std::string GigEPort::ModelName() {
     const char* const name = ReadString(modelName, modelNameLength);
     return {name, std::find(name, name + modelNameLength, '\0')};

@@ -30,6 +30,9 @@ public:
     /// @param address an IPv4 address
     /// @throw OpenError
     explicit GigEPort(const std::string& address);
+    ~GigEPort();
+    GigEPort(const GigEPort&) = delete;
+    GigEPort& operator=(const GigEPort&) = delete;
 
     /// "the camera at 192.168.1.10"
     [[nodiscard]] const std::string& Name() const { return camera; }

@@ -2,8 +2,8 @@
 
 #include "Host/Channel/Datagrams.h"
 #include "Host/Channel/Discovery.h"
+#include "Host/Describe.h"
 #include "Host/Format.h"
-#include "Host/Json.h"
 #include "Host/Text.h"
 
 #include <algorithm>
@@ -32,9 +32,9 @@ int Discover(const Invocation& invocation) {
         if (invocation.Program().Json()) {
             list.Add(Json{{"address", camera.address},
                           {"mac", camera.mac},
-                          {"model", camera.model},
-                          {"serial", camera.serial},
-                          {"userName", camera.userName},
+                          {"model", TextToJson(camera.model)},
+                          {"serial", TextToJson(camera.serial)},
+                          {"userName", TextToJson(camera.userName)},
                           {"served", known}});
         } else {
             Print(camera, known);

@@ -133,7 +133,7 @@ void RunAndPrint(Restorer& restorer, bool dryRun, bool json) {
             PrintAsJson(restorer.Results());
         }
         if (!dryRun) {
-            error.SetConsequence(DescribeProgress(restorer));
+            error.AddConsequence(DescribeProgress(restorer));
         }
         throw;
     }

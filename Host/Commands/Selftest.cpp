@@ -7,10 +7,12 @@
 #include "Host/Json.h"
 #include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/Restorer.h"
+#include "Host/Settings/SettingsFile.h"
 #include "Host/Style.h"
 
 #include <unistd.h>
 
+#include <filesystem>
 #include <iostream>
 
 namespace Host {
@@ -60,8 +62,19 @@ public:
     Preserved(const Preserved&) = delete;
     Preserved& operator=(const Preserved&) = delete;
 
-    /// The camera is lost.
-    void GiveUp() { isBack = true; }
+    /// The camera is lost: keeps the settings in a file.
+    /// @return what became of them, in words
+    std::string GiveUp() {
+        isBack = true;
+        try {
+            const auto file = std::filesystem::temp_directory_path() /
+                              ("qdv12host-" + before.model + "-" + std::to_string(getpid()) + ".json");
+            WriteSettings(before, file.string());
+            return notPutBack + std::string("; ") + Quoted(file.string()) + " holds them for restore";
+        } catch (const std::exception& error) {
+            return notPutBack + std::string(", nor kept: ") + error.what();
+        }
+    }
 
     /// @return what is not as it was
     std::vector<Difference> PutBack() {
@@ -193,8 +206,7 @@ int RunSelftest(const Invocation& invocation) {
         results = TestAll(session, outputs);
         left = preserved.PutBack();
     } catch (ChannelLost& error) {
-        preserved.GiveUp();
-        error.SetConsequence(notPutBack);
+        error.AddConsequence(preserved.GiveUp());
         throw;
     }
     const int failures = Report(results, invocation.Program().Json());

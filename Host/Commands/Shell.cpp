@@ -112,6 +112,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
     const int code =
         RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
     program.TellWhoControls();
+    program.SaveState(); // whatever ends the shell, its state file holds what was set
     return code;
 }
 
@@ -134,7 +135,11 @@ int Shell(const Invocation& invocation) {
             return leaves ? int{Success} : RunLine(program, words, json);
         });
         firstFailure = firstFailure == Success ? code : firstFailure;
-        if (leaves || Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal())) {
+        const bool interrupted = Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal());
+        if (interrupted && firstFailure == Success) {
+            firstFailure = Refused; // lines were left out
+        }
+        if (leaves || interrupted) {
             break;
         }
     }

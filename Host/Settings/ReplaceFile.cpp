@@ -41,6 +41,8 @@ public:
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
+    /// Taking its place needs the folder alone; who protects a file against writing means it.
+    void RequireWritable() const { Require(access(target.c_str(), F_OK) != 0 || access(target.c_str(), W_OK) == 0); }
     void Write(std::string_view content) {
         while (!content.empty()) {
             const ssize_t written = write(descriptor, content.data(), content.size());
@@ -74,6 +76,7 @@ private:
 void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
     std::error_code ignored;
     Replacement replacement(std::filesystem::weakly_canonical(std::filesystem::absolute(file), ignored));
+    replacement.RequireWritable();
     replacement.Write(content);
     replacement.SetAccessRights();
     replacement.TakePlace();

@@ -130,9 +130,12 @@ void Restorer::Settle(Restored& result, Restored now) {
 }
 
 void Restorer::Look() {
-    for (const Setting& setting : settings.values) {
-        results.push_back(Compare(setting));
-        results.back().status = RestoreStatus::Pending;
+    for (const Setting& setting : settings.values) { // all of them, however far the look gets
+        results.push_back({setting.instance, RestoreStatus::Pending, setting.value, {}, {}, {}});
+    }
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        results[i] = Compare(settings.values[i]);
+        results[i].status = RestoreStatus::Pending;
     }
 }
 

@@ -6,6 +6,24 @@
 
 namespace Host {
 
+namespace {
+
+void WhileSet(const Camera& camera, const Instance& mode, const Value& opening, const Value& held,
+              const std::function<void()>& action) {
+    camera.Write(mode, opening);
+    try {
+        action();
+    } catch (const ChannelLost&) {
+        throw;
+    } catch (...) {
+        camera.Write(mode, held);
+        throw;
+    }
+    camera.Write(mode, held);
+}
+
+} // namespace
+
 void WhileUnlocked(const Camera& camera, const Instance& instance, const std::function<void()>& action) {
     if (!instance->lock || camera.LockedBy(instance).empty()) {
         action();
@@ -19,16 +37,13 @@ void WhileUnlocked(const Camera& camera, const Instance& instance, const std::fu
         action();
         return;
     }
-    camera.Write(mode, {{open.front()}, {}});
+    const Value opening{{open.front()}, {}};
     try {
-        action();
-    } catch (const ChannelLost&) { // nothing can be put back
-        throw;
-    } catch (...) {
-        camera.Write(mode, held);
+        WhileSet(camera, mode, opening, held, action);
+    } catch (ChannelLost& error) { // nothing can be put back
+        error.AddConsequence(mode.Name() + " may be left at " + mode.Print(opening) + ", it was " + mode.Print(held));
         throw;
     }
-    camera.Write(mode, held);
 }
 
 } // namespace Host

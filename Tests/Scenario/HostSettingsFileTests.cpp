@@ -6,6 +6,7 @@
 #include "Simulation/PortError.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -118,6 +119,25 @@ TEST_F(HostSettings, KeepATextThatIsNoUtf8) {
         Write(other, Replaced(Content(saved), "\"\xF0\x9F\x93\xB7\"", "{\"hex\": \"" + std::string(hex) + "\"}"));
         EXPECT_EQ(Run("diff " + saved + " " + other).code, 2) << hex;
     }
+}
+
+TEST_F(HostSettings, NestedWithoutEndAreDamaged) {
+    for (const std::string& text : {std::string(30000, '[') + std::string(30000, ']'), std::string(30000, '[')}) {
+        Write(saved, text);
+        const Outcome diff = Run("diff " + saved + " " + saved);
+        EXPECT_EQ(diff.code, 2);
+        EXPECT_TRUE(Has(diff.err, "damaged, or no settings: nested too deeply\n")) << diff.err;
+    }
+}
+
+TEST_F(HostSettings, ThatAreWriteProtectedStay) {
+    Write(saved, "precious");
+    std::filesystem::permissions(saved, std::filesystem::perms::owner_read);
+    if (access(saved.c_str(), W_OK) == 0) {
+        GTEST_SKIP() << "this user may write to any file";
+    }
+    EXPECT_EQ(Run("save Orvik-390M " + saved).code, 2);
+    EXPECT_EQ(Content(saved), "precious");
 }
 
 TEST_F(HostSettings, HoldAUserNameThatIsCutAtACharacter) {

@@ -1,4 +1,5 @@
 #include "Tests/Scenario/HostProcess.h"
+#include "Tests/Scenario/SettingsFixture.h"
 #include "Tests/Scenario/Terminal.h"
 
 namespace Scenario {
@@ -39,6 +40,32 @@ TEST(HostTerminal, ShowsColourAndProgressWhereTheyAreWelcome) {
         EXPECT_EQ(plain.find('\033'), std::string::npos) << environment.front().second;
         EXPECT_EQ(plain.find("\r["), std::string::npos) << environment.front().second;
     }
+}
+
+/// Scripts that do not get to their end.
+class HostShellEnds : public HostSettings {
+protected:
+    [[nodiscard]] std::vector<std::string> Shell(const std::string& lines) const {
+        return {"-c", "(printf '" + lines + "'; sleep 60) | exec " QDV12_HOST " shell Orvik-390M --state " + state};
+    }
+};
+
+TEST_F(HostShellEnds, WithWhatWasSetInTheStateFile) {
+    {
+        const Running shell("sh", Shell("set gain=9\\n"), STDOUT_FILENO);
+        for (int looks = 0; looks < 200 && Run("get Orvik-390M gain").out != "gain=9\n"; ++looks) {
+            usleep(50000);
+        }
+    } // killed
+    EXPECT_EQ(Run("get Orvik-390M gain").out, "gain=9\n");
+}
+
+TEST_F(HostShellEnds, AsRefusedWhenItIsInterrupted) {
+    Write(input, "watch agc=1 --seconds 60\nset gain=8\n");
+    Running shell("sh", {"-c", "exec " QDV12_HOST " shell Orvik-390M <" + input}, STDOUT_FILENO);
+    ASSERT_TRUE(shell.ReadUntil("agc"));
+    shell.Signal(SIGINT);
+    EXPECT_EQ(shell.End(), 1);
 }
 
 } // namespace Scenario
