@@ -47,50 +47,6 @@ INSTANTIATE_TEST_SUITE_P(Models, EveryOrvik, testing::Values(
     ModelRow{"Orvik-530M",   false, true,  {2592, 2048}}, ModelRow{"Orvik-530C",   true, true,  {2592, 2048}}));
 // clang-format on
 
-TEST(Afternoon, AutomaticExposureOwnsTheExposureTime) {
-    Host::Session session(LoadedPlugin(), "Orvik-710M");
-    auto& exposure = As<IExposure>(session);
-    auto& camera = Registers(session);
-    exposure.SetExposure({0, 5000});
-    EXPECT_EQ(camera.Get("exposure"), (Words{0, 5000}));
-
-    exposure.SetAET(1);
-    camera.Set("exposure", {0, 777}); // the camera moves it
-    EXPECT_EQ(exposure.GetExposure().counter, 777U);
-    camera.Set("exposure", {0, 778});
-    EXPECT_EQ(exposure.GetExposure().counter, 778U);
-    EXPECT_EQ(CodeOf([&] { exposure.SetExposure({0, 1}); }), SDK4_ERR_CANTSETFEATURE);
-    EXPECT_EQ(camera.Get("exposure"), (Words{0, 778}));
-
-    exposure.SetAET(SDK4_AET_OFF);
-    EXPECT_EQ(CostOf(session, [&] { (void)exposure.GetExposure(); }), 1U);
-    EXPECT_EQ(CostOf(session, [&] { (void)exposure.GetExposure(); }), 0U);
-    exposure.SetExposure({1, 20});
-    EXPECT_EQ(camera.Get("exposure"), (Words{1, 20}));
-}
-
-TEST(Afternoon, GeometryAndFormatAreLockedWhileImagesAreAcquired) {
-    Host::Session session(LoadedPlugin(), "Orvik-530M");
-    auto& roa = As<IRoa>(session);
-    auto& format = As<ISignalFormat>(session);
-    auto* const video = dynamic_cast<SDK4::IVideoFrame*>(As<IDSMediaType>(session).GetMediaType());
-    ASSERT_NE(video, nullptr);
-
-    As<SDK4::IStreamControl>(session).Start();
-    EXPECT_EQ(CodeOf([&] { roa.SetReadoutArea({0, 0, 639, 479}); }), SDK4_ERR_CANTSETFEATURE);
-    EXPECT_EQ(CodeOf([&] { format.SetColorCoding(SDK4_COLORCODING_MONO14); }), SDK4_ERR_CANTSETFEATURE);
-    EXPECT_EQ(CodeOf([&] { As<IBinning>(session).SetBinning({2, 2}); }), SDK4_ERR_CANTSETFEATURE);
-    EXPECT_EQ(roa.GetReadoutArea(), (SDK4_KAREA{0, 0, 2591, 2047}));
-    EXPECT_EQ(CodeOf([&] { As<IGain>(session).SetGain(20); }), 0); // no geometry
-
-    As<SDK4::IStreamControl>(session).Stop();
-    roa.SetReadoutArea({0, 0, 639, 479});
-    EXPECT_EQ(video->GetWidth(), 640U);
-    EXPECT_EQ(video->GetHeight(), 480U);
-    EXPECT_EQ(CodeOf([&] { As<IOverlay>(session).SetOverlayPosition(1, {600, 600}); }), SDK4_ERR_OUTOFRANGE);
-    EXPECT_EQ(Registers(session).Get("overlayposition", 1), (Words{600, 479}));
-}
-
 TEST(Afternoon, SettingsAreSavedChangedAndLoaded) {
     Host::Session session(LoadedPlugin(), "Orvik-390M");
     auto& settings = As<IBasicSettings>(session);
@@ -148,6 +104,37 @@ TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
     As<SDK4::IStreamControl>(session).Start();
     auto& format = dynamic_cast<ISignalFormat&>(*second);
     EXPECT_EQ(CodeOf([&] { format.SetColorCoding(SDK4_COLORCODING_MONO8); }), 0);
+}
+
+template <typename Interface> Interface& Of(const Host::Control& control) { return dynamic_cast<Interface&>(*control); }
+
+TEST(M2VXAfternoon, OnlyAControlOpenedAnewSeesWhatTheCameraChangedByItself) {
+    Host::Session session(LoadedPlugin(), "Cerix-MV7");
+    auto& gain = As<M2VX::IGain>(session);
+    auto& settings = As<IBasicSettings>(session);
+    gain.SetGain(40);
+    settings.SaveSettings(1);
+    gain.SetGain(50);
+    const Host::Control old = session.OpenAgain(3);
+    settings.LoadSettings(1);
+    As<M2VX::IDefectPixel>(session).SetDefectPixelAutoCompensation();
+
+    EXPECT_EQ(gain.GetGain(), 40U);
+    EXPECT_EQ(Of<M2VX::IGain>(old).GetGain(), 50U);
+    EXPECT_EQ(Of<M2VX::IDefectPixel>(old).GetDefectPixelCount(), 2U);
+    EXPECT_EQ(Of<M2VX::IDefectPixel>(old).GetDefectPixel({2, 0}).xpos, 0U);
+
+    (void)session.Port().Take();
+    const Host::Control anew = session.OpenAgain(3);
+    EXPECT_EQ(session.Port().Take().size(), 608U); // one pair of defect pixels more
+    EXPECT_EQ(Of<M2VX::IGain>(anew).GetGain(), 40U);
+    EXPECT_EQ(Of<M2VX::IDefectPixel>(anew).GetDefectPixel({2, 0}).xpos, 302U);
+
+    settings.SetStartupSettings(1);
+    settings.LoadSettings(0);
+    EXPECT_EQ(gain.GetGain(), 0U);
+    settings.Restart();
+    EXPECT_EQ(gain.GetGain(), 40U);
 }
 
 } // namespace Scenario

@@ -53,6 +53,3 @@ template <typename Call> std::size_t CostOf(Host::Session& session, const Call& 
 } // namespace Scenario
 
 // The records, compared word by word.
-inline bool operator==(const SDK4_KAREA& a, const SDK4_KAREA& b) {
-    return a.startx == b.startx && a.starty == b.starty && a.endx == b.endx && a.endy == b.endy;
-}
