@@ -116,6 +116,18 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
     return code;
 }
 
+/// @param leaves set by the line that ends the shell
+int RunText(Program& program, const std::string& line, bool json, bool& leaves) {
+    const auto words = WordsOf(line);
+    leaves = !words.empty() && words.front() == quit;
+    return words.empty() || leaves ? int{Success} : RunLine(program, words, json);
+}
+
+/// At a terminal Ctrl-C ends a command alone.
+bool IsInterrupted(const LineReader& lines) {
+    return Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal());
+}
+
 } // namespace
 
 int Shell(const Invocation& invocation) {
@@ -124,23 +136,17 @@ int Shell(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
     LineReader lines(camera.Model() + "> ", [&](const std::string& before) { return Completions(camera, before); });
     int firstFailure = Success;
-    while (const auto line = lines.Next()) {
-        bool leaves = false;
-        const int code = RunAndReport([&]() -> int {
-            const auto words = WordsOf(*line);
-            if (words.empty()) {
-                return Success;
-            }
-            leaves = words.front() == quit;
-            return leaves ? int{Success} : RunLine(program, words, json);
-        });
-        firstFailure = firstFailure == Success ? code : firstFailure;
-        const bool interrupted = Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal());
-        if (interrupted && firstFailure == Success) {
-            firstFailure = Refused; // lines were left out
-        }
-        if (leaves || interrupted) {
+    const auto note = [&](int code) { firstFailure = firstFailure == Success ? code : firstFailure; };
+    bool leaves = false;
+    while (!leaves) {
+        const auto line = lines.Next();
+        if (!line) {
             break;
+        }
+        note(RunAndReport([&] { return RunText(program, *line, json, leaves); }));
+        if (IsInterrupted(lines)) {
+            note(Refused); // the lines behind it are left out
+            leaves = true;
         }
     }
     program.SetJson(json);
