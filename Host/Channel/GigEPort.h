@@ -21,9 +21,8 @@ namespace Host {
 ///
 /// Control is taken on opening, if no other program has it, kept by Aravis' heartbeat, and given back at the end.
 /// Every operation throws ChannelError; one that the camera has no address for NoSuchAddress; a write without control
-/// ControlHeld, before anything is sent; the first access
-/// that finds the camera or the control gone, or this program about to end by a signal, and every one after that,
-/// ChannelLost.
+/// ControlHeld, before anything is sent; the first access that finds the camera or the control gone, or this program
+/// about to end by a signal, and every one after that, ChannelLost.
 class GigEPort final : public SDK4::IControlPort {
 public:
     /// Opens the channel. Nothing is broadcast.

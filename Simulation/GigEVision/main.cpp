@@ -85,7 +85,7 @@ void Serve(const Order& order) {
     Keep(order, *camera);
 }
 
-int Complain(ExitCode code, const std::string& text) {
+int PrintError(ExitCode code, const std::string& text) {
     std::cerr << "qdv12sim: " << text << '\n';
     return code;
 }
@@ -100,14 +100,14 @@ int Run(int argc, char** argv) {
         }
         return AllWell;
     } catch (const UsageError& error) {
-        return Complain(WrongUsage, error.what());
+        return PrintError(WrongUsage, error.what());
     } catch (const FaultError& error) {
-        return Complain(WrongUsage, error.what());
+        return PrintError(WrongUsage, error.what());
     } catch (const asio::system_error& error) {
-        return Complain(NotServed, AddressText(order->address) + ':' + std::to_string(port) +
-                                       " cannot be used: " + error.code().message());
+        return PrintError(NotServed, AddressText(order->address) + ':' + std::to_string(port) +
+                                         " cannot be used: " + error.code().message());
     } catch (const std::exception& error) { // the state, the record
-        return Complain(NotServed, error.what());
+        return PrintError(NotServed, error.what());
     }
 }
 
