@@ -21,11 +21,13 @@ namespace {
 using Factory = IDynamicObject* (*)(const char* model, IControlPort* port, std::int32_t index);
 
 IDynamicObject* CreateOrvik(const char* model, IControlPort* port, std::int32_t index) {
-    [[maybe_unused]] const IntentionalLeak listEntries; // see ReleaseStorage.h; and the media type, which a host may keep
+    [[maybe_unused]] const IntentionalLeak
+        listEntries; // see ReleaseStorage.h; and the media type, which a host may keep
     auto features = std::make_unique<CFeatureList>();
     auto registers = std::make_unique<CRegisterList>();
-    if (port == nullptr)
+    if (port == nullptr) {
         port = RefusingPort::Instance();
+    }
     auto* control = new Control::COrvikFeatureCtrl(features.get(), registers.get(), port, index, model, "Orvik");
     features.release(); // the control's from here on
     registers.release();
@@ -63,9 +65,11 @@ constexpr Model Models[] = {
 constexpr const char* LibraryKey = "qdv12";
 
 Factory FindFactory(std::string_view name) {
-    for (const Model& model : Models)
-        if (name == model.name)
+    for (const Model& model : Models) {
+        if (name == model.name) {
             return model.create;
+        }
+    }
     return nullptr;
 }
 
@@ -76,10 +80,12 @@ Factory FindFactory(std::string_view name) {
 /// Registers every model served with the host's IModelRegistry. Null is accepted and registers nothing.
 extern "C" SDK4_PUBLIC void InitLibrary(void* registry) {
     SDK4_LOG(Info, "Init QDV12Control");
-    if (registry == nullptr)
+    if (registry == nullptr) {
         return;
-    for (const SDK4::Model& model : SDK4::Models)
+    }
+    for (const SDK4::Model& model : SDK4::Models) {
         static_cast<IModelRegistry*>(registry)->RegisterModel(model.name, SDK4::LibraryKey);
+    }
 }
 
 /// Builds the control of a camera over the host's IControlPort. Returns its IDynamicObject, which the host gives back

@@ -45,7 +45,7 @@ public:
           channel(theirs) {}
 
     /// A camera function.
-    template <class Interface> void Add(Comparisons& table, const char* name, void (*call)(Interface&)) {
+    template <typename Interface> void Add(Comparisons& table, const char* name, void (*call)(Interface&)) {
         Add(table, name, call, dynamic_cast<Interface&>(*control), dynamic_cast<Interface&>(*tracedControl));
     }
 
@@ -56,14 +56,15 @@ public:
 
 private:
     /// What is compared with are the accesses of a repeated call: the first may find caches empty.
-    template <class Interface>
+    template <typename Interface>
     void Add(Comparisons& table, const char* name, void (*call)(Interface&), Interface& measured, Interface& recorded) {
         call(recorded);
         static_cast<void>(traced.Take());
         call(recorded);
         const std::vector<Host::Access> accesses = traced.Take();
-        if (accesses.empty())
+        if (accesses.empty()) {
             throw std::runtime_error(std::string(name) + " does not reach the camera");
+        }
         channel.RequireSameAnswers(accesses);
         table.push_back(
             {name, accesses, [&measured, call] { call(measured); }, [this, accesses] { channel.Make(accesses); }});
@@ -114,9 +115,11 @@ void MeasureRound(Comparison& row) {
 
 void Measure(Comparisons& table) {
     constexpr int rounds = 200;
-    for (int round = 0; round < rounds; ++round)
-        for (Comparison& row : table)
+    for (int round = 0; round < rounds; ++round) {
+        for (Comparison& row : table) {
             MeasureRound(row);
+        }
+    }
 }
 
 /// "R 46020000/4, w 14010000"
@@ -149,8 +152,9 @@ bool Print(const Comparisons& table) {
 }
 
 int Main(std::span<char*> addresses) {
-    if (addresses.size() != 4)
+    if (addresses.size() != 4) {
         throw std::runtime_error("wanted: addresses of two cameras Orvik-31200C and two Cerix7-MV");
+    }
     Host::ConfigureLogging("off");
     const Host::Plugin plugin(Host::DefaultPlugin());
     Cameras orvik(plugin, "Orvik-31200C", 2, addresses[0], addresses[1]);

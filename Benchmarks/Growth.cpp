@@ -28,8 +28,9 @@ public:
         for (std::size_t i = 0; i < size; ++i) {
             auto& added = Declare(NameOf("register", i));
             added.AddInvalidator("loadsettings");
-            if (i >= 1 && i <= dependants)
+            if (i >= 1 && i <= dependants) {
                 added.AddInvalidator(first);
+            }
             properties.push_back(&table.emplace_back(NameOf("property", i)));
         }
         last = NameOf("property", size - 1);
@@ -43,12 +44,14 @@ public:
 
     /// Makes all values valid, or those that depend on the first register.
     void ReadAll() {
-        for (auto* each : all)
+        for (auto* each : all) {
             each->GetValue();
+        }
     }
     void ReadDependants() {
-        for (std::size_t i = 0; i <= dependants && i + 1 < all.size(); ++i)
+        for (std::size_t i = 0; i <= dependants && i + 1 < all.size(); ++i) {
             all[i + 1]->GetValue();
+        }
     }
 
     SDK4::CRegisterList registers;
@@ -89,25 +92,29 @@ void AddRows(Table& table, Control& control, std::size_t size) {
 
 void PrintTable(const Table& table) {
     std::printf("| Operation |");
-    for (const std::size_t size : Sizes)
+    for (const std::size_t size : Sizes) {
         std::printf(" %zu |", size);
+    }
     std::puts("\n|---|--:|--:|--:|--:|");
     for (const char* operation : Operations) {
         std::printf("| %s |", operation);
-        for (const std::size_t size : Sizes)
+        for (const std::size_t size : Sizes) {
             std::printf(" %.0f |", table.At(RowName(operation, size)).nanoseconds);
+        }
         std::puts("");
     }
 }
 
 void WriteNumbers(const Table& table, const char* path) {
     std::FILE* file = std::fopen(path, "w");
-    if (file == nullptr)
+    if (file == nullptr) {
         throw std::runtime_error(std::string("cannot write ") + path);
+    }
     for (const std::size_t size : Sizes) {
         std::fprintf(file, "%zu", size);
-        for (const char* operation : Operations)
+        for (const char* operation : Operations) {
             std::fprintf(file, " %.1f", table.At(RowName(operation, size)).nanoseconds);
+        }
         std::fputc('\n', file);
     }
     std::fclose(file);
@@ -118,12 +125,14 @@ void Main(const char* numbers) {
     std::deque<Control> controls;
     Table table([&] {
         std::uint64_t accesses = 0;
-        for (const Control& control : controls)
+        for (const Control& control : controls) {
             accesses += control.port.Accesses();
+        }
         return accesses;
     });
-    for (const std::size_t size : Sizes)
+    for (const std::size_t size : Sizes) {
         AddRows(table, controls.emplace_back(size), size);
+    }
     table.Run();
     PrintTable(table);
     WriteNumbers(table, numbers);

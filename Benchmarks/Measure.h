@@ -23,21 +23,23 @@ using Preparation = std::function<void()>;
 
 /// Measures a call: its time, and what it costs in port accesses and allocations. A call that needs a preparation is
 /// timed alone, with the clock's own some 25 ns.
-template <class Call>
+template <typename Call>
 void Measure(benchmark::State& state, Call call, const Counter& accesses, const Preparation& prepare) {
     constexpr double batchTime = 10e-6;
     const unsigned batch = prepare ? 1 : static_cast<unsigned>(std::max(1.0, batchTime / Time(100, call)));
     std::vector<double> times;
     times.reserve(static_cast<std::size_t>(state.max_iterations));
     for ([[maybe_unused]] auto unused : state) {
-        if (prepare)
+        if (prepare) {
             prepare();
+        }
         times.push_back(Time(batch, call));
     }
     state.SetIterationTime(Median(times) * static_cast<double>(state.iterations()));
 
-    if (prepare)
+    if (prepare) {
         prepare();
+    }
     const std::uint64_t accessesBefore = accesses(), allocationsBefore = Test::Allocations();
     call();
     state.counters["allocations"] = static_cast<double>(Test::Allocations() - allocationsBefore);

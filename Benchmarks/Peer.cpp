@@ -15,11 +15,12 @@ constexpr const char* BoundedFeature = "Width"; // its greatest value is another
 constexpr guint32 GainRegister = 0x110;
 
 /// Calls with a place for an error as the last argument. An error would hide what is measured.
-template <class Function, class... Arguments> auto Call(Function function, Arguments... arguments) {
+template <typename Function, typename... Arguments> auto Call(Function function, Arguments... arguments) {
     GError* error = nullptr;
     const auto require = [&error] {
-        if (error != nullptr)
+        if (error != nullptr) {
             throw std::runtime_error(std::string("Aravis: ") + error->message);
+        }
     };
     if constexpr (std::is_void_v<decltype(function(arguments..., &error))>) {
         function(arguments..., &error);
@@ -45,16 +46,18 @@ void RequireCache(ArvDevice* device) {
     Set(device, Feature, 3);
     Get(device, Feature);
     arv_fake_camera_write_register(camera, GainRegister, 7);
-    if (Get(device, Feature) != 3)
+    if (Get(device, Feature) != 3) {
         throw std::runtime_error("Aravis does not answer from its register cache");
+    }
     arv_fake_camera_write_register(camera, GainRegister, 3);
 }
 
 void RequireRangeCheck(ArvDevice* device) {
     GError* error = nullptr;
     arv_device_set_integer_feature_value(device, Feature, 11, &error);
-    if (error == nullptr)
+    if (error == nullptr) {
         throw std::runtime_error("Aravis does not check the range");
+    }
     g_error_free(error);
 }
 

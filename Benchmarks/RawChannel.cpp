@@ -18,8 +18,9 @@ struct Unref {
 using Address = std::unique_ptr<GInetAddress, Unref>;
 
 void Require(bool done, const GError* error) {
-    if (!done)
+    if (!done) {
         throw std::runtime_error(std::string("Aravis: ") + (error != nullptr ? error->message : "unknown error"));
+    }
 }
 
 } // namespace
@@ -34,8 +35,9 @@ RawChannel::RawChannel(const std::string& address) {
     GError* error = nullptr;
     device.reset(arv_gv_device_new(from.get(), to.get(), &error));
     Require(device != nullptr, error);
-    if (arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())) == FALSE)
+    if (arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())) == FALSE) {
         throw std::runtime_error("another program controls the camera at " + address);
+    }
 }
 
 bool RawChannel::MoveRegister(const Host::Access& access, GError** error) {
@@ -68,15 +70,17 @@ void RawChannel::Make(const Host::Access& access) {
 }
 
 void RawChannel::Make(const std::vector<Host::Access>& accesses) {
-    for (const Host::Access& access : accesses)
+    for (const Host::Access& access : accesses) {
         Make(access);
+    }
 }
 
 void RawChannel::RequireSameAnswers(const std::vector<Host::Access>& accesses) {
     for (const Host::Access& access : accesses) {
         Make(access);
-        if (moved != access.data)
+        if (moved != access.data) {
             throw std::runtime_error(std::string(access.operation) + " is answered otherwise by the other camera");
+        }
     }
 }
 

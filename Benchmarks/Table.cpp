@@ -11,18 +11,20 @@ public:
 
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
-            if (run.error_occurred)
+            if (run.error_occurred) {
                 GetErrorStream() << run.run_name.function_name << ": " << run.error_message << '\n';
-            else if (run.run_type == Run::RT_Iteration)
+            } else if (run.run_type == Run::RT_Iteration) {
                 repetitions[run.run_name.function_name].push_back(ResultOf(run));
+            }
         }
     }
 
     [[nodiscard]] std::map<std::string, Result> Medians() const {
         std::map<std::string, Result> medians;
-        for (const auto& [name, results] : repetitions)
+        for (const auto& [name, results] : repetitions) {
             medians[name] = {Of(results, &Result::nanoseconds), Of(results, &Result::accesses),
                              Of(results, &Result::allocations)};
+        }
         return medians;
     }
 
@@ -34,8 +36,9 @@ private:
     static double Of(const std::vector<Result>& results, double Result::*field) {
         std::vector<double> values;
         values.reserve(results.size());
-        for (const Result& result : results)
+        for (const Result& result : results) {
             values.push_back(result.*field);
+        }
         return Median(values);
     }
 

@@ -27,7 +27,7 @@ class Table {
 public:
     explicit Table(Counter portAccesses) : accesses(std::move(portAccesses)) {}
 
-    template <class Call> void Add(Row row, Call call, Preparation prepare = {}) {
+    template <typename Call> void Add(Row row, Call call, Preparation prepare = {}) {
         const auto measure = [this, call, prepare = std::move(prepare)](benchmark::State& state) {
             Measure(state, call, accesses, prepare);
         };

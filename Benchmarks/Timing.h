@@ -7,18 +7,19 @@
 
 namespace Bench {
 
-template <class Number> Number Median(std::vector<Number> values) {
+template <typename Number> Number Median(std::vector<Number> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
 
 /// The seconds that a call takes, on the average of a batch.
-template <class Call> double Time(unsigned batch, Call& call) {
+template <typename Call> double Time(unsigned batch, Call& call) {
     using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();
-    for (unsigned i = 0; i < batch; ++i)
+    for (unsigned i = 0; i < batch; ++i) {
         call();
+    }
     return std::chrono::duration<double>(Clock::now() - start).count() / batch;
 }
 

@@ -38,8 +38,9 @@ Test::FlatPort& Workbench::M2VX(Test::FlatPort& port) {
 
 void Workbench::ReadEverything(const Test::Camera& camera) {
     static const std::vector<const Test::Operation*> getters = Test::CachedGetters(false);
-    for (const Test::Operation* getter : getters)
+    for (const Test::Operation* getter : getters) {
         Test::Outcome(getter->call, *camera.Object());
+    }
     auto& lines = camera.As<SDK4::Control::IGPIO>();
     for (unsigned int line = 0; line < 6; ++line) { // of which the table names some
         lines.GetIoMode(line);

@@ -14,7 +14,7 @@ struct Assignment {
 };
 
 /// Reads "gain=100", or the mere name of what has no value.
-/// @throw UsageError
+/// @throws UsageError
 [[nodiscard]] Assignment ParseAssignment(const Camera& camera, const std::string& text);
 
 /// Reads several, before the first is carried out.

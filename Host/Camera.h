@@ -24,7 +24,7 @@ struct Reading {
 /// An opened control, seen through the table of its family.
 class Camera {
 public:
-    /// @throw OpenError for a control of a family that has no table
+    /// @throws OpenError for a control of a family that has no table
     Camera(IDynamicObject& opened, std::string modelName);
 
     [[nodiscard]] const std::string& Model() const { return model; }
@@ -37,24 +37,24 @@ public:
     [[nodiscard]] std::vector<Instance> All(bool oneByOne = true) const;
 
     /// The function of that name; all its instances for an indexed one without index.
-    /// @throw UsageError for an unknown name, with the nearest known one
+    /// @throws UsageError for an unknown name, with the nearest known one
     [[nodiscard]] std::vector<Instance> Find(std::string_view name) const;
     /// Exactly one.
-    /// @throw UsageError also for an indexed one without index
+    /// @throws UsageError also for an indexed one without index
     [[nodiscard]] Instance FindOne(std::string_view name) const;
 
-    /// Calls the getter. @throw X4Error
+    /// Calls the getter. @throws X4Error
     [[nodiscard]] Value Read(const Instance& instance) const;
-    /// Calls the setter. @throw X4Error
+    /// Calls the setter. @throws X4Error
     void Write(const Instance& instance, const Value& value) const;
 
     /// Calls the setter, unless a mode locks the function. An M2VX control that reads through learns of a mode when it
     /// is set through it; of one that was set before, the host has to know.
-    /// @throw X4Error
+    /// @throws X4Error
     void SetUnlessLocked(const Instance& instance, const Value& value) const;
 
     /// Reads a function. What refuses that, short of a camera that is lost, is told and not thrown.
-    /// @throw ChannelLost
+    /// @throws ChannelLost
     [[nodiscard]] Reading TryRead(const Instance& instance) const;
     /// The same, and finds out what locks it. Nothing is written.
     [[nodiscard]] Reading Look(const Instance& instance) const;

@@ -157,7 +157,7 @@ bool LacksPositionals(const CLI::App& app, const CLI::ParseError& error) {
 }
 
 /// Prints what --help prints, of a command or of them all.
-/// @throw UsageError for what is no command
+/// @throws UsageError for what is no command
 void PrintHelp(const CLI::App& app, const std::string& name) {
     if (name.empty()) {
         std::cout << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);

@@ -15,11 +15,11 @@ struct Request {
 };
 
 /// Reads the arguments of the program, and prints its help if they ask for it.
-/// @throw UsageError for what is wrong with them
+/// @throws UsageError for what is wrong with them
 [[nodiscard]] Request ParseCommandLine(std::vector<std::string> arguments);
 
 /// Reads a line of a shell: a command without MODEL, and of the common options --json alone.
-/// @throw UsageError as above
+/// @throws UsageError as above
 [[nodiscard]] Request ParseShellLine(std::vector<std::string> arguments);
 
 } // namespace Host

@@ -30,13 +30,13 @@ public:
     /// Whether the camera takes what this host writes.
     [[nodiscard]] virtual bool HasControl() const = 0;
     /// For commands that write. Takes control, if another program had it and gave it back.
-    /// @throw OpenError while another program has it
+    /// @throws OpenError while another program has it
     virtual void RequireControl() = 0;
     /// Whether something was not written since the last call, because another program has control: who has it, in words
     /// for the user, else empty.
     [[nodiscard]] virtual std::string TakeDenial() = 0;
     /// At the end of a command: makes sure that the camera was there all the time, and did not start anew meanwhile.
-    /// @throw ChannelLost, unless that was thrown before
+    /// @throws ChannelLost, unless that was thrown before
     virtual void RequireUnbroken() = 0;
 
     /// Has the state file, if there is one, hold the camera as it is now.

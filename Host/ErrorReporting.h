@@ -24,7 +24,7 @@ struct Failure {
 };
 
 /// Runs calls of the plug-in.
-/// @throw ChannelLost, after which no call can do anything
+/// @throws ChannelLost, after which no call can do anything
 [[nodiscard]] Failure Attempt(const std::function<void()>& calls);
 
 } // namespace Host

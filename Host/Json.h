@@ -54,7 +54,7 @@ public:
     [[nodiscard]] std::string Print() const;
     [[nodiscard]] std::string PrintInOneLine() const;
 
-    /// @throw std::runtime_error that says where a text is no JSON, or holds a number that is no integer
+    /// @throws std::runtime_error that says where a text is no JSON, or holds a number that is no integer
     [[nodiscard]] static Json Parse(const std::string& text);
 
 private:

@@ -38,7 +38,7 @@ struct PluginCheck {
 class Plugin {
 public:
     /// Loads the plug-in and asks it for its models.
-    /// @throw OpenError with what is wrong with it
+    /// @throws OpenError with what is wrong with it
     explicit Plugin(const std::string& path);
 
     [[nodiscard]] const std::vector<Model>& Models() const { return check.models; }

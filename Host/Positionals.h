@@ -21,7 +21,7 @@ enum class CameraFrom {
 /// Gives each text to the parameter that it was meant for, after the parser has filled them in order. MODEL is the
 /// first text, unless it is left out or missing: then the first text is a function or an assignment, or too little is
 /// left for what else is required and it does not look like a model either, with a capital letter or a blank.
-/// @throw UsageError if something is missing, or too much
+/// @throws UsageError if something is missing, or too much
 void AssignPositionals(const Command& command, CameraFrom camera, Invocation::Given& given);
 
 } // namespace Host

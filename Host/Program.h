@@ -29,10 +29,10 @@ public:
     [[nodiscard]] bool Json() const { return options.json; }
     void SetJson(bool json) { options.json = json; }
 
-    /// @throw OpenError
+    /// @throws OpenError
     [[nodiscard]] const Plugin& LoadedPlugin();
     /// Opens a camera, or gives back the one that is open.
-    /// @throw OpenError; ChannelLost
+    /// @throws OpenError; ChannelLost
     [[nodiscard]] Session& Open(const std::string& model);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     /// Once a command has ended: tells on standard error who has control, if the command lacked it here and there.
@@ -41,7 +41,7 @@ public:
     void SaveState();
     /// Once all have ended: makes sure that its camera was there all the time, and has the state file, if there is
     /// one, hold it.
-    /// @throw ChannelLost
+    /// @throws ChannelLost
     void Finish();
 
 private:

@@ -25,9 +25,9 @@ class Session {
 public:
     /// Switches a simulated camera on, or connects to one on the network, and opens it.
     /// @param model may be empty for a camera on the network, which says what it is
-    /// @throw OpenError for a model that the plug-in does not serve, or that is not the camera's; for a camera that
+    /// @throws OpenError for a model that the plug-in does not serve, or that is not the camera's; for a camera that
     ///        cannot be reached; for what SimulatedConnection does not admit
-    /// @throw UsageError for a fault that cannot be planted
+    /// @throws UsageError for a fault that cannot be planted
     Session(const Plugin& plugin, const std::string& model, const CameraOptions& options = {});
 
     [[nodiscard]] const std::string& Model() const { return model; }
@@ -40,11 +40,11 @@ public:
     }
 
     /// The functions of the control.
-    /// @throw OpenError for a control of a family whose functions are not known
+    /// @throws OpenError for a control of a family whose functions are not known
     [[nodiscard]] Host::Camera Camera() const { return {*control, model}; }
 
     /// Opens the same camera once more, on the same port.
-    /// @throw OpenError; ChannelLost
+    /// @throws OpenError; ChannelLost
     [[nodiscard]] Control OpenAgain(std::int32_t index);
 
 private:

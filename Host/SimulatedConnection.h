@@ -22,8 +22,8 @@ struct SimulationOptions {
 class SimulatedConnection final : public Connection {
 public:
     /// Switches the camera on.
-    /// @throw OpenError for a model that nothing simulates; for a state file that is no such file
-    /// @throw UsageError for a fault that cannot be planted
+    /// @throws OpenError for a model that nothing simulates; for a state file that is no such file
+    /// @throws UsageError for a fault that cannot be planted
     SimulatedConnection(const std::string& model, const SimulationOptions& options);
     ~SimulatedConnection() override;
 

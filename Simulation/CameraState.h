@@ -16,7 +16,7 @@ public:
 /// Writes what the camera holds to a file, for the next run of the program: permanent memory (settings sets, start-up
 /// set, user-defined name, persistent addresses, defect pixels), serial number and MAC address, all other registers as
 /// they are, and the camera's time. The file is replaced as a whole or not at all. Planted faults do not go into it.
-/// @throw StateError
+/// @throws StateError
 void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path);
 
 /// Whether there is a file to load. What cannot be looked at is taken for one, so that loading it tells why.
@@ -25,7 +25,7 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
 /// Has the camera go on where the file says that it was, as the one that it was; only images are no longer acquired, as
 /// nobody is connected between two runs. Everything in the file is checked first, so that a camera is changed as a
 /// whole or not at all.
-/// @throw StateError for a file that is not there or cannot be read, is no such file or a damaged one, or belongs to
+/// @throws StateError for a file that is not there or cannot be read, is no such file or a damaged one, or belongs to
 ///        another format version or another model
 void LoadState(SimulatedCamera& camera, const std::filesystem::path& path);
 

@@ -22,10 +22,10 @@ public:
 /// The faults that were planted in a camera; SimulatedCamera::PlantFault tells what there is.
 class Faults {
 public:
-    /// @throw FaultError
+    /// @throws FaultError
     void Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics);
 
-    /// @throw PortError if an access of these bytes is to fail.
+    /// @throws PortError if an access of these bytes is to fail.
     void Check(const char* operation, bool writes, std::uint32_t address, std::size_t length) const;
     /// Whether a block there is to be answered with nothing.
     [[nodiscard]] bool AnswersNothing(std::uint32_t address) const { return mute.contains(address); }

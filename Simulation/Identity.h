@@ -18,13 +18,13 @@ public:
 [[nodiscard]] std::string SerialNumberOf(const RegisterSpace& space);
 /// What the registers hold that tell the serial number.
 /// @param serial visible ASCII characters, as many as both registers have room for
-/// @throw IdentityError
+/// @throws IdentityError
 [[nodiscard]] RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial);
 
 /// Such as "02:00:12:07:07:10".
 [[nodiscard]] std::string MacAddressOf(const RegisterSpace& space);
 /// What the registers hold that tell the MAC address.
-/// @throw IdentityError
+/// @throws IdentityError
 [[nodiscard]] RegisterSpace::Content MacAddressRegisters(const std::string& mac);
 
 } // namespace Simulation

@@ -65,7 +65,7 @@ public:
     /// | endless:agc         | does not stop the automatic mode once it was on                                    |
     /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
     ///
-    /// @throw FaultError for a text that is none of these, or a register or an address that this camera does not have.
+    /// @throws FaultError for a text that is none of these, or a register or an address that this camera does not have.
     void PlantFault(std::string_view fault) { faults.Plant(fault, space, automatics); }
 
     /// What the camera holds, for a look past the port.
@@ -105,7 +105,7 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    /// What comes before every access. @throw PortError
+    /// What comes before every access. @throws PortError
     void Begin(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);

@@ -12,10 +12,12 @@ CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(const char* name) {
     const bool logging = logger->isDebugEnabled(); // one test for a thousand lines
     const std::string_view wanted = name == nullptr ? "" : name;
     for (CPropertyParams* property : properties) {
-        if (logging)
+        if (logging) {
             SDK4_LOG(Debug, property->Name());
-        if (name != nullptr && property->Name() == wanted)
+        }
+        if (name != nullptr && property->Name() == wanted) {
             return property;
+        }
     }
     return nullptr;
 }

@@ -5,13 +5,13 @@
 namespace Utility {
 
 /// Is told of an event: who sent it, and with which argument.
-template <class Argument> class IEventHandler {
+template <typename Argument> class IEventHandler {
 public:
     virtual void notify(void* sender, Argument argument) = 0;
 };
 
 /// Forwards an event to a member function of an object, which it does not own.
-template <class C, class Argument> class EventHandler final : public IEventHandler<Argument> {
+template <typename C, typename Argument> class EventHandler final : public IEventHandler<Argument> {
 public:
     using Member = void (C::*)(void* sender, Argument argument);
 
@@ -25,7 +25,7 @@ private:
 };
 
 /// An event: the handlers that are told, in the order in which they subscribed. Handlers are not owned.
-template <class Argument> class CppEvent {
+template <typename Argument> class CppEvent {
 public:
     void Subscribe(IEventHandler<Argument>* handler) { handlers.emplace(nextKey++, handler); }
 

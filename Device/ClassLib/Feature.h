@@ -16,7 +16,7 @@ namespace SDK4 {
 
 /// The guarded face of a camera setting: conditions, named in the same list, decide whether it may be read or written.
 /// The condition lists are filled right after construction; while they are empty nothing is refused.
-template <class T> class CBaseFeature : public IFeature, public IGetter<T>, public ISetter<T> {
+template <typename T> class CBaseFeature : public IFeature, public IGetter<T>, public ISetter<T> {
 public:
     CBaseFeature(std::string featureName, CFeatureList* owner) : name(std::move(featureName)), list(owner) {}
 
@@ -52,7 +52,7 @@ protected:
     CFeatureList* list; ///< owns this feature
 };
 
-template <class T> void CBaseFeature<T>::RequireReadable() const {
+template <typename T> void CBaseFeature<T>::RequireReadable() const {
     if (!IsImplemented()) {
         SDK4_LOG(Info, name << " is not implemented");
         SDK4_THROW(SDK4_ERR_NOT_IMPLEMENTED);
@@ -63,7 +63,7 @@ template <class T> void CBaseFeature<T>::RequireReadable() const {
     }
 }
 
-template <class T> void CBaseFeature<T>::RequireWritable() const {
+template <typename T> void CBaseFeature<T>::RequireWritable() const {
     RequireReadable();
     if (list->AnyHolds(lockConditions)) {
         SDK4_LOG(Info, name << " is locked");
@@ -72,7 +72,7 @@ template <class T> void CBaseFeature<T>::RequireWritable() const {
 }
 
 /// A feature bound to a register, which it does not own. What the kinds below share: they differ in the value check.
-template <class T> class CRegisterFeature : public CBaseFeature<T> {
+template <typename T> class CRegisterFeature : public CBaseFeature<T> {
 public:
     ~CRegisterFeature() override { reg->Unsubscribe(&subscription); }
 
@@ -106,7 +106,7 @@ private:
 };
 
 /// A feature whose value is not checked.
-template <class T> class CFeature final : public CRegisterFeature<T> {
+template <typename T> class CFeature final : public CRegisterFeature<T> {
 public:
     CFeature(std::string featureName, CFeatureList* owner, CBaseRegister<T>* boundRegister)
         : CRegisterFeature<T>(std::move(featureName), owner, boundRegister) {
@@ -120,7 +120,7 @@ public:
 };
 
 /// A feature with an admitted range, both ends included. A value outside is clamped, written, and only then reported.
-template <class T> class CIntegerFeature final : public CRegisterFeature<T> {
+template <typename T> class CIntegerFeature final : public CRegisterFeature<T> {
 public:
     CIntegerFeature(std::string featureName, CFeatureList* owner, CBaseRegister<T>* boundRegister, T minimum, T maximum)
         : CRegisterFeature<T>(std::move(featureName), owner, boundRegister),
@@ -136,8 +136,9 @@ public:
         RefreshBound(max, maxFeature);
         const bool outside = Range<T>::Check(value, min, max);
         this->Write(value);
-        if (outside)
+        if (outside) {
             SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+        }
     }
 
     T min;
@@ -147,15 +148,17 @@ public:
 
 private:
     void RefreshBound(T& bound, std::string_view feature) {
-        if (feature.empty())
+        if (feature.empty()) {
             return;
-        if (auto* getter = this->list->template Find<IGetter<T>>(feature))
+        }
+        if (auto* getter = this->list->template Find<IGetter<T>>(feature)) {
             bound = getter->GetValue();
+        }
     }
 };
 
 /// A feature with a set of admitted values. Any other is refused, and nothing is written.
-template <class T> class CEnumFeature final : public CRegisterFeature<T> {
+template <typename T> class CEnumFeature final : public CRegisterFeature<T> {
 public:
     CEnumFeature(std::string featureName, CFeatureList* owner, CBaseRegister<T>* boundRegister)
         : CRegisterFeature<T>(std::move(featureName), owner, boundRegister) {
@@ -165,8 +168,9 @@ public:
     /// @throws X4Error SDK4_ERR_INVALID_PARAMETER when the value is not admitted
     void SetValue(T value) override {
         this->RequireWritable();
-        if (!allowed.contains(value))
+        if (!allowed.contains(value)) {
             SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+        }
         this->Write(value);
     }
 

@@ -10,13 +10,15 @@ CFeatureList::CFeatureList() { SDK4_LOG(Debug, "ctor CFeatureList"); }
 
 CFeatureList::~CFeatureList() {
     SDK4_LOG(Debug, "dtor CFeatureList");
-    for (const auto& [name, entry] : entries)
+    for (const auto& [name, entry] : entries) {
         ReleaseStorage(entry.feature);
+    }
 }
 
 void CFeatureList::AddEntry(IFeature* entry) {
-    if (!entries.try_emplace(entry->GetName(), Entry{entry}).second)
+    if (!entries.try_emplace(entry->GetName(), Entry{entry}).second) {
         SDK4_LOG(Info, entry->GetName() << " Entry already present");
+    }
 }
 
 bool CFeatureList::AllHold(const std::vector<std::string>& conditions) const {

@@ -19,13 +19,13 @@ public:
 };
 
 /// Something whose value can be read.
-template <class T> class IGetter {
+template <typename T> class IGetter {
 public:
     virtual T GetValue() = 0;
 };
 
 /// Something whose value can be written.
-template <class T> class ISetter {
+template <typename T> class ISetter {
 public:
     virtual void SetValue(T value) = 0;
 };
@@ -46,13 +46,13 @@ public:
     /// The value of the feature of that name, after the feature's own checks. The type must match exactly: an int
     /// feature is none for unsigned int.
     /// @throws X4Error SDK4_ERR_INVALID_INTERFACE when no feature of that name has a value of type T
-    template <class T> T GetValue(std::string_view name) const;
+    template <typename T> T GetValue(std::string_view name) const;
 
     /// Writes the feature of that name, after the feature's own checks; otherwise as GetValue.
-    template <class T> void SetValue(std::string_view name, T value) const;
+    template <typename T> void SetValue(std::string_view name, T value) const;
 
     /// The feature of that name as an Interface, or null.
-    template <class Interface> [[nodiscard]] Interface* Find(std::string_view name) const;
+    template <typename Interface> [[nodiscard]] Interface* Find(std::string_view name) const;
 
     /// Whether every condition holds. Conditions are asked in order until one does not; a name that is no
     /// IGetter<bool> is passed over.
@@ -71,10 +71,11 @@ private:
     mutable std::map<std::string, Entry, std::less<>> entries;
 };
 
-template <class Interface> Interface* CFeatureList::Find(std::string_view name) const {
+template <typename Interface> Interface* CFeatureList::Find(std::string_view name) const {
     const auto found = entries.find(name);
-    if (found == entries.end())
+    if (found == entries.end()) {
         return nullptr;
+    }
     Entry& entry = found->second;
     if (entry.asked != &typeid(Interface)) {
         entry.asked = &typeid(Interface);
@@ -83,7 +84,7 @@ template <class Interface> Interface* CFeatureList::Find(std::string_view name) 
     return static_cast<Interface*>(entry.answer);
 }
 
-template <class T> T CFeatureList::GetValue(std::string_view name) const {
+template <typename T> T CFeatureList::GetValue(std::string_view name) const {
     auto* getter = Find<IGetter<T>>(name);
     if (getter == nullptr) {
         SDK4_LOG(Info, name << " has no IGetter Interface");
@@ -92,7 +93,7 @@ template <class T> T CFeatureList::GetValue(std::string_view name) const {
     return getter->GetValue();
 }
 
-template <class T> void CFeatureList::SetValue(std::string_view name, T value) const {
+template <typename T> void CFeatureList::SetValue(std::string_view name, T value) const {
     auto* setter = Find<ISetter<T>>(name);
     if (setter == nullptr) {
         SDK4_LOG(Info, name << " has no ISetter Interface");

@@ -9,16 +9,18 @@ namespace SDK4::Control {
 namespace {
 
 IControlPort* Required(IControlPort* port) {
-    if (port == nullptr)
+    if (port == nullptr) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_INVALID_PARAMETER);
+    }
     return port;
 }
 
 /// Makes one of the objects that reach the camera.
-template <class Object> std::unique_ptr<Object> Create(IControlPort* port) {
+template <typename Object> std::unique_ptr<Object> Create(IControlPort* port) {
     std::unique_ptr<Object> object(new (std::nothrow) Object(port));
-    if (object == nullptr)
+    if (object == nullptr) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_ERROR);
+    }
     return object;
 }
 
@@ -38,8 +40,9 @@ CM2VXBaseControl::CM2VXBaseControl(IControlPort* port, std::int32_t index, const
       table(properties),
       access(*common, *family, ReadsThrough(index)),
       mediaType(new CQDV12VideoFrame(nullptr, this)) {
-    if (!ReadsThrough(index))
+    if (!ReadsThrough(index)) {
         GetInitialValues();
+    }
 }
 
 CM2VXBaseControl::~CM2VXBaseControl() {
@@ -91,8 +94,9 @@ const char* CM2VXBaseControl::GetPropertyName(int i) {
 }
 
 void CM2VXBaseControl::RefuseWhileRunning() const {
-    if (running)
+    if (running) {
         SDK4_THROW(SDK4_ERR_ACQUISITIONRUNNING);
+    }
 }
 
 } // namespace SDK4::Control

@@ -147,9 +147,9 @@ using _Sdk4_5UInts = UIntRecord<5>;
 
 /// T once for every number of a pack: typename Each<T, I>::Type... is a plain parameter list. An alias template would
 /// be the same signature for every T with GCC.
-template <class T, std::size_t> struct Each { using Type = T; };
+template <typename T, std::size_t> struct Each { using Type = T; };
 
-template <std::size_t N, class = std::make_index_sequence<N>, class = std::make_index_sequence<3 * N>>
+template <std::size_t N, typename = std::make_index_sequence<N>, typename = std::make_index_sequence<3 * N>>
 class CompoundParams;
 
 /// N scalar properties that are read and written together as one record of N words, first sub-property first. Word i is

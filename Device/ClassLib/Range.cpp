@@ -19,8 +19,9 @@ template <> bool Range<SDK4_KPOSITION>::Check(SDK4_KPOSITION& value, SDK4_KPOSIT
     SDK4_LOG(Info, "Check  (Pos)=" << value.posx << "," << value.posy);
     bool changed = ClampField(value.posx, min.posx, max.posx);
     changed |= ClampField(value.posy, min.posy, max.posy);
-    if (changed)
+    if (changed) {
         SDK4_LOG(Info, "Checked(Pos)=" << value.posx << "," << value.posy);
+    }
     return changed;
 }
 
@@ -30,9 +31,10 @@ template <> bool Range<SDK4_KAREA>::Check(SDK4_KAREA& value, SDK4_KAREA min, SDK
     changed |= ClampField(value.starty, min.starty, max.starty);
     changed |= ClampField(value.endx, min.endx, max.endx);
     changed |= ClampField(value.endy, min.endy, max.endy);
-    if (changed)
+    if (changed) {
         SDK4_LOG(Info,
                  "Checked(Roa)=" << value.startx << "," << value.starty << "," << value.endx << "," << value.endy);
+    }
     return changed;
 }
 
@@ -41,8 +43,9 @@ template <> bool Range<SDK4_KRGB>::Check(SDK4_KRGB& value, SDK4_KRGB min, SDK4_K
     bool changed = ClampField(value.red, min.red, max.red);
     changed |= ClampField(value.green, min.green, max.green);
     changed |= ClampField(value.blue, min.blue, max.blue);
-    if (changed)
+    if (changed) {
         SDK4_LOG(Info, "Checked(RGB)=" << value.red << "," << value.green << "," << value.blue);
+    }
     return changed;
 }
 

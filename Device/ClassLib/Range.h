@@ -7,19 +7,21 @@ namespace SDK4 {
 /// Brings one number between its bounds, the minimum first and the maximum last, so that a camera that reports a
 /// minimum above its maximum still gets a defined value. Returns whether the number was outside, which it always is
 /// then.
-template <class Number> bool Clamp(Number& value, Number min, Number max) {
+template <typename Number> bool Clamp(Number& value, Number min, Number max) {
     const bool below = value < min;
-    if (below)
+    if (below) {
         value = min;
+    }
     const bool above = value > max;
-    if (above)
+    if (above) {
         value = max;
+    }
     return below || above;
 }
 
 /// Range<T>::Check brings a value into [min, max]. Returns of a number whether it was outside; of a record, which is
 /// checked field by field, whether any field changed.
-template <class T> class Range {
+template <typename T> class Range {
 public:
     static bool Check(T& value, T min, T max) { return Clamp(value, min, max); }
 };

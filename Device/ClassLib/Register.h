@@ -52,7 +52,7 @@ protected:
 };
 
 /// A register with a value of type T.
-template <class T> class CBaseRegister : public CRegisterBase {
+template <typename T> class CBaseRegister : public CRegisterBase {
 public:
     /// Writes the camera, then the cache, and makes every dependant stale.
     virtual void SetValue(T value) = 0;
@@ -70,7 +70,7 @@ protected:
 
 /// A register whose value travels as Transfer<T, I> says: I is void for a plain or text register, int for an indexed
 /// one.
-template <class T, class I> class CRegister final : public CBaseRegister<T> {
+template <typename T, typename I> class CRegister final : public CBaseRegister<T> {
 public:
     /// A plain register.
     CRegister(std::string registerName, CRegisterList* owner, IControlPort* controlPort, unsigned long cameraAddress,
@@ -96,7 +96,7 @@ private:
     Transfer<T, I> transfer;
 };
 
-template <class T, class I> void CRegister<T, I>::SetValue(T value) {
+template <typename T, typename I> void CRegister<T, I>::SetValue(T value) {
     SDK4_LOG_CALL();
     transfer.Write(*this->port, this->PortAddress(), value);
     this->cache = std::move(value);
@@ -115,7 +115,7 @@ template <class T, class I> void CRegister<T, I>::SetValue(T value) {
     this->list->DoInvalidate(this->name);
 }
 
-template <class T, class I> T CRegister<T, I>::GetValue() {
+template <typename T, typename I> T CRegister<T, I>::GetValue() {
     SDK4_LOG_CALL();
     switch (this->cacheMode) {
     case CacheNone: // leaves `invalid` alone: what is read now is never served later

@@ -21,8 +21,9 @@ CRegisterList::CRegisterList() { SDK4_LOG(Debug, "ctor CRegisterList"); }
 
 CRegisterList::~CRegisterList() {
     SDK4_LOG(Debug, "dtor CRegisterList");
-    for (const auto& [name, entry] : entries)
+    for (const auto& [name, entry] : entries) {
         ReleaseStorage(entry);
+    }
 }
 
 void CRegisterList::AddEntry(IRegister* entry) {
@@ -37,16 +38,18 @@ IRegister* CRegisterList::Find(std::string_view name) const {
 
 void CRegisterList::DoInvalidate(const std::string& name) {
     SDK4_LOG(Debug, "DoInvalidate  " << name);
-    if (!index)
+    if (!index) {
         index = BuildIndex();
+    }
     const std::shared_ptr<const Index> current = index; // held for the walk, which may make it stale
     if (!current->complete) {
         Walk(name, entries.begin());
         return;
     }
     const auto found = current->dependants.find(name);
-    if (found == current->dependants.end())
+    if (found == current->dependants.end()) {
         return;
+    }
     for (IRegister* dependant : found->second) {
         dependant->Invalidate();
         if (index != current) { // a handler added a register or an invalidator
@@ -57,17 +60,20 @@ void CRegisterList::DoInvalidate(const std::string& name) {
 }
 
 void CRegisterList::Walk(const std::string& name, Entries::const_iterator from) {
-    for (; from != entries.end(); ++from)
-        if (from->second->GetInvalidatorSet().contains(name))
+    for (; from != entries.end(); ++from) {
+        if (from->second->GetInvalidatorSet().contains(name)) {
             from->second->Invalidate();
+        }
+    }
 }
 
 std::shared_ptr<const CRegisterList::Index> CRegisterList::BuildIndex() const {
     auto built = std::make_shared<Index>();
     for (const auto& [entryName, entry] : entries) {
         built->complete = built->complete && dynamic_cast<CRegisterBase*>(entry) != nullptr;
-        for (const std::string& invalidator : entry->GetInvalidatorSet())
+        for (const std::string& invalidator : entry->GetInvalidatorSet()) {
             built->dependants[invalidator].push_back(entry);
+        }
     }
     return built;
 }

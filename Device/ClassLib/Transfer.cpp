@@ -28,16 +28,18 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
     std::uint64_t count = length;
     port.ReadMem(address, block.data(), &count);
     const auto delivered = static_cast<unsigned int>(std::min<std::uint64_t>(count, declared));
-    if (delivered < LeadingWord)
+    if (delivered < LeadingWord) {
         return {};
+    }
     length = delivered;
     [[maybe_unused]] const IntentionalLeak cache; // of a list entry, see ReleaseStorage.h
     return Trimmed({block.begin() + LeadingWord, block.begin() + length});
 }
 
 void Transfer<std::string, void>::Write(IControlPort& port, std::uint32_t address, const std::string& text) const {
-    if (text.size() + LeadingWord > declared)
+    if (text.size() + LeadingWord > declared) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
     std::vector<std::uint8_t> block(declared);
     std::copy(text.begin(), text.end(), block.begin() + LeadingWord);
     std::uint64_t count = declared;

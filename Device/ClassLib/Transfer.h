@@ -11,7 +11,7 @@
 namespace SDK4 {
 
 /// Reads a block of @p Block's size. What the port does not fill stays zero.
-template <class Block> Block ReadBytes(IControlPort& port, std::uint32_t address) {
+template <typename Block> Block ReadBytes(IControlPort& port, std::uint32_t address) {
     Block block{};
     std::uint64_t count = sizeof block;
     port.ReadMem(address, reinterpret_cast<std::uint8_t*>(&block), &count);
@@ -19,13 +19,13 @@ template <class Block> Block ReadBytes(IControlPort& port, std::uint32_t address
 }
 
 /// Writes a block as its bytes.
-template <class Block> void WriteBytes(IControlPort& port, std::uint32_t address, Block block) {
+template <typename Block> void WriteBytes(IControlPort& port, std::uint32_t address, Block block) {
     std::uint64_t count = sizeof block;
     port.WriteMem(address, reinterpret_cast<std::uint8_t*>(&block), &count);
 }
 
 /// Transfer<T, void>: a plain register, the value alone.
-template <class T, class I> class Transfer {
+template <typename T, typename I> class Transfer {
 public:
     T Read(IControlPort& port, std::uint32_t address) { return ReadBytes<T>(port, address); }
     void Write(IControlPort& port, std::uint32_t address, const T& value) { WriteBytes(port, address, value); }
@@ -33,7 +33,7 @@ public:
 
 /// Transfer<T, int>: one of several instances at one address. An index word leads the value; a read selects the
 /// instance first and skips the index word that the camera echoes.
-template <class T> class Transfer<T, int> {
+template <typename T> class Transfer<T, int> {
 public:
     explicit Transfer(int instance) : index(instance) {}
 

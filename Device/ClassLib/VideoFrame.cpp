@@ -63,8 +63,9 @@ unsigned int CQDV12VideoFrame::GetFormat() {
     const int coding = format->GetColorCoding();
     const auto* found = std::find_if(std::begin(PixelFormats), std::end(PixelFormats),
                                      [coding](const PixelFormat& entry) { return entry.colorCoding == coding; });
-    if (found == std::end(PixelFormats))
+    if (found == std::end(PixelFormats)) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_INVALID_PARAMETER);
+    }
     return found->code;
 }
 

@@ -34,13 +34,13 @@ Camera Open(CreateObject* create, const char* model, BytePort& port, std::int32_
 }
 
 /// Prints a call and makes it.
-template <class Call> void Do(const char* text, const Call& call) {
+template <typename Call> void Do(const char* text, const Call& call) {
     std::printf("%s\n", text);
     call();
 }
 
 /// The same for a call that may be refused with that code: tells whether it was. Any other refusal ends the program.
-template <class Call> bool Refused(std::int32_t code, const char* text, const Call& call) {
+template <typename Call> bool Refused(std::int32_t code, const char* text, const Call& call) {
     try {
         Do(text, call);
         return false;
@@ -54,7 +54,7 @@ template <class Call> bool Refused(std::int32_t code, const char* text, const Ca
 }
 
 /// Prints a value and how many port accesses it cost to get it.
-template <class Get> void Show(const char* text, const BytePort& port, const Get& get) {
+template <typename Get> void Show(const char* text, const BytePort& port, const Get& get) {
     const unsigned int before = port.accesses;
     const unsigned int value = get();
     std::printf("%s = %u (port accesses: %u)\n", text, value, port.accesses - before);

@@ -35,16 +35,18 @@ public:
 private:
     void* Read(Address at, void* data, std::uint64_t length) {
         ++accesses;
-        for (Address i = 0; data != nullptr && i < length; ++i)
+        for (Address i = 0; data != nullptr && i < length; ++i) {
             static_cast<Byte*>(data)[i] = bytes[at + i];
+        }
         return data;
     }
 
     void Write(Address at, const void* data, std::uint64_t length) {
         ++accesses;
         std::printf("  camera: %08X =", static_cast<unsigned>(at));
-        for (Address i = 0; i < length; ++i)
+        for (Address i = 0; i < length; ++i) {
             std::printf(" %02X", static_cast<unsigned>(bytes[at + i] = static_cast<const Byte*>(data)[i]));
+        }
         std::printf("\n");
     }
 

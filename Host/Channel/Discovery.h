@@ -15,7 +15,7 @@ struct FoundCamera {
 };
 
 /// Asks on every network of this machine which GigE Vision cameras there are. Takes control of none.
-/// @throw OpenError if this program was built without Aravis
+/// @throws OpenError if this program was built without Aravis
 [[nodiscard]] std::vector<FoundCamera> DiscoverCameras();
 
 } // namespace Host

@@ -10,12 +10,12 @@ namespace Host {
 /// A camera on the network.
 class NetworkConnection : public Connection {
 public:
-    /// What the camera calls itself. @throw ChannelError
+    /// What the camera calls itself. @throws ChannelError
     [[nodiscard]] virtual std::string ModelName() = 0;
 };
 
 /// Opens the control channel of the GigE Vision camera at an IPv4 address.
-/// @throw OpenError, also if this program was built without Aravis
+/// @throws OpenError, also if this program was built without Aravis
 [[nodiscard]] std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& address);
 
 } // namespace Host

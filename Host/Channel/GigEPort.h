@@ -27,7 +27,7 @@ class GigEPort final : public SDK4::IControlPort {
 public:
     /// Opens the channel. Nothing is broadcast.
     /// @param address an IPv4 address
-    /// @throw OpenError
+    /// @throws OpenError
     explicit GigEPort(const std::string& address);
     ~GigEPort();
     GigEPort(const GigEPort&) = delete;
@@ -46,7 +46,7 @@ public:
     [[nodiscard]] std::string WhoControls() const;
     /// Whether a write failed for want of control since the last call.
     [[nodiscard]] bool TakeDenied() { return std::exchange(denied, false); }
-    /// @throw ChannelLost if control is no longer with this program; once only
+    /// @throws ChannelLost if control is no longer with this program; once only
     void RequireUnbrokenControl();
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
@@ -81,7 +81,7 @@ private:
         void operator()(_ArvDevice* opened) const;
     };
 
-    /// @throw ChannelError, before anything is sent, if that many bytes reach beyond the last address
+    /// @throws ChannelError, before anything is sent, if that many bytes reach beyond the last address
     static void RequireAddresses(const Operation& operation, std::uint64_t length);
     void Read(const Operation& operation, std::uint8_t* data, std::uint64_t length);
     void Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length);

@@ -12,7 +12,7 @@ namespace Host {
 
 namespace {
 
-/// @throw UsageError unless it is clear what the first file is compared with
+/// @throws UsageError unless it is clear what the first file is compared with
 void RequireOneOther(const Invocation& invocation) {
     const bool live = invocation.Has("--live MODEL");
     const Program& program = invocation.Program();

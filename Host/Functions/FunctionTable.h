@@ -8,7 +8,7 @@
 
 namespace Host {
 
-/// @throw X4Error if the control does not have the interface
+/// @throws X4Error if the control does not have the interface
 template <typename Interface> Interface& InterfaceOf(IDynamicObject& control) {
     auto* const found = dynamic_cast<Interface*>(&control);
     if (found == nullptr) {

@@ -194,7 +194,7 @@ std::int32_t Selftest::Write(const Instance& instance, const Value& value) const
     }
 }
 
-/// What the camera holds after a write. @throw std::runtime_error if it cannot be read any more
+/// What the camera holds after a write. @throws std::runtime_error if it cannot be read any more
 Value Selftest::Held(const Instance& instance, const Value& expected) const {
     const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
     if (reading.error != 0) {

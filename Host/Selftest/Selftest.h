@@ -34,7 +34,7 @@ public:
     void SwitchOffModes() const;
 
     /// Tests a function, or reads it if it can only be read.
-    /// @throw ChannelLost, and nothing else
+    /// @throws ChannelLost, and nothing else
     [[nodiscard]] Tested Test(const Instance& instance) const;
 
 private:

@@ -14,7 +14,7 @@ namespace Host {
 
 namespace {
 
-/// @throw std::system_error unless a call of the system succeeded
+/// @throws std::system_error unless a call of the system succeeded
 void Require(bool succeeded) {
     if (!succeeded) {
         throw std::system_error(errno, std::generic_category());

@@ -62,7 +62,7 @@ public:
     /// Automatic modes off, then the values in the order of the table, until one setting no longer moves another; last
     /// the modes as they were saved. What fails stops nothing. Once it is to stop, the modes whose turn did not come
     /// are put back to what they were.
-    /// @throw ChannelLost, after which nothing can be put back
+    /// @throws ChannelLost, after which nothing can be put back
     void Restore();
 
     /// Finds out what Restore would do. Writes no setting.

@@ -85,7 +85,7 @@ public:
     }
 
     [[nodiscard]] const std::vector<Instance>& All() const { return instances; }
-    /// @throw UsageError for an unknown one
+    /// @throws UsageError for an unknown one
     [[nodiscard]] const Instance& Find(const std::string& name, const std::string& file) const {
         const auto found = std::find(names.begin(), names.end(), name);
         if (found == names.end()) {

@@ -13,11 +13,11 @@ constexpr const char* standardStream = "-";
 [[nodiscard]] std::string Quoted(const std::string& file);
 
 /// Writes settings as JSON. A file that is there is replaced as a whole or not at all.
-/// @throw UsageError for a file that cannot be there; std::runtime_error for one that could not be written
+/// @throws UsageError for a file that cannot be there; std::runtime_error for one that could not be written
 void WriteSettings(const Settings& settings, const std::string& file);
 
 /// @param inShell whether standard input holds the commands of a shell
-/// @throw UsageError for a file that is not there, is no such file or a damaged one, or of another format version
+/// @throws UsageError for a file that is not there, is no such file or a damaged one, or of another format version
 [[nodiscard]] Settings ReadSettings(const std::string& file, bool inShell);
 
 } // namespace Host

@@ -29,7 +29,7 @@ struct UsageError : std::runtime_error {
 };
 
 /// Reads the arguments of the program. Nothing when only help was asked for, which is printed then.
-/// @throw UsageError
+/// @throws UsageError
 [[nodiscard]] std::optional<Order> ParseCommandLine(int argc, char** argv);
 
 } // namespace Simulation::GigEVision

@@ -21,10 +21,10 @@ public:
 /// Writes datagrams to a pcap file, as packets of IPv4 without a link layer. Each is in the file at once.
 class Recorder {
 public:
-    /// @throw RecordError
+    /// @throws RecordError
     explicit Recorder(const std::string& path);
 
-    /// @throw RecordError
+    /// @throws RecordError
     void Record(const Sender& from, const Sender& to, std::span<const std::uint8_t> datagram);
 
 private:

@@ -15,14 +15,14 @@ namespace Simulation::GigEVision {
 /// Puts a device on the network: on its address, and on the broadcast addresses, where discoveries arrive.
 class Server {
 public:
-    /// @throw asio::system_error if the address is not this machine's, or is in use
+    /// @throws asio::system_error if the address is not this machine's, or is in use
     Server(DisturbedDevice& served, const Network& place);
 
     /// Has all recorded that is received and sent.
     void RecordTo(Recorder& record) { recorder = &record; }
 
     /// Serves until SIGINT or SIGTERM.
-    /// @throw RecordError
+    /// @throws RecordError
     void Run();
 
 private:

@@ -46,8 +46,9 @@ TEST_F(CameraTest, CachedGettersAllocateNothing) {
     std::size_t tested = 0;
     for (const bool ofM2VX : {false, true}) {
         for (const Operation* row : CachedGetters(ofM2VX)) {
-            if (row->result.size() > withoutAllocation || row->name == longText)
+            if (row->result.size() > withoutAllocation || row->name == longText) {
                 continue;
+            }
             const Camera camera = Open(row->state, row->state.RememberingIndex());
             EXPECT_EQ(AllocationsOf(*row, camera), 0u) << row->name;
             ++tested;
@@ -59,8 +60,9 @@ TEST_F(CameraTest, CachedGettersAllocateNothing) {
 TEST_F(CameraTest, SettersAllocateNothing) {
     std::size_t tested = 0;
     for (const Operation& row : Operations()) {
-        if (row.result != Done || row.accesses.again.empty() || row.state.before || NeedsInstances(row.state))
+        if (row.result != Done || row.accesses.again.empty() || row.state.before || NeedsInstances(row.state)) {
             continue;
+        }
         FlatPort flat;
         Prepare(flat, row.state);
         const Camera camera(plugin, row.state.model, &flat, row.state.RememberingIndex());

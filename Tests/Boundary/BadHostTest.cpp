@@ -51,8 +51,9 @@ protected:
     /// Whatever was called, the caches of an Orvik camera know what it holds. Properties, which hosts may disable, need
     /// not: a disabled one is not filled.
     void ExpectCoherent(const Camera& camera) {
-        if (IsM2VX())
+        if (IsM2VX()) {
             return;
+        }
         const Camera fresh(plugin, state.model, &port, GetParam().second);
         EXPECT_EQ(Outcomes(camera, CachedGetters(false)), Outcomes(fresh, CachedGetters(false)));
     }
@@ -70,8 +71,9 @@ void BadHostTest::ExpectDecent(const Camera& camera, const Wild& operation, std:
         if (!refusal.empty()) {
             EXPECT_EQ(observed, (Observed{refusal, ""}));
         }
-        if (operation.arguments < 2)
+        if (operation.arguments < 2) {
             return;
+        }
     }
 }
 
@@ -82,8 +84,9 @@ TEST_P(BadHostTest, NumbersFarOutsideAreRefusedOrHarmless) {
         firsts.insert({instances, instances - 1});
         for (const Wild& operation : operations) {
             SCOPED_TRACE(&operation - operations.data());
-            for (const std::uint32_t first : firsts)
+            for (const std::uint32_t first : firsts) {
                 ExpectDecent(camera, operation, first, first >= instances ? refusal : "");
+            }
         }
         ExpectCoherent(camera);
     }
@@ -92,26 +95,30 @@ TEST_P(BadHostTest, NumbersFarOutsideAreRefusedOrHarmless) {
 TEST_P(BadHostTest, CallsInAnyOrderAreHarmless) {
     std::vector<Call> calls;
     for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() != IsM2VX() || IsOf("ITrigger", row)) // which waits as long as the readout takes
+        if (row.state.IsM2VX() != IsM2VX() || IsOf("ITrigger", row)) { // which waits as long as the readout takes
             continue;
+        }
         calls.push_back(row.call);
-        if (row.state.before)
+        if (row.state.before) {
             calls.push_back(row.state.before);
+        }
     }
     const Camera camera = Opened();
     for (unsigned int seed = 1; seed <= 5; ++seed) {
         SCOPED_TRACE(seed);
         std::shuffle(calls.begin(), calls.end(), std::mt19937(seed));
-        for (const Call& call : calls)
+        for (const Call& call : calls) {
             EXPECT_NE(Outcome(call, *camera.Object()), "unknown error");
+        }
         ExpectCoherent(camera);
     }
 }
 
 TEST_P(BadHostTest, APortMayCallBackIntoTheObject) {
     for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() != IsM2VX() || row.accesses.firstUncached.empty())
+        if (row.state.IsM2VX() != IsM2VX() || row.accesses.firstUncached.empty()) {
             continue;
+        }
         SCOPED_TRACE(row.name);
         port = {};
         const Camera camera = Open(row.state, GetParam().second);
@@ -145,10 +152,12 @@ TEST_P(BadHostTest, TextsOfAnyLengthAreCutOrIgnored) {
 
 TEST_P(BadHostTest, ModelNamesOfAnyLengthAndIndexesOfAnyValueOpenOrDoNot) {
     const std::string name = state.model;
-    for (std::size_t length = 0; length < name.size(); ++length)
+    for (std::size_t length = 0; length < name.size(); ++length) {
         EXPECT_EQ(plugin.CreateObject(name.substr(0, length).c_str(), &port, GetParam().second), nullptr) << length;
-    for (const std::string& longer : {name + " ", name + std::string(100000, 'x'), std::string(100000, 'C')})
+    }
+    for (const std::string& longer : {name + " ", name + std::string(100000, 'x'), std::string(100000, 'C')}) {
         EXPECT_EQ(plugin.CreateObject(longer.c_str(), &port, GetParam().second), nullptr);
+    }
     EXPECT_EQ(port.TakeLog(), "");
     for (const int index : {INT_MIN, -1, INT_MAX}) {
         const Camera camera(plugin, state.model, &port, index);
@@ -160,11 +169,13 @@ TEST_P(BadHostTest, ObjectsOnOnePortGoInAnyOrder) {
     Prepare(port, state);
     std::vector<Camera> cameras;
     cameras.reserve(8);
-    for (int i = 0; i < 8; ++i)
+    for (int i = 0; i < 8; ++i) {
         cameras.emplace_back(plugin, i % 2 == 0 ? state.model : "Orvik-390M", &port, GetParam().second);
+    }
     for (std::mt19937 random(1); !cameras.empty();) {
-        for (const Camera& camera : cameras)
+        for (const Camera& camera : cameras) {
             EXPECT_EQ(camera.As<IGigECamera>().GetPacketSize(), 1u);
+        }
         cameras.erase(cameras.begin() + static_cast<std::ptrdiff_t>(random() % cameras.size()));
     }
 }
@@ -188,8 +199,9 @@ TEST_F(BadPropertyHostTest, NamesAndNumbersThatNoPropertyHasAreRefused) {
     const auto endless = Exactly(100000);
     for (const char* name : {static_cast<const char*>(nullptr), "", "Gain", "gain ", "gai", "\xFF", &endless[0]}) {
         SCOPED_TRACE(name == nullptr ? "null" : std::string(name).substr(0, 10));
-        for (const auto query : {&P::GetEnabled, &P::GetImplemented, &P::IsUnsigned, &P::IsIndexed, &P::IsEnumerated})
+        for (const auto query : {&P::GetEnabled, &P::GetImplemented, &P::IsUnsigned, &P::IsIndexed, &P::IsEnumerated}) {
             EXPECT_FALSE((properties.*query)(name));
+        }
         const std::function<void()> refused[] = {
             [&] { properties.GetUIntMin(name); },      [&] { properties.GetUIntMax(name); },
             [&] { properties.GetUIntDefault(name); },  [&] { properties.GetUIntValue(name); },
@@ -197,13 +209,16 @@ TEST_F(BadPropertyHostTest, NamesAndNumbersThatNoPropertyHasAreRefused) {
             [&] { properties.GetIntMax(name); },       [&] { properties.GetIntDefault(name); },
             [&] { properties.GetIntValue(name); },     [&] { properties.GetIntValue(0, name); },
             [&] { properties.SetEnabled(name, true); }};
-        for (const auto& call : refused)
+        for (const auto& call : refused) {
             EXPECT_EQ(CodeOf(call), "SDK4_ERR_ERROR") << &call - refused;
+        }
     }
-    for (const int number : {INT_MIN, -1, 2, INT_MAX})
+    for (const int number : {INT_MIN, -1, 2, INT_MAX}) {
         EXPECT_EQ(CodeOf([&] { properties.GetUIntValue(number, "abcthreshold"); }), "SDK4_ERR_ERROR") << number;
-    for (const int number : {INT_MIN, -1, 1104, INT_MAX})
+    }
+    for (const int number : {INT_MIN, -1, 1104, INT_MAX}) {
         EXPECT_EQ(camera.As<IPropertyList>().GetPropertyName(number), nullptr) << number;
+    }
     EXPECT_EQ(port.TakeLog(), "");
 }
 
@@ -245,8 +260,9 @@ TEST_F(BadPropertyHostTest, ObserversMayComeAndGoAsTheyLike) {
 TEST_F(CameraTest, ARegistryThatThrowsIsAskedAgain) {
     struct Full final : IModelRegistry {
         void RegisterModel(const char*, const char*) override {
-            if (++models == 5)
+            if (++models == 5) {
                 throw std::length_error("no more room");
+            }
         }
         int models = 0;
     } registry;

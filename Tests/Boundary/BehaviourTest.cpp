@@ -17,8 +17,9 @@ void Unplug() { throw Unplugged{0}; }
 
 std::string Joined(const std::set<std::string>& texts, const std::string& separator) {
     std::string all;
-    for (const std::string& text : texts)
+    for (const std::string& text : texts) {
         all += (all.empty() ? "" : separator) + text;
+    }
     return all;
 }
 
@@ -91,10 +92,12 @@ TEST_F(BehaviourTest, RawCodingsAndOtherExposureModesDisable) {
     for (std::uint32_t value = 0; value < 160; ++value) {
         port.Set(0x28020000, value);
         port.Set(0x0A020000, value);
-        if (Outcome(Row("IColor::GetLightSource"), *camera.Object()) == Disabled)
+        if (Outcome(Row("IColor::GetLightSource"), *camera.Object()) == Disabled) {
             raw += std::to_string(value) + " ";
-        if (Outcome(Row("ITrigger::GetTriggerDelay"), *camera.Object()) != Disabled)
+        }
+        if (Outcome(Row("ITrigger::GetTriggerDelay"), *camera.Object()) != Disabled) {
             delayed += std::to_string(value) + " ";
+        }
     }
     EXPECT_EQ(raw, "150 151 153 ");
     EXPECT_EQ(delayed, "3 ");
@@ -191,8 +194,9 @@ TEST_F(BehaviourTest, AFailedWriteLeavesTheCachesAsTheyWere) {
     const char* const getters[] = {"IGain::GetGain", "IExposure::GetExposure", "ITiming::GetFrameDuration",
                                    "IRoa::GetReadoutArea", "ISignalFormat::GetImageSize"};
     std::vector<std::string> before;
-    for (const char* getter : getters)
+    for (const char* getter : getters) {
         before.push_back(Observe(camera, Row(getter)).outcome);
+    }
     for (const auto& [setter, write] : {std::pair{"IGain::SetGain", 2u},
                                         {"IExposure::SetExposure", 2u},
                                         {"IRoa::SetReadoutArea", 5u},
@@ -200,8 +204,9 @@ TEST_F(BehaviourTest, AFailedWriteLeavesTheCachesAsTheyWere) {
         port.FailAt(write, Unplug);
         EXPECT_THROW(Outcome(Row(setter), *camera.Object()), Unplugged) << setter;
     }
-    for (std::size_t at = 0; at < std::size(getters); ++at)
+    for (std::size_t at = 0; at < std::size(getters); ++at) {
         EXPECT_EQ(Observe(camera, Row(getters[at])), (Observed{before[at], ""})) << getters[at];
+    }
 }
 
 TEST_F(BehaviourTest, PortExceptionsOfAnyTypePass) {
@@ -263,10 +268,11 @@ TEST_F(BehaviourTest, LinesNameTheRegistersTheyTellOf) {
             LogCapture log;
             Outcome(row.call, *camera.Object());
             for (const std::string& text : log.TakeTexts()) {
-                if (const std::size_t at = text.find(" invalid @ Address=0x"); at != std::string::npos)
+                if (const std::size_t at = text.find(" invalid @ Address=0x"); at != std::string::npos) {
                     read.insert(text.substr(5, at - 5) + " " + text.substr(text.rfind('x') + 1));
-                else if (text.starts_with("debug DoInvalidate  "))
+                } else if (text.starts_with("debug DoInvalidate  ")) {
                     written.insert(text.substr(20));
+                }
             }
         }
     }
@@ -300,8 +306,9 @@ TEST_F(BehaviourTest, ASettingsLoadReachesEveryRegisterAlongEveryPath) {
     const std::string line = "debug DoInvalidate  ";
     std::map<std::string, int> paths; // one line for each chain of dependants that leads to a register
     for (const std::string& text : log.TakeTexts()) {
-        if (text.starts_with(line))
+        if (text.starts_with(line)) {
             ++paths[text.substr(line.size())];
+        }
     }
     EXPECT_EQ(std::erase_if(paths, [](const auto& path) { return path.second == 1; }), 55u) << "itself and 54 others";
     EXPECT_EQ(paths, (std::map<std::string, int>{{"gain", 2},

@@ -22,14 +22,15 @@ struct Unplugged {
 /// Sets a value through some operation.
 using Setter = std::function<void(IDynamicObject&, int)>;
 
-template <class Interface, class Value> Setter Sets(void (Interface::*operation)(Value)) {
+template <typename Interface, typename Value> Setter Sets(void (Interface::*operation)(Value)) {
     return [operation](IDynamicObject& camera, int value) {
         (Part<Interface>(camera).*operation)(static_cast<Value>(value));
     };
 }
 
 /// The same for one of several instances.
-template <class Interface, class Line, class Value> Setter Sets(void (Interface::*operation)(Line, Value), Line line) {
+template <typename Interface, typename Line, typename Value>
+Setter Sets(void (Interface::*operation)(Line, Value), Line line) {
     return [operation, line](IDynamicObject& camera, int value) {
         (Part<Interface>(camera).*operation)(line, static_cast<Value>(value));
     };
@@ -41,8 +42,9 @@ protected:
     Camera Open(const State& state = {}, int index = 0) {
         Prepare(port, state);
         Camera camera(plugin, state.model, &port, index);
-        if (state.before)
+        if (state.before) {
             state.before(*camera.Object());
+        }
         port.TakeLog();
         return camera;
     }
@@ -72,16 +74,18 @@ protected:
     /// The values that a setter accepts. The others must be refused with @p refusal, and not be written.
     std::string AdmittedBy(const Setter& set, const Camera& camera, const std::string& refusal) {
         std::vector<int> values{INT_MIN, -65536, 256, 257, 65536, 65537, INT_MAX};
-        for (int value = -2; value < 160; ++value)
+        for (int value = -2; value < 160; ++value) {
             values.push_back(value);
+        }
         std::string accepted;
         for (const int value : values) {
             const auto [outcome, accesses] =
                 Observe(camera, [&](IDynamicObject& object) { return set(object, value), Done; });
-            if (outcome == Done)
+            if (outcome == Done) {
                 accepted += std::to_string(value) + " ";
-            else
+            } else {
                 EXPECT_TRUE(outcome == refusal && accesses.find('=') == std::string::npos) << value << outcome;
+            }
         }
         return accepted;
     }

@@ -97,8 +97,9 @@ TEST_F(FactoryTest, DebugLinesTellConstructionAndDestruction) {
               "KColor",          "KOverlay",       "KGufi",          "KExposure", "KRoa",
               "KSignalAnalysis", "KInternalTests", "KBasicSettings", "KBinning",  "KLookupTable",
               "KTrigger",        "KMemory",        "KGPIO",          "gain",      "temperature1",
-              "iodelay6"}) // registers too
+              "iodelay6"}) { // registers too
             EXPECT_EQ(std::count(opening.begin(), opening.end(), "debug ctor " + std::string(name)), 1) << name;
+        }
     }
     EXPECT_EQ(log.TakeTexts(),
               (Texts{"info dtor COrvik2FeatureCtrl", "info Call", "debug delete FeatureList", "debug dtor CFeatureList",
@@ -162,8 +163,9 @@ TEST(UnloadTest, TheLibraryLeavesTheProcess) {
 #endif
     const auto isLoaded = [] {
         void* handle = dlopen(Plugin::Path(), RTLD_NOW | RTLD_NOLOAD);
-        if (handle != nullptr)
+        if (handle != nullptr) {
             dlclose(handle);
+        }
         return handle != nullptr;
     };
     ASSERT_FALSE(isLoaded());

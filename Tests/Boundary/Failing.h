@@ -27,7 +27,7 @@ struct Thrown {
     }
 };
 
-template <class Function> Thrown ThrownBy(const Function& function) {
+template <typename Function> Thrown ThrownBy(const Function& function) {
     try {
         function();
     } catch (const SDK4::X4Error& error) {
@@ -49,8 +49,9 @@ struct Failure {
     }
 
     void operator()() const {
-        if (foreign)
+        if (foreign) {
             throw CableOut(nth);
+        }
         throw SDK4::X4Error(Expected().value);
     }
 
@@ -65,8 +66,9 @@ inline std::size_t CountOf(const std::string& accesses) { return Split(accesses,
 /// The first accesses, up to one of them.
 inline std::string UpTo(unsigned int nth, const std::string& accesses) {
     std::size_t end = 0;
-    for (; nth > 0; --nth)
+    for (; nth > 0; --nth) {
         end = accesses.find(';', end + 1);
+    }
     return accesses.substr(0, end);
 }
 
@@ -103,17 +105,20 @@ protected:
 
     /// Calls @p call, whose access of that number fails. @returns what it threw
     /// @param accesses those that it must come to
-    template <class Function> Thrown Fail(const Failure& failure, const std::string& accesses, const Function& call) {
+    template <typename Function>
+    Thrown Fail(const Failure& failure, const std::string& accesses, const Function& call) {
         std::optional<LogCapture> log;
-        if (failure.logging)
+        if (failure.logging) {
             log.emplace();
+        }
         port.TakeLog();
         port.FailAt(failure.nth, failure);
         const Thrown thrown = ThrownBy(call);
         EXPECT_EQ(port.TakeLog(), accesses);
         if (log) {
-            for (const LogCapture::Line& line : log->Lines())
+            for (const LogCapture::Line& line : log->Lines()) {
                 EXPECT_EQ(line.text.find("SDK4Exception"), std::string::npos) << line.text;
+            }
         }
         return thrown;
     }

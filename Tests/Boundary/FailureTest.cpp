@@ -41,10 +41,12 @@ protected:
 Camera FailureTest::OpenAs(const Opening& opening) {
     port = {};
     Camera camera = Open(row.state, opening.index);
-    if (opening.filled && !row.state.IsM2VX()) // which is filled when opened
+    if (opening.filled && !row.state.IsM2VX()) { // which is filled when opened
         Answers(camera);
-    if (row.state.IsM2VX())
+    }
+    if (row.state.IsM2VX()) {
         camera.As<IPropertyState>().AddCallback(::Test::Observed::Tell, &observed);
+    }
     observed.Take();
     return camera;
 }
@@ -53,8 +55,9 @@ Camera FailureTest::OpenAs(const Opening& opening) {
 std::vector<CameraTest::Observed> FailureTest::Answers(const Camera& camera) {
     std::vector<Observed> answers;
     answers.reserve(getters.size());
-    for (const Operation* getter : getters)
+    for (const Operation* getter : getters) {
         answers.push_back(Observe(camera, getter->call));
+    }
     return answers;
 }
 
@@ -72,8 +75,9 @@ FailureTest::Untroubled FailureTest::Watch(const Opening& opening) {
     EXPECT_EQ(outcome, row.result);
     const Texts told = observed.Take();
     if (IsOf("IMotorControl", row) ||
-        IsOf("IDefectPixel", row)) // where a motor is is not remembered; one pixel for all
+        IsOf("IDefectPixel", row)) { // where a motor is is not remembered; one pixel for all
         return {accesses, told, before, Outcomes(camera, getters)};
+    }
     return {accesses, told, before, Held(opening.index)};
 }
 
@@ -106,12 +110,14 @@ void FailureTest::ExpectHarmless(const Opening& opening, std::span<const Failure
 }
 
 TEST_P(FailureTest, AFailedAccessDoesNoHarm) {
-    if (row.accesses.firstUncached.empty())
+    if (row.accesses.firstUncached.empty()) {
         return;
+    }
     std::vector<Opening> openings{{"remembering", row.state.RememberingIndex(), true},
                                   {"reading", row.state.ReadingIndex(), false}};
-    if (!row.state.IsM2VX())
+    if (!row.state.IsM2VX()) {
         openings.push_back({"nothing remembered yet", row.state.RememberingIndex(), false});
+    }
 #ifdef QDV12_SANITIZED // see FailuresOf
     static std::size_t turn = 0;
     openings = {openings[turn++ % openings.size()]};
@@ -122,9 +128,10 @@ TEST_P(FailureTest, AFailedAccessDoesNoHarm) {
         const std::vector<Failure> failures = FailuresOf(CountOf(untroubled.accesses));
         // What a call reads before it fails may be remembered, and is then not read again.
         const std::size_t together = opening.filled || row.state.IsM2VX() ? 4 : 1;
-        for (std::size_t at = 0; at < failures.size(); at += together)
+        for (std::size_t at = 0; at < failures.size(); at += together) {
             ExpectHarmless(opening, std::span(failures).subspan(at, std::min(together, failures.size() - at)),
                            untroubled);
+        }
     }
 }
 

@@ -23,8 +23,9 @@ std::vector<std::string> LinesOf(const std::string& command) {
     std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
     std::vector<std::string> lines;
     char line[8192];
-    while (pipe != nullptr && std::fgets(line, sizeof line, pipe.get()) != nullptr)
+    while (pipe != nullptr && std::fgets(line, sizeof line, pipe.get()) != nullptr) {
         lines.push_back(std::string(line, std::strcspn(line, "\n")));
+    }
     return lines;
 }
 
@@ -43,8 +44,9 @@ struct Symbol {
 /// "GetGain" for SDK4::Control::KGain::GetGain() and for a thunk to it.
 std::string FunctionName(std::string name) {
     const std::string anonymous = "(anonymous namespace)";
-    for (std::size_t at; (at = name.find(anonymous)) != std::string::npos;)
+    for (std::size_t at; (at = name.find(anonymous)) != std::string::npos;) {
         name.erase(at, anonymous.size());
+    }
     name.erase(std::min(name.find('('), name.size()));
     return name.substr(name.rfind(':') + 1);
 }
@@ -58,8 +60,9 @@ public:
         base = reinterpret_cast<std::uintptr_t>(module.dli_fbase);
         for (const std::string& line : LinesOf("nm -C --defined-only '" + std::string(module.dli_fname) + "'")) {
             const Symbol symbol(line);
-            if (std::string("tTwWi").find(symbol.kind) != std::string::npos)
+            if (std::string("tTwWi").find(symbol.kind) != std::string::npos) {
                 names[symbol.address] = FunctionName(symbol.name);
+            }
         }
     }
 
@@ -74,7 +77,7 @@ private:
     std::map<std::uintptr_t, std::string> names;
 };
 
-template <class T> std::string NameOf() {
+template <typename T> std::string NameOf() {
     const std::unique_ptr<char, void (*)(void*)> name(abi::__cxa_demangle(typeid(T).name(), nullptr, nullptr, nullptr),
                                                       std::free);
     return name.get();
@@ -84,23 +87,24 @@ template <class T> std::string NameOf() {
 __attribute__((no_sanitize("address"))) void* Entry(void** slot) { return *slot; }
 
 /// The operations in the order of their slots. The table of an implementation continues with its destructor or ends.
-template <class Interface> std::string SlotsOf(Interface& object) {
+template <typename Interface> std::string SlotsOf(Interface& object) {
     void** slot = *reinterpret_cast<void***>(&object);
     static std::map<void*, FunctionNames> modules;
     Dl_info module{};
     dladdr(slot, &module);
     const FunctionNames& functions = modules.try_emplace(module.dli_fbase, slot).first->second;
     std::string line = "slots " + NameOf<Interface>() + ":";
-    for (std::string name; !(name = functions.At(Entry(slot))).empty() && name[0] != '~'; ++slot)
+    for (std::string name; !(name = functions.At(Entry(slot))).empty() && name[0] != '~'; ++slot) {
         line += " " + name;
+    }
     return line + "\n";
 }
 
-template <class... Interfaces> std::string SlotsOfCamera(const Camera& camera) {
+template <typename... Interfaces> std::string SlotsOfCamera(const Camera& camera) {
     return (SlotsOf(Part<Interfaces>(*camera.Object())) + ...);
 }
 
-template <class... Records> std::string Sizes() {
+template <typename... Records> std::string Sizes() {
     return (("size " + NameOf<Records>() + ": " + std::to_string(sizeof(Records)) + "\n") + ...);
 }
 
@@ -109,10 +113,11 @@ std::string Exports() {
     std::string text;
     for (const std::string& line : LinesOf("nm -DC --defined-only '" + std::string(Plugin::Path()) + "'")) {
         const Symbol symbol(line);
-        if (std::string("TWi").find(symbol.kind) != std::string::npos)
+        if (std::string("TWi").find(symbol.kind) != std::string::npos) {
             text += "export " + symbol.name + "\n";
-        else if (!symbol.name.starts_with("typeinfo "))
+        } else if (!symbol.name.starts_with("typeinfo ")) {
             text += "data " + symbol.name + "\n";
+        }
     }
     return text;
 }
@@ -126,8 +131,9 @@ std::string Golden() {
     std::ifstream file(QDV12_GOLDEN_FILE);
     std::string text;
     for (std::string line; std::getline(file, line);) {
-        if (!line.empty() && line[0] != '#')
+        if (!line.empty() && line[0] != '#') {
             text += line + "\n";
+        }
     }
     return text;
 }
@@ -164,8 +170,9 @@ TEST_F(GoldenTest, BoundaryIsUnchanged) {
 
 TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
     std::set<std::string> rows, expected;
-    for (const Operation& row : Operations())
+    for (const Operation& row : Operations()) {
         rows.insert(row.name.substr(0, row.name.find(' ')));
+    }
     const std::set<std::string> notForTheTable{"IDynamicObject", "IModelRegistry", "SDK4::IControlPort"};
     std::istringstream golden(Golden());
     for (std::string line; std::getline(golden, line);) {
@@ -173,16 +180,19 @@ TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
         std::string kind, interface;
         words >> kind >> interface;
         interface.pop_back();
-        if (kind != "slots" || notForTheTable.contains(interface))
+        if (kind != "slots" || notForTheTable.contains(interface)) {
             continue;
+        }
         interface.erase(0, interface.rfind(':') + 1);
         const bool ofM2VXOnly =
             line.find(" SDK4::Control::M2VX::") != std::string::npos || interface.starts_with("IProperty");
         for (std::string operation; words >> operation;) {
-            if (!ofM2VXOnly)
+            if (!ofM2VXOnly) {
                 expected.insert(interface + "::" + operation);
-            if (ofM2VXOnly || ofBoth.contains(interface))
+            }
+            if (ofM2VXOnly || ofBoth.contains(interface)) {
                 expected.insert("M2VX::" + interface + "::" + operation);
+            }
         }
     }
     EXPECT_EQ(rows, expected);
@@ -191,8 +201,9 @@ TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
 TEST_F(GoldenTest, LoggingComesFromTheHost) {
     const auto needed = LinesOf("readelf -d '" + std::string(Plugin::Path()) + "' | grep NEEDED");
     EXPECT_FALSE(needed.empty());
-    for (const std::string& line : needed)
+    for (const std::string& line : needed) {
         EXPECT_EQ(line.find("log4cxx"), std::string::npos) << line;
+    }
 }
 
 } // namespace Test

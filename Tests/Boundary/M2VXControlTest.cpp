@@ -54,10 +54,11 @@ TEST_F(M2VXControlTest, RemembersWhatTheCameraMadeOfAValueOutOfRange) {
         port = {};
         const Camera camera = Open(Row(set).state, 3);
         port.FailAt(2, [this, &made = made] { // no failure: the access after the write finds this
-            if (made.index < 0)
+            if (made.index < 0) {
                 port.Set(made.address, made.bytes);
-            else
+            } else {
                 port.SetInstance(made.address, static_cast<std::uint32_t>(made.index), made.bytes);
+            }
         });
         EXPECT_EQ(OutcomeOf(set, camera), OutOfRange);
         EXPECT_EQ(Observe(camera, Row(get).call), (Observed{remembered, ""}));
@@ -106,8 +107,9 @@ TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
     for (const char* sent : {"loadsettings", "savesettings", "motorcontrol"}) { // nothing to store
         const Camera camera = Open(OnM2VX(Disabling(sent)));
         for (const char* row :
-             {"IBasicSettings::LoadSettings", "IBasicSettings::SaveSettings", "IMotorControl::SetMotorControl"})
+             {"IBasicSettings::LoadSettings", "IBasicSettings::SaveSettings", "IMotorControl::SetMotorControl"}) {
             EXPECT_EQ(OutcomeOf(row, camera), Done) << row;
+        }
     }
 }
 
@@ -146,8 +148,9 @@ TEST_F(M2VXControlTest, BlocksThatThePortDoesNotDeliverAreRefused) {
     for (const char* row :
          {"IOverlay::GetOverlayPosition", "IOverlay::GetOverlayStyle", "IOverlay::GetOverlaySize",
           "IOverlay::SetOverlayPosition x", "ISignalAnalysis::GetMeasureWindow", "ISignalAnalysis::SetMeasureWindow x",
-          "IDefectPixel::GetDefectPixel", "IDefectPixel::SetDefectPixel x", "IBasicSettings::GetDevice"})
+          "IDefectPixel::GetDefectPixel", "IDefectPixel::SetDefectPixel x", "IBasicSettings::GetDevice"}) {
         EXPECT_EQ(OutcomeOf(row, camera), "SDK4_ERR_CANTGETFEATURE") << row;
+    }
     EXPECT_THROW(plugin.CreateObject("Cerix7-MV", &port, 3), SDK4::X4Error);
     EXPECT_EQ(OutcomeOf("IGain::GetGain", camera), "1");
 }

@@ -12,8 +12,9 @@ const std::string bootstrap = "r 0010; r 0014; r 0024; r 0034; r 0044; r 064C; r
 
 std::string Reads(const Texts& addresses) {
     std::string text;
-    for (const std::string& address : addresses)
+    for (const std::string& address : addresses) {
         text += "; r " + address;
+    }
     return text;
 }
 
@@ -28,12 +29,13 @@ std::string Pixel(std::uint32_t pair, std::uint32_t position) {
 
 std::size_t CountOf(const std::string& text, const std::string& part) {
     std::size_t count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
         ++count;
+    }
     return count;
 }
 
-template <class... Interfaces> int CountOfInterfaces(const Camera& camera) {
+template <typename... Interfaces> int CountOfInterfaces(const Camera& camera) {
     return ((dynamic_cast<Interfaces*>(camera.Object()) != nullptr ? 1 : 0) + ...);
 }
 
@@ -71,19 +73,22 @@ TEST_F(M2VXOpeningTest, OpeningReadsTheNetworkAndWhatItWillRemember) {
     std::string settings =
         Reads({"00088120", "00088124", "00088128", "18010000", "18020000", "18030000", "180C0000", "0A020000",
                "0A030000", "14010000", "16020000", "16030000", "16040000", "16060000", "16070000", "16080000"});
-    for (std::uint32_t i = 0; i < 3; ++i)
+    for (std::uint32_t i = 0; i < 3; ++i) {
         settings += Instance("rp 17010000", i) + Instance("rb 17020000/12", i) + Instance("rb 17030000/12", i) +
                     Instance("rb 17040000/12", i);
+    }
     settings += "; r 1B010000";
-    for (std::uint32_t i = 0; i < 4; ++i)
+    for (std::uint32_t i = 0; i < 4; ++i) {
         settings += Instance("rp 1B020000", i);
+    }
     settings += "; r 1B030000; r 1B040000; rp 1B050000; r 19010000; r 19030000; rp 28030000; r 1E010000; "
                 "rb 1E030000/20; r 46020000; r 46030000; r 46090000; r 47040000; r 47050000" +
                 Instance("rp 47090000", 0) + Instance("rp 47090000", 1) + "; r 470A0000" + Instance("rp 5A010000", 0) +
                 Instance("rp 5A010000", 1) + "; r 0B040000" + Pixel(0, 0) + Pixel(0, 1) + Pixel(1, 0) + Pixel(1, 1) +
                 "; r 0B0A0000; r 51040000";
-    for (std::uint32_t i = 0; i < 256; ++i)
+    for (std::uint32_t i = 0; i < 256; ++i) {
         settings += Instance("rp 6E140000", i);
+    }
     EXPECT_EQ(CostOfOpening(With(0x0B040000, 2), 3), bootstrap + settings);
 }
 
@@ -101,8 +106,10 @@ TEST_F(M2VXOpeningTest, TheLowNibbleOfTheIndexDecides) {
 }
 
 TEST_F(M2VXOpeningTest, OpeningReadsOnlyTheDefectPixelsInUse) {
-    for (const auto& [count, entries] : {std::pair{0u, 0u}, {1u, 2u}, {128u, 256u}, {129u, 256u}, {0xFFFFFFFFu, 256u}})
+    for (const auto& [count, entries] :
+         {std::pair{0u, 0u}, {1u, 2u}, {128u, 256u}, {129u, 256u}, {0xFFFFFFFFu, 256u}}) {
         EXPECT_EQ(CountOf(CostOfOpening(With(0x0B040000, count), 3), "; ") + 1, 596 + 2 * entries) << count;
+    }
     const Camera camera = Open(OnM2VX(With(0x0B040000, 1)), 3);
     EXPECT_EQ(OutcomeOf("IDefectPixel::GetDefectPixel second", camera), "3,4,5");
     EXPECT_EQ(OutcomeOf("IDefectPixel::GetDefectPixel last", camera), "0,0,0");

@@ -15,8 +15,9 @@ namespace {
 
 std::string Times(int count, const std::string& text) {
     std::string all;
-    while (count-- > 0)
+    while (count-- > 0) {
         all += text;
+    }
     return all;
 }
 
@@ -62,8 +63,9 @@ TEST_F(M2VXPropertyTest, TheListNamesEveryScalarInOrder) {
         Times(256, "motorcontrol ");
     auto& list = camera.As<IPropertyList>();
     Texts listed;
-    for (int i = 0; i < list.GetNumberOfProperties(); ++i)
+    for (int i = 0; i < list.GetNumberOfProperties(); ++i) {
         listed.push_back(list.GetPropertyName(i));
+    }
     EXPECT_EQ(listed.size(), 1104u);
     EXPECT_EQ(listed, Names(names));
 }
@@ -117,8 +119,9 @@ TEST_F(M2VXPropertyTest, EveryPropertyHasTheseLimitsAndDefaults) {
             covered.insert(name);
         }
     }
-    for (int i = 0; i < 1104; ++i)
+    for (int i = 0; i < 1104; ++i) {
         listed.insert(camera.As<IPropertyList>().GetPropertyName(i));
+    }
     EXPECT_EQ(covered, listed);
 }
 
@@ -164,8 +167,9 @@ TEST_F(M2VXPropertyTest, EnumerationsAdmitTheseValuesOnly) {
         {"SetLUTInterpolatorIndex",  Sets(&ILookUpTable::SetLUTInterpolatorIndex),    "0 1 2 3 4 5 6 7 8 9 10 11 12 "},
     };
     // clang-format on
-    for (const auto& [name, set, admitted] : cases)
+    for (const auto& [name, set, admitted] : cases) {
         EXPECT_EQ(AdmittedBy(set, camera, OutOfRange), admitted) << name;
+    }
 }
 
 TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
@@ -231,8 +235,9 @@ TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
             self.seen.push_back(std::string(name) + Row("IPropertyState::GetUIntValue").call(self.object) + " " +
                                 Row("IGain::GetGain").call(self.object));
             Row("IDigitalEnhancement::SetSharpness").call(self.object); // tells once more, one level deeper
-            if (self.seen.size() == 3)
+            if (self.seen.size() == 3) {
                 Part<IPropertyState>(self.object).RemoveCallback(Tell);
+            }
         }
         IDynamicObject& object;
         Texts seen{};
@@ -251,8 +256,9 @@ TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
     struct Overruling {
         static void Tell(const char* name, const char* attribute, void* context) {
             auto& self = *static_cast<Overruling*>(context);
-            if (std::string(name) + attribute == "agcvalue")
+            if (std::string(name) + attribute == "agcvalue") {
                 std::exchange(self.overrule, [](IDynamicObject&) { return Done; })(self.object);
+            }
         }
         IDynamicObject& object;
         Call overrule;
@@ -309,8 +315,9 @@ TEST_F(M2VXPropertyTest, ModesSwitchWhatDependsOnThemWhenSetAndWhenReadAtOpening
     for (const auto& [set, address, firstMode, names, enabled] : cases) {
         const auto enabledOn = [&, list = Names(names)](const Camera& of) {
             std::string flags;
-            for (const std::string& name : list)
+            for (const std::string& name : list) {
                 flags += of.As<IPropertyState>().GetEnabled(name.c_str()) ? "1" : "0";
+            }
             return flags;
         };
         for (std::size_t i = 0; i < enabled.size(); ++i) {

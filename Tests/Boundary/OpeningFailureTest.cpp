@@ -33,15 +33,17 @@ TEST_P(OpeningFailureTest, AFailedAccessLeavesNothingBehind) {
         EXPECT_EQ(CountOf(accesses), logging ? opened.accessesLogging : opened.accesses);
         std::set<long> left;
         for (const Failure& failure : FailuresOf(CountOf(accesses))) {
-            if (failure.logging != logging)
+            if (failure.logging != logging) {
                 continue;
+            }
             SCOPED_TRACE(failure);
             const std::string first = UpTo(failure.nth, accesses);
             const bool guarded = first.ends_with("r 0954"); // which some devices lack
             const long live = LiveAllocations();
             EXPECT_EQ(Fail(failure, guarded ? accesses : first, open), guarded ? Thrown{} : failure.Expected());
-            if (!guarded)
+            if (!guarded) {
                 left.insert(LiveAllocations() - live);
+            }
         }
         // What an Orvik camera has made by then leaves what its lists do not destroy, and as much each time.
         EXPECT_LE(left.size(), 1u);

@@ -56,8 +56,9 @@ std::set<std::string> OperationTest::ExpectedAffected(const std::set<std::string
         return {names.begin(), names.end()};
     }
     std::set<std::string> expected = valid;
-    for (const std::string& survivor : Split(row.accesses.affected.substr(allBut.size()), ", "))
+    for (const std::string& survivor : Split(row.accesses.affected.substr(allBut.size()), ", ")) {
         EXPECT_EQ(expected.erase(survivor), 1u) << survivor;
+    }
     return expected;
 }
 
@@ -76,14 +77,16 @@ TEST_P(OperationTest, LogsItsEntryAndOneLineForAThrow) {
     for (const LogCapture::Line& line : log.Lines()) {
         EXPECT_TRUE(line.file.ends_with(".cpp") || line.file.ends_with(".h")) << line.file;
         EXPECT_GT(line.line, 0);
-        if (line.text.starts_with("warn SDK4Exception"))
+        if (line.text.starts_with("warn SDK4Exception")) {
             warnings.push_back(line.text);
+        }
     }
     const std::vector<std::string> throwing{"warn SDK4Exception [X4Error(" + row.result + ")]"};
     EXPECT_EQ(warnings, IsError(row.result) ? throwing : std::vector<std::string>{});
 
-    if (IsOf("IVideoFrame", row) || IsOf("IDSMediaType", row) || IsOf("IGigEVisionPort", row))
+    if (IsOf("IVideoFrame", row) || IsOf("IDSMediaType", row) || IsOf("IGigEVisionPort", row)) {
         return;
+    }
     ASSERT_FALSE(log.Lines().empty());
     const LogCapture::Line& entry = log.Lines().front();
     const std::string operation = WithoutInterface(row.name.substr(0, row.name.find(' ')));
@@ -103,8 +106,9 @@ INSTANTIATE_TEST_SUITE_P(, OperationTest, testing::ValuesIn(Operations()), TestN
 
 TEST_F(CameraTest, NullPortIsRefusedAtTheFirstAccess) {
     for (const Operation& row : Operations()) {
-        if (row.accesses.first.empty() || row.state.before || row.state.IsM2VX()) // M2VX refuses it when opened
+        if (row.accesses.first.empty() || row.state.before || row.state.IsM2VX()) { // M2VX refuses it when opened
             continue;
+        }
         const Camera camera(plugin, row.state.model, nullptr);
         EXPECT_EQ(Outcome(row.call, *camera.Object()), Invalid) << row.name;
     }

@@ -50,18 +50,20 @@ std::string Cells(const std::vector<std::string>& accesses) {
     return line;
 }
 
-template <class Names> std::string Joined(const Names& names) {
+template <typename Names> std::string Joined(const Names& names) {
     std::string text;
-    for (const std::string& name : names)
+    for (const std::string& name : names) {
         text += (text.empty() ? "" : ", ") + name;
+    }
     return text;
 }
 
 std::vector<std::string> Lines(const std::string& text) {
     std::istringstream stream(text);
     std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
+    for (std::string line; std::getline(stream, line);) {
         lines.push_back(line);
+    }
     return lines;
 }
 
@@ -71,8 +73,9 @@ std::string Missing(const std::string& sign, const std::string& text, const std:
     std::sort(known.begin(), known.end());
     std::string missing;
     for (const std::string& line : Lines(text)) {
-        if (!std::binary_search(known.begin(), known.end(), line))
+        if (!std::binary_search(known.begin(), known.end(), line)) {
             missing += sign + line + "\n";
+        }
     }
     return missing;
 }
@@ -93,7 +96,7 @@ protected:
     std::string Noticing(const Operation& row);
 
     /// A camera that has had no call yet.
-    template <class Call> auto OnNewCamera(const Call& call) {
+    template <typename Call> auto OnNewCamera(const Call& call) {
         port = {};
         return call();
     }
@@ -102,8 +105,9 @@ protected:
 /// The getters that notice a call, the shorter of two lists.
 std::string PortAccessTest::Noticing(const Operation& row) {
     const auto [outcome, valid, affected] = OnNewCamera([&] { return EffectOf(row); });
-    if (affected.empty() || 2 * affected.size() <= valid.size())
+    if (affected.empty() || 2 * affected.size() <= valid.size()) {
         return affected.empty() ? "-" : Joined(affected);
+    }
     std::vector<std::string> untouched, beyond;
     std::set_difference(valid.begin(), valid.end(), affected.begin(), affected.end(), std::back_inserter(untouched));
     std::set_difference(affected.begin(), affected.end(), valid.begin(), valid.end(), std::back_inserter(beyond));
@@ -132,20 +136,24 @@ std::string PortAccessTest::Interface(const std::string& name, const std::vector
     for (const Operation* row : rows) {
         const auto [outcome, accesses] = CostOf(*row);
         std::string operation = WithoutInterface(row->name);
-        if (IsError(outcome))
+        if (IsError(outcome)) {
             operation += " (" + outcome.substr(std::string("SDK4_ERR_").size()) + ")";
+        }
         const std::string noticing = Noticing(*row);
-        if (noticing == "-" && accesses == std::vector<std::string>(accesses.size()))
+        if (noticing == "-" && accesses == std::vector<std::string>(accesses.size())) {
             withoutAccess.push_back(operation);
-        else
+        } else {
             table += "| " + operation + " |" + Cells(accesses) + " " + noticing + " |\n";
+        }
     }
     std::string text = "\n### " + name + "\n";
-    if (!table.empty())
+    if (!table.empty()) {
         text +=
             "\n| Operation | Remembering | Again | Reading | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
-    if (!withoutAccess.empty())
+    }
+    if (!withoutAccess.empty()) {
         text += "\nWithout access: " + Joined(withoutAccess) + ".\n";
+    }
     return text;
 }
 
@@ -163,8 +171,9 @@ std::string PortAccessTest::Opening(const char* family, const State& state) {
         int all = 0;
         for (std::string access; std::getline(log >> std::ws, access, ';'); ++all) {
             access.resize(std::min(access.find_first_of("=/"), access.size()));
-            if (count[access]++ == 0)
+            if (count[access]++ == 0) {
                 order.push_back(access);
+            }
         }
         for (std::string& access : order) {
             const int times = count[access];
@@ -180,18 +189,22 @@ std::string PortAccessTest::Family(bool ofM2VX) {
     std::vector<std::string> order;
     std::map<std::string, std::vector<const Operation*>> rows;
     for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() != ofM2VX)
+        if (row.state.IsM2VX() != ofM2VX) {
             continue;
+        }
         std::string name = InterfaceOf(row.name);
-        if (ofM2VX)
+        if (ofM2VX) {
             name.erase(0, std::string("M2VX::").size());
-        if (rows[name].empty())
+        }
+        if (rows[name].empty()) {
             order.push_back(name);
+        }
         rows[name].push_back(&row);
     }
     std::string text;
-    for (const std::string& name : order)
+    for (const std::string& name : order) {
         text += Interface(name, rows[name]);
+    }
     return text;
 }
 
@@ -215,10 +228,11 @@ TEST_F(PortAccessTest, TheDocumentTellsWhatEveryOperationCosts) {
     }
     std::stringstream document;
     document << std::ifstream(QDV12_PORT_ACCESSES).rdbuf();
-    if (document.str() != measured)
+    if (document.str() != measured) {
         FAIL() << Missing("-", document.str(), measured) << Missing("+", measured, document.str())
                << "docs/port-accesses.md is out of date. If the change is meant, renew it:\n"
                   "    cmake --build --preset release --target port-accesses";
+    }
 }
 
 } // namespace Test

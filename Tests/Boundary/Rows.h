@@ -34,8 +34,9 @@ inline std::vector<const Operation*> CachedGetters(bool ofM2VX) {
     std::vector<const Operation*> getters;
     for (const Operation& row : Operations()) {
         if (row.state.IsM2VX() == ofM2VX && !row.accesses.firstUncached.empty() && row.accesses.again.empty() &&
-            !IsError(row.result) && !row.state.before && !IsOf("IVideoFrame", row))
+            !IsError(row.result) && !row.state.before && !IsOf("IVideoFrame", row)) {
             getters.push_back(&row);
+        }
     }
     return getters;
 }
@@ -44,8 +45,9 @@ inline std::vector<const Operation*> CachedGetters(bool ofM2VX) {
 inline std::vector<std::string> Outcomes(const Camera& camera, const std::vector<const Operation*>& rows) {
     std::vector<std::string> outcomes;
     outcomes.reserve(rows.size());
-    for (const Operation* row : rows)
+    for (const Operation* row : rows) {
         outcomes.push_back(row->name + ": " + Outcome(row->call, *camera.Object()));
+    }
     return outcomes;
 }
 
@@ -53,8 +55,9 @@ inline void PrintTo(const Operation& operation, std::ostream* stream) { *stream 
 
 inline std::string TestName(const testing::TestParamInfo<Operation>& row) {
     std::string name = row.param.name;
-    for (std::size_t at; (at = name.find("::")) != std::string::npos;)
+    for (std::size_t at; (at = name.find("::")) != std::string::npos;) {
         name.replace(at, 2, "_");
+    }
     std::replace(name.begin(), name.end(), '-', 'm');
     std::replace_if(
         name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');

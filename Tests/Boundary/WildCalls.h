@@ -21,7 +21,7 @@ inline constexpr std::uint32_t OddWords[] = {0,   1,   2,     3,          4,    
                                              255, 256, 65536, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFE, ~0u};
 
 /// An argument that consists of one word, or a record with this word in every field.
-template <class T> T Filled(std::uint32_t word) {
+template <typename T> T Filled(std::uint32_t word) {
     if constexpr (std::is_class_v<T>) {
         T record{};
         std::fill_n(reinterpret_cast<std::uint32_t*>(&record), sizeof record / sizeof word, word);
@@ -33,7 +33,7 @@ template <class T> T Filled(std::uint32_t word) {
 
 /// An operation with a word for its first argument and another for the rest of them.
 struct Wild {
-    template <class Interface, class Result, class... Parameters>
+    template <typename Interface, typename Result, typename... Parameters>
     Wild(Result (Interface::*operation)(Parameters...))
         : arguments(sizeof...(Parameters)),
           with([operation](std::uint32_t first, std::uint32_t rest) {
@@ -44,7 +44,7 @@ struct Wild {
     std::function<Call(std::uint32_t first, std::uint32_t rest)> with;
 
 private:
-    template <class Interface, class Result, class... Parameters, std::size_t... I>
+    template <typename Interface, typename Result, typename... Parameters, std::size_t... I>
     static Call Bound(Result (Interface::*operation)(Parameters...), std::uint32_t first, std::uint32_t rest,
                       std::index_sequence<I...>) {
         return On(operation, Filled<Parameters>(I == 0 ? first : rest)...);

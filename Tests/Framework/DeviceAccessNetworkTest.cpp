@@ -41,8 +41,9 @@ Texts StateLines(const std::string& level, const std::string& configurationLine)
          {"SupportedIPConfig   : 0x7", "CurrentIPConfig     : 0x26", "CurrentIPAddress    : 192.168.1.10",
           "CurrentSubNetMask   : 255.255.255.128", "CurrentGateway      : 192.168.1.1",
           "PersistentIPAddress : 10.0.0.5", "PersistentSubNetMask: 255.0.0.0", "PersistentGateway   : 10.0.0.255",
-          "GVCP Capability     : 0xab"})
+          "GVCP Capability     : 0xab"}) {
         lines.push_back(level + " " + text);
+    }
     lines.push_back(configurationLine);
     return lines;
 }
@@ -197,6 +198,7 @@ TEST(RefusingPort, RefusesEveryAccess) {
                                [](auto& p) { p.WriteString(0, "", 0); },
                                [](auto& p) { p.ReadMem(0, nullptr, nullptr); },
                                [](auto& p) { p.WriteMem(0, nullptr, nullptr); }};
-    for (const Access access : accesses)
+    for (const Access access : accesses) {
         EXPECT_EQ(CodeOf([&] { access(port); }), "SDK4_ERR_INVALID_PARAMETER");
+    }
 }

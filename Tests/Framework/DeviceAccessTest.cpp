@@ -26,7 +26,7 @@ namespace {
 using Operation = std::function<std::string()>;
 using Open = std::function<Operation(SDK4::IControlPort*)>;
 
-template <class T> std::string AsText(const T& result) {
+template <typename T> std::string AsText(const T& result) {
     if constexpr (std::is_convertible_v<T, const char*>) {
         return result == nullptr ? "null" : result;
     } else if constexpr (std::is_enum_v<T> || std::is_arithmetic_v<T>) {
@@ -35,14 +35,15 @@ template <class T> std::string AsText(const T& result) {
         std::uint32_t words[sizeof(T) / 4];
         std::memcpy(words, &result, sizeof words);
         std::string text;
-        for (const std::uint32_t word : words)
+        for (const std::uint32_t word : words) {
             text += (text.empty() ? "" : ",") + std::to_string(word);
+        }
         return text;
     }
 }
 
 /// The call of one operation of a device object, opened on a port.
-template <class Device, class Result, class... Parameters, class... Arguments>
+template <typename Device, typename Result, typename... Parameters, typename... Arguments>
 Open On(Result (Device::*operation)(Parameters...), Arguments... arguments) {
     return [=](SDK4::IControlPort* port) -> Operation {
         return [=, device = std::make_shared<Device>(port)] {
@@ -66,17 +67,18 @@ struct Row {
 };
 
 /// A record whose words count from @p first.
-template <class Record> Record Numbered(std::uint32_t first) {
+template <typename Record> Record Numbered(std::uint32_t first) {
     std::uint32_t words[sizeof(Record) / 4];
-    for (std::uint32_t& word : words)
+    for (std::uint32_t& word : words) {
         word = first++;
+    }
     Record record;
     std::memcpy(&record, words, sizeof record);
     return record;
 }
 
-template <class Getter> struct ResultOf;
-template <class Device, class Result, class... Parameters> struct ResultOf<Result (Device::*)(Parameters...)> {
+template <typename Getter> struct ResultOf;
+template <typename Device, typename Result, typename... Parameters> struct ResultOf<Result (Device::*)(Parameters...)> {
     using type = Result;
 };
 
@@ -96,16 +98,17 @@ struct Table {
     static std::uint32_t Number(Text at) { return static_cast<std::uint32_t>(std::stoul(at, nullptr, 16)); }
 
     /// Plain words, written as 8 or -8; a signed one is read as -5.
-    template <class Getter> void Read(Text name, Getter get, Text at) {
-        if constexpr (std::is_same_v<typename ResultOf<Getter>::type, std::int32_t>)
+    template <typename Getter> void Read(Text name, Getter get, Text at) {
+        if constexpr (std::is_same_v<typename ResultOf<Getter>::type, std::int32_t>) {
             Add("Get" + name, On(get), "r " + at, "-5", {{Number(at), Words({0xFFFFFFFB})}});
-        else
+        } else {
             Add("Get" + name, On(get), "r " + at, "1");
+        }
     }
-    template <class Device> void Write(Text name, void (Device::*set)(std::uint32_t), Text at) {
+    template <typename Device> void Write(Text name, void (Device::*set)(std::uint32_t), Text at) {
         Add(name, On(set, 8), "w " + at + "=8", "done");
     }
-    template <class Getter, class Device, class Value>
+    template <typename Getter, typename Device, typename Value>
     void Word(Text name, Getter get, void (Device::*set)(Value), Text at) {
         Read(name, get, at);
         constexpr bool isSigned = std::is_same_v<Value, std::int32_t>;
@@ -113,12 +116,12 @@ struct Table {
     }
 
     /// Indexed words, of index 7.
-    template <class Getter> void ReadIndexed(Text name, Getter get, Text at) {
+    template <typename Getter> void ReadIndexed(Text name, Getter get, Text at) {
         const bool isSigned = std::is_same_v<typename ResultOf<Getter>::type, std::int32_t>;
         Add("Get" + name, On(get, 7), "w " + at + "=7; rp " + at, isSigned ? "-5" : "2",
             {{Number(at), isSigned ? Words({0, 0xFFFFFFFB}) : Bytes{}}});
     }
-    template <class Getter, class Device, class Value>
+    template <typename Getter, typename Device, typename Value>
     void Indexed(Text name, Getter get, void (Device::*set)(std::uint32_t, Value), Text at) {
         ReadIndexed(name, get, at);
         constexpr bool isSigned = std::is_same_v<Value, std::int32_t>;
@@ -126,30 +129,30 @@ struct Table {
     }
 
     /// Records of two words.
-    template <class Getter> void ReadPair(Text name, Getter get, Text at) {
+    template <typename Getter> void ReadPair(Text name, Getter get, Text at) {
         Add("Get" + name, On(get), "rp " + at, "1,2");
     }
-    template <class Getter, class Device, class Record>
+    template <typename Getter, typename Device, typename Record>
     void Pair(Text name, Getter get, void (Device::*set)(Record), Text at) {
         ReadPair(name, get, at);
         Add("Set" + name, On(set, Numbered<Record>(11)), "wp " + at + "=11,12", "done");
     }
 
     /// Records behind the index 7, and whole blocks.
-    template <class Getter, class Device, class Record>
+    template <typename Getter, typename Device, typename Record>
     void Indexed(Text name, Getter get, void (Device::*set)(std::uint32_t, Record), Text at, Text length, Text words,
                  Text written) {
         Add("Get" + name, On(get, 7), "w " + at + "=7; rb " + at + "/" + length, words);
         Add("Set" + name, On(set, 7, Numbered<Record>(11)), "wb " + at + "=7," + written, "done");
     }
-    template <class Getter, class Device, class Record>
+    template <typename Getter, typename Device, typename Record>
     void Block(Text name, Getter get, void (Device::*set)(Record), Text at, Text length, Text words, Text written) {
         Add("Get" + name, On(get), "rb " + at + "/" + length, words);
         Add("Set" + name, On(set, Numbered<Record>(11)), "wb " + at + "=" + written, "done");
     }
 
     /// Identity texts: a word, then the text.
-    template <class Getter> void Identity(Text name, Getter get, Text at) {
+    template <typename Getter> void Identity(Text name, Getter get, Text at) {
         Add("Get" + name, On(get), "rs " + at + "/24", "who", {{Number(at), TextBlock(24, "who")}});
     }
 };
@@ -329,8 +332,9 @@ const std::vector<Row>& Rows() {
 
 std::string Joined(const Texts& texts) {
     std::string joined;
-    for (const std::string& text : texts)
+    for (const std::string& text : texts) {
         joined += (joined.empty() ? "" : "; ") + text;
+    }
     return joined;
 }
 
@@ -340,8 +344,9 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
     for (const Row& row : Rows()) {
         SCOPED_TRACE(row.name);
         RecordingPort port;
-        for (const auto& [address, bytes] : row.memory)
+        for (const auto& [address, bytes] : row.memory) {
             port.Set(address, bytes);
+        }
         LogCapture capture;
         const Operation operation = row.open(&port);
         EXPECT_EQ(port.TakeLog() + Joined(capture.TakeTexts()), "") << "opening does nothing";
@@ -359,8 +364,9 @@ TEST(DeviceAccess, ABlockThatThePortDoesNotDeliverIsRefusedAndAMissingTextIsNull
     for (const Row& row : Rows()) {
         const bool readsBlock = row.accesses.find("rb ") != std::string::npos;
         const bool readsText = row.accesses.find("rs ") != std::string::npos;
-        if (!readsBlock && !readsText)
+        if (!readsBlock && !readsText) {
             continue;
+        }
         SCOPED_TRACE(row.name);
         RecordingPort port;
         port.refuseBlocks = true;

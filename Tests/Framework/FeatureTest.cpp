@@ -16,7 +16,7 @@ struct Condition final : IFeature, IGetter<bool> {
 
 class FeatureTest : public FrameworkTest {
 protected:
-    template <class F> F& Add(F* feature) {
+    template <typename F> F& Add(F* feature) {
         features.AddEntry(feature);
         feature->changedEvent.Subscribe(&listener);
         return *feature;
@@ -27,7 +27,7 @@ protected:
         return *condition;
     }
     /// "error (accesses) events" of a write.
-    template <class T> std::string Write(ISetter<T>& feature, T value) {
+    template <typename T> std::string Write(ISetter<T>& feature, T value) {
         std::string error;
         const std::string accesses = Cost([&] { error = CodeOf([&] { feature.SetValue(value); }); });
         return error + " (" + accesses + ") " + listener.Take();

@@ -10,7 +10,7 @@
 namespace Test {
 
 /// Notes which register or feature was heard of, by name, and how often.
-template <class Sender> struct Listener final : Utility::IEventHandler<unsigned int> {
+template <typename Sender> struct Listener final : Utility::IEventHandler<unsigned int> {
     void notify(void* sender, unsigned int argument) override {
         EXPECT_EQ(argument, 0u);
         heard += (heard.empty() ? "" : " ") + static_cast<Sender*>(sender)->GetName();
@@ -22,13 +22,13 @@ template <class Sender> struct Listener final : Utility::IEventHandler<unsigned 
 /// A port and both lists. What enters a list is made with new and belongs to the list.
 class FrameworkTest : public testing::Test {
 protected:
-    template <class T> using Plain = SDK4::CRegister<T, void>;
-    template <class T> using Indexed = SDK4::CRegister<T, int>;
+    template <typename T> using Plain = SDK4::CRegister<T, void>;
+    template <typename T> using Indexed = SDK4::CRegister<T, int>;
 
-    template <class T> Plain<T>& AddPlain(const char* name, unsigned long address, int mode) {
+    template <typename T> Plain<T>& AddPlain(const char* name, unsigned long address, int mode) {
         return *new Plain<T>(name, &registers, &port, address, static_cast<SDK4::EnumCacheMode>(mode));
     }
-    template <class T> Indexed<T>& AddIndexed(const char* name, int index, unsigned long address, int mode) {
+    template <typename T> Indexed<T>& AddIndexed(const char* name, int index, unsigned long address, int mode) {
         return *new Indexed<T>(name, &registers, index, &port, address, static_cast<SDK4::EnumCacheMode>(mode));
     }
     Plain<std::string>& AddText(const char* name, unsigned int length, int mode) {
@@ -36,7 +36,7 @@ protected:
     }
 
     /// The accesses of a call.
-    template <class Call> std::string Cost(const Call& call) {
+    template <typename Call> std::string Cost(const Call& call) {
         port.TakeLog();
         call();
         return port.TakeLog();

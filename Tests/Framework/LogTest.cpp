@@ -19,7 +19,7 @@ struct Grouping : std::numpunct<char> {
 };
 
 /// What a host logs, on the stream that log4cxx lends to all lines of a thread.
-template <class Write> std::string LogOfHost(const Write& write) {
+template <typename Write> std::string LogOfHost(const Write& write) {
     log4cxx::helpers::MessageBuffer buffer;
     std::ostream& stream = buffer;
     write(stream);

@@ -17,19 +17,22 @@ namespace {
 std::string State(const CPropertyParams& property) {
     std::string text = property.GetName() + (property.IsUnsigned() ? " U" : " S");
     for (const std::uint32_t number :
-         {property.GetUIntMin(), property.GetUIntMax(), property.GetUIntDefault(), property.GetUIntValue()})
+         {property.GetUIntMin(), property.GetUIntMax(), property.GetUIntDefault(), property.GetUIntValue()}) {
         text += " " + std::to_string(number);
+    }
     text += " |";
     for (const std::int32_t number :
-         {property.GetIntMin(), property.GetIntMax(), property.GetIntDefault(), property.GetIntValue()})
+         {property.GetIntMin(), property.GetIntMax(), property.GetIntDefault(), property.GetIntValue()}) {
         text += " " + std::to_string(number);
+    }
     return text;
 }
 
-template <class Compound> Texts States(Compound& compound) {
+template <typename Compound> Texts States(Compound& compound) {
     Texts texts;
-    for (std::size_t i = 0; i < Compound::Count; ++i)
+    for (std::size_t i = 0; i < Compound::Count; ++i) {
         texts.push_back(State(*compound.GetSubProperty(i)));
+    }
     return texts;
 }
 
@@ -138,13 +141,15 @@ TEST(PropertyParams, FlagsDecideWhoMayReadStoreAndAdmit) {
 
 TEST(PropertyParams, AdmittedValuesReplaceTheLimits) {
     CPropertyParams property("p", 3u, 5u, 0u);
-    for (const std::uint32_t value : {4u, 1u, 9u})
+    for (const std::uint32_t value : {4u, 1u, 9u}) {
         property.SetEnumValue(value);
+    }
     EXPECT_EQ(State(property), "p U 1 9 0 0 | 0 0 0 0");
     EXPECT_TRUE(property.IsValueInRange(9u));
     EXPECT_FALSE(property.IsValueInRange(2u) || property.IsValueInRange(3u));
-    for (int i = 3; i < 20; ++i)
+    for (int i = 3; i < 20; ++i) {
         property.SetEnumValue(9u); // the same again counts
+    }
     EXPECT_EQ(CodeOf([&] { property.SetEnumValue(0u); }), "SDK4_ERR_OUTOFRANGE");
     EXPECT_EQ(property.GetUIntMin(), 1u);
 
@@ -225,15 +230,17 @@ TEST(CompoundParams, MovesARecordWordByWordOnEachWordsOwnSide) {
     Record read{};
     mixed.GetValue(&read);
     EXPECT_TRUE(read.a == 5 && read.b == -6);
-    for (const Record& outside : {Record{10, 0}, Record{0, -10}, Record{0, 10}})
+    for (const Record& outside : {Record{10, 0}, Record{0, -10}, Record{0, 10}}) {
         EXPECT_FALSE(mixed.IsValueInRange(&outside));
+    }
 }
 
 TEST(CompoundParams, PassesFlagsOnAndChecksOnlyImplementedItself) {
     C2PropertyParams compound("c", "a", "b", 0u, 9u, 0u, 0u, 9u, 0u);
     Observed observed;
-    for (std::size_t i = 0; i < 2; ++i)
+    for (std::size_t i = 0; i < 2; ++i) {
         compound.GetSubProperty(i)->AddCallback(Observed::Tell, &observed);
+    }
     compound.SetEnabled(false);
     EXPECT_EQ(observed.Take(), (Texts{"c.a enabled", "c.b enabled"}));
     const _Sdk4_2UInts record = {4, 5};

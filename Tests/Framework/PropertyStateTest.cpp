@@ -46,11 +46,11 @@ public:
 
 using Call = std::function<std::string(IPropertyState&, const char*)>;
 
-template <class Operation> Call Of(Operation operation) {
+template <typename Operation> Call Of(Operation operation) {
     return [operation](IPropertyState& state, const char* name) { return std::to_string((state.*operation)(name)); };
 }
 
-template <class Number> Call OfIndex(Number (IPropertyState::*operation)(int, const char*), int index) {
+template <typename Number> Call OfIndex(Number (IPropertyState::*operation)(int, const char*), int index) {
     return [=](IPropertyState& state, const char* name) { return std::to_string((state.*operation)(index, name)); };
 }
 
@@ -152,8 +152,9 @@ TEST(PropertyState, NamesByPositionShareOneBuffer) {
     EXPECT_EQ(control.GetPropertyNameByIndex(0), name);
     EXPECT_STREQ(name, "gain");
     EXPECT_EQ(std::string(name, longName.size()), "gain" + std::string(longName.size() - 4, '\0')) << "no trace";
-    for (const int outside : {-1, 7, 1000})
+    for (const int outside : {-1, 7, 1000}) {
         EXPECT_EQ(control.GetPropertyNameByIndex(outside), nullptr);
+    }
     EXPECT_EQ(CBaseControlHelper().GetPropertyNameByIndex(0), nullptr);
 }
 

@@ -109,8 +109,9 @@ TEST_F(RegisterTest, CascadeFollowsTheRelationInNameOrder) {
     for (const auto& [name, invalidators] : std::map<const char*, std::vector<const char*>>{
              {"e", {"d", "absent"}}, {"d", {"c", "b"}}, {"c", {"a"}}, {"b", {"a"}}, {"f", {}}}) {
         auto& entry = AddPlain<int>(name, 0x100, 1);
-        for (const char* invalidator : invalidators)
+        for (const char* invalidator : invalidators) {
             entry.AddInvalidator(invalidator);
+        }
         entry.GetValue();
         entry.Subscribe(&listener);
     }

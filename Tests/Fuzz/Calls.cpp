@@ -85,8 +85,8 @@ void AddOrvik(std::vector<Call>& calls) {
         &IGPIO::SetIoPolarity, &IGPIO::GetIoDelay, &IGPIO::SetIoDelay>(calls);
 }
 
-template <class Value> using ByName = Value (IPropertyState::*)(const char*);
-template <class Value> using ByIndex = Value (IPropertyState::*)(int, const char*);
+template <typename Value> using ByName = Value (IPropertyState::*)(const char*);
+template <typename Value> using ByIndex = Value (IPropertyState::*)(int, const char*);
 
 void AddM2VX(std::vector<Call>& calls) {
     Add<&IPropertyState::GetUIntMin, &IPropertyState::GetUIntMax, &IPropertyState::GetUIntDefault,

@@ -56,11 +56,13 @@ void Play(Input& input) {
     Session session{input};
     session.failures.Watch(
         [&] { session.camera = static_cast<IDynamicObject*>(CreateObject(model, &session.port, index)); });
-    if (session.camera == nullptr)
+    if (session.camera == nullptr) {
         return;
+    }
     session.port.opening = false;
-    for (unsigned int calls = debug ? 16 : 256; calls > 0 && !input.AtEnd(); --calls)
+    for (unsigned int calls = debug ? 16 : 256; calls > 0 && !input.AtEnd(); --calls) {
         CallAny(session);
+    }
     const unsigned long before = session.port.Accesses();
     session.failures.Watch([&] { session.camera->Release(); });
     Require(session.port.Accesses() == before, "a camera that is released is left alone");

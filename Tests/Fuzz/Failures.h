@@ -11,8 +11,9 @@ namespace Fuzz {
 
 /// What must hold whatever the camera and the host do. Ends the process when it does not, so that the input is kept.
 inline void Require(bool holds, const char* what) {
-    if (holds)
+    if (holds) {
         return;
+    }
     std::fprintf(stderr, "violated: %s\n", what);
     std::abort();
 }
@@ -39,7 +40,7 @@ public:
     [[noreturn]] static void ThrowUnseen() { throw Unplugged{0}; }
 
     /// Makes a call and judges its end. Any other exception than those two ends the process by itself.
-    template <class Call> void Watch(const Call& call) {
+    template <typename Call> void Watch(const Call& call) {
         Require(!error && !foreign, "an exception was swallowed, and the call went on");
         try {
             call();

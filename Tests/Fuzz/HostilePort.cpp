@@ -28,12 +28,15 @@ void HostilePort::Begin(std::uint32_t address) {
         left = (1u << (next >> 4)) - 1; // up to 32767 more: as good as for ever
     }
     const bool unseen = opening && address == gvcpConfiguration;
-    if (manner == Manner::Error && !unseen)
+    if (manner == Manner::Error && !unseen) {
         failures.ThrowError(input.One(codes));
-    if (manner == Manner::Foreign && !unseen)
+    }
+    if (manner == Manner::Foreign && !unseen) {
         failures.ThrowForeign();
-    if (manner == Manner::Error || manner == Manner::Foreign)
+    }
+    if (manner == Manner::Error || manner == Manner::Foreign) {
         Failures::ThrowUnseen();
+    }
 }
 
 void HostilePort::Fill(std::uint32_t address, void* buffer, std::size_t length) {
@@ -46,8 +49,9 @@ void HostilePort::Fill(std::uint32_t address, void* buffer, std::size_t length) 
         const std::uint32_t word = manner == Manner::Words ? input.Word() : filling;
         std::memcpy(bytes + at, &word, std::min(length - at, sizeof word));
     }
-    if (const auto known = memory.find(address); manner != Manner::Words && known != memory.end())
+    if (const auto known = memory.find(address); manner != Manner::Words && known != memory.end()) {
         std::copy_n(known->second.begin(), std::min(known->second.size(), length), bytes);
+    }
 }
 
 /// Looks at every byte that the library hands over.
@@ -56,7 +60,7 @@ void HostilePort::Store(std::uint32_t address, const void* buffer, std::size_t l
     memory[address].assign(bytes, bytes + length);
 }
 
-template <class T> T HostilePort::Read(std::uint32_t address) {
+template <typename T> T HostilePort::Read(std::uint32_t address) {
     Begin(address);
     T value;
     Fill(address, &value, sizeof value);
@@ -79,8 +83,9 @@ void HostilePort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) 
 unsigned char* HostilePort::ReadBlock(std::uint32_t address, std::uint32_t length) {
     Begin(address);
     Require(length > 0 && length <= largestBlock, "a block of a register's size is asked for");
-    if (manner == Manner::Nothing)
+    if (manner == Manner::Nothing) {
         return nullptr;
+    }
     std::unique_ptr<unsigned char, Free> block(static_cast<unsigned char*>(std::malloc(length)));
     Fill(address, block.get(), length);
     return block.release();
@@ -94,12 +99,14 @@ void HostilePort::WriteBlock(std::uint32_t address, const unsigned char* buffer,
 char* HostilePort::ReadString(std::uint32_t address, std::uint32_t length) {
     Begin(address);
     Require(length > 0 && length <= largestBlock, "a text of a register's size is asked for");
-    if (manner == Manner::Nothing)
+    if (manner == Manner::Nothing) {
         return nullptr;
+    }
     std::vector<char> bytes(length);
     Fill(address, bytes.data(), length);
-    if (bytes.back() != 0)
+    if (bytes.back() != 0) {
         bytes.push_back(0); // at the latest behind them, and nothing behind that
+    }
     text.reset(static_cast<char*>(std::malloc(bytes.size())));
     std::memcpy(text.get(), bytes.data(), bytes.size());
     return text.get();
@@ -114,23 +121,27 @@ void HostilePort::ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint
     Begin(address);
     Require(*length <= largestBlock, "memory of a register's size is asked for");
     const std::uint64_t asked = *length;
-    if (manner == Manner::Short && asked > 0)
+    if (manner == Manner::Short && asked > 0) {
         *length = input.Choice(asked);
-    else if (manner == Manner::Nothing)
+    } else if (manner == Manner::Nothing) {
         *length = 0;
-    if (manner != Manner::Silent)
+    }
+    if (manner != Manner::Silent) {
         Fill(address, buffer, *length);
-    if (manner == Manner::Overlong)
+    }
+    if (manner == Manner::Overlong) {
         *length = asked + (std::uint64_t{input.Word()} << input.Choice(33));
+    }
 }
 
 void HostilePort::WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
     Begin(address);
     Store(address, buffer, *length);
-    if (manner == Manner::Short || manner == Manner::Overlong)
+    if (manner == Manner::Short || manner == Manner::Overlong) {
         *length = std::uint64_t{input.Word()} << input.Choice(33);
-    else if (manner == Manner::Nothing)
+    } else if (manner == Manner::Nothing) {
         *length = 0;
+    }
 }
 
 } // namespace Fuzz

@@ -57,7 +57,7 @@ private:
     void Begin(std::uint32_t address);
     void Fill(std::uint32_t address, void* buffer, std::size_t length);
     void Store(std::uint32_t address, const void* buffer, std::size_t length);
-    template <class T> T Read(std::uint32_t address);
+    template <typename T> T Read(std::uint32_t address);
 
     Input& input;
     Failures& failures;

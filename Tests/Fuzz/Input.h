@@ -18,20 +18,26 @@ public:
     /// Any number below @p count.
     std::size_t Choice(std::size_t count) { return Byte() % count; }
 
-    template <class T, std::size_t N> const T& One(const std::array<T, N>& candidates) { return candidates[Choice(N)]; }
+    template <typename T, std::size_t N> const T& One(const std::array<T, N>& candidates) {
+        return candidates[Choice(N)];
+    }
 
     /// A number: mostly a small one or one at the edge of something, so that few bytes reach far.
     std::uint32_t Word() {
         const std::uint8_t kind = Byte();
-        if (kind < 0x80)
+        if (kind < 0x80) {
             return kind;
-        if (kind < 0xC0)
+        }
+        if (kind < 0xC0) {
             return edges[(kind - 0x80u) % edges.size()];
-        if (kind < 0xD0)
+        }
+        if (kind < 0xD0) {
             return ~std::uint32_t{kind & 0xFu};
+        }
         std::uint32_t word = 0;
-        for (unsigned int i = kind < 0xE8 ? 2 : 4; i > 0; --i)
+        for (unsigned int i = kind < 0xE8 ? 2 : 4; i > 0; --i) {
             word = word << 8 | Byte();
+        }
         return word;
     }
 

@@ -32,8 +32,9 @@ int main(int argc, char** argv) {
             Play(argv[i]);
             continue;
         }
-        for (const auto& entry : std::filesystem::directory_iterator(argv[i]))
+        for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
             Play(entry.path());
+        }
     }
     std::printf("played %u inputs\n", played);
     return played == 0 ? 1 : 0;

@@ -49,12 +49,15 @@ const char* Arguments::Keep(std::string_view text) {
 
 const char* Arguments::Text() {
     const std::size_t kind = session.input.Choice(words.size() + 3);
-    if (kind < words.size())
+    if (kind < words.size()) {
         return Keep(words[kind]);
-    if (kind == words.size())
+    }
+    if (kind == words.size()) {
         return nullptr;
-    if (kind == words.size() + 1)
+    }
+    if (kind == words.size() + 1) {
         return Keep(std::string(session.input.Word() & 0xFFFF, static_cast<char>(session.input.Byte() | 1)));
+    }
     std::string text(session.input.Choice(64), '\0');
     std::generate(text.begin(), text.end(), [this] { return static_cast<char>(session.input.Byte()); });
     return Keep(text.c_str());
@@ -78,13 +81,16 @@ void Observe(const char* name, const char* attribute, void* context) {
     Require(strnlen(name, 256) < 256, "the observer is told a name");
     Require(std::find(attributes.begin(), attributes.end(), attribute) != attributes.end(), "and an attribute");
     const std::uint8_t reaction = session.input.Byte();
-    if (reaction == 0xFF)
+    if (reaction == 0xFF) {
         session.failures.ThrowForeign();
-    if (reaction == 0xFE)
+    }
+    if (reaction == 0xFE) {
         session.failures.ThrowError(SDK4_ERR_ERROR);
+    }
     constexpr unsigned int deepest = 3;
-    if (reaction >= 0x80 && session.depth < deepest)
+    if (reaction >= 0x80 && session.depth < deepest) {
         CallAny(session);
+    }
 }
 
 } // namespace Fuzz

@@ -41,23 +41,24 @@ class Arguments {
 public:
     explicit Arguments(Session& owner) : session(owner) {}
 
-    template <class T> T Draw() {
-        if constexpr (std::is_same_v<T, const char*>)
+    template <typename T> T Draw() {
+        if constexpr (std::is_same_v<T, const char*>) {
             return Text();
-        else if constexpr (std::is_same_v<T, unsigned char*>)
+        } else if constexpr (std::is_same_v<T, unsigned char*>) {
             return Buffer();
-        else if constexpr (std::is_same_v<T, unsigned int*>)
+        } else if constexpr (std::is_same_v<T, unsigned int*>) {
             return &length;
-        else if constexpr (std::is_same_v<T, void*>)
+        } else if constexpr (std::is_same_v<T, void*>) {
             return &session;
-        else if constexpr (std::is_same_v<T, SDK4::Control::SDK4_CALLBACK>)
+        } else if constexpr (std::is_same_v<T, SDK4::Control::SDK4_CALLBACK>) {
             return session.input.Choice(8) == 0 ? nullptr : Observe;
-        else if constexpr (std::is_same_v<T, bool>)
+        } else if constexpr (std::is_same_v<T, bool>) {
             return session.input.Choice(2) != 0;
-        else if constexpr (std::is_class_v<T>)
+        } else if constexpr (std::is_class_v<T>) {
             return Record<T>();
-        else
+        } else {
             return static_cast<T>(session.input.Word());
+        }
     }
 
 private:
@@ -65,10 +66,11 @@ private:
     const char* Keep(std::string_view text);
     unsigned char* Buffer();
 
-    template <class T> T Record() {
+    template <typename T> T Record() {
         std::uint32_t words[sizeof(T) / sizeof(std::uint32_t)];
-        for (std::uint32_t& word : words)
+        for (std::uint32_t& word : words) {
             word = session.input.Word();
+        }
         T record;
         std::memcpy(&record, words, sizeof record);
         return record;
@@ -83,7 +85,7 @@ private:
 /// The longest text that an operation may return.
 template <auto operation> constexpr std::size_t longestText = 512;
 
-template <class Interface> Interface* Part(Session& session) {
+template <typename Interface> Interface* Part(Session& session) {
     if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>) {
         auto& source = dynamic_cast<SDK4::Control::IDSMediaType&>(*session.camera);
         auto* type = source.GetMediaType();
@@ -94,11 +96,12 @@ template <class Interface> Interface* Part(Session& session) {
     }
 }
 
-template <auto operation, class Result, class Interface, class... Parameters>
+template <auto operation, typename Result, typename Interface, typename... Parameters>
 void Invoke(Session& session, Result (Interface::*)(Parameters...)) {
     auto* interface = Part<Interface>(session);
-    if (interface == nullptr)
+    if (interface == nullptr) {
         return;
+    }
     Arguments arguments(session);
     const std::tuple<Parameters...> values{arguments.Draw<Parameters>()...}; // braces: from left to right
     const auto invoke = [interface](auto... value) { return (interface->*operation)(value...); };

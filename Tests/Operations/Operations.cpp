@@ -14,23 +14,25 @@ std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
 }
 
-template <class Port> void PrepareOrvikModes(Port& port) {
+template <typename Port> void PrepareOrvikModes(Port& port) {
     constexpr std::uint32_t colorCoding = 0x28020000;
     constexpr std::uint32_t aet = 0x46010000, agc = 0x46020000, awb = 0x46040000, acc = 0x46050000;
     port.Set(functionModel, 0x00020000u);
-    for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc})
+    for (const std::uint32_t address : {colorCoding, aet, agc, awb, acc}) {
         port.Set(address, 0u);
+    }
 }
 
 void PrepareOrvik(RecordingPort& port) {
     PrepareOrvikModes(port);
     // Of these there are several, each with a value of its own.
     for (const std::uint32_t indexed : {0x17010000u, 0x17020000u, 0x17030000u, 0x17040000u, 0x1E030000u, 0x66020000u,
-                                        0x66030000u, 0x660F0000u, 0x66110000u})
+                                        0x66030000u, 0x660F0000u, 0x66110000u}) {
         port.SetInstance(indexed, 0, {});
+    }
 }
 
-template <class Port> void PrepareM2VXModes(Port& port) {
+template <typename Port> void PrepareM2VXModes(Port& port) {
     constexpr std::uint32_t colorCoding = 0x28020000, exposureMode = 0x0A020000, agc = 0x46020000, abc = 0x47040000,
                             filter = 0x16070000, histogram = 0x180C0000, shading = 0x1B010000, blanking = 0x1B030000;
     for (const auto& [mode, value] : {std::pair{colorCoding, 6u},
@@ -40,8 +42,9 @@ template <class Port> void PrepareM2VXModes(Port& port) {
                                       {filter, 1u},
                                       {histogram, 0u},
                                       {shading, 1u},
-                                      {blanking, 1u}})
+                                      {blanking, 1u}}) {
         port.Set(mode, value);
+    }
 }
 
 void PrepareM2VX(RecordingPort& port) {
@@ -51,8 +54,9 @@ void PrepareM2VX(RecordingPort& port) {
                             testPattern = 0x5A010000, motor = 0x6E140000;
     for (const std::uint32_t indexed : {overlayShow, overlayPosition, overlayStyle, overlaySize, shadingCorrection,
                                         abcThreshold, testPattern, motor}) {
-        for (const std::uint32_t i : {0u, 1u, 2u, 3u, 255u})
+        for (const std::uint32_t i : {0u, 1u, 2u, 3u, 255u}) {
             port.SetInstance(indexed, i, Words({10 * i + 5, 10 * i + 6}));
+        }
     }
 }
 
@@ -99,8 +103,9 @@ const std::vector<Operation>& Operations() {
 
 const Operation& FindOperation(const std::string& name) {
     for (const Operation& operation : Operations()) {
-        if (operation.name == name)
+        if (operation.name == name) {
             return operation;
+        }
     }
     throw std::out_of_range("no row " + name);
 }
@@ -123,26 +128,30 @@ std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups)
 }
 
 void Prepare(RecordingPort& port, const State& state) {
-    if (state.IsM2VX())
+    if (state.IsM2VX()) {
         PrepareM2VX(port);
-    else
+    } else {
         PrepareOrvik(port);
+    }
     for (const auto& [address, bytes, index] : state.presets) {
-        if (index < 0)
+        if (index < 0) {
             port.Set(address, bytes);
-        else
+        } else {
             port.SetInstance(address, static_cast<std::uint32_t>(index), bytes);
+        }
     }
 }
 
 void Prepare(FlatPort& port, const State& state) {
-    if (state.IsM2VX())
+    if (state.IsM2VX()) {
         PrepareM2VXModes(port);
-    else
+    } else {
         PrepareOrvikModes(port);
+    }
     for (const auto& [address, bytes, index] : state.presets) {
-        if (index < 0)
+        if (index < 0) {
             port.Set(address, bytes);
+        }
     }
 }
 

@@ -105,25 +105,27 @@ std::string Text(const char* text);
 std::string Text(SDK4::IMediaType* mediaType);
 std::string TextOfWords(const void* words, std::size_t count);
 
-template <class T> std::string Text(const T& value) {
-    if constexpr (std::is_enum_v<T>)
+template <typename T> std::string Text(const T& value) {
+    if constexpr (std::is_enum_v<T>) {
         return std::to_string(static_cast<std::underlying_type_t<T>>(value));
-    else if constexpr (std::is_arithmetic_v<T>)
+    } else if constexpr (std::is_arithmetic_v<T>) {
         return std::to_string(value);
-    else
+    } else {
         return TextOfWords(&value, sizeof value / 4);
+    }
 }
 
 /// The interface as the camera has it, or as its media type has it.
-template <class Interface> Interface& Part(IDynamicObject& camera) {
-    if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>)
+template <typename Interface> Interface& Part(IDynamicObject& camera) {
+    if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>) {
         return dynamic_cast<Interface&>(*dynamic_cast<SDK4::Control::IDSMediaType&>(camera).GetMediaType());
-    else
+    } else {
         return dynamic_cast<Interface&>(camera);
+    }
 }
 
 /// A call of one operation with fixed arguments.
-template <class Interface, class Result, class... Parameters, class... Arguments>
+template <typename Interface, typename Result, typename... Parameters, typename... Arguments>
 Call On(Result (Interface::*operation)(Parameters...), Arguments... arguments) {
     return [operation, values = std::tuple<Parameters...>(arguments...)](IDynamicObject& camera) {
         auto& interface = Part<Interface>(camera);

@@ -65,8 +65,9 @@ void free(void* block) noexcept {
 }
 
 void* realloc(void* block, std::size_t size) noexcept {
-    if (block == nullptr)
+    if (block == nullptr) {
         return malloc(size);
+    }
     if (size != 0) {
         asked.fetch_add(1, std::memory_order_relaxed);
         return __libc_realloc(block, size);

@@ -18,7 +18,7 @@ public:
     void Set(std::uint32_t address, const std::vector<std::uint8_t>& bytes) {
         std::memcpy(At(address), bytes.data(), bytes.size());
     }
-    template <class Value> void Set(std::uint32_t address, const Value& value) {
+    template <typename Value> void Set(std::uint32_t address, const Value& value) {
         std::memcpy(At(address), &value, sizeof value);
     }
 
@@ -61,7 +61,7 @@ private:
 
     std::uint8_t* At(std::uint32_t address) { return &memory[(address >> 16) * kept + (address & 0xFFFF)]; }
 
-    template <class Value> Value Read(std::uint32_t address) {
+    template <typename Value> Value Read(std::uint32_t address) {
         ++accesses;
         Value value;
         std::memcpy(&value, At(address), sizeof value);

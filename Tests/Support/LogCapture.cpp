@@ -50,8 +50,9 @@ const std::vector<LogCapture::Line>& LogCapture::Lines() const { return appender
 
 std::vector<std::string> LogCapture::TakeTexts() {
     std::vector<std::string> texts;
-    for (const Line& line : std::exchange(appender->lines, {}))
+    for (const Line& line : std::exchange(appender->lines, {})) {
         texts.push_back(line.text);
+    }
     return texts;
 }
 

@@ -23,7 +23,7 @@ struct Observed {
 };
 
 /// The name of the code that a call throws, or "" if it throws none.
-template <class Call> std::string CodeOf(const Call& call) {
+template <typename Call> std::string CodeOf(const Call& call) {
     try {
         call();
     } catch (const SDK4::X4Error& error) {

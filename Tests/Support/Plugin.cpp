@@ -14,10 +14,11 @@ constexpr int keepLoaded = RTLD_NODELETE;
 constexpr int keepLoaded = 0;
 #endif
 
-template <class Function> void Resolve(Function& function, void* handle, const char* name) {
+template <typename Function> void Resolve(Function& function, void* handle, const char* name) {
     function = reinterpret_cast<Function>(dlsym(handle, name));
-    if (function == nullptr)
+    if (function == nullptr) {
         throw std::runtime_error(std::string(Plugin::Path()) + " exports no " + name);
+    }
 }
 
 } // namespace
@@ -25,8 +26,9 @@ template <class Function> void Resolve(Function& function, void* handle, const c
 const char* Plugin::Path() { return QDV12_LIBRARY; }
 
 Plugin::Plugin() : handle(dlopen(Path(), RTLD_NOW | RTLD_LOCAL | keepLoaded)) {
-    if (handle == nullptr)
+    if (handle == nullptr) {
         throw std::runtime_error(dlerror());
+    }
     Resolve(InitLibrary, handle, "InitLibrary");
     Resolve(CreateObject, handle, "CreateObject");
 }

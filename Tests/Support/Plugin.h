@@ -34,7 +34,7 @@ public:
     [[nodiscard]] IDynamicObject* Object() const { return object.get(); }
 
     /// One of the camera's interfaces. @throws std::bad_cast when it has none such
-    template <class Interface> Interface& As() const { return dynamic_cast<Interface&>(*object); }
+    template <typename Interface> Interface& As() const { return dynamic_cast<Interface&>(*object); }
 
 private:
     struct Release {

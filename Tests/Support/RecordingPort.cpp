@@ -28,8 +28,9 @@ std::string AsWords(const void* buffer, std::size_t length) {
         std::memcpy(&word, bytes + at, 4);
         text += (at == 0 ? "" : ",") + std::to_string(word);
     }
-    for (std::size_t at = length / 4 * 4; at < length; ++at)
+    for (std::size_t at = length / 4 * 4; at < length; ++at) {
         text += "x" + Hex(bytes[at], 2);
+    }
     return text;
 }
 
@@ -37,8 +38,9 @@ std::string AsWords(const void* buffer, std::size_t length) {
 
 Bytes Words(const std::vector<std::uint32_t>& words) {
     Bytes bytes(words.size() * 4);
-    if (!words.empty())
+    if (!words.empty()) {
         std::memcpy(bytes.data(), words.data(), bytes.size());
+    }
     return bytes;
 }
 
@@ -63,14 +65,16 @@ void RecordingPort::FailAt(unsigned int nth, std::function<void()> failure) {
 
 void RecordingPort::Record(const std::string& access) {
     log += (log.empty() ? "" : "; ") + access;
-    if (failIn != 0 && --failIn == 0)
+    if (failIn != 0 && --failIn == 0) {
         fail();
+    }
 }
 
 void RecordingPort::Load(std::uint32_t address, void* buffer, std::size_t length) const {
     std::vector<std::uint32_t> positions(length / 4 + 1);
-    for (std::size_t at = 0; at < positions.size(); ++at)
+    for (std::size_t at = 0; at < positions.size(); ++at) {
         positions[at] = static_cast<std::uint32_t>(at + 1);
+    }
     Bytes bytes = Words(positions);
     const Bytes known = Get(address);
     std::copy_n(known.begin(), std::min(known.size(), length), bytes.begin());
@@ -84,8 +88,9 @@ void RecordingPort::Store(std::uint32_t address, const void* buffer, std::size_t
     if (const auto found = instances.find(address); found != instances.end() && length >= 4) {
         std::uint32_t index;
         std::memcpy(&index, buffer, 4);
-        if (length > 4)
+        if (length > 4) {
             found->second[index].assign(bytes.begin() + 4, bytes.begin() + static_cast<std::ptrdiff_t>(length));
+        }
         bytes.resize(4);
         const Bytes& selected = found->second[index];
         bytes.insert(bytes.end(), selected.begin(), selected.end());
@@ -118,8 +123,9 @@ std::uint64_t RecordingPort::ReadRegisterPair(std::uint32_t address) {
 
 unsigned char* RecordingPort::ReadBlock(std::uint32_t address, std::uint32_t length) {
     Record(At("rb", address) + "/" + std::to_string(length));
-    if (refuseBlocks)
+    if (refuseBlocks) {
         return nullptr;
+    }
     auto* block = static_cast<unsigned char*>(std::malloc(length));
     Load(address, block, length);
     return block;
@@ -132,8 +138,9 @@ void RecordingPort::WriteBlock(std::uint32_t address, const unsigned char* buffe
 
 char* RecordingPort::ReadString(std::uint32_t address, std::uint32_t length) {
     Record(At("rs", address) + "/" + std::to_string(length));
-    if (refuseBlocks)
+    if (refuseBlocks) {
         return nullptr;
+    }
     const Bytes bytes = Get(address);
     text.assign(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
     text.resize(std::min<std::size_t>(text.size(), length));

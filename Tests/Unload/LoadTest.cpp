@@ -35,8 +35,9 @@ constexpr int firstSteadyRound = 100; ///< by then all that log4cxx and the load
 int failures = 0;
 
 void Expect(bool holds, const char* what, int round) {
-    if (!holds && ++failures <= 20)
+    if (!holds && ++failures <= 20) {
         std::printf("round %d: %s\n", round, what);
+    }
 }
 
 long BytesInUse() {
@@ -87,10 +88,11 @@ private:
     void Fill(std::uint32_t address, void* buffer, std::size_t length) {
         const bool isIdentityText = address == 0x64010000 || address == 0x64020000 || address == 0x65020000;
         std::memset(buffer, isIdentityText ? 'x' : 0, length);
-        if (const auto found = memory.find(address); found != memory.end())
+        if (const auto found = memory.find(address); found != memory.end()) {
             std::memcpy(buffer, found->second.data(), std::min(found->second.size(), length));
+        }
     }
-    template <class T> T Load(std::uint32_t address) {
+    template <typename T> T Load(std::uint32_t address) {
         T value;
         Fill(address, &value, sizeof value);
         return value;
@@ -124,7 +126,7 @@ bool IsMapped(const std::string& library) {
     return dl_iterate_phdr(matches, const_cast<std::string*>(&library)) != 0;
 }
 
-template <class Call> std::int32_t CodeOf(const Call& call) {
+template <typename Call> std::int32_t CodeOf(const Call& call) {
     try {
         call();
     } catch (const SDK4::X4Error& error) {
@@ -135,7 +137,7 @@ template <class Call> std::int32_t CodeOf(const Call& call) {
     return 0;
 }
 
-template <class Interface> Interface& As(IDynamicObject& camera) { return dynamic_cast<Interface&>(camera); }
+template <typename Interface> Interface& As(IDynamicObject& camera) { return dynamic_cast<Interface&>(camera); }
 
 void UseOrvik(IDynamicObject& camera, int round) {
     using namespace SDK4::Control;
@@ -196,10 +198,12 @@ long BytesLeftBy(CreateFunction* create, const Case& camera, bool use, int round
         auto* object =
             static_cast<IDynamicObject*>(create(camera.model, static_cast<SDK4::IControlPort*>(&port), camera.index));
         Expect(object != nullptr, camera.model, round);
-        if (object == nullptr)
+        if (object == nullptr) {
             return 0;
-        if (use)
+        }
+        if (use) {
             camera.use(*object, round);
+        }
         object->Release();
     }
     return BytesInUse() - before;
@@ -250,10 +254,12 @@ int main(int argc, char** argv) {
     for (int round = 1; round <= rounds; ++round) {
         LibraryLogger()->setLevel(round % 10 == 0 ? log4cxx::Level::getDebug() : log4cxx::Level::getOff());
         const long left = Round(argv[1], round);
-        if (round == firstSteadyRound)
+        if (round == firstSteadyRound) {
             mappings = CountOfMappings();
-        if (round >= firstSteadyRound)
+        }
+        if (round >= firstSteadyRound) {
             beside = round == firstSteadyRound ? left : std::max(beside, left);
+        }
     }
 
     for (const Case& camera : cases) {

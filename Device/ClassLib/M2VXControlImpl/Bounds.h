@@ -10,14 +10,15 @@ namespace SDK4::Control {
 /// The number of an instance or channel, which is refused above @p bound, before anything else is looked at.
 /// @throws X4Error SDK4_ERR_INVALID_PARAMETER
 inline std::uint32_t UpTo(std::uint32_t bound, std::uint32_t number) {
-    if (number > bound)
+    if (number > bound) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
     return number;
 }
 
 /// One of the instances or channels of a property.
 /// @throws X4Error SDK4_ERR_INVALID_PARAMETER
-template <class Instances> auto& At(Instances& instances, std::uint32_t number) {
+template <typename Instances> auto& At(Instances& instances, std::uint32_t number) {
     return instances[UpTo(static_cast<std::uint32_t>(std::size(instances)) - 1, number)];
 }
 

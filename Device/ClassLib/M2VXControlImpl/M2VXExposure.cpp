@@ -41,8 +41,9 @@ unsigned int CM2VXBaseControl::GetTwinModeShutterOffset() {
 
 void CM2VXBaseControl::SetTwinModeShutterOffset(unsigned int offset) {
     SDK4_LOG_SETTER(offset);
-    if (offset > table.exposure.GetUIntMax())
+    if (offset > table.exposure.GetUIntMax()) {
         SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+    }
     family->SetTwinModeShutterOffset(offset);
 }
 

@@ -15,8 +15,9 @@ void CM2VXBaseControl::GetInitialValues() {
     GetInitialAutomatics();
     GetInitialDefectPixels();
     access.Fill(table.startupSettings, &CRT6Camera::GetStartupSettings);
-    for (std::uint32_t channel = 0; channel < CM2VXPropertyTable::MotorChannelCount; ++channel)
+    for (std::uint32_t channel = 0; channel < CM2VXPropertyTable::MotorChannelCount; ++channel) {
         access.Fill(table.motorControl[channel], &CM2VXCamera::GetMotorControl, channel);
+    }
     table.FollowAllModes();
 }
 
@@ -55,8 +56,9 @@ void CM2VXBaseControl::GetInitialOverlays() {
 
 void CM2VXBaseControl::GetInitialCorrection() {
     access.Fill(table.shadingCorrectionMode, &CM2VXCamera::GetShadingCorrectionMode);
-    for (std::uint32_t channel = 0; channel < table.shadingCorrection.size(); ++channel)
+    for (std::uint32_t channel = 0; channel < table.shadingCorrection.size(); ++channel) {
         access.Fill(table.shadingCorrection[channel], &CM2VXCamera::GetShadingCorrection, channel);
+    }
     access.Fill(table.circularBlankingMode, &CM2VXCamera::GetCircularBlankingMode);
     access.Fill(table.circularBlankingSize, &CM2VXCamera::GetCircularBlankingSize);
     access.Fill(table.circularBlankingPosition, &CM2VXCamera::GetCircularBlankingPosition);
@@ -73,11 +75,13 @@ void CM2VXBaseControl::GetInitialAutomatics() {
     access.Fill(table.autoGainStopMode, &CM2VXCamera::GetAutoGainStopMode);
     access.Fill(table.abc, &CM2VXCamera::GetABC);
     access.Fill(table.abcStopMode, &CM2VXCamera::GetABCStopMode);
-    for (std::uint32_t i = 0; i < 2; ++i)
+    for (std::uint32_t i = 0; i < 2; ++i) {
         access.Fill(table.abcThreshold[i], &CM2VXCamera::GetABCThreshold, i);
+    }
     access.Fill(table.abcXRLevel, &CM2VXCamera::GetABCXRLevel);
-    for (std::uint32_t i = 0; i < 2; ++i)
+    for (std::uint32_t i = 0; i < 2; ++i) {
         access.Fill(table.testPattern[i], &CM2VXCamera::GetTestPattern, i);
+    }
 }
 
 /// Only the entries in use: the whole table would cost several hundred accesses.

@@ -5,7 +5,7 @@ namespace SDK4::Control {
 namespace {
 
 /// The limits of a part of a compound property that was made without. Lifts its value to the minimum.
-template <class T> void SetLimits(CPropertyParams& property, T minimum, T maximum, T defaultValue) {
+template <typename T> void SetLimits(CPropertyParams& property, T minimum, T maximum, T defaultValue) {
     property.SetMin(minimum);
     property.SetMax(maximum);
     property.SetDefault(defaultValue);
@@ -50,8 +50,9 @@ CM2VXPropertyTable::CM2VXPropertyTable(PropertyList& propertyList) : list(proper
     SetLimits(measureWindow[3],  -511,  511,    0);
     SetLimits(measureWindow[4],    1u, 512u, 128u);
 
-    for (std::uint32_t i = 0; i < OverlayCount; ++i)
+    for (std::uint32_t i = 0; i < OverlayCount; ++i) {
         overlays[i].SetIndex(static_cast<std::int32_t>(i));
+}
     SetIndices(shadingCorrection);
     SetIndices(abcThreshold);
     SetIndices(testPattern);
@@ -72,8 +73,9 @@ void CM2VXPropertyTable::FollowAllModes() {
 
 void CM2VXPropertyTable::FollowAGC() {
     const std::uint32_t mode = agc.StoredUIntValue();
-    if (mode > 2)
+    if (mode > 2) {
         return; // a mode that no setter admits, but a camera may report
+    }
     gain.SetEnabled(mode == 0);
     automaticLevel.SetEnabled(mode == 2);
     autoGainStopMode.SetEnabled(mode != 0);
@@ -81,17 +83,20 @@ void CM2VXPropertyTable::FollowAGC() {
 
 void CM2VXPropertyTable::FollowABC() {
     const std::uint32_t mode = abc.StoredUIntValue();
-    if (mode > 2)
+    if (mode > 2) {
         return; // as above
-    for (CPropertyParams& threshold : abcThreshold)
+    }
+    for (CPropertyParams& threshold : abcThreshold) {
         threshold.SetEnabled(mode != 0);
+    }
     abcStopMode.SetEnabled(mode == 2);
 }
 
 void CM2VXPropertyTable::FollowExposureMode() {
     const std::uint32_t mode = exposureMode.StoredUIntValue();
-    if (mode < 1 || mode > 4)
+    if (mode < 1 || mode > 4) {
         return; // as above
+    }
     exposure.SetEnabled(mode == 3);
 }
 
@@ -108,8 +113,9 @@ void CM2VXPropertyTable::FollowHistogramEqualization() {
 
 void CM2VXPropertyTable::FollowShadingCorrectionMode() {
     const bool on = shadingCorrectionMode.StoredUIntValue() != 0;
-    for (CPropertyParams& channel : shadingCorrection)
+    for (CPropertyParams& channel : shadingCorrection) {
         channel.SetEnabled(on);
+    }
 }
 
 void CM2VXPropertyTable::FollowCircularBlankingMode() {

@@ -27,70 +27,77 @@ public:
           reading(readThrough) {}
 
     /// Every getter: implemented, then the camera's value or the one that the property holds, as Result.
-    template <class Result = void, class Property, class Map, class Value, class... Parameters, class... Index>
+    template <typename Result = void, typename Property, typename Map, typename Value, typename... Parameters,
+              typename... Index>
     auto Get(Property& property, Value (Map::*read)(Parameters...), Index... index) const {
         using Returned = std::conditional_t<std::is_void_v<Result>, Value, Result>;
-        if (!property.GetImplemented())
+        if (!property.GetImplemented()) {
             SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
+        }
         return reading ? static_cast<Returned>(Read(read, index...)) : Load<Returned>(property);
     }
 
     /// A setter: implemented, enabled if asked for, in range, write, store.
-    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class... Index>
+    template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod, typename... Index>
     void Set(Property& property, Value value, WriteMethod write, Index... index) const {
         Send<gate>(property, value, write, index...);
         Store(property, value);
     }
 
     /// The same for what is no setting: the value is not stored.
-    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class... Index>
+    template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod, typename... Index>
     void Send(Property& property, Value value, WriteMethod write, Index... index) const {
         Check<gate>(property);
-        if (!InRange(property, value))
+        if (!InRange(property, value)) {
             SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+        }
         Write(write, index..., value);
     }
 
     /// A setter that leaves it to the camera what to make of a value out of range: it is written all the same, what the
     /// camera then holds is stored, and only then the host is told.
-    template <Gate gate = Gate::Implemented, class Property, class Value, class WriteMethod, class ReadMethod,
-              class... Index>
+    template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod,
+              typename ReadMethod, typename... Index>
     void SetThenReport(Property& property, Value value, WriteMethod write, ReadMethod read, Index... index) const {
         Check<gate>(property);
         const bool admitted = InRange(property, value);
         Write(write, index..., value);
         Store(property, admitted ? value : Read(read, index...));
-        if (!admitted)
+        if (!admitted) {
             SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+        }
     }
 
-    template <Gate gate, class Property> void Check(const Property& property) const {
-        if (!property.GetImplemented())
+    template <Gate gate, typename Property> void Check(const Property& property) const {
+        if (!property.GetImplemented()) {
             SDK4_THROW(SDK4_ERR_NOT_IMPLEMENTED);
-        if (gate == Gate::Enabled && !property.GetEnabled())
+        }
+        if (gate == Gate::Enabled && !property.GetEnabled()) {
             SDK4_THROW(SDK4_ERR_DISABLED);
+        }
     }
 
     /// Fills a property from the camera, whatever the range.
-    template <class Property, class ReadMethod, class... Index>
+    template <typename Property, typename ReadMethod, typename... Index>
     void Fill(Property& property, ReadMethod read, Index... index) const {
         Store(property, Read(read, index...));
     }
 
 private:
-    template <class Map> Map& On() const {
-        if constexpr (std::is_same_v<Map, CRT6Camera>)
+    template <typename Map> Map& On() const {
+        if constexpr (std::is_same_v<Map, CRT6Camera>) {
             return common;
-        else
+        } else {
             return family;
+        }
     }
 
-    template <class Map, class Value, class... Parameters, class... Arguments>
+    template <typename Map, typename Value, typename... Parameters, typename... Arguments>
     Value Read(Value (Map::*read)(Parameters...), Arguments... arguments) const {
         return (On<Map>().*read)(static_cast<Parameters>(arguments)...);
     }
 
-    template <class Map, class... Parameters, class... Arguments>
+    template <typename Map, typename... Parameters, typename... Arguments>
     void Write(void (Map::*write)(Parameters...), Arguments... arguments) const {
         (On<Map>().*write)(static_cast<Parameters>(arguments)...);
     }
@@ -99,12 +106,13 @@ private:
 
     // Many operations take an int where the property is unsigned.
     static bool InRange(const CPropertyParams& property, std::int32_t value) {
-        if (property.IsUnsigned())
+        if (property.IsUnsigned()) {
             return value >= 0 && property.IsValueInRange(static_cast<std::uint32_t>(value));
+        }
         return property.IsValueInRange(value);
     }
 
-    template <std::size_t N, class Record>
+    template <std::size_t N, typename Record>
     static bool InRange(const CompoundProperty<N>& property, const Record& record) {
         static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
         return property.IsValueInRange(&record);
@@ -113,24 +121,26 @@ private:
     static void Store(CPropertyParams& property, std::uint32_t value) { property.SetValue(value); }
 
     static void Store(CPropertyParams& property, std::int32_t value) {
-        if (property.IsUnsigned())
+        if (property.IsUnsigned()) {
             property.SetValue(static_cast<std::uint32_t>(value));
-        else
+        } else {
             property.SetValue(value);
+        }
     }
 
-    template <std::size_t N, class Record> static void Store(CompoundProperty<N>& property, const Record& record) {
+    template <std::size_t N, typename Record> static void Store(CompoundProperty<N>& property, const Record& record) {
         static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
         property.SetValue(&record);
     }
 
-    template <class Value> static Value Load(const CPropertyParams& property) {
-        if (property.IsUnsigned())
+    template <typename Value> static Value Load(const CPropertyParams& property) {
+        if (property.IsUnsigned()) {
             return static_cast<Value>(property.GetUIntValue());
+        }
         return static_cast<Value>(property.GetIntValue());
     }
 
-    template <class Record, std::size_t N> static Record Load(const CompoundProperty<N>& property) {
+    template <typename Record, std::size_t N> static Record Load(const CompoundProperty<N>& property) {
         static_assert(sizeof(Record) == N * sizeof(std::uint32_t));
         Record record{};
         property.GetValue(&record);

@@ -34,8 +34,9 @@ struct SignedProperty : CPropertyParams {
 
 /// Admits single values, in addition to those that it admits already.
 inline void Admit(CPropertyParams& property, std::initializer_list<std::uint32_t> values) {
-    for (const std::uint32_t value : values)
+    for (const std::uint32_t value : values) {
         property.SetEnumValue(value);
+    }
 }
 
 /// Admits single values only.
@@ -51,21 +52,23 @@ struct EnumProperty : CPropertyParams {
 /// N scalars that travel as one record. The list gets the scalars.
 template <std::size_t N> struct CompoundProperty : CompoundParams<N> {
     /// @param arguments the sub-names, then minimum, maximum, default of each unless their limits are set later
-    template <class... Arguments>
+    template <typename... Arguments>
     CompoundProperty(PropertyList& list, const char* propertyName, Arguments... arguments)
         : CompoundParams<N>(propertyName, arguments...) {
-        for (std::size_t i = 0; i < N; ++i)
+        for (std::size_t i = 0; i < N; ++i) {
             list.push_back(this->GetSubProperty(i));
+        }
     }
 
     CPropertyParams& operator[](std::size_t i) { return *this->GetSubProperty(i); }
 };
 
 /// Several rows of one kind. They never move, since the list points at them.
-template <class Row> struct Repeated : std::deque<Row> {
-    template <class... Arguments> explicit Repeated(std::size_t count, PropertyList& list, Arguments... arguments) {
-        while (this->size() < count)
+template <typename Row> struct Repeated : std::deque<Row> {
+    template <typename... Arguments> explicit Repeated(std::size_t count, PropertyList& list, Arguments... arguments) {
+        while (this->size() < count) {
             this->emplace_back(list, arguments...);
+        }
     }
 };
 
@@ -73,15 +76,17 @@ template <class Row> struct Repeated : std::deque<Row> {
 inline void SetIndex(CPropertyParams& property, std::int32_t index) { property.SetIndex(index); }
 
 template <std::size_t N> void SetIndex(CompoundProperty<N>& property, std::int32_t index) {
-    for (std::size_t i = 0; i < N; ++i)
+    for (std::size_t i = 0; i < N; ++i) {
         property[i].SetIndex(index);
+    }
 }
 
 /// Numbers rows from 0.
-template <class Rows> void SetIndices(Rows& rows) {
+template <typename Rows> void SetIndices(Rows& rows) {
     std::int32_t index = 0;
-    for (auto& row : rows)
+    for (auto& row : rows) {
         SetIndex(row, index++);
+    }
 }
 
 } // namespace SDK4::Control

@@ -23,7 +23,7 @@ inline auto Fields(const SDK4_KDEVICESELECT&      r) { return std::tie(r.value1,
 // clang-format on
 
 /// A setter's values, for the stream of a log line.
-template <class... Values> struct CallValues {
+template <typename... Values> struct CallValues {
     explicit CallValues(const Values&... arguments) : values(arguments...) {}
 
     std::tuple<const Values&...> values;
@@ -31,14 +31,15 @@ template <class... Values> struct CallValues {
 
 inline void Put(std::ostream& stream, const char* text) { stream << (text == nullptr ? "" : text); }
 
-template <class Value> void Put(std::ostream& stream, const Value& value) {
-    if constexpr (requires { Fields(value); })
+template <typename Value> void Put(std::ostream& stream, const Value& value) {
+    if constexpr (requires { Fields(value); }) {
         std::apply([&stream](const auto&... fields) { stream << CallValues(fields...); }, Fields(value));
-    else
+    } else {
         stream << value;
+    }
 }
 
-template <class... Values> std::ostream& operator<<(std::ostream& stream, const CallValues<Values...>& call) {
+template <typename... Values> std::ostream& operator<<(std::ostream& stream, const CallValues<Values...>& call) {
     std::apply(
         [&stream](const auto&... values) {
             const char* separator = "";

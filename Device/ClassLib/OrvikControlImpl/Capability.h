@@ -28,7 +28,7 @@ struct Instance {
 };
 
 /// A feature just declared, to which its conditions are added.
-template <class T> class DeclaredFeature {
+template <typename T> class DeclaredFeature {
 public:
     explicit DeclaredFeature(CBaseFeature<T>& declared) : feature(declared) {}
 
@@ -68,12 +68,12 @@ protected:
 
     // Declarations. A feature is bound to the register of its name and type, which is declared before it.
 
-    template <class T>
+    template <typename T>
     CBaseRegister<T>* Register(std::string_view name, std::uint32_t address, Caching caching, Names invalidators = {}) {
         return Invalidated(new CRegister<T, void>(std::string(name), registerList, controlPort, address, Mode(caching)),
                            invalidators);
     }
-    template <class T>
+    template <typename T>
     CBaseRegister<T>* Register(std::string_view name, std::uint32_t address, Instance instance, Caching caching,
                                Names invalidators = {}) {
         return Invalidated(
@@ -86,16 +86,16 @@ protected:
     }
 
     /// A feature whose value is not checked.
-    template <class T> DeclaredFeature<T> Plain(std::string_view name) {
+    template <typename T> DeclaredFeature<T> Plain(std::string_view name) {
         return Enter<T>(new CFeature<T>(std::string(name), featureList, Bound<T>(name)));
     }
     /// A feature that clamps into [min, max].
-    template <class T> DeclaredFeature<T> Range(std::string_view name, T min, T max) {
+    template <typename T> DeclaredFeature<T> Range(std::string_view name, T min, T max) {
         return Enter<T>(new CIntegerFeature<T>(std::string(name), featureList, Bound<T>(name), min, max));
     }
     /// A feature whose bounds are other features' values at the time of a write; an empty name leaves the type's own
     /// lowest bound.
-    template <class T>
+    template <typename T>
     DeclaredFeature<T> RangeOf(std::string_view name, std::string_view minFeature, std::string_view maxFeature) {
         auto* feature = new CIntegerFeature<T>(std::string(name), featureList, Bound<T>(name), T{}, T{});
         feature->minFeature = minFeature;
@@ -111,11 +111,15 @@ protected:
 
     // Access to features by name, with the checks that each applies.
 
-    template <class T> [[nodiscard]] T Get(std::string_view feature) const { return featureList->GetValue<T>(feature); }
-    template <class T> void Set(std::string_view feature, T value) const { featureList->SetValue<T>(feature, value); }
+    template <typename T> [[nodiscard]] T Get(std::string_view feature) const {
+        return featureList->GetValue<T>(feature);
+    }
+    template <typename T> void Set(std::string_view feature, T value) const {
+        featureList->SetValue<T>(feature, value);
+    }
 
     /// A setting that is an enumeration at the interface and an int in its register.
-    template <class Enumeration> [[nodiscard]] Enumeration GetEnum(std::string_view feature) const {
+    template <typename Enumeration> [[nodiscard]] Enumeration GetEnum(std::string_view feature) const {
         return static_cast<Enumeration>(featureList->GetValue<int>(feature));
     }
 
@@ -128,8 +132,9 @@ protected:
     /// Which of two instances' features a select means.
     /// @throws X4Error SDK4_ERR_INVALID_PARAMETER for a select other than 0 and 1
     static std::string_view OneOf(int select, std::string_view first, std::string_view second) {
-        if (select != 0 && select != 1)
+        if (select != 0 && select != 1) {
             SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+        }
         return select == 0 ? first : second;
     }
 
@@ -139,20 +144,22 @@ protected:
 private:
     [[nodiscard]] EnumCacheMode Mode(Caching caching) const;
 
-    template <class T> static CBaseRegister<T>* Invalidated(CBaseRegister<T>* reg, Names invalidators) {
-        for (const std::string_view invalidator : invalidators)
+    template <typename T> static CBaseRegister<T>* Invalidated(CBaseRegister<T>* reg, Names invalidators) {
+        for (const std::string_view invalidator : invalidators) {
             reg->AddInvalidator(std::string(invalidator));
+        }
         return reg;
     }
 
-    template <class T> [[nodiscard]] CBaseRegister<T>* Bound(std::string_view name) const {
+    template <typename T> [[nodiscard]] CBaseRegister<T>* Bound(std::string_view name) const {
         auto* reg = dynamic_cast<CBaseRegister<T>*>(registerList->Find(name));
-        if (reg == nullptr) // a row that names no register of its type: a slip in a declaration
+        if (reg == nullptr) { // a row that names no register of its type: a slip in a declaration
             SDK4_THROW(SDK4_ERR_INVALID_INTERFACE);
+        }
         return reg;
     }
 
-    template <class T> DeclaredFeature<T> Enter(CBaseFeature<T>* feature) {
+    template <typename T> DeclaredFeature<T> Enter(CBaseFeature<T>* feature) {
         featureList->AddEntry(feature);
         return DeclaredFeature<T>(*feature);
     }

@@ -11,8 +11,9 @@ constexpr unsigned int LineCount = 6;
 
 /// The feature of one line: lines count from 0 at the interface and from 1 in names.
 std::string OfLine(std::string_view function, unsigned int line) {
-    if (line >= LineCount)
+    if (line >= LineCount) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
     return std::string(function) + static_cast<char>('1' + line);
 }
 

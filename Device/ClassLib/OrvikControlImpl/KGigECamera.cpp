@@ -23,8 +23,9 @@ std::uint32_t ParseFromZeros(const char* text) {
 KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
     SDK4_LOG(Info, "Call");
     // Without a camera there is nothing to show, and a log level must not decide whether a control can be built.
-    if (logger->isDebugEnabled() && port != RefusingPort::Instance())
+    if (logger->isDebugEnabled() && port != RefusingPort::Instance()) {
         LogNetworkState();
+    }
 }
 
 void KGigECamera::LogNetworkState() {
@@ -98,27 +99,32 @@ const char* KGigECamera::GetCurrentDefaultGateway() {
 
 void KGigECamera::SetPacketSize(unsigned int size) {
     SDK4_LOG_CALL();
-    if (!WritePacketSize(port, size))
+    if (!WritePacketSize(port, size)) {
         SDK4_THROW(SDK4_ERR_OUTOFRANGE);
+    }
 }
 
 void KGigECamera::EnablePersistentIP(const char* ip, const char* mask, const char* gateway) {
     SDK4_LOG_CALL();
-    if (ip == nullptr || mask == nullptr || gateway == nullptr)
+    if (ip == nullptr || mask == nullptr || gateway == nullptr) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
-    if (!Supports(port, PersistentIP))
+    }
+    if (!Supports(port, PersistentIP)) {
         return;
+    }
     const PersistentConfig wanted = {ParseFromZeros(ip), ParseFromZeros(mask), ParseFromZeros(gateway)};
-    if (!InCurrentSubnet(port, wanted))
+    if (!InCurrentSubnet(port, wanted)) {
         return;
+    }
     Switch(port, PersistentIP, true);
     WritePersistentConfig(port, wanted);
 }
 
 void KGigECamera::SetUserDefinedName(const char* name) {
     SDK4_LOG(Debug, "CALL");
-    if (name == nullptr)
+    if (name == nullptr) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
     WriteUserDefinedName(port, name);
 }
 

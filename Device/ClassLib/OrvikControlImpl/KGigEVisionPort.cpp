@@ -7,8 +7,9 @@ namespace SDK4::Control {
 namespace {
 
 void RequireMemory(const unsigned char* buffer, const unsigned int* length) {
-    if (buffer == nullptr || length == nullptr)
+    if (buffer == nullptr || length == nullptr) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
 }
 
 } // namespace

@@ -13,10 +13,11 @@ KInternalTests::KInternalTests(CFeatureList* features, CRegisterList* registers,
     Register<int>(PatternGenerator, 0x5A010000,              Normal); // not part of a settings set
     Register<int>(Temperature1,     0x5A030000, Instance{0}, Never);
 
-    if (IsColorModel(model))
+    if (IsColorModel(model)) {
         Enum(PatternGenerator, {0, 1});
-    else
+    } else {
         Enum(PatternGenerator, {0, 1, 2, 3});
+}
     Plain<int>(Temperature1);
     // clang-format on
 }
@@ -31,8 +32,9 @@ int KInternalTests::GetTemperaturePCB()                             { SDK4_LOG_C
 
 int KInternalTests::GetTemperature(int sensor) {
     SDK4_LOG_CALL();
-    if (sensor != 0)
+    if (sensor != 0) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
+    }
     return Get<int>(Temperature1);
 }
 

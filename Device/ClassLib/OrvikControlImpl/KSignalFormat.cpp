@@ -13,10 +13,11 @@ KSignalFormat::KSignalFormat(CFeatureList* features, CRegisterList* registers, I
     Register<int>       (ColorCoding, 0x28020000, Normal,        {LoadSettings});
     Register<SDK4_KSIZE>(ImageSize,   0x28030000, ReadBackFixed, {LoadSettings, ReadoutArea, ColorCoding});
 
-    if (IsColorModel(model))
+    if (IsColorModel(model)) {
         Enum(ColorCoding, {110, 111, 52, 153, 0, 14, 6}).LockedBy(TLParamsLocked);
-    else
+    } else {
         Enum(ColorCoding, {0, 14, 6}).LockedBy(TLParamsLocked);
+}
     Plain<SDK4_KSIZE>(ImageSize);
     // clang-format on
 }

@@ -13,7 +13,7 @@ namespace SDK4::Control {
 class KStreamControl;
 
 /// A named value that is computed from features each time it is asked for: a condition, or a bound.
-template <class T> class CComputedFeature : public IFeature, public IGetter<T> {
+template <typename T> class CComputedFeature : public IFeature, public IGetter<T> {
 public:
     CComputedFeature(std::string_view featureName, CFeatureList* featureList)
         : name(featureName),
