@@ -45,7 +45,7 @@ struct Model {
 
 /// The models served, in the order in which they are registered and compared.
 // clang-format off
-constexpr Model Models[] = {
+constexpr Model models[] = {
     {"Orvik-31200M", CreateOrvik},
     {"Orvik-31200C", CreateOrvik},
     {"Orvik-710M",   CreateOrvik},
@@ -62,10 +62,10 @@ constexpr Model Models[] = {
 };
 // clang-format on
 
-constexpr const char* LibraryKey = "qdv12";
+constexpr const char* libraryKey = "qdv12";
 
 Factory FindFactory(std::string_view name) {
-    for (const Model& model : Models) {
+    for (const Model& model : models) {
         if (name == model.name) {
             return model.create;
         }
@@ -83,8 +83,8 @@ extern "C" SDK4_PUBLIC void InitLibrary(void* registry) {
     if (registry == nullptr) {
         return;
     }
-    for (const SDK4::Model& model : SDK4::Models) {
-        static_cast<IModelRegistry*>(registry)->RegisterModel(model.name, SDK4::LibraryKey);
+    for (const SDK4::Model& model : SDK4::models) {
+        static_cast<IModelRegistry*>(registry)->RegisterModel(model.name, SDK4::libraryKey);
     }
 }
 

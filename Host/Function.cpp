@@ -1,5 +1,7 @@
 #include "Host/Function.h"
 
+#include "Host/Functions/Codes.h"
+
 #include <algorithm>
 
 namespace Host {
@@ -55,6 +57,8 @@ Function& Function::OneOf(Host::Codes named) {
     return Named(named);
 }
 
+Function& Function::OnOff() { return OneOf(Named::onOff); }
+
 Function& Function::Named(Host::Codes names) {
     codes = names;
     return *this;
@@ -82,11 +86,6 @@ Function& Function::Needs(std::string_view mode, std::initializer_list<std::int6
 
 Function& Function::Instances(std::uint32_t number) {
     count = number;
-    return *this;
-}
-
-Function& Function::Restored(Restore how) {
-    restore = how;
     return *this;
 }
 

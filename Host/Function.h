@@ -87,13 +87,13 @@ struct Function {
     Function& LimitsFrom(LimitsReader reader);
     Function& OneOf(std::int64_t first, std::int64_t last); ///< single values without a gap
     Function& OneOf(Host::Codes named);                     ///< single values, all of which have names
-    Function& Named(Host::Codes names);                     ///< names of some of its values
-    Function& Keeps(std::int32_t code);                     ///< refuses with that code and keeps its value
+    Function& OnOff();
+    Function& Named(Host::Codes names);                       ///< names of some of its values
+    Function& Keeps(std::int32_t code = SDK4_ERR_OUTOFRANGE); ///< refuses with that code and keeps its value
     Function& Rounds(RoundingRule rule);
     Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0});
-    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open);
+    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open = {1});
     Function& Instances(std::uint32_t number);
-    Function& Restored(Restore how);
     Function& PublishedAs(std::string_view propertyName);
     Function& PresentWith(std::string_view other);
 };

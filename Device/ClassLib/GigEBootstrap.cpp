@@ -8,8 +8,8 @@ namespace SDK4::Control {
 
 namespace {
 
-constexpr std::uint32_t MinPacketSize = 1404;
-constexpr std::uint32_t MaxPacketSize = 65532;
+constexpr std::uint32_t minPacketSize = 1404;
+constexpr std::uint32_t maxPacketSize = 65532;
 
 /// Octet @p i of a word, the most significant byte being octet 0.
 constexpr std::uint8_t Octet(std::uint32_t word, int i) { return static_cast<std::uint8_t>(word >> (24 - 8 * i)); }
@@ -35,7 +35,7 @@ void ReadMacAddress(IControlPort* port, MacText& text) {
 }
 
 bool WritePacketSize(IControlPort* port, std::uint32_t size) {
-    const std::uint32_t admitted = std::clamp(size, MinPacketSize, MaxPacketSize);
+    const std::uint32_t admitted = std::clamp(size, minPacketSize, maxPacketSize);
     port->WriteRegister(PacketSize, admitted & ~std::uint32_t{3});
     return admitted == size;
 }

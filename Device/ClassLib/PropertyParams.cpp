@@ -73,7 +73,7 @@ template <typename T> void CPropertyParams::AdmitValue(Side<T>& side, T value) {
     if (!enabled) { // auto-update does not help here: the camera moves values, not what it admits
         SDK4_THROW_QUALIFIED(SDK4_ERR_DISABLED);
     }
-    if (enumCount >= MaxEnumValues) {
+    if (enumCount >= maxEnumValues) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_OUTOFRANGE);
     }
     side.enumValues[enumCount++] = value;

@@ -28,7 +28,7 @@ struct Observer {
 /// Take care with literals: 5 is signed, 5u is unsigned.
 class CPropertyParams {
 public:
-    static constexpr std::uint32_t MaxEnumValues = 20;
+    static constexpr std::uint32_t maxEnumValues = 20;
 
     explicit CPropertyParams(std::string propertyName);
     CPropertyParams(std::string propertyName, std::uint32_t defaultValue);
@@ -93,7 +93,7 @@ public:
     std::uint32_t StoredUIntValue() const { return unsignedSide.value; }
 
     /// Admit one more value and no others than those admitted so.
-    /// Throw SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after MaxEnumValues.
+    /// Throw SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after maxEnumValues.
     void SetEnumValue(std::uint32_t value);
     void SetEnumValue(std::int32_t value);
 
@@ -104,7 +104,7 @@ private:
         T maximum = 0;
         T defaultValue = 0;
         T value = 0;
-        std::array<T, MaxEnumValues> enumValues{};
+        std::array<T, maxEnumValues> enumValues{};
     };
 
     // Each operation is written once, for either side.

@@ -11,7 +11,7 @@ namespace SDK4 {
 
 namespace {
 
-constexpr unsigned int LeadingWord = 4;
+constexpr unsigned int leadingWord = 4;
 
 bool IsSpace(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
 
@@ -28,20 +28,20 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
     std::uint64_t count = length;
     port.ReadMem(address, block.data(), &count);
     const auto delivered = static_cast<unsigned int>(std::min<std::uint64_t>(count, declared));
-    if (delivered < LeadingWord) {
+    if (delivered < leadingWord) {
         return {};
     }
     length = delivered;
     [[maybe_unused]] const IntentionalLeak cache; // of a list entry, see ReleaseStorage.h
-    return Trimmed({block.begin() + LeadingWord, block.begin() + length});
+    return Trimmed({block.begin() + leadingWord, block.begin() + length});
 }
 
 void Transfer<std::string, void>::Write(IControlPort& port, std::uint32_t address, const std::string& text) const {
-    if (text.size() + LeadingWord > declared) {
+    if (text.size() + leadingWord > declared) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     }
     std::vector<std::uint8_t> block(declared);
-    std::copy(text.begin(), text.end(), block.begin() + LeadingWord);
+    std::copy(text.begin(), text.end(), block.begin() + leadingWord);
     std::uint64_t count = declared;
     port.WriteMem(address, block.data(), &count);
 }

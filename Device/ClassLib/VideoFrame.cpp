@@ -16,7 +16,7 @@ struct PixelFormat {
 };
 
 // clang-format off
-constexpr PixelFormat PixelFormats[] = {
+constexpr PixelFormat pixelFormats[] = {
     {  0, 0x01080001}, // Mono8
     {  2, 0x01100003}, // Mono10
     {  4, 0x01100005}, // Mono12
@@ -61,9 +61,9 @@ unsigned int CQDV12VideoFrame::GetHeight() {
 unsigned int CQDV12VideoFrame::GetFormat() {
     SDK4_LOG_CALL();
     const int coding = format->GetColorCoding();
-    const auto* found = std::find_if(std::begin(PixelFormats), std::end(PixelFormats),
+    const auto* found = std::find_if(std::begin(pixelFormats), std::end(pixelFormats),
                                      [coding](const PixelFormat& entry) { return entry.colorCoding == coding; });
-    if (found == std::end(PixelFormats)) {
+    if (found == std::end(pixelFormats)) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_INVALID_PARAMETER);
     }
     return found->code;

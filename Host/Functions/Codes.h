@@ -11,6 +11,7 @@ namespace Host::Named {
 inline constexpr Code off[]   = {{SDK4_SWITCH_OFF, "off"}};
 inline constexpr Code onOff[] = {{SDK4_SWITCH_OFF, "off"}, {SDK4_SWITCH_ON, "on"}};
 
+inline constexpr std::int64_t resetRestart = SDK4_EXPOSUREMODE_RESETRESTART;
 inline constexpr Code exposureModes[] = {
     {SDK4_EXPOSUREMODE_FREERUNNING,  "freerunning"},
     {SDK4_EXPOSUREMODE_FREERUNNING2, "freerunning2"},

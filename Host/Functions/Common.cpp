@@ -9,7 +9,6 @@
 namespace Host {
 
 using namespace SDK4::Control;
-using enum Restore;
 
 namespace {
 
@@ -47,7 +46,7 @@ void AddIdentity(FunctionTable& table) {
     table.Topic(Topic::identity);
     table.ReadOnly<&I::GetDeviceName>           ("devicename");
     table.ReadOnly<&I::GetSerialNumber>         (Name::serialNumber);
-    table.ReadOnly<&I::GetFunctionModelID>      ("functionmodelid").Hexadecimal();
+    table.ReadOnly<&I::GetFunctionModelID>      ("functionmodelid")      .Hexadecimal();
     table.ReadOnly<&I::GetFunctionModelVersion> ("functionmodelversion");
     table.ReadOnly<&I::GetRevision>             ("revision");
     table.ReadOnly<&I::GetSoftwareBuild>        ("softwarebuild");
@@ -59,18 +58,18 @@ void AddIdentity(FunctionTable& table) {
 void AddNetwork(FunctionTable& table) {
     using I = IGigECamera;
     table.Topic(Topic::network);
-    table.ReadOnly<&I::GetMacAddress>                         ("macaddress");
-    table.ReadOnly<&I::GetCurrentIPAddress>                   ("ipaddress");
-    table.ReadOnly<&I::GetCurrentSubnetmask>                  ("subnetmask");
-    table.ReadOnly<&I::GetCurrentDefaultGateway>              ("gateway");
-    table.ReadOnly<&I::GetCurrentIPConfig>                    ("ipconfig")    .Hexadecimal();
-    table.ReadOnly<&I::GetGigEVersion>                        ("gigeversion") .Hexadecimal();
-    table.ReadOnly<&I::GetFirstUrl>                           ("firsturl");
-    table.ReadOnly<&I::GetSecondUrl>                          ("secondurl");
-    table.Row<&I::GetUserDefinedName, &SetUserName>           ("username")                                          .Restored(Network);
-    table.Row<&GetDHCP, &SetDHCP>                             ("dhcp")        .OneOf(Named::onOff)                  .Restored(Network);
-    table.Row<&I::GetPacketSize, &I::SetPacketSize>           ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds(Rounding::DownToFours).Restored(Network);
-    table.Row<&I::GetPacketDelay, &I::SetPacketDelay>         ("packetdelay") .Unit("ticks")                        .Restored(Network);
+    table.ReadOnly<&I::GetMacAddress>                     ("macaddress");
+    table.ReadOnly<&I::GetCurrentIPAddress>               ("ipaddress");
+    table.ReadOnly<&I::GetCurrentSubnetmask>              ("subnetmask");
+    table.ReadOnly<&I::GetCurrentDefaultGateway>          ("gateway");
+    table.ReadOnly<&I::GetCurrentIPConfig>                ("ipconfig")    .Hexadecimal();
+    table.ReadOnly<&I::GetGigEVersion>                    ("gigeversion") .Hexadecimal();
+    table.ReadOnly<&I::GetFirstUrl>                       ("firsturl");
+    table.ReadOnly<&I::GetSecondUrl>                      ("secondurl");
+    table.Network<&I::GetUserDefinedName, &SetUserName>   ("username");
+    table.Network<&GetDHCP, &SetDHCP>                     ("dhcp")        .OnOff();
+    table.Network<&I::GetPacketSize, &I::SetPacketSize>   ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds(Rounding::DownToFours);
+    table.Network<&I::GetPacketDelay, &I::SetPacketDelay> ("packetdelay") .Unit("ticks");
 }
 
 void AddFrames(FunctionTable& table) {
@@ -84,21 +83,21 @@ void AddProcessing(FunctionTable& table) {
     using I = ILookUpTable;
     using E = IDigitalEnhancement;
     table.Topic(Topic::processing);
-    table.Row<&E::GetSharpness, &E::SetSharpness>                             ("sharpness")     .Range(0, 255)      .Restored(Setting);
-    table.Row<&I::GetLUTMode, &I::SetLUTMode>                                 ("lutmode")       .OneOf(0, 1)        .Restored(Setting);
-    table.Row<&I::GetNegativeImage, &I::SetNegativeImage>                     ("negativeimage") .OneOf(Named::onOff).Restored(Setting);
+    table.Setting<&E::GetSharpness, &E::SetSharpness>         ("sharpness")     .Range(0, 255);
+    table.Setting<&I::GetLUTMode, &I::SetLUTMode>             ("lutmode")       .OneOf(0, 1);
+    table.Setting<&I::GetNegativeImage, &I::SetNegativeImage> ("negativeimage") .OnOff();
 }
 
 void AddMemory(FunctionTable& table) {
     using I = IMemory;
     table.Topic(Topic::memory);
-    table.Row<&I::GetVerticalFlip, &I::SetVerticalFlip>               (Name::verticalFlip)    .OneOf(Named::onOff)          .Restored(Setting);
-    table.Row<&I::GetHorizontalFlip, &I::SetHorizontalFlip>           ("horizontalflip")      .OneOf(Named::onOff)          .Restored(Setting);
-    table.Row<&I::GetLastImageHold, &I::SetLastImageHold>             ("lastimagehold")       .OneOf(Named::onOff)          .Restored(Setting);
-    table.Row<&I::GetImageSubtraction, &I::SetImageSubtraction>       ("imagesubtraction")    .OneOf(Named::onOff)          .Restored(Setting);
-    table.Row<&I::GetRecursiveFilter, &I::SetRecursiveFilter>         (Name::recursiveFilter) .OneOf(0, 4).Named(Named::off).Restored(Setting);
-    table.Row<&I::GetAutoMotionDetection, &I::SetAutoMotionDetection> ("automotiondetection") .OneOf(Named::onOff).Needs(Name::recursiveFilter, {1, 2, 3, 4}).Restored(Setting);
-    table.WriteOnly<&I::StoreImage>                                   ("storeimage")          .OneOf(Named::onOff).PresentWith(Name::verticalFlip).PublishedAs("imagestore");
+    table.Setting<&I::GetVerticalFlip, &I::SetVerticalFlip>               (Name::verticalFlip)    .OnOff();
+    table.Setting<&I::GetHorizontalFlip, &I::SetHorizontalFlip>           ("horizontalflip")      .OnOff();
+    table.Setting<&I::GetLastImageHold, &I::SetLastImageHold>             ("lastimagehold")       .OnOff();
+    table.Setting<&I::GetImageSubtraction, &I::SetImageSubtraction>       ("imagesubtraction")    .OnOff();
+    table.Setting<&I::GetRecursiveFilter, &I::SetRecursiveFilter>         (Name::recursiveFilter) .OneOf(0, 4).Named(Named::off);
+    table.Setting<&I::GetAutoMotionDetection, &I::SetAutoMotionDetection> ("automotiondetection") .OnOff().Needs(Name::recursiveFilter, {1, 2, 3, 4});
+    table.WriteOnly<&I::StoreImage> ("storeimage") .OnOff().PresentWith(Name::verticalFlip).PublishedAs("imagestore");
 }
 
 void AddSettingsSets(FunctionTable& table) {
@@ -113,7 +112,7 @@ void AddSettingsSets(FunctionTable& table) {
 
 void AddTests(FunctionTable& table) {
     table.Topic(Topic::tests);
-    table.ReadOnly<&BoardTemperature>                         ("temperature")     .Unit("degC");
+    table.ReadOnly<&BoardTemperature> ("temperature") .Unit("degC");
 }
 
 // clang-format on

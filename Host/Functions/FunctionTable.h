@@ -19,7 +19,7 @@ template <typename Interface> Interface& InterfaceOf(IDynamicObject& control) {
 
 /// Makes the rows of the table out of the getters and setters of the interfaces:
 ///
-///     table.Row<&IGain::GetGain, &IGain::SetGain>(Name::gain).Range(0, 511).MovedBy(Name::agc);
+///     table.Setting<&IGain::GetGain, &IGain::SetGain>(Name::gain).Range(0, 511).MovedBy(Name::agc);
 ///
 /// What takes an index before the value makes an indexed row. Where no operation of an interface does it, a plain
 /// function of the interface takes its place: unsigned int Width(IDSMediaType&).
@@ -30,8 +30,21 @@ public:
     /// What the next rows belong to.
     void Topic(std::string_view name) { topic = name; }
 
-    template <auto Get, auto Set> Function& Row(std::string_view name) {
-        return Add(name, Operation<Get>::Kind(), &CallGetter<Get>, &CallSetter<Set>);
+    template <auto Get, auto Set> Function& Row(std::string_view name, Restore restore = Restore::Never) {
+        Function& function = Add(name, Operation<Get>::Kind(), &CallGetter<Get>, &CallSetter<Set>);
+        function.restore = restore;
+        return function;
+    }
+    // What becomes of it when settings are restored, see Restore.
+    template <auto Get, auto Set> Function& Setting(std::string_view name) {
+        return Row<Get, Set>(name, Restore::Setting);
+    }
+    template <auto Get, auto Set> Function& Mode(std::string_view name) { return Row<Get, Set>(name, Restore::Mode); }
+    template <auto Get, auto Set> Function& Output(std::string_view name) {
+        return Row<Get, Set>(name, Restore::Output);
+    }
+    template <auto Get, auto Set> Function& Network(std::string_view name) {
+        return Row<Get, Set>(name, Restore::Network);
     }
     /// What can only be read.
     template <auto Get> Function& ReadOnly(std::string_view name) {

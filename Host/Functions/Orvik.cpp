@@ -8,7 +8,6 @@
 namespace Host {
 
 using namespace SDK4::Control;
-using enum Restore;
 
 namespace {
 
@@ -59,73 +58,74 @@ SDK4_KAREA ActiveArea(IRoa& roa) { return roa.GetReadoutAreaLimits(SDK4_ROADOMAI
 
 void AddOrvikFormat(FunctionTable& table) {
     table.Topic(Topic::image);
-    table.Row<&ISignalFormat::GetColorCoding, &ISignalFormat::SetColorCoding> (Name::colorCoding) .Named(Named::colorCodings).LimitsFrom(ColorCodings).Restored(Setting);
-    table.Row<&IBinning::GetBinning, &IBinning::SetBinning>                   ("binning")         .Range(1, 8).Keeps(SDK4_ERR_INVALID_PARAMETER).Restored(Setting);
-    table.Row<&IRoa::GetReadoutArea, &IRoa::SetReadoutArea>                   ("readoutarea")     .Unit("px").LimitsFrom(ReadoutAreas).Restored(Setting);
-    table.ReadOnly<&SmallestArea>                                             ("readoutareamin")  .Unit("px");
-    table.ReadOnly<&LargestArea>                                              ("readoutareamax")  .Unit("px");
-    table.ReadOnly<&ActiveArea>                                               ("readoutareaactive").Unit("px");
-    table.Row<&IRoa::GetFrameMask, &IRoa::SetFrameMask>                       ("framemask")       .Unit("px").Restored(Setting);
+    table.Setting<&ISignalFormat::GetColorCoding, &ISignalFormat::SetColorCoding> (Name::colorCoding)   .Named(Named::colorCodings).LimitsFrom(ColorCodings);
+    table.Setting<&IBinning::GetBinning, &IBinning::SetBinning>                   ("binning")           .Range(1, 8).Keeps(SDK4_ERR_INVALID_PARAMETER);
+    table.Setting<&IRoa::GetReadoutArea, &IRoa::SetReadoutArea>                   ("readoutarea")       .Unit("px").LimitsFrom(ReadoutAreas);
+    table.ReadOnly<&SmallestArea>                                                 ("readoutareamin")    .Unit("px");
+    table.ReadOnly<&LargestArea>                                                  ("readoutareamax")    .Unit("px");
+    table.ReadOnly<&ActiveArea>                                                   ("readoutareaactive") .Unit("px");
+    table.Setting<&IRoa::GetFrameMask, &IRoa::SetFrameMask>                       ("framemask")         .Unit("px");
 }
 
 void AddOrvikExposure(FunctionTable& table) {
     using E = IExposure;
     using T = ITrigger;
     table.Topic(Topic::exposure);
-    table.Row<&E::GetExposureMode, &E::SetExposureMode>             (Name::exposureMode)  .OneOf(Named::exposureModes)    .Restored(Setting);
-    table.ReadOnly<&ITiming::GetPixelClock>                         ("pixelclock")        .Unit("Hz");
-    table.Row<&ISlowScan::GetSlowScan, &ISlowScan::SetSlowScan>     ("slowscan")          .OneOf(Named::onOff)            .Restored(Setting);
-    table.Row<&ITiming::GetReadoutTime, &ITiming::SetReadoutTime>   ("readouttime")       .Unit("us").Rounds(Rounding::UpToTheFastest).Restored(Setting);
-    table.ReadOnly<&ITiming::GetFrameDuration>                      ("frameduration")     .Unit("us");
-    table.Row<&E::GetAET, &E::SetAET>                               (Name::aet)           .OneOf(0, 2).Named(Named::off)  .Restored(Mode);
-    table.Row<&E::GetAutoExposureLevel, &E::SetAutoExposureLevel>   ("autoexposurelevel") .Range(0, 255)                  .Restored(Setting);
-    table.Row<&E::GetExposure, &E::SetExposure>                     (Name::exposure)      .Rounds(Rounding::ToACount).MovedBy(Name::aet).Restored(Setting);
-    table.Row<&IGain::GetAGC, &IGain::SetAGC>                       (Name::agc)           .OneOf(0, 2).Named(Named::off)  .Restored(Mode);
-    table.Row<&IGain::GetGain, &IGain::SetGain>                     (Name::gain)          .Range(0, 511).MovedBy(Name::agc).Restored(Setting);
-    table.Row<&T::GetTriggerTimer, &T::SetTriggerTimer>             ("triggertimer")                                      .Restored(Setting);
-    table.Row<&T::GetTriggerDelay, &T::SetTriggerDelay>             ("triggerdelay")      .Needs(Name::exposureMode, {SDK4_EXPOSUREMODE_RESETRESTART}).Restored(Setting);
-    table.Row<&T::GetSoftTrigger, &T::SetSoftTrigger>               ("softtrigger");
+    table.Setting<&E::GetExposureMode, &E::SetExposureMode>           (Name::exposureMode)  .OneOf(Named::exposureModes);
+    table.ReadOnly<&ITiming::GetPixelClock>                           ("pixelclock")        .Unit("Hz");
+    table.Setting<&ISlowScan::GetSlowScan, &ISlowScan::SetSlowScan>   ("slowscan")          .OnOff();
+    table.Setting<&ITiming::GetReadoutTime, &ITiming::SetReadoutTime> ("readouttime")       .Unit("us").Rounds(Rounding::UpToTheFastest);
+    table.ReadOnly<&ITiming::GetFrameDuration>                        ("frameduration")     .Unit("us");
+    table.Mode<&E::GetAET, &E::SetAET>                                (Name::aet)           .OneOf(0, 2).Named(Named::off);
+    table.Setting<&E::GetAutoExposureLevel, &E::SetAutoExposureLevel> ("autoexposurelevel") .Range(0, 255);
+    table.Setting<&E::GetExposure, &E::SetExposure>                   (Name::exposure)      .Rounds(Rounding::ToACount).MovedBy(Name::aet);
+    table.Mode<&IGain::GetAGC, &IGain::SetAGC>                        (Name::agc)           .OneOf(0, 2).Named(Named::off);
+    table.Setting<&IGain::GetGain, &IGain::SetGain>                   (Name::gain)          .Range(0, 511).MovedBy(Name::agc);
+    table.Setting<&T::GetTriggerTimer, &T::SetTriggerTimer>           ("triggertimer");
+    table.Setting<&T::GetTriggerDelay, &T::SetTriggerDelay>           ("triggerdelay")      .Needs(Name::exposureMode, {Named::resetRestart});
+    table.Row<&T::GetSoftTrigger, &T::SetSoftTrigger>                 ("softtrigger");
 }
 
 void AddOrvikProcessing(FunctionTable& table) {
     using E = IDigitalEnhancement;
     using C = IColor;
+    using L = ILookUpTable;
     table.Topic(Topic::processing);
-    table.Row<&IACC::GetACC, &IACC::SetACC>                                       (Name::acc)                   .OneOf(0, 4).Named(Named::off)      .Restored(Mode);
-    table.Row<&E::GetBrightness, &E::SetBrightness>                               (Name::brightness)            .Range(0, 2047).MovedBy(Name::acc)  .Restored(Setting);
-    table.Row<&E::GetContrast, &E::SetContrast>                                   (Name::contrast)              .Range(32, 255).MovedBy(Name::acc)  .Restored(Setting);
-    table.Row<&E::GetHistogramEqualization, &E::SetHistogramEqualization>         (Name::histogramEqualization) .OneOf(0, 3).Named(Named::off)      .Restored(Setting);
-    table.Row<&ILookUpTable::GetLUTInterpolatorIndex, &ILookUpTable::SetLUTInterpolatorIndex> (Name::lutIndex)  .Range(-8, 12)                      .Restored(Setting);
+    table.Mode<&IACC::GetACC, &IACC::SetACC>                                  (Name::acc)                   .OneOf(0, 4).Named(Named::off);
+    table.Setting<&E::GetBrightness, &E::SetBrightness>                       (Name::brightness)            .Range(0, 2047).MovedBy(Name::acc);
+    table.Setting<&E::GetContrast, &E::SetContrast>                           (Name::contrast)              .Range(32, 255).MovedBy(Name::acc);
+    table.Setting<&E::GetHistogramEqualization, &E::SetHistogramEqualization> (Name::histogramEqualization) .OneOf(0, 3).Named(Named::off);
+    table.Setting<&L::GetLUTInterpolatorIndex, &L::SetLUTInterpolatorIndex>   (Name::lutIndex)              .Range(-8, 12);
     table.Topic(Topic::color);
-    table.Row<&C::GetAutoWhiteset, &C::SetAutoWhiteset>                           (Name::awb)                   .OneOf(0, 2).Named(Named::off)      .Restored(Mode);
-    table.Row<&C::GetLightSource, &C::SetLightSource>                             ("lightsource")               .OneOf(0, 3)                        .Restored(Setting);
-    table.Row<&C::GetColorBalance, &C::SetColorBalance>                           ("colorbalance")              .Range(0, 255).MovedBy(Name::awb)   .Restored(Setting);
-    table.Row<&C::GetColorSaturation, &C::SetColorSaturation>                     ("saturation")                .Range(0, 255)                      .Restored(Setting);
+    table.Mode<&C::GetAutoWhiteset, &C::SetAutoWhiteset>          (Name::awb)      .OneOf(0, 2).Named(Named::off);
+    table.Setting<&C::GetLightSource, &C::SetLightSource>         ("lightsource")  .OneOf(0, 3);
+    table.Setting<&C::GetColorBalance, &C::SetColorBalance>       ("colorbalance") .Range(0, 255).MovedBy(Name::awb);
+    table.Setting<&C::GetColorSaturation, &C::SetColorSaturation> ("saturation")   .Range(0, 255);
 }
 
 void AddOrvikOverlay(FunctionTable& table) {
     using O = IOverlay;
     using A = ISignalAnalysis;
     table.Topic(Topic::overlay);
-    table.Row<&O::GetOverlayShow, &O::SetOverlayShow>               (Name::overlayShow)      .Instances(2).OneOf(Named::onOff)                       .Restored(Setting);
-    table.Row<&O::GetOverlayPosition, &O::SetOverlayPosition>       (Name::overlayPosition)  .Instances(2).Unit("px").LimitsFrom(OverlayPositions)   .Restored(Setting);
-    table.Row<&O::GetOverlayStyle, &O::SetOverlayStyle>             (Name::overlayStyle)     .Instances(2)                                           .Restored(Setting);
-    table.Row<&O::GetOverlaySize, &O::SetOverlaySize>               (Name::overlaySize)      .Instances(2).Unit("px")                                .Restored(Setting);
-    table.Row<&A::GetMeasureFrameShow, &A::SetMeasureFrameShow>     (Name::measureFrameShow) .OneOf(Named::onOff)                                    .Restored(Setting);
-    table.Row<&A::GetMeasureFrameColor, &A::SetMeasureFrameColor>   ("measureframecolor")                                                            .Restored(Setting);
-    table.Row<&A::GetMeasureWindow, &A::SetMeasureWindow>           (Name::measureWindow)    .Instances(2).Unit("px").Rounds(Rounding::IntoTheImage) .Restored(Setting);
-    table.ReadOnly<&A::GetMeasureValue>                             ("measurevalue")         .Instances(2);
+    table.Setting<&O::GetOverlayShow, &O::SetOverlayShow>             (Name::overlayShow)      .Instances(2).OnOff();
+    table.Setting<&O::GetOverlayPosition, &O::SetOverlayPosition>     (Name::overlayPosition)  .Instances(2).Unit("px").LimitsFrom(OverlayPositions);
+    table.Setting<&O::GetOverlayStyle, &O::SetOverlayStyle>           (Name::overlayStyle)     .Instances(2);
+    table.Setting<&O::GetOverlaySize, &O::SetOverlaySize>             (Name::overlaySize)      .Instances(2).Unit("px");
+    table.Setting<&A::GetMeasureFrameShow, &A::SetMeasureFrameShow>   (Name::measureFrameShow) .OnOff();
+    table.Setting<&A::GetMeasureFrameColor, &A::SetMeasureFrameColor> ("measureframecolor");
+    table.Setting<&A::GetMeasureWindow, &A::SetMeasureWindow>         (Name::measureWindow)    .Instances(2).Unit("px").Rounds(Rounding::IntoTheImage);
+    table.ReadOnly<&A::GetMeasureValue>                               ("measurevalue")         .Instances(2);
 }
 
 void AddOrvikDevice(FunctionTable& table) {
     using G = IGPIO;
     table.Topic(Topic::tests);
-    table.Row<&IInternalTests::GetPatternGenerator, &IInternalTests::SetPatternGenerator> ("patterngenerator") .Named(Named::off).LimitsFrom(Patterns).Restored(Setting);
+    table.Setting<&IInternalTests::GetPatternGenerator, &IInternalTests::SetPatternGenerator> ("patterngenerator") .Named(Named::off).LimitsFrom(Patterns);
     table.Topic(Topic::outputs);
-    table.Row<&G::GetIoMode, &G::SetIoMode>                         ("iomode")               .Instances(6).OneOf(0, 1)                               .Restored(Output);
-    table.Row<&G::GetIoPort, &G::SetIoPort>                         ("ioport")               .Instances(6).OneOf(0, 4)                               .Restored(Output);
-    table.Row<&G::GetIoPolarity, &G::SetIoPolarity>                 ("iopolarity")           .Instances(6).OneOf(0, 1)                               .Restored(Output);
-    table.Row<&G::GetIoDelay, &G::SetIoDelay>                       ("iodelay")              .Instances(6)                                           .Restored(Output);
+    table.Output<&G::GetIoMode, &G::SetIoMode>         ("iomode")     .Instances(6).OneOf(0, 1);
+    table.Output<&G::GetIoPort, &G::SetIoPort>         ("ioport")     .Instances(6).OneOf(0, 4);
+    table.Output<&G::GetIoPolarity, &G::SetIoPolarity> ("iopolarity") .Instances(6).OneOf(0, 1);
+    table.Output<&G::GetIoDelay, &G::SetIoDelay>       ("iodelay")    .Instances(6);
 }
 
 // clang-format on

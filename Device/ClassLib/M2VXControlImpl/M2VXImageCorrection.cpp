@@ -64,7 +64,7 @@ void CM2VXBaseControl::SetCircularBlankingPosition(SDK4_KCIRCULARPOSITION positi
 }
 
 CompoundProperty<3>& CM2VXBaseControl::DefectPixelAt(SDK4_KDEFECTPIXELSELECT select) {
-    if (select.pair >= CM2VXPropertyTable::DefectPixelPairsOfCamera || select.position > 1) {
+    if (select.pair >= CM2VXPropertyTable::defectPixelPairsOfCamera || select.position > 1) {
         SDK4_THROW(SDK4_ERR_CANTGETFEATURE);
     }
     auto& pair = table.defectPixels[select.pair];

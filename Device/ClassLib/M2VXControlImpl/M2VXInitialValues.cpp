@@ -15,7 +15,7 @@ void CM2VXBaseControl::GetInitialValues() {
     GetInitialAutomatics();
     GetInitialDefectPixels();
     access.Fill(table.startupSettings, &CRT6Camera::GetStartupSettings);
-    for (std::uint32_t channel = 0; channel < CM2VXPropertyTable::MotorChannelCount; ++channel) {
+    for (std::uint32_t channel = 0; channel < CM2VXPropertyTable::motorChannelCount; ++channel) {
         access.Fill(table.motorControl[channel], &CM2VXCamera::GetMotorControl, channel);
     }
     table.FollowAllModes();
@@ -45,7 +45,7 @@ void CM2VXBaseControl::GetInitialEnhancement() {
 }
 
 void CM2VXBaseControl::GetInitialOverlays() {
-    for (std::uint32_t i = 0; i < CM2VXPropertyTable::OverlayCount; ++i) {
+    for (std::uint32_t i = 0; i < CM2VXPropertyTable::overlayCount; ++i) {
         auto& overlay = table.overlays[i];
         access.Fill(overlay.show, &CRT6Camera::GetOverlayShow, i);
         access.Fill(overlay.position, &CM2VXCamera::GetOverlayPosition, i);
@@ -88,7 +88,7 @@ void CM2VXBaseControl::GetInitialAutomatics() {
 void CM2VXBaseControl::GetInitialDefectPixels() {
     access.Fill(table.defectPixelCount, &CM2VXCamera::GetDefectPixelCount);
     const std::uint32_t used =
-        std::min(table.defectPixelCount.GetUIntValue(), CM2VXPropertyTable::DefectPixelPairsOfCamera);
+        std::min(table.defectPixelCount.GetUIntValue(), CM2VXPropertyTable::defectPixelPairsOfCamera);
     for (std::uint32_t pair = 0; pair < used; ++pair) {
         for (std::uint32_t position = 0; position < 2; ++position) {
             const SDK4_KDEFECTPIXELSELECT select = {pair, position};

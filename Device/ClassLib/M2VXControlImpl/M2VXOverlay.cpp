@@ -8,8 +8,8 @@ namespace SDK4::Control {
 
 /// The camera draws fewer overlays than its numbers allow for: the highest number is none that exists.
 CM2VXPropertyTable::Overlay& CM2VXBaseControl::OverlayAt(int overlay) {
-    const std::uint32_t number = UpTo(CM2VXPropertyTable::OverlayCount, static_cast<std::uint32_t>(overlay));
-    if (number == CM2VXPropertyTable::OverlayCount) {
+    const std::uint32_t number = UpTo(CM2VXPropertyTable::overlayCount, static_cast<std::uint32_t>(overlay));
+    if (number == CM2VXPropertyTable::overlayCount) {
         SDK4_THROW(SDK4_ERR_OUTOFRANGE);
     }
     return table.overlays[number];

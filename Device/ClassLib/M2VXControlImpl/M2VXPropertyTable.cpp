@@ -50,7 +50,7 @@ CM2VXPropertyTable::CM2VXPropertyTable(PropertyList& propertyList) : list(proper
     SetLimits(measureWindow[3],  -511,  511,    0);
     SetLimits(measureWindow[4],    1u, 512u, 128u);
 
-    for (std::uint32_t i = 0; i < OverlayCount; ++i) {
+    for (std::uint32_t i = 0; i < overlayCount; ++i) {
         overlays[i].SetIndex(static_cast<std::int32_t>(i));
 }
     SetIndices(shadingCorrection);

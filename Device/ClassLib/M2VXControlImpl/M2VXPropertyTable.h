@@ -24,10 +24,10 @@ public:
     void FollowShadingCorrectionMode();
     void FollowCircularBlankingMode();
 
-    static constexpr std::uint32_t OverlayCount = 3;
-    static constexpr std::uint32_t DefectPixelPairCount = 129;
-    static constexpr std::uint32_t DefectPixelPairsOfCamera = 128; ///< one row of the table is never reached
-    static constexpr std::uint32_t MotorChannelCount = 256;
+    static constexpr std::uint32_t overlayCount = 3;
+    static constexpr std::uint32_t defectPixelPairCount = 129;
+    static constexpr std::uint32_t defectPixelPairsOfCamera = 128; ///< one row of the table is never reached
+    static constexpr std::uint32_t motorChannelCount = 256;
 
     // clang-format off
     struct Overlay {
@@ -71,7 +71,7 @@ public:
     EnumProperty     imageSubtraction           {list, "imagesubtraction",      0, {0, 1}};
     EnumProperty     recursiveFilter            {list, "recursivefilter",       0, {0, 1, 2, 3, 4}};
     EnumProperty     autoMotionDetection        {list, "automotiondetection",   0, {0, 1}};
-    Repeated<Overlay> overlays                  {OverlayCount, list};
+    Repeated<Overlay> overlays                  {overlayCount, list};
     EnumProperty     shadingCorrectionMode      {list, "shadingcorrectionmode", 0, {0, 1}};
     Repeated<SignedProperty> shadingCorrection  {4, list, "shadingcorrection", -128,  127,    0};
     EnumProperty     circularBlankingMode       {list, "circularblankingmode",  0, {0, 1}};
@@ -94,14 +94,14 @@ public:
     UnsignedProperty abcXRLevel                 {list, "abcxrlevel",            0,   1023,    0};
     EnumProperty     testPattern[2]            {{list, "testpattern",           0, {0, 1, 2, 3, 4, 5, 6}},
                                                 {list, "testpattern",           0, {0, 1, 2, 3, 4, 5, 6}}};
-    Repeated<DefectPixelPair> defectPixels      {DefectPixelPairCount, list};
+    Repeated<DefectPixelPair> defectPixels      {defectPixelPairCount, list};
     UnsignedProperty defectPixelAutoCompensation{list, "defectpixelautocompensation", 0, 0, 0}; // a trigger: no value
     UnsignedProperty defectPixelCount           {list, "defectpixelcount",      0,    128,    0};
     EnumProperty     defectPixelShow            {list, "defectpixelshow",       0, {0, 1}};
     EnumProperty     startupSettings            {list, "startupsettings",       0, {0, 1, 2}};
     EnumProperty     loadSettings               {list, "loadsettings",          0, {0, 1, 2}};
     EnumProperty     saveSettings               {list, "savesettings",          1, {1, 2}};
-    Repeated<UnsignedProperty> motorControl     {MotorChannelCount, list, "motorcontrol", 0u, 65535u, 0u};
+    Repeated<UnsignedProperty> motorControl     {motorChannelCount, list, "motorcontrol", 0u, 65535u, 0u};
     // clang-format on
 };
 

@@ -7,11 +7,11 @@ using enum Caching;
 
 namespace {
 
-constexpr unsigned int LineCount = 6;
+constexpr unsigned int lineCount = 6;
 
 /// The feature of one line: lines count from 0 at the interface and from 1 in names.
 std::string OfLine(std::string_view function, unsigned int line) {
-    if (line >= LineCount) {
+    if (line >= lineCount) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     }
     return std::string(function) + static_cast<char>('1' + line);
@@ -22,7 +22,7 @@ std::string OfLine(std::string_view function, unsigned int line) {
 KGPIO::KGPIO(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache)
     : Capability(features, registers, port, noCache) {
     SDK4_LOG(Debug, "ctor KGPIO");
-    for (unsigned int line = 0; line < LineCount; ++line) {
+    for (unsigned int line = 0; line < lineCount; ++line) {
         const Instance instance{static_cast<int>(line)};
         // clang-format off
         Register<int>         (OfLine(IoMode,     line), 0x66020000, instance, Normal, {LoadSettings});

@@ -7,11 +7,11 @@ using enum Caching;
 
 namespace {
 
-constexpr std::size_t LongestText = 20; // of a block of 24 bytes, behind its leading word
+constexpr std::size_t longestText = 20; // of a block of 24 bytes, behind its leading word
 
 /// Never moves the buffer: a pointer that was handed out for another camera then shows this text, and not freed memory.
 const char* CopyText(const std::string& text, std::string& buffer) {
-    buffer.reserve(LongestText);
+    buffer.reserve(longestText);
     buffer.assign(text);
     return buffer.c_str();
 }

@@ -7,6 +7,7 @@
 namespace SDK4::Control::Name {
 
 // clang-format off
+// NOLINTBEGIN(readability-identifier-naming): capitals, as the operations have them: GetGain, Gain
 
 // Acquisition (KStreamControl)
 inline constexpr std::string_view StartAcquisition   = "startacquisition";
@@ -110,6 +111,7 @@ inline constexpr std::string_view IsMonoCamera        = "is_mono_camera";
 inline constexpr std::string_view IsExposureModeFreeRunning  = "is_exposuremode_freerunning";
 inline constexpr std::string_view IsExposureModeResetRestart = "is_exposuremode_resetrestart";
 
+// NOLINTEND(readability-identifier-naming)
 // clang-format on
 
 } // namespace SDK4::Control::Name

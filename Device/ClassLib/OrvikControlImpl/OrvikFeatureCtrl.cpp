@@ -9,7 +9,7 @@ namespace SDK4::Control {
 
 COrvikFeatureCtrl::COrvikFeatureCtrl(CFeatureList* featureList, CRegisterList* registerList, IControlPort* controlPort,
                                      std::int32_t cameraIndex, const char* model, const char* id)
-    : COrvikFeatureCtrl(featureList, registerList, controlPort, cameraIndex == UncachedIndex, cameraIndex, model, id) {}
+    : COrvikFeatureCtrl(featureList, registerList, controlPort, cameraIndex == uncachedIndex, cameraIndex, model, id) {}
 
 // clang-format off
 COrvikFeatureCtrl::COrvikFeatureCtrl(CFeatureList* featureList, CRegisterList* registerList,

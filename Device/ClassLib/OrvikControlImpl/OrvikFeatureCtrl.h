@@ -59,7 +59,7 @@ class COrvikFeatureCtrl final : public IDynamicObject,
                                 public KGPIO {
 public:
     /// Index of a control that reads the camera each time; any other index caches. The whole number counts.
-    static constexpr std::int32_t UncachedIndex = 2;
+    static constexpr std::int32_t uncachedIndex = 2;
 
     /// Takes ownership of both lists when it has been built; while the constructor may throw they stay the caller's.
     /// @param model the caller's text, which must live as long as the control
