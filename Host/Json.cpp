@@ -10,18 +10,18 @@ namespace Host {
 
 namespace {
 
-using Document = nlohmann::ordered_json;
+using OrderedJson = nlohmann::ordered_json;
 
-Document ToDocument(const Json& json) {
+OrderedJson ToDocument(const Json& json) {
     if (const auto* const list = json.Elements()) {
-        Document document = Document::array();
+        OrderedJson document = OrderedJson::array();
         for (const Json& element : *list) {
             document.push_back(ToDocument(element));
         }
         return document;
     }
     if (const auto* const members = json.Members()) {
-        Document document = Document::object();
+        OrderedJson document = OrderedJson::object();
         for (const Json::Member& member : *members) {
             document[member.name] = ToDocument(member.value);
         }
@@ -33,12 +33,12 @@ Document ToDocument(const Json& json) {
     if (const auto* const number = json.Number()) {
         return *number;
     }
-    return json.Bool() != nullptr ? Document(*json.Bool()) : Document();
+    return json.Bool() != nullptr ? OrderedJson(*json.Bool()) : OrderedJson();
 }
 
 /// Escapes the control characters that the library leaves alone, DEL and C1; they stand within texts alone.
 std::string Dump(const Json& json, int indent) {
-    const std::string text = ToDocument(json).dump(indent, ' ', false, Document::error_handler_t::replace);
+    const std::string text = ToDocument(json).dump(indent, ' ', false, OrderedJson::error_handler_t::replace);
     std::string escaped;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const unsigned code = static_cast<unsigned char>(text[i]);
@@ -56,10 +56,10 @@ std::string Dump(const Json& json, int indent) {
     return escaped;
 }
 
-Json FromDocument(const Document& document) {
+Json FromDocument(const OrderedJson& document) {
     if (document.is_array()) {
         Json::List list;
-        for (const Document& element : document) {
+        for (const OrderedJson& element : document) {
             list.push_back(FromDocument(element));
         }
         return list;
@@ -122,7 +122,7 @@ std::string Json::PrintInOneLine() const { return Dump(*this, -1); }
 Json Json::Parse(const std::string& text) {
     // Documents are walked by recursion: one that is nested without end would end the program.
     constexpr int deepest = 64;
-    return FromDocument(Document::parse(text, [](int depth, Document::parse_event_t, const Document&) {
+    return FromDocument(OrderedJson::parse(text, [](int depth, OrderedJson::parse_event_t, const OrderedJson&) {
         if (depth > deepest) {
             throw std::runtime_error("nested too deeply");
         }

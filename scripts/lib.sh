@@ -13,7 +13,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-
     nlohmann-json3-dev libedit-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev binutils help2man dpkg-dev file)
 test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
-check_packages=(clang-tidy-14 cppcheck shellcheck)
+check_packages=(clang-format-14 clang-tidy-14 cppcheck shellcheck)
 bench_packages=(libbenchmark-dev gnuplot-nox)
 
 say() { printf '\n== %s\n' "$*"; }

@@ -17,10 +17,11 @@
 namespace SDK4::Control {
 
 // The texts that the getters of CBootstrap hand out, one of each for the whole process: good until the next call of
-// the same getter on any object.
+// the same getter on any object. NOLINTBEGIN(readability-identifier-naming): as the getters
 extern std::string CurrentIPAddress;
 extern std::string CurrentSubnetmask;
 extern std::string CurrentDefaultGateway;
+// NOLINTEND(readability-identifier-naming)
 
 /// Parameters of the analogue front end.
 class IAFE {

@@ -54,7 +54,7 @@ template <typename Number> Call OfIndex(Number (IPropertyState::*operation)(int,
     return [=](IPropertyState& state, const char* name) { return std::to_string((state.*operation)(index, name)); };
 }
 
-struct Row {
+struct Question {
     const char* operation;
     Call call;
     const char* name;
@@ -66,7 +66,7 @@ using UIntOf = std::uint32_t (IPropertyState::*)(const char*);
 using IntOf = std::int32_t (IPropertyState::*)(const char*);
 
 // clang-format off
-const Row rows[] = {
+const Question rows[] = {
     {"GetUIntMin",          Of(&IPropertyState::GetUIntMin),                     "gain",       "1"},
     {"GetUIntMax",          Of(&IPropertyState::GetUIntMax),                     "gain",       "9"},
     {"GetUIntDefault",      Of(&IPropertyState::GetUIntDefault),                 "both",       "4"},
@@ -98,7 +98,7 @@ const Row rows[] = {
 } // namespace
 
 TEST(PropertyState, AnswersFromTheNamedPropertyAndRefusesUnknownNames) {
-    for (const Row& row : rows) {
+    for (const Question& row : rows) {
         SCOPED_TRACE(row.operation);
         Control control;
         EXPECT_EQ(row.call(control.State(), row.name), row.result);

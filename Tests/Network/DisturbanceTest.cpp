@@ -12,7 +12,7 @@ using Simulation::GigEVision::Disturbances;
 using Simulation::GigEVision::DisturbedDevice;
 using Simulation::GigEVision::Sending;
 
-const std::string readGain = "4201 0080 0004 0002 14010000";
+const std::string readOfGain = "4201 0080 0004 0002 14010000";
 
 class DisturbanceTest : public DeviceTest {
 protected:
@@ -25,7 +25,7 @@ protected:
         DisturbedDevice disturbed(device, disturbances, seed);
         std::string counts;
         for (int i = 0; i < 100; ++i) {
-            counts += std::to_string(Send(disturbed, readGain).size());
+            counts += std::to_string(Send(disturbed, readOfGain).size());
         }
         return counts;
     }
@@ -76,7 +76,7 @@ TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
     EXPECT_TRUE(Send(disturbed, "4301").empty());
     EXPECT_EQ(Send(disturbed, "4201 0002 0000 0003").at(0).datagram.size(), 256U); // it can be found nevertheless
     time += 2000ms;
-    Send(disturbed, readGain); // shows that the application is alive
+    Send(disturbed, readOfGain); // shows that the application is alive
     time += 2000ms;
     EXPECT_EQ(Ask(other, "4201 0080 0004 0001 00000a00"), "0000 0081 0004 0001 00000002");
     // What was carried out already is not refused when it is repeated.
@@ -89,7 +89,7 @@ TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
     DisturbedDevice disturbed(device, {.delay = 20ms}, 1);
     std::vector<std::chrono::microseconds> delays(100);
     for (auto& delay : delays) {
-        delay = Send(disturbed, readGain).at(0).delay;
+        delay = Send(disturbed, readOfGain).at(0).delay;
     }
     const auto [least, most] = std::minmax_element(delays.begin(), delays.end());
     EXPECT_GE(*least, 0us);
@@ -101,11 +101,11 @@ TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
 TEST_F(DisturbanceTest, StartsAnewOnce) {
     DisturbedDevice disturbed(device, {.rebootAfter = 2}, 1);
     for (const std::size_t answers : {1U, 1U, 0U, 0U}) {
-        EXPECT_EQ(Send(disturbed, readGain).size(), answers);
+        EXPECT_EQ(Send(disturbed, readOfGain).size(), answers);
     }
     time = Device::bootTime;
     for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(Send(disturbed, readGain).size(), 1U);
+        EXPECT_EQ(Send(disturbed, readOfGain).size(), 1U);
     }
 }
 

@@ -13,9 +13,9 @@ namespace SDK4::Control {
 namespace {
 
 // Capability bits of the function-model id.
-constexpr std::uint32_t ColorBit = 0x00010000;
-constexpr std::uint32_t MemoryBit = 0x00020000;
-constexpr std::uint32_t HistogramBit = 0x00040000;
+constexpr std::uint32_t colorBit = 0x00010000;
+constexpr std::uint32_t memoryBit = 0x00020000;
+constexpr std::uint32_t histogramBit = 0x00040000;
 
 bool HasModelBit(const CFeatureList& features, std::uint32_t bit) {
     return (features.GetValue<unsigned int>(Name::FunctionModelId) & bit) != 0;
@@ -40,10 +40,10 @@ bool CIsNotColorCodingRaw::GetValue() {
 
 bool CIsAutomaticOn::GetValue() { return features->GetValue<int>(watched) != 0; }
 
-bool CIsColorCamera::GetValue() { return HasModelBit(*features, ColorBit); }
-bool CIsMemoryCamera::GetValue() { return HasModelBit(*features, MemoryBit); }
-bool CIsHistogramCamera::GetValue() { return HasModelBit(*features, HistogramBit); }
-bool CIsMonoCamera::GetValue() { return !HasModelBit(*features, ColorBit); }
+bool CIsColorCamera::GetValue() { return HasModelBit(*features, colorBit); }
+bool CIsMemoryCamera::GetValue() { return HasModelBit(*features, memoryBit); }
+bool CIsHistogramCamera::GetValue() { return HasModelBit(*features, histogramBit); }
+bool CIsMonoCamera::GetValue() { return !HasModelBit(*features, colorBit); }
 
 bool CIsNotExposuremodeFrameOndemand::GetValue() {
     return ReadExposureMode(*features) != SDK4_EXPOSUREMODE_FRAMEONDEMAND;
