@@ -110,7 +110,8 @@ void CountDefectPixels(RegisterSpace& space) {
 void FindDefectPixels(RegisterSpace& space, const World& world) {
     const std::uint32_t used = space.Get("defectpixelcount")[0];
     if (2 * used < space.Count("defectpixel")) {
-        const std::uint32_t column = 300 + used + static_cast<std::uint32_t>(world.Deviation(20 + used, 100));
+        const std::uint32_t column =
+            300 + used + static_cast<std::uint32_t>(world.Deviation(Stream::DefectPixelColumn, 100, used));
         space.Set("defectpixel", {column, 301, 1}, 2 * used);
         space.Set("defectpixel", {column, 302, 1}, 2 * used + 1);
         CountDefectPixels(space);
@@ -126,7 +127,7 @@ void AddDefectPixels(SimulatedCamera& camera, const World& world) {
 /// What the measure window sees: the scene, and noise.
 void AddMeasuring(SimulatedCamera& camera, const World& world) {
     camera.EachStep([world](RegisterSpace& space, std::uint64_t step) {
-        const auto noise = static_cast<std::uint32_t>(world.Noise(4, step, 1));
+        const auto noise = static_cast<std::uint32_t>(world.Noise(Stream::MeasureNoise, step, 1));
         space.Set("measurevalue", {37 * world.Light() / 100 + noise});
     });
 }

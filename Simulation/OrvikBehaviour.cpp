@@ -38,7 +38,7 @@ Words BalanceFor(const RegisterSpace& space, const World& world) {
     const Words balances[] = {{128, 128, 128}, {104, 128, 176}, {120, 128, 148}, {140, 128, 112}};
     Words balance = balances[space.Get("lightsource")[0]];
     for (std::uint32_t i = 0; i < balance.size(); ++i) {
-        balance[i] += static_cast<std::uint32_t>(world.Deviation(10 + i, 20));
+        balance[i] += static_cast<std::uint32_t>(world.Deviation(Stream::WhitePoint, 20, i));
     }
     return balance;
 }

@@ -4,8 +4,6 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::uint32_t noiseOfStart = 2; // what the world is asked for
-constexpr std::uint32_t noiseOfMeasuring = 3;
 constexpr std::uint32_t tenthsByAcquisition = 60;
 constexpr std::uint64_t stepsOfDrift = 16;
 constexpr std::uint64_t stepsOfMeasuring = 32;
@@ -15,7 +13,7 @@ constexpr std::uint64_t stepsOfMeasuring = 32;
 void AddTemperature(SimulatedCamera& camera, const World& world) {
     RegisterSpace& registers = camera.Registers();
     const std::uint32_t degrees =
-        registers.Get("temperature")[0] + static_cast<std::uint32_t>(world.Deviation(noiseOfStart, 3));
+        registers.Get("temperature")[0] + static_cast<std::uint32_t>(world.Deviation(Stream::StartTemperature, 3));
     registers.Set("temperature", {degrees});
     registers.Set("warmth", {10 * degrees});
 
@@ -26,7 +24,7 @@ void AddTemperature(SimulatedCamera& camera, const World& world) {
             warmth += warmth < goal ? 1U : ~0U;
             space.Set("warmth", {warmth});
         }
-        const std::int32_t noise = world.Noise(noiseOfMeasuring, step / stepsOfMeasuring, 7);
+        const std::int32_t noise = world.Noise(Stream::TemperatureNoise, step / stepsOfMeasuring, 7);
         space.Set("temperature", {(warmth + static_cast<std::uint32_t>(noise) + 5) / 10});
     });
 }

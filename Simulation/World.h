@@ -4,25 +4,43 @@
 
 namespace Simulation {
 
+/// The streams of random numbers that a world draws from. The numbers are part of what a seed means.
+enum class Stream : std::uint32_t {
+    Brightness = 1, ///< of the scene
+    StartTemperature = 2,
+    TemperatureNoise = 3,
+    MeasureNoise = 4,
+    WhitePoint = 10,        ///< and the two after it: red, green, blue
+    DefectPixelColumn = 20, ///< and those after it: one for each pair of defect pixels
+};
+
 /// What surrounds a camera and is not written in any of its registers: decided by the seed, the same every time.
 class World {
 public:
     explicit World(std::uint64_t seedOfWorld) : seed(seedOfWorld) {}
 
-    /// A number from -range to +range; equal for equal whats and whens. A world of seed 0 gives what varies with time
-    /// alone, so that its cameras are those of the tables.
-    [[nodiscard]] std::int32_t Deviation(std::uint32_t what, std::int32_t range) const {
-        return seed == 0 ? 0 : Noise(what, 0, range);
+    /// What does not vary with time: a number from -range to +range. A world of seed 0 has no deviations, so that its
+    /// cameras are those of the tables.
+    /// @param index tells apart the streams that begin at @p stream
+    [[nodiscard]] std::int32_t Deviation(Stream stream, std::int32_t range, std::uint32_t index = 0) const {
+        return seed == 0 ? 0 : Draw(static_cast<std::uint32_t>(stream) + index, 0, range);
     }
-    [[nodiscard]] std::int32_t Noise(std::uint32_t what, std::uint64_t when, std::int32_t range) const {
-        const std::uint64_t span = 2 * static_cast<std::uint64_t>(range) + 1;
-        return static_cast<std::int32_t>(Mix(Mix(seed ^ std::uint64_t{what} << 32) + when) % span) - range;
+    /// What varies with time: a number from -range to +range, the same for the same time.
+    [[nodiscard]] std::int32_t Noise(Stream stream, std::uint64_t time, std::int32_t range) const {
+        return Draw(static_cast<std::uint32_t>(stream), time, range);
     }
 
     /// How bright the scene is, in percent of what cameras are adjusted for.
-    [[nodiscard]] std::uint32_t Light() const { return static_cast<std::uint32_t>(100 + Deviation(1, 30)); }
+    [[nodiscard]] std::uint32_t Light() const {
+        return static_cast<std::uint32_t>(100 + Deviation(Stream::Brightness, 30));
+    }
 
 private:
+    [[nodiscard]] std::int32_t Draw(std::uint32_t stream, std::uint64_t time, std::int32_t range) const {
+        const std::uint64_t span = 2 * static_cast<std::uint64_t>(range) + 1;
+        return static_cast<std::int32_t>(Mix(Mix(seed ^ std::uint64_t{stream} << 32) + time) % span) - range;
+    }
+
     /// Any bit of the number decides about any bit of the result.
     static std::uint64_t Mix(std::uint64_t number) {
         number += 0x9E3779B97F4A7C15U;
