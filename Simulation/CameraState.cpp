@@ -23,9 +23,10 @@ using Json = nlohmann::json;
 const char* const format = "simulated camera";
 const char* const serialNumber = "serial number";
 const char* const macAddress = "MAC address";
+const std::string requestOf = "asked "; // and the register's name: what was requested of it
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
-const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::Note, Role::NonVolatile, Role::Volatile};
+const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile};
 
 std::string Model(const RegisterSpace& space) {
     const Bytes bytes = ToBytes(space.Get("modelname"));
@@ -33,16 +34,25 @@ std::string Model(const RegisterSpace& space) {
 }
 
 /// Without what only a planted fault can have put there.
-RegisterSpace::Content Sane(const RegisterSpace& space, RegisterSpace::Content content) {
-    for (auto& [name, instances] : content) {
-        const Register& entry = *space.Find(name);
-        for (std::size_t i = 0; i < instances.size(); ++i) {
-            if (!Admit(entry.limits, instances[i])) {
-                instances[i] = ToWords(entry.powerUp.instances[i].value);
-            }
+std::vector<Words> Sane(const Register& entry, std::vector<Words> instances) {
+    for (std::size_t i = 0; i < instances.size(); ++i) {
+        if (!Admit(entry.limits, instances[i])) {
+            instances[i] = ToWords(entry.powerUp.instances[i].value);
         }
     }
-    return content;
+    return instances;
+}
+
+Json ToJson(const RegisterSpace& space, const RegisterSpace::Content& content) {
+    Json registers = Json::object();
+    for (const auto& [name, held] : content) {
+        const Register& entry = *space.Find(name);
+        registers[name] = Sane(entry, held.values);
+        if (entry.powerUp.keepsRequest) {
+            registers[requestOf + name] = Sane(entry, held.requests);
+        }
+    }
+    return registers;
 }
 
 /// A line per register and per settings set, for those who look into the file.
@@ -65,10 +75,10 @@ std::string Lines(const Json& value, int depth, const std::string& indent) {
 /// Throws std::runtime_error with the reason where the file is damaged; whoever calls knows the path.
 [[noreturn]] void Damaged(const std::string& reason) { throw std::runtime_error("damaged: " + reason); }
 
-const Json& Member(const Json& object, const char* name) {
+const Json& Member(const Json& object, const std::string& name) {
     const auto found = object.find(name);
     if (found == object.end()) {
-        Damaged(std::string("\"") + name + "\" is missing");
+        Damaged("\"" + name + "\" is missing");
     }
     return *found;
 }
@@ -98,20 +108,31 @@ Words ReadWords(const Json& value, const Register& entry, std::size_t instance) 
     return words;
 }
 
-/// The content, which must be of exactly the registers of the model.
-RegisterSpace::Content ReadContent(const Json& value, const RegisterSpace& space, const RegisterSpace::Content& model) {
-    if (!value.is_object() || value.size() != model.size()) {
-        Damaged("registers are missing, or there are others");
+std::vector<Words> ReadInstances(const Json& stored, const Register& entry) {
+    if (!stored.is_array() || stored.size() != entry.powerUp.instances.size()) {
+        Damaged("register " + entry.name + " has not the instances that it should have");
     }
-    RegisterSpace::Content content;
-    for (const auto& [name, instances] : model) {
-        const Json& stored = Member(value, name.c_str());
-        if (!stored.is_array() || stored.size() != instances.size()) {
-            Damaged("register " + name + " has not the instances that it should have");
+    std::vector<Words> instances;
+    for (std::size_t i = 0; i < stored.size(); ++i) {
+        instances.push_back(ReadWords(stored[i], entry, i));
+    }
+    return instances;
+}
+
+/// The content, which must be of exactly the registers of the model with these roles.
+RegisterSpace::Content ReadContent(const Json& registers, const RegisterSpace& space, const std::vector<Role>& roles) {
+    RegisterSpace::Content content = space.Save(roles);
+    std::size_t members = content.size();
+    for (auto& [name, held] : content) {
+        const Register& entry = *space.Find(name);
+        held.values = ReadInstances(Member(registers, name), entry);
+        if (entry.powerUp.keepsRequest) {
+            held.requests = ReadInstances(Member(registers, requestOf + name), entry);
+            ++members;
         }
-        for (std::size_t i = 0; i < instances.size(); ++i) {
-            content[name].push_back(ReadWords(stored[i], *space.Find(name), i));
-        }
+    }
+    if (registers.size() != members) {
+        Damaged("beside the registers of the model there are others");
     }
     return content;
 }
@@ -121,12 +142,11 @@ SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
         Damaged("the settings sets are none");
     }
     SettingsSets::Saved sets;
-    const RegisterSpace::Content model = space.Save({Role::Setting, Role::Note});
     for (const auto& [name, settings] : value.items()) {
         if (name != "1" && name != "2") {
             Damaged("there is no settings set " + name);
         }
-        sets[name == "1" ? 1 : 2] = ReadContent(settings, space, model);
+        sets[name == "1" ? 1 : 2] = ReadContent(settings, space, {Role::Setting});
     }
     return sets;
 }
@@ -169,7 +189,7 @@ void Apply(const Json& file, SimulatedCamera& camera) {
     RegisterSpace& space = camera.Registers();
     CheckOwner(file, space);
     const auto time = Number(Member(file, "microseconds"), longestTime, "the time");
-    auto content = ReadContent(Member(file, "registers"), space, space.Save(rememberedRoles));
+    auto content = ReadContent(Member(file, "registers"), space, rememberedRoles);
     content.merge(ReadIdentity(file, space));
     auto sets = ReadSets(Member(file, "settings sets"), space);
 
@@ -185,7 +205,7 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
     const RegisterSpace& space = camera.Registers();
     Json sets = Json::object();
     for (const auto& [number, settings] : camera.Sets().All()) {
-        sets[std::to_string(number)] = Sane(space, settings);
+        sets[std::to_string(number)] = ToJson(space, settings);
     }
     const Json file = {{"format", format},
                        {"version", version},
@@ -193,7 +213,7 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
                        {serialNumber, SerialNumberOf(space)},
                        {macAddress, MacAddressOf(space)},
                        {"microseconds", static_cast<std::uint64_t>(camera.Time().count())},
-                       {"registers", Sane(space, space.Save(rememberedRoles))},
+                       {"registers", ToJson(space, space.Save(rememberedRoles))},
                        {"settings sets", sets}};
 
     const std::filesystem::path fresh = path.string() + ".new" + std::to_string(getpid());

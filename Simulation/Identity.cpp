@@ -32,8 +32,8 @@ RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const s
         throw IdentityError("invalid serial number \"" + serial + "\", expected 1 to " + std::to_string(longest) +
                             " ASCII characters without blanks");
     }
-    return {{"bootstrapserialnumber", {WordsOf(Text(standard, serial))}},
-            {"serialnumber", {WordsOf(LedText(own, serial))}}};
+    return {{"bootstrapserialnumber", {{WordsOf(Text(standard, serial))}}},
+            {"serialnumber", {{WordsOf(LedText(own, serial))}}}};
 }
 
 std::string MacAddressOf(const RegisterSpace& space) {
@@ -64,8 +64,8 @@ RegisterSpace::Content MacAddressRegisters(const std::string& mac) {
         throw IdentityError("invalid MAC address \"" + mac + "\", expected that of one device, such as " +
                             "02:00:12:07:07:10");
     }
-    return {{"machigh", {{static_cast<std::uint32_t>(number >> 32)}}},
-            {"maclow", {{static_cast<std::uint32_t>(number)}}}};
+    return {{"machigh", {{{static_cast<std::uint32_t>(number >> 32)}}}},
+            {"maclow", {{{static_cast<std::uint32_t>(number)}}}}};
 }
 
 } // namespace Simulation

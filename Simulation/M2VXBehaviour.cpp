@@ -19,16 +19,13 @@ void FollowExposure(RegisterSpace& space) {
 /// Outside of mode reset-restart a frame is exposed as long as it lasts.
 void FollowExposureMode(RegisterSpace& space) {
     const bool own = space.Get("exposuremode")[0] == resetRestart;
-    space.Set("exposure", own ? space.Get("asked exposure") : Words{frameTime});
+    space.Set("exposure", own ? space.Requested("exposure") : Words{frameTime});
     FollowExposure(space);
 }
 
 void AddExposure(SimulatedCamera& camera) {
     camera.AfterWrite("exposuremode", [](RegisterSpace& space, const auto&) { FollowExposureMode(space); });
-    camera.AfterWrite("exposure", [](RegisterSpace& space, const auto&) {
-        space.Set("asked exposure", space.Get("exposure"));
-        FollowExposure(space);
-    });
+    camera.AfterWrite("exposure", [](RegisterSpace& space, const auto&) { FollowExposure(space); });
     camera.Derive(FollowExposure);
 }
 

@@ -22,7 +22,6 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
     const auto setting = Role::Setting;
-    const auto note = Role::Note;
     const auto flash = Role::NonVolatile;
     const auto dynamic = Role::Volatile;
     const Limits onOff = Codes(0, 1);
@@ -43,7 +42,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"stopacquisition",          0x00088138, dynamic, Word(0)},
 
         {"exposuremode",             0x0A020000, setting, Word(1),                {Codes(1, 4)}}, // free running
-        {"exposure",                 0x0A030000, setting, Word(33),               {Range(1, 2000)}},
+        {"exposure",                 0x0A030000, setting, KeepingRequest(Word(33)), {Range(1, 2000)}},
         {"afe",                      0x0A0C0000, flash,   Table(2, std::vector<Words>(4, frontEnd))},
         {"fodstatus",                0x0A0D0000, shown,   Word(1)},
         {"twinmodeshutteroffset",    0x0A130000, setting, Word(0),                {Range(0, 2000)}},
@@ -133,7 +132,6 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"com",                      0x6F020000, dynamic, Word(0)},
 
         // The camera's own notes, where no host looks.
-        {"asked exposure",           0xE0010000, note,    Word(33)},
         {"gain searched",            0xE0020000, shown,   Word(1)},
         {"level searched",           0xE0030000, shown,   Word(1)},
         {"motor target",             0xE0040000, shown,   Indexed(std::vector<Words>(256, Words{0, 0}))},

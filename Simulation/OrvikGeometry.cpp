@@ -1,7 +1,7 @@
 // Readout area, binning, and what must lie within the image: all of it in binned pixels.
 //
-// What does not fit at the moment is not forgotten. The camera notes what it was asked for, the readout area in pixels
-// of its sensor, and shows as much of it as the image admits: a change of binning or area that is taken back leaves
+// What does not fit at the moment is not forgotten. The registers keep what was requested, the readout area in pixels
+// of the sensor, and hold as much of it as the image admits: a change of binning or area that is taken back leaves
 // nothing changed.
 
 #include "Simulation/Orvik.h"
@@ -35,13 +35,13 @@ Words InBinnedPixels(const Words& area, const Words& binning) {
 
 void ShowOverlay(RegisterSpace& space, std::uint32_t line) {
     const Words size = space.Get("imagesize");
-    const Words asked = space.Get("asked overlayposition", line);
-    space.Set("overlayposition", {std::min(asked[0], size[0] - 1), std::min(asked[1], size[1] - 1)}, line);
+    const Words& requested = space.Requested("overlayposition", line);
+    space.Set("overlayposition", {std::min(requested[0], size[0] - 1), std::min(requested[1], size[1] - 1)}, line);
 }
 
 void ShowWindow(RegisterSpace& space, std::uint32_t window) {
     const Words size = space.Get("imagesize");
-    Words area = space.Get("asked measurewindow", window);
+    Words area = space.Requested("measurewindow", window);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
         area[start] = std::min(area[start], size[start] - 1);
         area[end] = std::min(std::max(area[end], area[start]), size[start] - 1);
@@ -65,12 +65,12 @@ void FollowBinning(RegisterSpace& space, const OrvikModel& model) {
     const std::uint32_t height = model.height / binning[1];
     space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, Least);
     space.Set("readoutarealimits", {width - smallestArea, height - smallestArea, width - 1, height - 1}, Most);
-    Show(space, Fit(space, InBinnedPixels(space.Get("asked readoutarea"), binning)));
+    Show(space, Fit(space, InBinnedPixels(space.Requested("readoutarea"), binning)));
 }
 
 void TakeReadoutArea(RegisterSpace& space) {
     const Words area = Fit(space, space.Get("readoutarea"));
-    space.Set("asked readoutarea", InSensorPixels(area, space.Get("binning")));
+    space.SetRequested("readoutarea", InSensorPixels(area, space.Get("binning")));
     Show(space, area);
 }
 
@@ -80,14 +80,8 @@ void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model) {
     camera.Derive([model](RegisterSpace& space) { FollowBinning(space, model); });
     camera.AfterWrite("binning", [model](RegisterSpace& space, const auto&) { FollowBinning(space, model); });
     camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { TakeReadoutArea(space); });
-    camera.AfterWrite("overlayposition", [](RegisterSpace& space, const auto& change) {
-        space.Set("asked overlayposition", space.Get("overlayposition", change.index), change.index);
-        ShowOverlay(space, change.index);
-    });
-    camera.AfterWrite("measurewindow", [](RegisterSpace& space, const auto& change) {
-        space.Set("asked measurewindow", space.Get("measurewindow", change.index), change.index);
-        ShowWindow(space, change.index);
-    });
+    camera.AfterWrite("overlayposition", [](auto& space, const auto& change) { ShowOverlay(space, change.index); });
+    camera.AfterWrite("measurewindow", [](auto& space, const auto& change) { ShowWindow(space, change.index); });
     for (const char* name : {"readoutarea", "binning", "colorcoding"}) {
         camera.LockWhileAcquiring(name);
     }

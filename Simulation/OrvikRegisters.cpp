@@ -21,7 +21,6 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     const auto fixed = Role::Fixed;
     const auto shown = Role::Shown;
     const auto setting = Role::Setting;
-    const auto note = Role::Note;
     const auto flash = Role::NonVolatile;
     const auto dynamic = Role::Volatile;
     // What a model lacks is there to be read, and ignores what is written to it.
@@ -50,7 +49,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"softtrigger",        0x0A070000, dynamic, Word(0)},
         {"triggertimer",       0x0A080000, setting, Word(0)},
         {"pixelclock",         0x0A090000, shown,   Word(160000000)},
-        {"readouttime",        0x0A0A0000, setting, Word(0)},               // the fastest
+        {"readouttime",        0x0A0A0000, setting, KeepingRequest(Word(0))}, // the fastest
         {"binning",            0x0A0B0000, mono,    Record({1, 1}),         {Range(1, 8), Range(1, 8)}},
         {"slowscan",           0x0A0E0000, setting, Word(0),                {Codes(0, 1)}},
         {"triggerdelay",       0x0A100000, setting, Record({0, 0}),         {Range(0, 7)}}, // base, counter
@@ -68,7 +67,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"recursivefilter",    0x16070000, memory,  Word(0),                {Codes(0, 4)}},
 
         {"overlayshow",        0x17010000, setting, Indexed({{0}, {0}}),    {onOff}}, // per line
-        {"overlayposition",    0x17020000, setting, Indexed({{0, 0}, {0, 0}})},
+        {"overlayposition",    0x17020000, setting, KeepingRequest(Indexed({{0, 0}, {0, 0}}))},
         {"overlaystyle",       0x17030000, setting, Indexed({{0, 0}, {1, 0}})},
         {"overlaysize",        0x17040000, setting, Indexed({{1, 10}, {1, 10}})},
 
@@ -81,12 +80,12 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
 
         {"measureframeshow",   0x1E010000, setting, Word(0),                {onOff}},
         {"measureframecolor",  0x1E020000, setting, Word(0)},
-        {"measurewindow",      0x1E030000, setting, Indexed({{0, 0, 63, 63}, {64, 64, 127, 127}})},
+        {"measurewindow",      0x1E030000, setting, KeepingRequest(Indexed({{0, 0, 63, 63}, {64, 64, 127, 127}}))},
 
         {"colorcoding",        0x28020000, setting, Word(coding),           {Codes(codings)}},
         {"imagesize",          0x28030000, shown,   Record({model.width, model.height})},
         {"frameduration",      0x28040000, shown,   Word(0)},
-        {"readoutarea",        0x28050000, setting, Record(whole)},
+        {"readoutarea",        0x28050000, setting, KeepingRequest(Record(whole))}, // requested in pixels of the sensor
         {"readoutarealimits",  0x28090000, shown,   Indexed({whole, whole, whole})}, // least, most, active
 
         {"aet",                0x46010000, setting, Word(0),                {Codes(0, 2)}},
@@ -119,11 +118,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"iodelay",            0x66110000, setting, Indexed({{0}, {0}, {0}, {0}, {0}, {0}})},
 
         // The camera's own notes, where no host looks.
-        {"asked readoutarea",     0xE0010000, note,  Record(whole)},        // in pixels of the sensor
-        {"asked readouttime",     0xE0020000, note,  Word(0)},
-        {"asked overlayposition", 0xE0030000, note,  Indexed({{0, 0}, {0, 0}})},
-        {"asked measurewindow",   0xE0040000, note,  Indexed({{0, 0, 63, 63}, {64, 64, 127, 127}})},
-        {"warmth",                0xE0050000, shown, Word(0)},              // tenths of a degree
+        {"warmth",             0xE0050000, shown,   Word(0)},               // tenths of a degree
     };
     // clang-format on
 }

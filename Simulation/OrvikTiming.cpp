@@ -46,7 +46,7 @@ void FollowTiming(RegisterSpace& space) {
     const std::uint64_t pixels = std::uint64_t{size[0]} * size[1];
     const bool slow = space.Get("slowscan")[0] != 0;
     const std::uint64_t fastest = pixels * (slow ? 2 : 1) / pixelsPerMicrosecond;
-    const std::uint64_t readout = std::max<std::uint64_t>(space.Get("asked readouttime")[0], fastest);
+    const std::uint64_t readout = std::max<std::uint64_t>(space.Requested("readouttime")[0], fastest);
     const std::uint64_t exposure = MicrosecondsOf(space.Get("exposure"));
     const std::uint64_t sending = BytesOf(pixels, space.Get("colorcoding")[0]) / bytesPerMicrosecond;
     const bool freeRunning = space.Get("exposuremode")[0] <= 2; // the next image is exposed while this one is read out
@@ -59,9 +59,6 @@ void FollowTiming(RegisterSpace& space) {
 
 void AddOrvikTiming(SimulatedCamera& camera) {
     camera.Derive(FollowTiming);
-    camera.AfterWrite("readouttime", [](RegisterSpace& space, const auto&) {
-        space.Set("asked readouttime", space.Get("readouttime"));
-    });
     for (const char* name :
          {"readouttime", "readoutarea", "binning", "colorcoding", "exposure", "exposuremode", "slowscan"}) {
         camera.AfterWrite(name, [](RegisterSpace& space, const auto&) { FollowTiming(space); });

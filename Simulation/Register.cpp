@@ -53,6 +53,11 @@ Value Table(std::uint32_t columns, const std::vector<Words>& entries) {
     return value;
 }
 
+Value KeepingRequest(Value value) {
+    value.keepsRequest = true;
+    return value;
+}
+
 Value Text(std::size_t length, std::string_view text) {
     Bytes bytes(text.begin(), text.end());
     bytes.resize(length);

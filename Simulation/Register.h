@@ -19,7 +19,6 @@ enum class Role {
     Fixed,       ///< identity: nobody changes it
     Shown,       ///< the camera's own: it shows it, hosts read it
     Setting,     ///< a settings set saves and loads it
-    Note,        ///< what was asked of a setting that shows as much of it as it can for now: goes with the settings
     NonVolatile, ///< permanent memory beside the settings sets
     Volatile,    ///< commands, and what a start forgets
     Channel, ///< the control channel's: a device on the network sets it, any other camera shows that it has no channel
@@ -27,7 +26,7 @@ enum class Role {
 
 /// Whether the camera ignores what a host writes.
 [[nodiscard]] constexpr bool IsReadOnly(Role role) {
-    return role == Role::Fixed || role == Role::Shown || role == Role::Note || role == Role::Channel;
+    return role == Role::Fixed || role == Role::Shown || role == Role::Channel;
 }
 
 /// One of the values behind an address, and the selector that leads to it.
@@ -40,6 +39,7 @@ struct Instance {
 struct Value {
     std::vector<Instance> instances; ///< at least one; their selectors are of one length, and so are their values
     bool exchanged = false;          ///< whether the two words of a selector change places when they are written alone
+    bool keepsRequest = false;       ///< whether what was requested is kept beside what the camera can do of it for now
 };
 
 // The kinds, for the rows of a register table.
@@ -52,6 +52,8 @@ struct Value {
 [[nodiscard]] Value Selected(const std::vector<std::pair<Words, Words>>& instances);
 /// Values behind two words, row and column, exchanged when they are written alone; row by row from {0, 0} on.
 [[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
+/// The same value, of a setting that is adjusted to others and comes back when they admit it again.
+[[nodiscard]] Value KeepingRequest(Value value);
 
 /// What a word of a register admits: a number is moved to the nearest admitted one, a code that is not admitted has the
 /// whole write rejected.

@@ -19,6 +19,9 @@ RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
         }
         for (const Instance& instance : entry.powerUp.instances) {
             SetValueOf(entry, instance.selector, instance.value);
+            if (entry.powerUp.keepsRequest) {
+                requests[entry.name].push_back(ToWords(instance.value));
+            }
         }
     }
 }
@@ -127,6 +130,14 @@ void RegisterSpace::Set(const std::string& name, const Words& words, std::uint32
     SetValueOf(entry, entry.powerUp.instances.at(index).selector, ToBytes(words));
 }
 
+const Words& RegisterSpace::Requested(const std::string& name, std::uint32_t index) const {
+    return requests.at(name).at(index);
+}
+
+void RegisterSpace::SetRequested(const std::string& name, const Words& words, std::uint32_t index) {
+    requests.at(name).at(index) = words;
+}
+
 const Register* RegisterSpace::Find(const std::string& name) const {
     const auto found = addresses.find(name);
     return found == addresses.end() ? nullptr : &byAddress.at(found->second);
@@ -160,8 +171,12 @@ RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const
     Content content;
     for (const auto& [address, entry] : byAddress) {
         if (std::find(roles.begin(), roles.end(), entry.role) != roles.end()) {
+            Held& held = content[entry.name];
             for (std::uint32_t i = 0; i < entry.powerUp.instances.size(); ++i) {
-                content[entry.name].push_back(Get(entry.name, i));
+                held.values.push_back(Get(entry.name, i));
+            }
+            if (entry.powerUp.keepsRequest) {
+                held.requests = requests.at(entry.name);
             }
         }
     }
@@ -169,9 +184,12 @@ RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const
 }
 
 void RegisterSpace::Load(const Content& content) {
-    for (const auto& [name, instances] : content) {
-        for (std::uint32_t i = 0; i < instances.size(); ++i) {
-            Set(name, instances[i], i);
+    for (const auto& [name, held] : content) {
+        for (std::uint32_t i = 0; i < held.values.size(); ++i) {
+            Set(name, held.values[i], i);
+        }
+        if (!held.requests.empty()) {
+            requests.at(name) = held.requests;
         }
     }
 }

@@ -49,6 +49,9 @@ public:
     /// The words of a register, of one instance of it if it is indexed.
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const;
     void Set(const std::string& name, const Words& words, std::uint32_t index = 0);
+    /// What was requested of a register that keeps it.
+    [[nodiscard]] const Words& Requested(const std::string& name, std::uint32_t index = 0) const;
+    void SetRequested(const std::string& name, const Words& words, std::uint32_t index = 0);
 
     /// The table's row of that name, or null.
     [[nodiscard]] const Register* Find(const std::string& name) const;
@@ -57,8 +60,15 @@ public:
     /// The registers that an access of that many bytes touches.
     [[nodiscard]] std::vector<const Register*> Touched(std::uint32_t address, std::size_t length) const;
 
-    /// What registers hold: per name the words of each instance.
-    using Content = std::map<std::string, std::vector<Words>>;
+    /// The words of each instance of a register.
+    struct Held {
+        std::vector<Words> values;
+        std::vector<Words> requests = {}; ///< empty for a register that keeps none
+
+        bool operator==(const Held&) const = default;
+    };
+    /// What registers hold, by name.
+    using Content = std::map<std::string, Held>;
     /// What all registers of the roles hold.
     [[nodiscard]] Content Save(const std::vector<Role>& roles) const;
     void Load(const Content& content);
@@ -84,6 +94,7 @@ private:
     std::map<std::uint32_t, Register> byAddress;
     std::unordered_map<std::string, std::uint32_t> addresses; ///< by name
     std::map<std::uint32_t, IndexedRegister> indexed;
+    std::unordered_map<std::string, std::vector<Words>> requests; ///< by name, of each instance
     Memory memory;
 };
 

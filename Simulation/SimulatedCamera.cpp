@@ -9,8 +9,6 @@ namespace Simulation {
 
 namespace {
 
-const std::vector<Role> settingRoles = {Role::Setting, Role::Note};
-
 template <typename T> void RefuseNull(const T* pointer) {
     if (pointer == nullptr) {
         throw std::invalid_argument("simulated camera: null buffer or length");
@@ -22,10 +20,10 @@ template <typename T> void RefuseNull(const T* pointer) {
 SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
     : space(registers),
       powerUp(space.Save({Role::Volatile})),
-      sets(space.Save(settingRoles)) {
+      sets(space.Save({Role::Setting})) {
     AfterWrite("stopacquisition", [](RegisterSpace& own, const auto&) { own.Set("startacquisition", {0}); });
     AfterWrite("savesettings", [this](RegisterSpace& own, const auto&) {
-        sets.Save(own.Get("savesettings")[0], own.Save(settingRoles));
+        sets.Save(own.Get("savesettings")[0], own.Save({Role::Setting}));
     });
     AfterWrite("loadsettings", [this](RegisterSpace& own, const auto&) { LoadSettings(own.Get("loadsettings")[0]); });
     AfterWrite("restart", [this](RegisterSpace&, const auto&) { Restart(); });
@@ -57,12 +55,8 @@ void SimulatedCamera::DeclareAutomatic(const std::string& mode) {
 }
 
 void SimulatedCamera::LoadSettings(std::uint32_t number) {
-    const std::string_view asked = "asked "; // how the name of a setting's note begins
     RegisterSpace::Content settings = sets.At(number);
-    std::erase_if(settings, [&](const auto& entry) {
-        const std::string setting = entry.first.starts_with(asked) ? entry.first.substr(asked.size()) : entry.first;
-        return faults.IsStale(setting) || IsLocked(setting);
-    });
+    std::erase_if(settings, [&](const auto& entry) { return faults.IsStale(entry.first) || IsLocked(entry.first); });
     space.Load(settings);
     for (const Derivation& derivation : derivations) {
         derivation(space);
@@ -83,6 +77,9 @@ bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
     }
     faults.Distort(entry, words);
     space.Set(entry.name, words, change.index);
+    if (entry.powerUp.keepsRequest) {
+        space.SetRequested(entry.name, words, change.index);
+    }
     return true;
 }
 

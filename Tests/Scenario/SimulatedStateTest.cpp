@@ -34,15 +34,13 @@ protected:
     [[nodiscard]] std::string Refusal(const std::string& content, const char* model = "Orvik-710M") const {
         std::ofstream(file) << content;
         const auto camera = MakeCamera(model);
-        const auto before =
-            camera->Registers().Save({Role::Shown, Role::Setting, Role::Note, Role::NonVolatile, Role::Volatile});
+        const auto before = camera->Registers().Save({Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile});
         try {
             Simulation::LoadState(*camera, file);
             return "";
         } catch (const Simulation::StateError& error) {
-            EXPECT_EQ(
-                camera->Registers().Save({Role::Shown, Role::Setting, Role::Note, Role::NonVolatile, Role::Volatile}),
-                before);
+            EXPECT_EQ(camera->Registers().Save({Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile}),
+                      before);
             EXPECT_TRUE(camera->Sets().All().empty());
             return error.what();
         }
