@@ -3,6 +3,8 @@
 #include "Simulation/M2VX.h"
 #include "Simulation/Temperature.h"
 
+#include <SDK4/Enums.h>
+
 #include <algorithm>
 
 namespace Simulation {
@@ -10,7 +12,6 @@ namespace Simulation {
 namespace {
 
 constexpr std::uint32_t frameTime = 33; // milliseconds; so long is exposed unless the exposure time is the host's
-constexpr std::uint32_t resetRestart = 3;
 
 void FollowExposure(RegisterSpace& space) {
     space.Set("frameduration", {std::max(33333U, 1000 * space.Get("exposure")[0])});
@@ -18,7 +19,7 @@ void FollowExposure(RegisterSpace& space) {
 
 /// Outside of mode reset-restart a frame is exposed as long as it lasts.
 void FollowExposureMode(RegisterSpace& space) {
-    const bool own = space.Get("exposuremode")[0] == resetRestart;
+    const bool own = space.Get("exposuremode")[0] == SDK4_EXPOSUREMODE_RESETRESTART;
     space.Set("exposure", own ? space.Requested("exposure") : Words{frameTime});
     FollowExposure(space);
 }

@@ -1,5 +1,7 @@
 #include "Simulation/M2VX.h"
 
+#include <SDK4/Enums.h>
+
 namespace Simulation {
 
 namespace {
@@ -87,7 +89,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
                                      {Range(0, 511), Range(1, 3), Range(-511, 511), Range(-511, 511), Range(1, 512)}},
         {"measurevalue",             0x1E040000, shown,   Indexed({{37}})},
 
-        {"colorcoding",              0x28020000, shown,   Word(6)},               // Mono14, the only one
+        {"colorcoding",              0x28020000, shown,   Word(SDK4_COLORCODING_MONO14)}, // the only one
         {"imagesize",                0x28030000, shown,   Record({1024, 1024})},
         {"frameduration",            0x28040000, shown,   Word(33333)},
 

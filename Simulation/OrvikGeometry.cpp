@@ -6,21 +6,21 @@
 
 #include "Simulation/Orvik.h"
 
+#include <SDK4/Enums.h>
+
 #include <algorithm>
 
 namespace Simulation {
 
 namespace {
 
-enum { Least, Most, Active }; // the readout area's limits, by index
-
 /// The area within its limits, and not smaller than the smallest.
 Words Fit(const RegisterSpace& space, Words area) {
-    const Words least = space.Get("readoutarealimits", Least);
-    const Words most = space.Get("readoutarealimits", Most);
+    const Words min = space.Get("readoutarealimits", SDK4_ROADOMAIN_MIN);
+    const Words max = space.Get("readoutarealimits", SDK4_ROADOMAIN_MAX);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
-        area[start] = std::min(std::max(area[start], least[start]), most[start]);
-        area[end] = std::min(std::max(area[end], area[start] + smallestArea - 1), most[end]);
+        area[start] = std::min(std::max(area[start], min[start]), max[start]);
+        area[end] = std::min(std::max(area[end], area[start] + smallestArea - 1), max[end]);
     }
     return area;
 }
@@ -51,7 +51,7 @@ void ShowWindow(RegisterSpace& space, std::uint32_t window) {
 
 void Show(RegisterSpace& space, const Words& area) {
     space.Set("readoutarea", area);
-    space.Set("readoutarealimits", area, Active);
+    space.Set("readoutarealimits", area, SDK4_ROADOMAIN_ACTIVE);
     space.Set("imagesize", {area[2] - area[0] + 1, area[3] - area[1] + 1});
     for (std::uint32_t i = 0; i < 2; ++i) {
         ShowOverlay(space, i);
@@ -63,8 +63,9 @@ void FollowBinning(RegisterSpace& space, const OrvikModel& model) {
     const Words binning = space.Get("binning");
     const std::uint32_t width = model.width / binning[0];
     const std::uint32_t height = model.height / binning[1];
-    space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, Least);
-    space.Set("readoutarealimits", {width - smallestArea, height - smallestArea, width - 1, height - 1}, Most);
+    space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, SDK4_ROADOMAIN_MIN);
+    space.Set("readoutarealimits", {width - smallestArea, height - smallestArea, width - 1, height - 1},
+              SDK4_ROADOMAIN_MAX);
     Show(space, Fit(space, InBinnedPixels(space.Requested("readoutarea"), binning)));
 }
 

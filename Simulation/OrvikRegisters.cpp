@@ -1,5 +1,7 @@
 #include "Simulation/Orvik.h"
 
+#include <SDK4/Enums.h>
+
 namespace Simulation {
 
 namespace {
@@ -31,12 +33,16 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
 
     const Limits onOff = Codes(0, 1);
     const Limits byte = Range(0, 255);
-    const Words codings = model.color ? Words{0, 6, 14, 52, 110, 111, 153} : Words{0, 6, 14};
+    Words codings = {SDK4_COLORCODING_MONO8, SDK4_COLORCODING_MONO14, SDK4_COLORCODING_MONO12PACKED};
+    if (model.color) {
+        codings.insert(codings.end(), {SDK4_COLORCODING_YUV422PACKED, SDK4_COLORCODING_RGB8, SDK4_COLORCODING_BGR8,
+                                       SDK4_COLORCODING_RAW14});
+    }
 
     const std::uint32_t right = model.width - 1;
     const std::uint32_t bottom = model.height - 1;
     const Words whole = {0, 0, right, bottom};
-    const std::uint32_t coding = model.color ? 110 : 0; // RGB8 or Mono8
+    const std::uint32_t coding = model.color ? SDK4_COLORCODING_RGB8 : SDK4_COLORCODING_MONO8;
 
     // clang-format off
     return {
@@ -86,7 +92,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"imagesize",          0x28030000, shown,   Record({model.width, model.height})},
         {"frameduration",      0x28040000, shown,   Word(0)},
         {"readoutarea",        0x28050000, setting, KeepingRequest(Record(whole))}, // requested in pixels of the sensor
-        {"readoutarealimits",  0x28090000, shown,   Indexed({whole, whole, whole})}, // least, most, active
+        {"readoutarealimits",  0x28090000, shown,   Indexed({whole, whole, whole})}, // minimum, maximum, active
 
         {"aet",                0x46010000, setting, Word(0),                {Codes(0, 2)}},
         {"agc",                0x46020000, setting, Word(0),                {Codes(0, 2)}},

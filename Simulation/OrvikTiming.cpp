@@ -2,6 +2,8 @@
 
 #include "Simulation/Orvik.h"
 
+#include <SDK4/Enums.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -19,13 +21,13 @@ std::uint32_t Bounded(std::uint64_t number) {
 
 std::uint64_t BytesOf(std::uint64_t pixels, std::uint32_t coding) {
     switch (coding) {
-    case 0:
-        return pixels; // Mono8
-    case 14:
-        return pixels * 3 / 2; // Mono12Packed
-    case 110:                  // RGB8
-    case 111:
-        return pixels * 3; // BGR8
+    case SDK4_COLORCODING_MONO8:
+        return pixels;
+    case SDK4_COLORCODING_MONO12PACKED:
+        return pixels * 3 / 2;
+    case SDK4_COLORCODING_RGB8:
+    case SDK4_COLORCODING_BGR8:
+        return pixels * 3;
     default:
         return pixels * 2; // YUV422, 14 bits
     }
@@ -49,7 +51,8 @@ void FollowTiming(RegisterSpace& space) {
     const std::uint64_t readout = std::max<std::uint64_t>(space.Requested("readouttime")[0], fastest);
     const std::uint64_t exposure = MicrosecondsOf(space.Get("exposure"));
     const std::uint64_t sending = BytesOf(pixels, space.Get("colorcoding")[0]) / bytesPerMicrosecond;
-    const bool freeRunning = space.Get("exposuremode")[0] <= 2; // the next image is exposed while this one is read out
+    // In the free-running modes the next image is exposed while this one is read out.
+    const bool freeRunning = space.Get("exposuremode")[0] <= SDK4_EXPOSUREMODE_FREERUNNING2;
 
     space.Set("pixelclock", {slow ? 80000000U : 160000000U});
     space.Set("readouttime", {Bounded(readout)});

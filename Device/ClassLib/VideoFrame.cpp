@@ -17,27 +17,27 @@ struct PixelFormat {
 
 // clang-format off
 constexpr PixelFormat pixelFormats[] = {
-    {  0, 0x01080001}, // Mono8
-    {  2, 0x01100003}, // Mono10
-    {  4, 0x01100005}, // Mono12
-    {  6, 0x01100025}, // Mono14
-    {  8, 0x01100007}, // Mono16
-    { 12, 0x010C0004}, // Mono10Packed
-    { 14, 0x010C0006}, // Mono12Packed
-    { 24, 0x81100005},
-    { 26, 0x81100025},
-    { 51, 0x02100032}, // YUV422_8
-    { 52, 0x0210001F}, // YUV422Packed
-    {101, 0x82180014},
-    {102, 0x82200016},
-    {110, 0x02180014}, // RGB8Packed
-    {111, 0x02180015}, // BGR8Packed
-    {112, 0x02200016}, // RGBA8Packed
-    {113, 0x02200017}, // BGRA8Packed
-    {150, 0x82080001},
-    {151, 0x82100005},
-    {153, 0x82100025},
-    {155, 0x82100007},
+    {SDK4_COLORCODING_MONO8,        0x01080001},
+    {SDK4_COLORCODING_MONO10,       0x01100003},
+    {SDK4_COLORCODING_MONO12,       0x01100005},
+    {SDK4_COLORCODING_MONO14,       0x01100025},
+    {SDK4_COLORCODING_MONO16,       0x01100007},
+    {SDK4_COLORCODING_MONO10PACKED, 0x010C0004},
+    {SDK4_COLORCODING_MONO12PACKED, 0x010C0006},
+    {24,                            0x81100005}, // not named by the interface
+    {26,                            0x81100025}, // not named by the interface
+    {SDK4_COLORCODING_YUV422_8,     0x02100032},
+    {SDK4_COLORCODING_YUV422PACKED, 0x0210001F},
+    {101,                           0x82180014}, // not named by the interface
+    {102,                           0x82200016}, // not named by the interface
+    {SDK4_COLORCODING_RGB8,         0x02180014},
+    {SDK4_COLORCODING_BGR8,         0x02180015},
+    {SDK4_COLORCODING_RGBA8,        0x02200016},
+    {SDK4_COLORCODING_BGRA8,        0x02200017},
+    {SDK4_COLORCODING_RAW8,         0x82080001},
+    {SDK4_COLORCODING_RAW12,        0x82100005},
+    {SDK4_COLORCODING_RAW14,        0x82100025},
+    {155,                           0x82100007}, // not named by the interface
 };
 // clang-format on
 

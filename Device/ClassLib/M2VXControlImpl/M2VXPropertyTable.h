@@ -56,7 +56,7 @@ public:
     UnsignedProperty width                      {list, "width",                 0,   1024, 1024};
     UnsignedProperty height                     {list, "height",                0,   1024, 1024};
     UnsignedProperty pixelFormat                {list, "pixelformat",           0, 0xFFFFFFFF, 0};
-    EnumProperty     colorCoding                {list, "colorcoding",           6, {6}};
+    EnumProperty     colorCoding                {list, "colorcoding",           SDK4_COLORCODING_MONO14, {SDK4_COLORCODING_MONO14}};
     UnsignedProperty brightness                 {list, "brightness",            0,  16383,    0};
     UnsignedProperty contrast                   {list, "contrast",              0,    255,    0};
     UnsignedProperty sharpness                  {list, "sharpness",             0,    255,    0};

@@ -14,10 +14,11 @@ KSignalFormat::KSignalFormat(CFeatureList* features, CRegisterList* registers, I
     Register<SDK4_KSIZE>(ImageSize,   0x28030000, ReadBackFixed, {LoadSettings, ReadoutArea, ColorCoding});
 
     if (IsColorModel(model)) {
-        Enum(ColorCoding, {110, 111, 52, 153, 0, 14, 6}).LockedBy(TLParamsLocked);
+        Enum(ColorCoding, {SDK4_COLORCODING_RGB8, SDK4_COLORCODING_BGR8, SDK4_COLORCODING_YUV422PACKED, SDK4_COLORCODING_RAW14,
+                           SDK4_COLORCODING_MONO8, SDK4_COLORCODING_MONO12PACKED, SDK4_COLORCODING_MONO14}).LockedBy(TLParamsLocked);
     } else {
-        Enum(ColorCoding, {0, 14, 6}).LockedBy(TLParamsLocked);
-}
+        Enum(ColorCoding, {SDK4_COLORCODING_MONO8, SDK4_COLORCODING_MONO12PACKED, SDK4_COLORCODING_MONO14}).LockedBy(TLParamsLocked);
+    }
     Plain<SDK4_KSIZE>(ImageSize);
     // clang-format on
 }
