@@ -65,6 +65,7 @@ protected:
     ~Capability() = default;
 
     using Names = std::initializer_list<std::string_view>;
+    using Pair = std::string_view[2]; ///< the features of a setting that there are two of
 
     // Declarations. A feature is bound to the register of its name and type, which is declared before it.
 
@@ -129,13 +130,13 @@ protected:
         reg->SetCacheMode(automaticMode == 0 ? CacheNormal : CacheNone);
     }
 
-    /// Which of two instances' features a select means.
+    /// The feature that a select means.
     /// @throws X4Error SDK4_ERR_INVALID_PARAMETER for a select other than 0 and 1
-    static std::string_view OneOf(int select, std::string_view first, std::string_view second) {
+    static std::string_view OneOf(int select, const Pair& features) {
         if (select != 0 && select != 1) {
             SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
         }
-        return select == 0 ? first : second;
+        return features[select];
     }
 
     /// Colour models carry a "C" in their name.

@@ -30,14 +30,19 @@ KOverlay::KOverlay(CFeatureList* features, CRegisterList* registers, IControlPor
 }
 
 // clang-format off
-SDK4_ENUM_SWITCH KOverlay::GetOverlayShow(int line)                     { SDK4_LOG_CALL(); return GetEnum<SDK4_ENUM_SWITCH>(OneOf(line, OverlayShowLine1, OverlayShowLine2)); }
-void KOverlay::SetOverlayShow(int line, int show)                       { SDK4_LOG_CALL(); Set<int>(OneOf(line, OverlayShowLine1, OverlayShowLine2), show); }
-SDK4_KPOSITION KOverlay::GetOverlayPosition(int line)                   { SDK4_LOG_CALL(); return Get<SDK4_KPOSITION>(OneOf(line, OverlayPositionLine1, OverlayPositionLine2)); }
-void KOverlay::SetOverlayPosition(int line, SDK4_KPOSITION position)    { SDK4_LOG_CALL(); Set<SDK4_KPOSITION>(OneOf(line, OverlayPositionLine1, OverlayPositionLine2), position); }
-SDK4_KSTYLE KOverlay::GetOverlayStyle(int line)                         { SDK4_LOG_CALL(); return Get<SDK4_KSTYLE>(OneOf(line, OverlayStyleLine1, OverlayStyleLine2)); }
-void KOverlay::SetOverlayStyle(int line, SDK4_KSTYLE style)             { SDK4_LOG_CALL(); Set<SDK4_KSTYLE>(OneOf(line, OverlayStyleLine1, OverlayStyleLine2), style); }
-SDK4_KOVERLAYSIZE KOverlay::GetOverlaySize(int line)                    { SDK4_LOG_CALL(); return Get<SDK4_KOVERLAYSIZE>(OneOf(line, OverlaySizeLine1, OverlaySizeLine2)); }
-void KOverlay::SetOverlaySize(int line, SDK4_KOVERLAYSIZE size)         { SDK4_LOG_CALL(); Set<SDK4_KOVERLAYSIZE>(OneOf(line, OverlaySizeLine1, OverlaySizeLine2), size); }
+constexpr std::string_view showOfLine[]     = {OverlayShowLine1,     OverlayShowLine2};
+constexpr std::string_view positionOfLine[] = {OverlayPositionLine1, OverlayPositionLine2};
+constexpr std::string_view styleOfLine[]    = {OverlayStyleLine1,    OverlayStyleLine2};
+constexpr std::string_view sizeOfLine[]     = {OverlaySizeLine1,     OverlaySizeLine2};
+
+SDK4_ENUM_SWITCH KOverlay::GetOverlayShow(int line)                  { SDK4_LOG_CALL(); return GetEnum<SDK4_ENUM_SWITCH>(OneOf(line, showOfLine)); }
+void KOverlay::SetOverlayShow(int line, int show)                    { SDK4_LOG_CALL(); Set<int>(OneOf(line, showOfLine), show); }
+SDK4_KPOSITION KOverlay::GetOverlayPosition(int line)                { SDK4_LOG_CALL(); return Get<SDK4_KPOSITION>(OneOf(line, positionOfLine)); }
+void KOverlay::SetOverlayPosition(int line, SDK4_KPOSITION position) { SDK4_LOG_CALL(); Set<SDK4_KPOSITION>(OneOf(line, positionOfLine), position); }
+SDK4_KSTYLE KOverlay::GetOverlayStyle(int line)                      { SDK4_LOG_CALL(); return Get<SDK4_KSTYLE>(OneOf(line, styleOfLine)); }
+void KOverlay::SetOverlayStyle(int line, SDK4_KSTYLE style)          { SDK4_LOG_CALL(); Set<SDK4_KSTYLE>(OneOf(line, styleOfLine), style); }
+SDK4_KOVERLAYSIZE KOverlay::GetOverlaySize(int line)                 { SDK4_LOG_CALL(); return Get<SDK4_KOVERLAYSIZE>(OneOf(line, sizeOfLine)); }
+void KOverlay::SetOverlaySize(int line, SDK4_KOVERLAYSIZE size)      { SDK4_LOG_CALL(); Set<SDK4_KOVERLAYSIZE>(OneOf(line, sizeOfLine), size); }
 // clang-format on
 
 } // namespace SDK4::Control

@@ -22,12 +22,14 @@ KSignalAnalysis::KSignalAnalysis(CFeatureList* features, CRegisterList* register
 }
 
 // clang-format off
+constexpr std::string_view measureWindows[] = {MeasureWindow1, MeasureWindow2};
+
 SDK4_ENUM_SWITCH KSignalAnalysis::GetMeasureFrameShow()             { SDK4_LOG_CALL(); return GetEnum<SDK4_ENUM_SWITCH>(MeasureFrameShow); }
 void KSignalAnalysis::SetMeasureFrameShow(int show)                 { SDK4_LOG_CALL(); Set<int>(MeasureFrameShow, show); }
 SDK4_ENUM_MFCOLOR KSignalAnalysis::GetMeasureFrameColor()           { SDK4_LOG_CALL(); return GetEnum<SDK4_ENUM_MFCOLOR>(MeasureFrameColor); }
 void KSignalAnalysis::SetMeasureFrameColor(int color)               { SDK4_LOG_CALL(); Set<int>(MeasureFrameColor, color); }
-SDK4_KAREA KSignalAnalysis::GetMeasureWindow(int window)            { SDK4_LOG_CALL(); return Get<SDK4_KAREA>(OneOf(window, MeasureWindow1, MeasureWindow2)); }
-void KSignalAnalysis::SetMeasureWindow(int window, SDK4_KAREA area) { SDK4_LOG_CALL(); Set<SDK4_KAREA>(OneOf(window, MeasureWindow1, MeasureWindow2), area); }
+SDK4_KAREA KSignalAnalysis::GetMeasureWindow(int window)            { SDK4_LOG_CALL(); return Get<SDK4_KAREA>(OneOf(window, measureWindows)); }
+void KSignalAnalysis::SetMeasureWindow(int window, SDK4_KAREA area) { SDK4_LOG_CALL(); Set<SDK4_KAREA>(OneOf(window, measureWindows), area); }
 unsigned int KSignalAnalysis::GetMeasureValue(int)                  { SDK4_LOG_CALL(); SDK4_THROW(SDK4_ERR_NOT_IMPLEMENTED); }
 // clang-format on
 
