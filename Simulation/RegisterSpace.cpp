@@ -3,25 +3,33 @@
 #include "Simulation/Addresses.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace Simulation {
 
+namespace {
+
+std::size_t SizeOf(const Register& entry) {
+    const Instance& instance = entry.powerUp.instances.front();
+    return instance.selector.size() + instance.value.size();
+}
+
+} // namespace
+
 RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
     for (const Register& entry : registers) {
-        if (!byAddress.emplace(entry.address, entry).second || !addresses.emplace(entry.name, entry.address).second) {
-            throw std::logic_error("register " + entry.name + " is declared twice, or shares its address");
-        }
-        const Instance& first = entry.powerUp.instances.at(0);
-        if (!first.selector.empty()) {
-            indexed[entry.address] = {
-                first.selector.size(), first.value.size(), entry.powerUp.exchanged, first.selector, {}};
-        }
+        Cell cell{entry, entry.powerUp.instances.at(0).selector, {}, {}};
         for (const Instance& instance : entry.powerUp.instances) {
-            SetValueOf(entry, instance.selector, instance.value);
+            cell.values.push_back(instance.value);
             if (entry.powerUp.keepsRequest) {
-                requests[entry.name].push_back(ToWords(instance.value));
+                cell.requests.push_back(ToWords(instance.value));
             }
+        }
+        const auto [place, isFree] = cells.emplace(entry.address, std::move(cell));
+        if (!isFree || !byName.emplace(entry.name, &place->second).second) {
+            throw std::logic_error("register " + entry.name + " is declared twice, or shares its address");
         }
     }
 }
@@ -30,7 +38,7 @@ bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) cons
     const std::uint64_t end = std::uint64_t{address} + std::max<std::size_t>(length, 1);
     if (address >= firstFunction) {
         const std::uint32_t function = FunctionOf(address);
-        const bool known = function < firstNote && byAddress.contains(function);
+        const bool known = function < firstNote && cells.contains(function);
         return known && end <= std::uint64_t{function} + functionSize;
     }
     const std::uint64_t wordSize = sizeof(std::uint32_t);
@@ -42,125 +50,105 @@ bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) cons
     return true;
 }
 
-const Register* RegisterSpace::IndexedAround(std::uint32_t address) const {
-    const std::uint32_t function = FunctionOf(address);
-    return indexed.contains(function) ? At(function) : nullptr;
+std::size_t RegisterSpace::ChosenInstance(const Cell& cell) {
+    const auto& instances = cell.entry.powerUp.instances;
+    const auto chosen = std::find_if(instances.begin(), instances.end(),
+                                     [&](const Instance& instance) { return instance.selector == cell.selector; });
+    return static_cast<std::size_t>(chosen - instances.begin());
 }
 
-Bytes RegisterSpace::BlockOf(const Register& entry) const {
-    const IndexedRegister& target = indexed.at(entry.address);
-    Bytes block = target.selected;
-    const Bytes value = ValueOf(entry, target.selected);
-    block.insert(block.end(), value.begin(), value.end());
+Bytes RegisterSpace::BlockOf(const Cell& cell) {
+    Bytes block = cell.selector;
+    if (const std::size_t chosen = ChosenInstance(cell); chosen < cell.values.size()) {
+        block.insert(block.end(), cell.values[chosen].begin(), cell.values[chosen].end());
+    }
+    block.resize(SizeOf(cell.entry));
     return block;
 }
 
 void RegisterSpace::Read(std::uint32_t address, std::span<std::uint8_t> bytes) const {
-    const Register* const entry = IndexedAround(address);
-    if (entry == nullptr) {
-        memory.Read(address, bytes);
-        return;
+    std::fill(bytes.begin(), bytes.end(), std::uint8_t{0});
+    for (const Register* entry : Touched(address, bytes.size())) {
+        const std::uint32_t first = std::max(address, entry->address);
+        const Bytes block = BlockOf(cells.at(entry->address));
+        const auto part = std::span(block).subspan(first - entry->address);
+        const auto target = bytes.subspan(first - address);
+        std::copy_n(part.begin(), std::min(part.size(), target.size()), target.begin());
     }
-    const Bytes block = BlockOf(*entry);
-    const std::size_t offset = std::min<std::size_t>(address - entry->address, block.size());
-    const std::size_t count = std::min(bytes.size(), block.size() - offset);
-    std::fill(std::copy_n(block.begin() + static_cast<std::ptrdiff_t>(offset), count, bytes.begin()), bytes.end(),
-              std::uint8_t{0}); // what lies behind the register
 }
 
 std::vector<RegisterSpace::Change> RegisterSpace::Write(std::uint32_t address, std::span<const std::uint8_t> bytes) {
-    if (const Register* const entry = IndexedAround(address)) {
-        Bytes block = BlockOf(*entry);
-        const std::size_t offset = address - entry->address;
-        if (offset >= block.size()) {
-            return {};
-        }
-        block.resize(offset); // a part of the register reaches the instance that is chosen
-        block.insert(block.end(), bytes.begin(), bytes.end());
-        return WriteIndexed(*entry, block);
-    }
     std::vector<Change> changes;
     for (const Register* entry : Touched(address, bytes.size())) {
-        changes.push_back({*entry, 0, Get(entry->name)});
-        const auto size = static_cast<std::uint32_t>(entry->powerUp.instances.front().value.size());
         const std::uint32_t first = std::max(address, entry->address);
-        const auto written = bytes.subspan(first - address);
-        memory.Write(first, written.first(std::min<std::size_t>(written.size(), entry->address + size - first)));
+        Write(cells.at(entry->address), first - entry->address, bytes.subspan(first - address), changes);
     }
     return changes;
 }
 
-std::vector<RegisterSpace::Change> RegisterSpace::WriteIndexed(const Register& entry,
-                                                               std::span<const std::uint8_t> bytes) {
-    IndexedRegister& target = indexed.at(entry.address);
-    const auto selector = bytes.first(std::min(bytes.size(), target.selectorBytes));
-    target.selected.assign(selector.begin(), selector.end());
-    target.selected.resize(target.selectorBytes);
-    const auto value = bytes.subspan(selector.size());
-    if (value.empty()) {
-        if (target.exchanged) {
-            std::rotate(target.selected.begin(), target.selected.begin() + sizeof(std::uint32_t),
-                        target.selected.end());
+void RegisterSpace::Write(Cell& cell, std::size_t offset, std::span<const std::uint8_t> bytes,
+                          std::vector<Change>& changes) {
+    Bytes& selector = cell.selector;
+    const std::size_t selectorSize = selector.size();
+    if (offset < selectorSize) {
+        const auto written = bytes.first(std::min(bytes.size(), selectorSize - offset));
+        selector.resize(offset);
+        selector.insert(selector.end(), written.begin(), written.end());
+        selector.resize(selectorSize);
+        bytes = bytes.subspan(written.size());
+        offset = selectorSize;
+        if (bytes.empty() && cell.entry.powerUp.exchanged) {
+            std::rotate(selector.begin(), selector.begin() + sizeof(std::uint32_t), selector.end());
         }
-        return {};
     }
-    const auto& known = entry.powerUp.instances;
-    const auto chosen = std::find_if(known.begin(), known.end(),
-                                     [&](const Instance& instance) { return instance.selector == target.selected; });
-    if (chosen == known.end()) {
-        return {};
+    const std::size_t chosen = ChosenInstance(cell);
+    if (bytes.empty() || chosen == cell.values.size()) {
+        return;
     }
-    Bytes& instance = target.instances.at(target.selected);
-    const Words before = ToWords(instance);
-    std::copy_n(value.begin(), std::min(value.size(), instance.size()), instance.begin());
-    return {{entry, static_cast<std::uint32_t>(chosen - known.begin()), before}};
+    changes.push_back({cell.entry, static_cast<std::uint32_t>(chosen), ToWords(cell.values[chosen])});
+    const auto target = std::span(cell.values[chosen]).subspan(offset - selectorSize);
+    std::copy_n(bytes.begin(), std::min(bytes.size(), target.size()), target.begin());
 }
 
 std::uint32_t RegisterSpace::Count(const std::string& name) const {
-    return static_cast<std::uint32_t>(Named(name).powerUp.instances.size());
+    return static_cast<std::uint32_t>(Named(name).values.size());
 }
 
 Words RegisterSpace::Get(const std::string& name, std::uint32_t index) const {
-    const Register& entry = Named(name);
-    return ToWords(ValueOf(entry, entry.powerUp.instances.at(index).selector));
+    return ToWords(Named(name).values.at(index));
 }
 
 void RegisterSpace::Set(const std::string& name, const Words& words, std::uint32_t index) {
-    const Register& entry = Named(name);
-    SetValueOf(entry, entry.powerUp.instances.at(index).selector, ToBytes(words));
+    Named(name).values.at(index) = ToBytes(words);
 }
 
 const Words& RegisterSpace::Requested(const std::string& name, std::uint32_t index) const {
-    return requests.at(name).at(index);
+    return Named(name).requests.at(index);
 }
 
 void RegisterSpace::SetRequested(const std::string& name, const Words& words, std::uint32_t index) {
-    requests.at(name).at(index) = words;
+    Named(name).requests.at(index) = words;
 }
 
 const Register* RegisterSpace::Find(const std::string& name) const {
-    const auto found = addresses.find(name);
-    return found == addresses.end() ? nullptr : &byAddress.at(found->second);
+    const auto found = byName.find(name);
+    return found == byName.end() ? nullptr : &found->second->entry;
 }
 
 const Register* RegisterSpace::At(std::uint32_t address) const {
-    const auto found = byAddress.find(address);
-    return found == byAddress.end() ? nullptr : &found->second;
+    const auto found = cells.find(address);
+    return found == cells.end() ? nullptr : &found->second.entry;
 }
 
 std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::size_t length) const {
-    if (indexed.contains(address)) {
-        return {At(address)};
-    }
     std::vector<const Register*> touched;
-    auto next = byAddress.upper_bound(address);
-    if (next != byAddress.begin()) {
+    auto next = cells.upper_bound(address);
+    if (next != cells.begin()) {
         --next; // the only one that begins before the access and may reach into it: registers do not overlap
     }
-    for (; next != byAddress.end() && next->first < std::uint64_t{address} + length; ++next) {
-        const Register& entry = next->second;
-        const std::uint64_t end = std::uint64_t{entry.address} + entry.powerUp.instances.front().value.size();
-        if (end > address && !indexed.contains(entry.address)) {
+    for (; next != cells.end() && next->first < std::uint64_t{address} + length; ++next) {
+        const Register& entry = next->second.entry;
+        if (std::uint64_t{entry.address} + SizeOf(entry) > address) {
             touched.push_back(&entry);
         }
     }
@@ -169,15 +157,11 @@ std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::
 
 RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const {
     Content content;
-    for (const auto& [address, entry] : byAddress) {
-        if (std::find(roles.begin(), roles.end(), entry.role) != roles.end()) {
-            Held& held = content[entry.name];
-            for (std::uint32_t i = 0; i < entry.powerUp.instances.size(); ++i) {
-                held.values.push_back(Get(entry.name, i));
-            }
-            if (entry.powerUp.keepsRequest) {
-                held.requests = requests.at(entry.name);
-            }
+    for (const auto& [address, cell] : cells) {
+        if (std::find(roles.begin(), roles.end(), cell.entry.role) != roles.end()) {
+            Held& held = content[cell.entry.name];
+            std::transform(cell.values.begin(), cell.values.end(), std::back_inserter(held.values), ToWords);
+            held.requests = cell.requests;
         }
     }
     return content;
@@ -185,40 +169,20 @@ RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const
 
 void RegisterSpace::Load(const Content& content) {
     for (const auto& [name, held] : content) {
-        for (std::uint32_t i = 0; i < held.values.size(); ++i) {
-            Set(name, held.values[i], i);
-        }
+        Cell& cell = Named(name);
+        std::transform(held.values.begin(), held.values.end(), cell.values.begin(), ToBytes);
         if (!held.requests.empty()) {
-            requests.at(name) = held.requests;
+            cell.requests = held.requests;
         }
     }
 }
 
-const Register& RegisterSpace::Named(const std::string& name) const {
-    const Register* const found = Find(name);
-    if (found == nullptr) {
+RegisterSpace::Cell& RegisterSpace::Named(const std::string& name) const {
+    const auto found = byName.find(name);
+    if (found == byName.end()) {
         throw std::logic_error("no register is named " + name);
     }
-    return *found;
-}
-
-Bytes RegisterSpace::ValueOf(const Register& entry, const Bytes& selector) const {
-    if (selector.empty()) {
-        Bytes bytes(entry.powerUp.instances.front().value.size());
-        memory.Read(entry.address, bytes);
-        return bytes;
-    }
-    const IndexedRegister& target = indexed.at(entry.address);
-    const auto found = target.instances.find(selector);
-    return found == target.instances.end() ? Bytes(target.valueBytes) : found->second;
-}
-
-void RegisterSpace::SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value) {
-    if (selector.empty()) {
-        memory.Write(entry.address, value);
-    } else {
-        indexed.at(entry.address).instances[selector] = value;
-    }
+    return *found->second;
 }
 
 } // namespace Simulation

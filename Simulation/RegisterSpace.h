@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Simulation/Memory.h"
 #include "Simulation/Register.h"
 
 #include <map>
@@ -30,6 +29,8 @@ namespace Simulation {
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
+    RegisterSpace(const RegisterSpace&) = delete;
+    RegisterSpace& operator=(const RegisterSpace&) = delete;
 
     /// A register whose value a write has reached.
     struct Change {
@@ -74,28 +75,25 @@ public:
     void Load(const Content& content);
 
 private:
-    struct IndexedRegister {
-        std::size_t selectorBytes = 0;
-        std::size_t valueBytes = 0;
-        bool exchanged = false;
-        Bytes selected;
-        std::map<Bytes, Bytes> instances; ///< by selector; one that is missing reads as zeros
+    /// A register and what it holds.
+    struct Cell {
+        Register entry;
+        Bytes selector;              ///< the chosen one; empty for a plain register
+        std::vector<Bytes> values;   ///< of each instance
+        std::vector<Words> requests; ///< the same, if they are kept
     };
 
-    /// The indexed register in whose function the address lies, or null.
-    [[nodiscard]] const Register* IndexedAround(std::uint32_t address) const;
-    /// An indexed register as it is read: the chosen selector, then the value behind it.
-    [[nodiscard]] Bytes BlockOf(const Register& entry) const;
-    [[nodiscard]] std::vector<Change> WriteIndexed(const Register& entry, std::span<const std::uint8_t> bytes);
-    [[nodiscard]] const Register& Named(const std::string& name) const;
-    [[nodiscard]] Bytes ValueOf(const Register& entry, const Bytes& selector) const;
-    void SetValueOf(const Register& entry, const Bytes& selector, const Bytes& value);
+    [[nodiscard]] Cell& Named(const std::string& name) const;
+    /// Which instance is chosen: the number of instances if there is none of that selector.
+    [[nodiscard]] static std::size_t ChosenInstance(const Cell& cell);
+    /// A register as it is read: the chosen selector, then the value behind it, zeros if there is none.
+    [[nodiscard]] static Bytes BlockOf(const Cell& cell);
+    /// Writes the register from the offset on.
+    static void Write(Cell& cell, std::size_t offset, std::span<const std::uint8_t> bytes,
+                      std::vector<Change>& changes);
 
-    std::map<std::uint32_t, Register> byAddress;
-    std::unordered_map<std::string, std::uint32_t> addresses; ///< by name
-    std::map<std::uint32_t, IndexedRegister> indexed;
-    std::unordered_map<std::string, std::vector<Words>> requests; ///< by name, of each instance
-    Memory memory;
+    std::map<std::uint32_t, Cell> cells; ///< by address
+    std::unordered_map<std::string, Cell*> byName;
 };
 
 } // namespace Simulation
