@@ -20,7 +20,7 @@ std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const std::string& model, 
             Simulation::LoadState(*camera, options.state);
         }
         for (const std::string& fault : options.faults) {
-            camera->PlantFault(fault);
+            camera->InjectFault(fault);
         }
     } catch (const Simulation::StateError& error) {
         throw OpenError(error.what());
@@ -40,7 +40,7 @@ SimulatedConnection::~SimulatedConnection() = default;
 
 SDK4::IControlPort& SimulatedConnection::Port() { return *camera; }
 
-void SimulatedConnection::Wait(std::chrono::microseconds time) { camera->Pass(time); }
+void SimulatedConnection::Wait(std::chrono::microseconds time) { camera->Advance(time); }
 
 void SimulatedConnection::SaveState() const {
     if (!state.empty()) {

@@ -11,7 +11,8 @@ constexpr std::uint32_t privilegeAddress = 0x00000A00; ///< of the control chann
 constexpr std::uint32_t bootstrapEnd = 0x00010000;     ///< below it the standard rules
 constexpr std::uint32_t firstFunction = 0x01000000;    ///< from there on each function has functionSize addresses
 constexpr std::uint32_t functionSize = 0x00010000;
-constexpr std::uint32_t firstNote = 0xE0000000; ///< from there on are the camera's own notes, which no host reaches
+constexpr std::uint32_t firstInternal =
+    0xE0000000; ///< from there on is the camera's internal state, which no host reaches
 
 /// The first address of the function that the address belongs to.
 [[nodiscard]] constexpr std::uint32_t FunctionOf(std::uint32_t address) { return address & ~(functionSize - 1); }

@@ -7,7 +7,7 @@ namespace Simulation {
 namespace {
 
 /// @return whether the channel was moving
-bool Move(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
+bool MoveStep(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
     const Words target = space.Get(axes.target, channel);
     if (target[0] == 0) {
         return false;
@@ -24,24 +24,25 @@ bool Move(RegisterSpace& space, const Axes& axes, std::uint32_t channel) {
     return true;
 }
 
-void Send(RegisterSpace& space, const Axes& axes, const RegisterSpace::Change& change) {
+void StartMove(RegisterSpace& space, const Axes& axes, const RegisterSpace::Change& change) {
     const std::uint32_t channel = change.index;
     const std::uint32_t to = space.Get(axes.position, channel)[0];
     const bool moved = space.Get(axes.target, channel)[0] != 0;
     space.Set(axes.position, change.before, channel);
     space.Set(axes.target, {1, to}, channel);
     space.Set(axes.moving, {space.Get(axes.moving)[0] + (moved ? 0 : 1)});
-    Move(space, axes, channel);
+    MoveStep(space, axes, channel);
 }
 
 } // namespace
 
 void AddAxes(SimulatedCamera& camera, const Axes& axes) {
-    camera.AfterWrite(axes.position, [axes](RegisterSpace& space, const auto& change) { Send(space, axes, change); });
+    camera.AfterWrite(axes.position,
+                      [axes](RegisterSpace& space, const auto& change) { StartMove(space, axes, change); });
     camera.EachStep([axes](RegisterSpace& space, auto) {
         std::uint32_t left = space.Get(axes.moving)[0];
         for (std::uint32_t i = 0, count = space.Count(axes.position); left != 0 && i < count; ++i) {
-            if (Move(space, axes, i)) {
+            if (MoveStep(space, axes, i)) {
                 --left;
             }
         }

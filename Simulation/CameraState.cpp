@@ -23,18 +23,18 @@ using Json = nlohmann::json;
 const char* const format = "simulated camera";
 const char* const serialNumber = "serial number";
 const char* const macAddress = "MAC address";
-const std::string requestOf = "asked "; // and the register's name: what was requested of it
+const std::string requestPrefix = "asked "; // and the register's name: what was requested of it
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
-const std::vector<Role> rememberedRoles = {Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile};
+const std::vector<Role> savedRoles = {Role::Status, Role::Setting, Role::NonVolatile, Role::Volatile};
 
 std::string Model(const RegisterSpace& space) {
     const Bytes bytes = ToBytes(space.Get("modelname"));
     return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
 }
 
-/// Without what only a planted fault can have put there.
-std::vector<Words> Sane(const Register& entry, std::vector<Words> instances) {
+/// Without what only an injected fault can have put there.
+std::vector<Words> WithinLimits(const Register& entry, std::vector<Words> instances) {
     for (std::size_t i = 0; i < instances.size(); ++i) {
         if (!Admit(entry.limits, instances[i])) {
             instances[i] = ToWords(entry.powerUp.instances[i].value);
@@ -45,25 +45,25 @@ std::vector<Words> Sane(const Register& entry, std::vector<Words> instances) {
 
 Json ToJson(const RegisterSpace& space, const RegisterSpace::Content& content) {
     Json registers = Json::object();
-    for (const auto& [name, held] : content) {
+    for (const auto& [name, state] : content) {
         const Register& entry = *space.Find(name);
-        registers[name] = Sane(entry, held.values);
+        registers[name] = WithinLimits(entry, state.values);
         if (entry.powerUp.keepsRequest) {
-            registers[requestOf + name] = Sane(entry, held.requests);
+            registers[requestPrefix + name] = WithinLimits(entry, state.requests);
         }
     }
     return registers;
 }
 
 /// A line per register and per settings set, for those who look into the file.
-std::string Lines(const Json& value, int depth, const std::string& indent) {
+std::string Formatted(const Json& value, int depth, const std::string& indent) {
     if (depth == 0 || value.empty() || !value.is_object()) {
         return value.dump();
     }
     std::string text;
     for (const auto& [name, member] : value.items()) {
         text += (text.empty() ? "{\n" : ",\n") + indent + "  " + Json(name).dump() + ": " +
-                Lines(member, depth - 1, indent + "  ");
+                Formatted(member, depth - 1, indent + "  ");
     }
     return text + "\n" + indent + "}";
 }
@@ -123,11 +123,11 @@ std::vector<Words> ReadInstances(const Json& stored, const Register& entry) {
 RegisterSpace::Content ReadContent(const Json& registers, const RegisterSpace& space, const std::vector<Role>& roles) {
     RegisterSpace::Content content = space.Save(roles);
     std::size_t members = content.size();
-    for (auto& [name, held] : content) {
+    for (auto& [name, state] : content) {
         const Register& entry = *space.Find(name);
-        held.values = ReadInstances(Member(registers, name), entry);
+        state.values = ReadInstances(Member(registers, name), entry);
         if (entry.powerUp.keepsRequest) {
-            held.requests = ReadInstances(Member(registers, requestOf + name), entry);
+            state.requests = ReadInstances(Member(registers, requestPrefix + name), entry);
             ++members;
         }
     }
@@ -151,7 +151,7 @@ SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
     return sets;
 }
 
-void CheckOwner(const Json& file, const RegisterSpace& space) {
+void CheckHeader(const Json& file, const RegisterSpace& space) {
     if (!file.is_object() || file.value("format", Json()) != format) {
         throw std::runtime_error("this is not the memory of a simulated camera");
     }
@@ -187,9 +187,9 @@ RegisterSpace::Content ReadIdentity(const Json& file, const RegisterSpace& space
 
 void Apply(const Json& file, SimulatedCamera& camera) {
     RegisterSpace& space = camera.Registers();
-    CheckOwner(file, space);
+    CheckHeader(file, space);
     const auto time = Number(Member(file, "microseconds"), longestTime, "the time");
-    auto content = ReadContent(Member(file, "registers"), space, rememberedRoles);
+    auto content = ReadContent(Member(file, "registers"), space, savedRoles);
     content.merge(ReadIdentity(file, space));
     auto sets = ReadSets(Member(file, "settings sets"), space);
 
@@ -213,12 +213,12 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
                        {serialNumber, SerialNumberOf(space)},
                        {macAddress, MacAddressOf(space)},
                        {"microseconds", static_cast<std::uint64_t>(camera.Time().count())},
-                       {"registers", ToJson(space, space.Save(rememberedRoles))},
+                       {"registers", ToJson(space, space.Save(savedRoles))},
                        {"settings sets", sets}};
 
     const std::filesystem::path fresh = path.string() + ".new" + std::to_string(getpid());
     std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
-    out << Lines(file, 3, "") << '\n';
+    out << Formatted(file, 3, "") << '\n';
     out.close();
     std::error_code error(errno, std::generic_category());
     if (out) {

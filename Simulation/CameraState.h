@@ -15,7 +15,7 @@ public:
 
 /// Writes what the camera holds to a file, for the next run of the program: permanent memory (settings sets, start-up
 /// set, user-defined name, persistent addresses, defect pixels), serial number and MAC address, all other registers as
-/// they are, and the camera's time. The file is replaced as a whole or not at all. Planted faults do not go into it.
+/// they are, and the camera's time. The file is replaced as a whole or not at all. Injected faults do not go into it.
 /// @throws StateError
 void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path);
 

@@ -24,115 +24,119 @@ std::optional<std::int64_t> ParseNumber(std::string_view text) {
 }
 
 /// "kind:register" or "kind:register=number", taken apart.
-struct Order {
+struct FaultSpec {
     std::string text;
     std::string kind;
     std::string target;
     std::optional<std::int64_t> number;
 };
 
-Order Parse(std::string_view text) {
-    Order order{std::string(text), {}, {}, {}};
-    const auto colon = order.text.find(':');
-    const auto equals = order.text.find('=', colon == std::string::npos ? 0 : colon);
-    order.kind = order.text.substr(0, colon);
+[[noreturn]] void Refuse(const FaultSpec& spec, const std::string& reason) {
+    throw FaultError("fault \"" + spec.text + "\": " + reason);
+}
+
+FaultSpec Parse(std::string_view text) {
+    FaultSpec spec{std::string(text), {}, {}, {}};
+    const auto colon = spec.text.find(':');
+    const auto equals = spec.text.find('=', colon == std::string::npos ? 0 : colon);
+    spec.kind = spec.text.substr(0, colon);
     if (colon != std::string::npos) {
-        order.target = order.text.substr(colon + 1, equals == std::string::npos ? equals : equals - colon - 1);
+        spec.target = spec.text.substr(colon + 1, equals == std::string::npos ? equals : equals - colon - 1);
     }
     if (equals != std::string::npos) {
-        order.number = ParseNumber(std::string_view(order.text).substr(equals + 1));
-        if (!order.number) {
-            throw FaultError("fault \"" + order.text + "\": what stands behind = is not a number");
+        spec.number = ParseNumber(std::string_view(spec.text).substr(equals + 1));
+        if (!spec.number) {
+            Refuse(spec, "what stands behind = is not a number");
         }
     }
-    return order;
+    return spec;
 }
 
-std::int64_t NumberOf(const Order& order) {
-    if (!order.number) {
-        throw FaultError("fault \"" + order.text + "\": " + order.kind + " needs a number, as in \"" + order.kind +
-                         ":" + (order.target.empty() ? "gain" : order.target) + "=1\"");
+std::int64_t NumberOf(const FaultSpec& spec) {
+    if (!spec.number) {
+        Refuse(spec, spec.kind + " needs a number, as in \"" + spec.kind + ":" +
+                         (spec.target.empty() ? "gain" : spec.target) + "=1\"");
     }
-    return *order.number;
+    return *spec.number;
 }
 
-/// The register that the order names, or whose address it gives; null for an address that no register has.
-const Register* Target(const Order& order, const RegisterSpace& space) {
-    if (const Register* const named = space.Find(order.target)) {
+/// The register that the spec names, or whose address it gives; null for an address that no register has.
+const Register* Target(const FaultSpec& spec, const RegisterSpace& space) {
+    if (const Register* const named = space.Find(spec.target)) {
         return named;
     }
-    const auto number = ParseNumber(order.target);
+    const auto number = ParseNumber(spec.target);
     if (!number || *number < 0) {
-        throw FaultError("fault \"" + order.text + "\": this camera has no register \"" + order.target + "\"");
+        Refuse(spec, "this camera has no register \"" + spec.target + "\"");
     }
     return space.At(static_cast<std::uint32_t>(*number));
 }
 
-const std::string& NameOf(const Order& order, const RegisterSpace& space) {
-    const Register* const target = Target(order, space);
+const std::string& NameOf(const FaultSpec& spec, const RegisterSpace& space) {
+    const Register* const target = Target(spec, space);
     if (target == nullptr) {
-        throw FaultError("fault \"" + order.text + "\": no register of this camera begins at " + order.target);
+        Refuse(spec, "no register of this camera begins at " + spec.target);
     }
     return target->name;
 }
 
-const std::string& SettingOf(const Order& order, const RegisterSpace& space) {
-    const std::string& name = NameOf(order, space);
+const std::string& SettingOf(const FaultSpec& spec, const RegisterSpace& space) {
+    const std::string& name = NameOf(spec, space);
     if (space.Find(name)->role != Role::Setting) {
-        throw FaultError("fault \"" + order.text + "\": no settings set holds " + name);
+        Refuse(spec, "no settings set holds " + name);
     }
     return name;
 }
 
-const std::string& ModeOf(const Order& order, const RegisterSpace& space, const std::set<std::string>& automatics) {
-    const std::string& name = NameOf(order, space);
+const std::string& ModeOf(const FaultSpec& spec, const RegisterSpace& space, const std::set<std::string>& automatics) {
+    const std::string& name = NameOf(spec, space);
     if (!automatics.contains(name)) {
         std::string known;
         for (const std::string& mode : automatics) {
             known += (known.empty() ? "" : ", ") + mode;
         }
-        throw FaultError("fault \"" + order.text + "\": " + name + " is no automatic mode; this camera has " + known);
+        Refuse(spec, name + " is no automatic mode; this camera has " + known);
     }
     return name;
 }
 
-std::pair<std::uint64_t, std::uint64_t> ExtentOf(const Order& order, const RegisterSpace& space) {
-    if (const Register* const target = Target(order, space)) {
+std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultSpec& spec, const RegisterSpace& space) {
+    if (const Register* const target = Target(spec, space)) {
         const Instance& instance = target->powerUp.instances.front();
         const std::uint64_t bytes = instance.selector.size() + instance.value.size();
         return {target->address, target->address + bytes - 1};
     }
-    const auto address = static_cast<std::uint32_t>(*ParseNumber(order.target));
+    const auto address = static_cast<std::uint32_t>(*ParseNumber(spec.target));
     if (!space.HasAddresses(address, sizeof address)) {
-        throw FaultError("fault \"" + order.text + "\": this camera has no address " + order.target);
+        Refuse(spec, "this camera has no address " + spec.target);
     }
     return {address, std::uint64_t{address} + sizeof address - 1};
 }
 
 } // namespace
 
-void Faults::Plant(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
-    const Order order = Parse(text);
-    if (order.number && order.kind != "clamp" && order.kind != "offset") {
-        throw FaultError("fault \"" + order.text + "\": only clamp and offset take a number");
+void Faults::Inject(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
+    const FaultSpec spec = Parse(text);
+    if (spec.number && spec.kind != "clamp" && spec.kind != "offset") {
+        Refuse(spec, "only clamp and offset take a number");
     }
-    if (order.kind == "fail" || order.kind == "failread" || order.kind == "failwrite") {
-        const auto [first, last] = ExtentOf(order, space);
-        failing.push_back({first, last, order.kind != "failwrite", order.kind != "failread"});
-    } else if (order.kind == "null") {
-        mute.insert(static_cast<std::uint32_t>(ExtentOf(order, space).first));
-    } else if (order.kind == "ignore") {
-        ignored.insert(NameOf(order, space));
-    } else if (order.kind == "stale") {
-        stale.insert(SettingOf(order, space));
-    } else if (order.kind == "endless") {
-        endless[ModeOf(order, space, automatics)] = false;
-    } else if (order.kind == "clamp") {
-        highest[NameOf(order, space)] = NumberOf(order);
-    } else if (order.kind == "offset") {
-        offset[NameOf(order, space)] = NumberOf(order);
+    if (spec.kind == "fail" || spec.kind == "failread" || spec.kind == "failwrite") {
+        const auto [first, last] = ExtentOf(spec, space);
+        failing.push_back({first, last, spec.kind != "failwrite", spec.kind != "failread"});
+    } else if (spec.kind == "null") {
+        nullBlocks.insert(static_cast<std::uint32_t>(ExtentOf(spec, space).first));
+    } else if (spec.kind == "ignore") {
+        ignored.insert(NameOf(spec, space));
+    } else if (spec.kind == "stale") {
+        stale.insert(SettingOf(spec, space));
+    } else if (spec.kind == "endless") {
+        endless[ModeOf(spec, space, automatics)] = false;
+    } else if (spec.kind == "clamp") {
+        highest[NameOf(spec, space)] = NumberOf(spec);
+    } else if (spec.kind == "offset") {
+        offset[NameOf(spec, space)] = NumberOf(spec);
     } else {
-        throw FaultError("fault \"" + order.text + "\": there is no kind \"" + order.kind +
+        Refuse(spec, "there is no kind \"" + spec.kind +
                          "\", but clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
     }
 }

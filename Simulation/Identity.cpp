@@ -8,7 +8,7 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::size_t leadingWord = sizeof(std::uint32_t); ///< of the camera's own register
+constexpr std::size_t prefixSize = sizeof(std::uint32_t); ///< of the camera's own register
 
 std::size_t SizeOf(const RegisterSpace& space, const char* name) {
     return space.Find(name)->powerUp.instances.front().value.size();
@@ -26,14 +26,14 @@ std::string SerialNumberOf(const RegisterSpace& space) {
 RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial) {
     const std::size_t standard = SizeOf(space, "bootstrapserialnumber");
     const std::size_t own = SizeOf(space, "serialnumber");
-    const std::size_t longest = std::min(standard - 1, own - leadingWord); // the standard wants a zero at the end
+    const std::size_t longest = std::min(standard - 1, own - prefixSize); // the standard wants a zero at the end
     const bool isVisible = std::all_of(serial.begin(), serial.end(), [](unsigned char c) { return std::isgraph(c); });
     if (serial.empty() || serial.size() > longest || !isVisible) {
         throw IdentityError("invalid serial number \"" + serial + "\", expected 1 to " + std::to_string(longest) +
                             " ASCII characters without blanks");
     }
     return {{"bootstrapserialnumber", {{WordsOf(Text(standard, serial))}}},
-            {"serialnumber", {{WordsOf(LedText(own, serial))}}}};
+            {"serialnumber", {{WordsOf(PrefixedText(own, serial))}}}};
 }
 
 std::string MacAddressOf(const RegisterSpace& space) {

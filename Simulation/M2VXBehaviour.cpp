@@ -1,4 +1,4 @@
-#include "Simulation/Automatic.h"
+#include "Simulation/AutomaticMode.h"
 #include "Simulation/Axes.h"
 #include "Simulation/M2VX.h"
 #include "Simulation/Temperature.h"
@@ -13,86 +13,86 @@ namespace {
 
 constexpr std::uint32_t frameTime = 33; // milliseconds; so long is exposed unless the exposure time is the host's
 
-void FollowExposure(RegisterSpace& space) {
+void UpdateFrameDuration(RegisterSpace& space) {
     space.Set("frameduration", {std::max(33333U, 1000 * space.Get("exposure")[0])});
 }
 
 /// Outside of mode reset-restart a frame is exposed as long as it lasts.
-void FollowExposureMode(RegisterSpace& space) {
-    const bool own = space.Get("exposuremode")[0] == SDK4_EXPOSUREMODE_RESETRESTART;
-    space.Set("exposure", own ? space.Requested("exposure") : Words{frameTime});
-    FollowExposure(space);
+void UpdateExposureTime(RegisterSpace& space) {
+    const bool isSettable = space.Get("exposuremode")[0] == SDK4_EXPOSUREMODE_RESETRESTART;
+    space.Set("exposure", isSettable ? space.Requested("exposure") : Words{frameTime});
+    UpdateFrameDuration(space);
 }
 
 void AddExposure(SimulatedCamera& camera) {
-    camera.AfterWrite("exposuremode", [](RegisterSpace& space, const auto&) { FollowExposureMode(space); });
-    camera.AfterWrite("exposure", [](RegisterSpace& space, const auto&) { FollowExposure(space); });
-    camera.Derive(FollowExposure);
+    camera.AfterWrite("exposuremode", [](RegisterSpace& space, const auto&) { UpdateExposureTime(space); });
+    camera.AfterWrite("exposure", [](RegisterSpace& space, const auto&) { UpdateFrameDuration(space); });
+    camera.Derive(UpdateFrameDuration);
 }
 
-/// An automatic mode of this family moves a value until it has what it looks for; then its stop mode has it hold still,
-/// whatever the scene does, until it is set anew.
-struct Search {
+/// An automatic mode of this family is a control loop that runs until it has converged; with its stop mode on it then
+/// holds the value, whatever the scene does, until one of its settings is written.
+struct ControlLoop {
     const char* mode;
     const char* stopMode;
-    const char* searching; ///< the camera's note
-    const char* owned;
-    std::function<std::uint32_t(const RegisterSpace&, bool runs)> goal;
+    const char* converging; ///< internal state: 0 when the loop has converged
+    const char* controlled;
+    std::function<std::uint32_t(const RegisterSpace&, bool runs)> target;
 };
 
-void Work(SimulatedCamera& camera, RegisterSpace& space, const Search& search) {
-    const bool runs = camera.Runs(search.mode);
-    if (space.Get(search.searching)[0] == 0 && space.Get(search.stopMode)[0] != 0) {
+void Iterate(SimulatedCamera& camera, RegisterSpace& space, const ControlLoop& loop) {
+    const bool runs = camera.Runs(loop.mode);
+    if (space.Get(loop.converging)[0] == 0 && space.Get(loop.stopMode)[0] != 0) {
         return;
     }
-    const std::uint32_t value = space.Get(search.owned)[0];
-    const std::uint32_t goal = search.goal(space, runs);
-    space.Set(search.owned, {Approach(value, goal)});
-    space.Set(search.searching, {value == goal ? 0U : 1U});
+    const std::uint32_t value = space.Get(loop.controlled)[0];
+    const std::uint32_t target = loop.target(space, runs);
+    space.Set(loop.controlled, {Approach(value, target)});
+    space.Set(loop.converging, {value == target ? 0U : 1U});
 }
 
-void AddSearch(SimulatedCamera& camera, const Search& search, const std::vector<const char*>& orders) {
-    camera.DeclareAutomatic(search.mode);
-    camera.EachStep([&camera, search](RegisterSpace& space, auto) { Work(camera, space, search); });
-    camera.Derive([search](RegisterSpace& space) { space.Set(search.searching, {1}); });
-    for (const char* order : orders) {
-        camera.AfterWrite(order, [&camera, search](RegisterSpace& space, const auto&) {
-            space.Set(search.searching, {1});
-            Work(camera, space, search);
+void AddControlLoop(SimulatedCamera& camera, const ControlLoop& loop, const std::vector<const char*>& settings) {
+    camera.DeclareAutomatic(loop.mode);
+    camera.EachStep([&camera, loop](RegisterSpace& space, auto) { Iterate(camera, space, loop); });
+    camera.Derive([loop](RegisterSpace& space) { space.Set(loop.converging, {1}); });
+    for (const char* setting : settings) {
+        camera.AfterWrite(setting, [&camera, loop](RegisterSpace& space, const auto&) {
+            space.Set(loop.converging, {1});
+            Iterate(camera, space, loop);
         });
     }
 }
 
-/// The sensor is linear: the gain that gives a level follows from light and exposure time.
-std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t light) {
+/// The sensor is linear: the gain that gives a level follows from illumination and exposure time.
+std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
     const std::uint32_t levelOfModeOne = 40;
     const std::uint32_t level = space.Get("agc")[0] == 2 ? space.Get("automaticlevel")[0] : levelOfModeOne;
-    return std::min(568U, 4 * level * 100 * frameTime / (light * space.Get("exposure")[0]));
+    return std::min(568U, 4 * level * 100 * frameTime / (illumination * space.Get("exposure")[0]));
 }
 
-void AddAutomatics(SimulatedCamera& camera, std::uint32_t light) {
-    // Switched on, it goes at once where the last image says; then it follows.
-    camera.AfterWrite("agc", [&camera, light](RegisterSpace& space, const auto&) {
+void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
+    // Switched on, it applies at once the gain that the last image asks for; then it converges step by step.
+    camera.AfterWrite("agc", [&camera, illumination](RegisterSpace& space, const auto&) {
         if (camera.Runs("agc")) {
-            space.Set("gain", {GainFor(space, light)});
+            space.Set("gain", {GainFor(space, illumination)});
         }
     });
-    AddSearch(camera,
-              {"agc", "autogainstopmode", "gain searched", "gain",
-               [light](const RegisterSpace& space, bool runs) {
-                   return runs ? GainFor(space, light) : space.Get("gain")[0];
-               }},
-              {"agc", "automaticlevel", "gain"});
+    AddControlLoop(camera,
+                   {"agc", "autogainstopmode", "gain searched", "gain",
+                    [illumination](const RegisterSpace& space, bool runs) {
+                        return runs ? GainFor(space, illumination) : space.Get("gain")[0];
+                    }},
+                   {"agc", "automaticlevel", "gain"});
 
     // The level lies between the thresholds while it is controlled, and where the scene has it otherwise.
-    const std::uint32_t free = 301 * light / 100;
+    const std::uint32_t free = 301 * illumination / 100;
     camera.Registers().Set("abcxrlevel", {free});
-    AddSearch(camera,
-              {"abc", "abcstopmode", "level searched", "abcxrlevel",
-               [free](const RegisterSpace& space, bool runs) {
-                   return runs ? (space.Get("abcthreshold", 0)[0] + space.Get("abcthreshold", 1)[0]) / 2 : free;
-               }},
-              {"abc", "abcthreshold"});
+    AddControlLoop(camera,
+                   {"abc", "abcstopmode", "level searched", "abcxrlevel",
+                    [free](const RegisterSpace& space, bool runs) {
+                        return runs ? (space.Get("abcthreshold", 0)[0] + space.Get("abcthreshold", 1)[0]) / 2 : free;
+                    }},
+                   {"abc", "abcthreshold"});
 }
 
 /// The pairs up to the last one that replaces a pixel.
@@ -104,8 +104,8 @@ void CountDefectPixels(RegisterSpace& space) {
     space.Set("defectpixelcount", {(entries + 1) / 2});
 }
 
-/// The search finds one pair more than there was.
-void FindDefectPixels(RegisterSpace& space, const World& world) {
+/// The detection finds one pair more than there was.
+void DetectDefectPixels(RegisterSpace& space, const World& world) {
     const std::uint32_t used = space.Get("defectpixelcount")[0];
     if (2 * used < space.Count("defectpixel")) {
         const std::uint32_t column =
@@ -119,14 +119,14 @@ void FindDefectPixels(RegisterSpace& space, const World& world) {
 void AddDefectPixels(SimulatedCamera& camera, const World& world) {
     camera.AfterWrite("defectpixel", [](RegisterSpace& space, const auto&) { CountDefectPixels(space); });
     camera.AfterWrite("autocompensation",
-                      [world](RegisterSpace& space, const auto&) { FindDefectPixels(space, world); });
+                      [world](RegisterSpace& space, const auto&) { DetectDefectPixels(space, world); });
 }
 
 /// What the measure window sees: the scene, and noise.
 void AddMeasuring(SimulatedCamera& camera, const World& world) {
     camera.EachStep([world](RegisterSpace& space, std::uint64_t step) {
         const auto noise = static_cast<std::uint32_t>(world.Noise(Stream::MeasureNoise, step, 1));
-        space.Set("measurevalue", {37 * world.Light() / 100 + noise});
+        space.Set("measurevalue", {37 * world.Illumination() / 100 + noise});
     });
 }
 
@@ -134,7 +134,7 @@ void AddMeasuring(SimulatedCamera& camera, const World& world) {
 
 void AddM2VXBehaviour(SimulatedCamera& camera, const World& world) {
     AddExposure(camera);
-    AddAutomatics(camera, world.Light());
+    AddAutomatics(camera, world.Illumination());
     AddDefectPixels(camera, world);
     AddMeasuring(camera, world);
     AddAxes(camera, {"motorcontrol", "motor target", "motors moving", 8192});

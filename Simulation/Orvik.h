@@ -30,7 +30,7 @@ constexpr std::uint32_t smallestArea = 64; ///< width and height that a readout 
 /// What a time of the camera, base and count, is in microseconds.
 [[nodiscard]] std::uint64_t MicrosecondsOf(const Words& time);
 /// Works out readout time and frame duration.
-void FollowTiming(RegisterSpace& space);
+void UpdateTiming(RegisterSpace& space);
 
 [[nodiscard]] std::vector<Register> OrvikRegisters(const OrvikModel& model);
 void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model);

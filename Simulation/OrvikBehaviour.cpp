@@ -1,4 +1,4 @@
-#include "Simulation/Automatic.h"
+#include "Simulation/AutomaticMode.h"
 #include "Simulation/Orvik.h"
 #include "Simulation/Temperature.h"
 
@@ -8,33 +8,33 @@ namespace Simulation {
 
 namespace {
 
-// How bright an image is: the light, times the exposure time over 20 ms, times 1 at gain 0 to 5 at gain 511. The scene
-// that cameras are adjusted for gives 100, the automatic modes aim at "autoexposurelevel".
+// The level of an image is the illumination, times the exposure time over 20 ms, times the gain factor, 1 at gain 0 and
+// 5 at gain 511. The nominal scene gives 100; "autoexposurelevel" is the target of the automatic modes.
 constexpr std::uint64_t nominalExposure = 20000; // microseconds
 constexpr std::uint64_t longestAutomaticExposure = 1000000;
-constexpr std::uint64_t unity = 256;
+constexpr std::uint64_t unityGain = 256;
 
-std::uint64_t Amplification(std::uint64_t gain) { return unity + 2 * gain; }
+std::uint64_t GainFactor(std::uint64_t gain) { return unityGain + 2 * gain; }
 
-Words ExposureFor(const RegisterSpace& space, std::uint64_t light) {
+Words ExposureFor(const RegisterSpace& space, std::uint64_t illumination) {
     const std::uint64_t level = space.Get("autoexposurelevel")[0];
-    const std::uint64_t time = level * nominalExposure * unity / (light * Amplification(space.Get("gain")[0]));
+    const std::uint64_t time = level * nominalExposure * unityGain / (illumination * GainFactor(space.Get("gain")[0]));
     const std::uint32_t base = space.Get("exposure")[0];
     const std::uint64_t unit = MicrosecondsOf({base, 1});
     return {base,
             static_cast<std::uint32_t>(std::max<std::uint64_t>(std::min(time, longestAutomaticExposure) / unit, 1))};
 }
 
-Words GainFor(const RegisterSpace& space, std::uint64_t light) {
+Words GainFor(const RegisterSpace& space, std::uint64_t illumination) {
     const std::uint64_t level = space.Get("autoexposurelevel")[0];
     const std::uint64_t time = std::max<std::uint64_t>(MicrosecondsOf(space.Get("exposure")), 1);
-    const std::uint64_t amplification = level * nominalExposure * unity / (light * time);
-    const std::uint64_t gain = (std::max(amplification, unity) - unity) / 2;
+    const std::uint64_t factor = level * nominalExposure * unityGain / (illumination * time);
+    const std::uint64_t gain = (std::max(factor, unityGain) - unityGain) / 2;
     return {static_cast<std::uint32_t>(std::min<std::uint64_t>(gain, 511))};
 }
 
-/// What turns white white under the light source that the camera is told of, in this scene.
-Words BalanceFor(const RegisterSpace& space, const World& world) {
+/// The balance that makes white white under the selected light source, in this scene.
+Words WhiteBalanceFor(const RegisterSpace& space, const World& world) {
     const Words balances[] = {{128, 128, 128}, {104, 128, 176}, {120, 128, 148}, {140, 128, 112}};
     Words balance = balances[space.Get("lightsource")[0]];
     for (std::uint32_t i = 0; i < balance.size(); ++i) {
@@ -44,19 +44,19 @@ Words BalanceFor(const RegisterSpace& space, const World& world) {
 }
 
 void AddAutomatics(SimulatedCamera& camera, const World& world) {
-    const std::uint64_t light = world.Light();
-    const auto shade = static_cast<std::uint32_t>(200 - light);
-    const auto exposure = [=](const RegisterSpace& space) { return ExposureFor(space, light); };
-    const auto gain = [=](const RegisterSpace& space) { return GainFor(space, light); };
-    const auto brightness = [=](const RegisterSpace& space) { return Words{space.Get("acc")[0] * shade}; };
+    const std::uint64_t illumination = world.Illumination();
+    const auto compensation = static_cast<std::uint32_t>(200 - illumination);
+    const auto exposure = [=](const RegisterSpace& space) { return ExposureFor(space, illumination); };
+    const auto gain = [=](const RegisterSpace& space) { return GainFor(space, illumination); };
+    const auto brightness = [=](const RegisterSpace& space) { return Words{space.Get("acc")[0] * compensation}; };
     const auto contrast = [](const RegisterSpace& space) { return Words{64 + 16 * space.Get("acc")[0]}; };
-    const auto balance = [=](const RegisterSpace& space) { return BalanceFor(space, world); };
+    const auto balance = [=](const RegisterSpace& space) { return WhiteBalanceFor(space, world); };
     // clang-format off
-    AddAutomatic(camera, {"aet", "exposure",     exposure, FollowTiming});
-    AddAutomatic(camera, {"agc", "gain",         gain});
-    AddAutomatic(camera, {"acc", "brightness",   brightness});
-    AddAutomatic(camera, {"acc", "contrast",     contrast});
-    AddAutomatic(camera, {"awb", "colorbalance", balance});
+    AddAutomaticMode(camera, {"aet", "exposure",     exposure, UpdateTiming});
+    AddAutomaticMode(camera, {"agc", "gain",         gain});
+    AddAutomaticMode(camera, {"acc", "brightness",   brightness});
+    AddAutomaticMode(camera, {"acc", "contrast",     contrast});
+    AddAutomaticMode(camera, {"awb", "colorbalance", balance});
     // clang-format on
 }
 

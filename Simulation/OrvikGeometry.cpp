@@ -15,7 +15,7 @@ namespace Simulation {
 namespace {
 
 /// The area within its limits, and not smaller than the smallest.
-Words Fit(const RegisterSpace& space, Words area) {
+Words ClampArea(const RegisterSpace& space, Words area) {
     const Words min = space.Get("readoutarealimits", SDK4_ROADOMAIN_MIN);
     const Words max = space.Get("readoutarealimits", SDK4_ROADOMAIN_MAX);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
@@ -33,13 +33,13 @@ Words InBinnedPixels(const Words& area, const Words& binning) {
     return {area[0] / binning[0], area[1] / binning[1], (area[2] + 1) / binning[0] - 1, (area[3] + 1) / binning[1] - 1};
 }
 
-void ShowOverlay(RegisterSpace& space, std::uint32_t line) {
+void ClipOverlay(RegisterSpace& space, std::uint32_t line) {
     const Words size = space.Get("imagesize");
     const Words& requested = space.Requested("overlayposition", line);
     space.Set("overlayposition", {std::min(requested[0], size[0] - 1), std::min(requested[1], size[1] - 1)}, line);
 }
 
-void ShowWindow(RegisterSpace& space, std::uint32_t window) {
+void ClipMeasureWindow(RegisterSpace& space, std::uint32_t window) {
     const Words size = space.Get("imagesize");
     Words area = space.Requested("measurewindow", window);
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
@@ -49,40 +49,40 @@ void ShowWindow(RegisterSpace& space, std::uint32_t window) {
     space.Set("measurewindow", area, window);
 }
 
-void Show(RegisterSpace& space, const Words& area) {
+void ApplyArea(RegisterSpace& space, const Words& area) {
     space.Set("readoutarea", area);
     space.Set("readoutarealimits", area, SDK4_ROADOMAIN_ACTIVE);
     space.Set("imagesize", {area[2] - area[0] + 1, area[3] - area[1] + 1});
     for (std::uint32_t i = 0; i < 2; ++i) {
-        ShowOverlay(space, i);
-        ShowWindow(space, i);
+        ClipOverlay(space, i);
+        ClipMeasureWindow(space, i);
     }
 }
 
-void FollowBinning(RegisterSpace& space, const OrvikModel& model) {
+void UpdateBinning(RegisterSpace& space, const OrvikModel& model) {
     const Words binning = space.Get("binning");
     const std::uint32_t width = model.width / binning[0];
     const std::uint32_t height = model.height / binning[1];
     space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, SDK4_ROADOMAIN_MIN);
     space.Set("readoutarealimits", {width - smallestArea, height - smallestArea, width - 1, height - 1},
               SDK4_ROADOMAIN_MAX);
-    Show(space, Fit(space, InBinnedPixels(space.Requested("readoutarea"), binning)));
+    ApplyArea(space, ClampArea(space, InBinnedPixels(space.Requested("readoutarea"), binning)));
 }
 
-void TakeReadoutArea(RegisterSpace& space) {
-    const Words area = Fit(space, space.Get("readoutarea"));
+void ApplyReadoutArea(RegisterSpace& space) {
+    const Words area = ClampArea(space, space.Get("readoutarea"));
     space.SetRequested("readoutarea", InSensorPixels(area, space.Get("binning")));
-    Show(space, area);
+    ApplyArea(space, area);
 }
 
 } // namespace
 
 void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model) {
-    camera.Derive([model](RegisterSpace& space) { FollowBinning(space, model); });
-    camera.AfterWrite("binning", [model](RegisterSpace& space, const auto&) { FollowBinning(space, model); });
-    camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { TakeReadoutArea(space); });
-    camera.AfterWrite("overlayposition", [](auto& space, const auto& change) { ShowOverlay(space, change.index); });
-    camera.AfterWrite("measurewindow", [](auto& space, const auto& change) { ShowWindow(space, change.index); });
+    camera.Derive([model](RegisterSpace& space) { UpdateBinning(space, model); });
+    camera.AfterWrite("binning", [model](RegisterSpace& space, const auto&) { UpdateBinning(space, model); });
+    camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { ApplyReadoutArea(space); });
+    camera.AfterWrite("overlayposition", [](auto& space, const auto& change) { ClipOverlay(space, change.index); });
+    camera.AfterWrite("measurewindow", [](auto& space, const auto& change) { ClipMeasureWindow(space, change.index); });
     for (const char* name : {"readoutarea", "binning", "colorcoding"}) {
         camera.LockWhileAcquiring(name);
     }

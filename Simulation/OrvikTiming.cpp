@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::uint64_t pixelsPerMicrosecond = 320;
 constexpr std::uint64_t bytesPerMicrosecond = 500; // of the link
-constexpr std::uint64_t pause = 100;               // microseconds from one readout to the next
+constexpr std::uint64_t blanking = 100;            // microseconds from one readout to the next
 
 std::uint32_t Bounded(std::uint64_t number) {
     return static_cast<std::uint32_t>(std::min<std::uint64_t>(number, std::numeric_limits<std::uint32_t>::max()));
@@ -43,28 +43,28 @@ std::uint64_t MicrosecondsOf(const Words& exposure) {
     return exposure[1] * unit;
 }
 
-void FollowTiming(RegisterSpace& space) {
+void UpdateTiming(RegisterSpace& space) {
     const Words size = space.Get("imagesize");
     const std::uint64_t pixels = std::uint64_t{size[0]} * size[1];
     const bool slow = space.Get("slowscan")[0] != 0;
     const std::uint64_t fastest = pixels * (slow ? 2 : 1) / pixelsPerMicrosecond;
     const std::uint64_t readout = std::max<std::uint64_t>(space.Requested("readouttime")[0], fastest);
     const std::uint64_t exposure = MicrosecondsOf(space.Get("exposure"));
-    const std::uint64_t sending = BytesOf(pixels, space.Get("colorcoding")[0]) / bytesPerMicrosecond;
+    const std::uint64_t transmission = BytesOf(pixels, space.Get("colorcoding")[0]) / bytesPerMicrosecond;
     // In the free-running modes the next image is exposed while this one is read out.
     const bool freeRunning = space.Get("exposuremode")[0] <= SDK4_EXPOSUREMODE_FREERUNNING2;
 
     space.Set("pixelclock", {slow ? 80000000U : 160000000U});
     space.Set("readouttime", {Bounded(readout)});
-    const std::uint64_t frame = (freeRunning ? std::max(exposure, readout) : exposure + readout) + pause;
-    space.Set("frameduration", {Bounded(std::max(frame, sending))});
+    const std::uint64_t frame = (freeRunning ? std::max(exposure, readout) : exposure + readout) + blanking;
+    space.Set("frameduration", {Bounded(std::max(frame, transmission))});
 }
 
 void AddOrvikTiming(SimulatedCamera& camera) {
-    camera.Derive(FollowTiming);
+    camera.Derive(UpdateTiming);
     for (const char* name :
          {"readouttime", "readoutarea", "binning", "colorcoding", "exposure", "exposuremode", "slowscan"}) {
-        camera.AfterWrite(name, [](RegisterSpace& space, const auto&) { FollowTiming(space); });
+        camera.AfterWrite(name, [](RegisterSpace& space, const auto&) { UpdateTiming(space); });
     }
     camera.LockWhileAcquiring("slowscan");
 }

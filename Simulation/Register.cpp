@@ -49,7 +49,7 @@ Value Table(std::uint32_t columns, const std::vector<Words>& entries) {
     for (std::uint32_t i = 0; i < value.instances.size(); ++i) {
         value.instances[i].selector = ToBytes({i / columns, i % columns});
     }
-    value.exchanged = true;
+    value.swapped = true;
     return value;
 }
 
@@ -64,7 +64,7 @@ Value Text(std::size_t length, std::string_view text) {
     return {{{{}, bytes}}};
 }
 
-Value LedText(std::size_t length, std::string_view text) {
+Value PrefixedText(std::size_t length, std::string_view text) {
     Bytes bytes = ToBytes({static_cast<std::uint32_t>(text.size())});
     bytes.insert(bytes.end(), text.begin(), text.end());
     bytes.resize(length);

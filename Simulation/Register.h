@@ -17,16 +17,16 @@ using Words = std::vector<std::uint32_t>;
 /// Who changes a register, and what becomes of it when settings are loaded or the camera starts anew.
 enum class Role {
     Fixed,       ///< identity: nobody changes it
-    Shown,       ///< the camera's own: it shows it, hosts read it
+    Status,      ///< what the camera reports, and its internal state: hosts do not change it
     Setting,     ///< a settings set saves and loads it
     NonVolatile, ///< permanent memory beside the settings sets
     Volatile,    ///< commands, and what a start forgets
-    Channel, ///< the control channel's: a device on the network sets it, any other camera shows that it has no channel
+    Channel,     ///< the control channel's: set by a device on the network, without meaning for any other camera
 };
 
 /// Whether the camera ignores what a host writes.
 [[nodiscard]] constexpr bool IsReadOnly(Role role) {
-    return role == Role::Fixed || role == Role::Shown || role == Role::Channel;
+    return role == Role::Fixed || role == Role::Status || role == Role::Channel;
 }
 
 /// One of the values behind an address, and the selector that leads to it.
@@ -38,19 +38,20 @@ struct Instance {
 /// The kind of a register and what it holds when the camera is switched on.
 struct Value {
     std::vector<Instance> instances; ///< at least one; their selectors are of one length, and so are their values
-    bool exchanged = false;          ///< whether the two words of a selector change places when they are written alone
+    bool swapped = false;            ///< whether the two words of a selector are swapped when they are written alone
     bool keepsRequest = false;       ///< whether what was requested is kept beside what the camera can do of it for now
 };
 
 // The kinds, for the rows of a register table.
 [[nodiscard]] Value Word(std::uint32_t value);
-[[nodiscard]] Value Record(const Words& fields);                        ///< several words, no padding
-[[nodiscard]] Value Indexed(const std::vector<Words>& instances);       ///< behind an index word, first is index 0
-[[nodiscard]] Value Text(std::size_t length, std::string_view text);    ///< bytes from the first on
-[[nodiscard]] Value LedText(std::size_t length, std::string_view text); ///< a word (the text's size), then the text
+[[nodiscard]] Value Record(const Words& fields);                     ///< several words, no padding
+[[nodiscard]] Value Indexed(const std::vector<Words>& instances);    ///< behind an index word, first is index 0
+[[nodiscard]] Value Text(std::size_t length, std::string_view text); ///< bytes from the first on
+[[nodiscard]] Value PrefixedText(std::size_t length,
+                                 std::string_view text); ///< a word (the text's size), then the text
 /// Values behind selectors of any length, each a selector and its value.
 [[nodiscard]] Value Selected(const std::vector<std::pair<Words, Words>>& instances);
-/// Values behind two words, row and column, exchanged when they are written alone; row by row from {0, 0} on.
+/// Values behind two words, row and column, swapped when they are written alone; row by row from {0, 0} on.
 [[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
 /// The same value, of a setting that is adjusted to others and comes back when they admit it again.
 [[nodiscard]] Value KeepingRequest(Value value);

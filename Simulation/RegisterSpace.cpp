@@ -38,7 +38,7 @@ bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) cons
     const std::uint64_t end = std::uint64_t{address} + std::max<std::size_t>(length, 1);
     if (address >= firstFunction) {
         const std::uint32_t function = FunctionOf(address);
-        const bool known = function < firstNote && cells.contains(function);
+        const bool known = function < firstInternal && cells.contains(function);
         return known && end <= std::uint64_t{function} + functionSize;
     }
     const std::uint64_t wordSize = sizeof(std::uint32_t);
@@ -97,7 +97,7 @@ void RegisterSpace::Write(Cell& cell, std::size_t offset, std::span<const std::u
         selector.resize(selectorSize);
         bytes = bytes.subspan(written.size());
         offset = selectorSize;
-        if (bytes.empty() && cell.entry.powerUp.exchanged) {
+        if (bytes.empty() && cell.entry.powerUp.swapped) {
             std::rotate(selector.begin(), selector.begin() + sizeof(std::uint32_t), selector.end());
         }
     }
@@ -159,20 +159,20 @@ RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const
     Content content;
     for (const auto& [address, cell] : cells) {
         if (std::find(roles.begin(), roles.end(), cell.entry.role) != roles.end()) {
-            Held& held = content[cell.entry.name];
-            std::transform(cell.values.begin(), cell.values.end(), std::back_inserter(held.values), ToWords);
-            held.requests = cell.requests;
+            State& state = content[cell.entry.name];
+            std::transform(cell.values.begin(), cell.values.end(), std::back_inserter(state.values), ToWords);
+            state.requests = cell.requests;
         }
     }
     return content;
 }
 
 void RegisterSpace::Load(const Content& content) {
-    for (const auto& [name, held] : content) {
+    for (const auto& [name, state] : content) {
         Cell& cell = Named(name);
-        std::transform(held.values.begin(), held.values.end(), cell.values.begin(), ToBytes);
-        if (!held.requests.empty()) {
-            cell.requests = held.requests;
+        std::transform(state.values.begin(), state.values.end(), cell.values.begin(), ToBytes);
+        if (!state.requests.empty()) {
+            cell.requests = state.requests;
         }
     }
 }

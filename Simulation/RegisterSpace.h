@@ -20,12 +20,12 @@ namespace Simulation {
 /// | 0x00000000-0x000000F7 | the bootstrap registers of a discovery, and zeros where the standard reserves    |
 /// | 0x000000F8-0x00FFFFFF | registers; what lies between them the camera does not have                       |
 /// | 0xGGFF0000-0xGGFFFFFF | the camera's function GGFF: its register, and zeros behind it                    |
-/// | 0xE0000000-0xFFFFFFFF | nothing for the port: the camera's own notes                                     |
+/// | 0xE0000000-0xFFFFFFFF | nothing for the port: the camera's internal state                                     |
 ///
 /// Where no register is, zeros are read and nothing can be written. An indexed register is a selector and a value: a
 /// write of the selector alone chooses an instance, a longer write sets the instance that it names, if there is one, a
 /// write of the value or of a part of it the chosen one, and a read gives the chosen selector back, followed by its
-/// value. Some registers take a selector of two words with its halves exchanged when it is written alone.
+/// value. Some registers take a selector of two words with its halves swapped when it is written alone.
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
@@ -62,14 +62,14 @@ public:
     [[nodiscard]] std::vector<const Register*> Touched(std::uint32_t address, std::size_t length) const;
 
     /// The words of each instance of a register.
-    struct Held {
+    struct State {
         std::vector<Words> values;
         std::vector<Words> requests = {}; ///< empty for a register that keeps none
 
-        bool operator==(const Held&) const = default;
+        bool operator==(const State&) const = default;
     };
     /// What registers hold, by name.
-    using Content = std::map<std::string, Held>;
+    using Content = std::map<std::string, State>;
     /// What all registers of the roles hold.
     [[nodiscard]] Content Save(const std::vector<Role>& roles) const;
     void Load(const Content& content);

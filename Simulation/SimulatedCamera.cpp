@@ -29,7 +29,7 @@ SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
     AfterWrite("restart", [this](RegisterSpace&, const auto&) { Restart(); });
 }
 
-void SimulatedCamera::Pass(std::chrono::microseconds time) {
+void SimulatedCamera::Advance(std::chrono::microseconds time) {
     const auto before = now / stepTime;
     now += time;
     for (auto step = before + 1; step <= now / stepTime; ++step) {
@@ -68,7 +68,7 @@ void SimulatedCamera::Restart() {
     LoadSettings(space.Get("startupsettings")[0]);
 }
 
-bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
+bool SimulatedCamera::Accept(const RegisterSpace::Change& change) {
     const Register& entry = change.entry;
     Words words = space.Get(entry.name, change.index);
     if (IsReadOnly(entry.role) || faults.Ignores(entry.name) || IsLocked(entry.name) || !Admit(entry.limits, words)) {
@@ -83,8 +83,8 @@ bool SimulatedCamera::Takes(const RegisterSpace::Change& change) {
     return true;
 }
 
-void SimulatedCamera::Begin(const char* operation, bool writes, std::uint32_t address, std::size_t length) {
-    Pass(accessTime);
+void SimulatedCamera::BeginAccess(const char* operation, bool writes, std::uint32_t address, std::size_t length) {
+    Advance(accessTime);
     if (!space.HasAddresses(address, length)) {
         throw InvalidAddressError(operation, address);
     }
@@ -94,10 +94,10 @@ void SimulatedCamera::Begin(const char* operation, bool writes, std::uint32_t ad
 void SimulatedCamera::Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length) {
     RefuseNull(data);
     const auto size = static_cast<std::size_t>(length);
-    Begin(operation, true, address, size);
+    BeginAccess(operation, true, address, size);
     const auto changes = space.Write(address, {static_cast<const std::uint8_t*>(data), size});
     for (const auto& change : changes) {
-        if (Takes(change)) {
+        if (Accept(change)) {
             for (const auto& [name, behaviour] : behaviours) {
                 if (name == change.entry.name) {
                     behaviour(space, change);
@@ -110,7 +110,7 @@ void SimulatedCamera::Write(const char* operation, std::uint32_t address, const 
 void SimulatedCamera::Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length) {
     RefuseNull(data);
     const auto size = static_cast<std::size_t>(length);
-    Begin(operation, false, address, size);
+    BeginAccess(operation, false, address, size);
     space.Read(address, {static_cast<std::uint8_t*>(data), size});
 }
 
@@ -136,7 +136,7 @@ std::uint64_t SimulatedCamera::ReadRegisterPair(std::uint32_t address) {
 }
 
 unsigned char* SimulatedCamera::ReadBlock(std::uint32_t address, std::uint32_t length) {
-    if (faults.AnswersNothing(address)) {
+    if (faults.ReturnsNull(address)) {
         return nullptr;
     }
     // From malloc: the caller frees it, as the port demands.

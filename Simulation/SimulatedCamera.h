@@ -45,12 +45,12 @@ public:
     // For hosts.
 
     /// Lets time pass without an access, as it does for a camera while its host waits.
-    void Pass(std::chrono::microseconds time);
+    void Advance(std::chrono::microseconds time);
 
     /// Starts the camera anew: what is not in permanent memory is as after being switched on.
     void Restart();
 
-    /// Has the camera work wrongly from now on, to see whether a host notices. One text plants one fault; a register is
+    /// Has the camera work wrongly from now on, to see whether a host notices. One text is one fault; a register is
     /// named, or given by its address (0x14010000):
     ///
     /// | Text                | The camera ...                                                                     |
@@ -66,7 +66,7 @@ public:
     /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
     ///
     /// @throws FaultError for a text that is none of these, or a register or an address that this camera does not have.
-    void PlantFault(std::string_view fault) { faults.Plant(fault, space, automatics); }
+    void InjectFault(std::string_view fault) { faults.Inject(fault, space, automatics); }
 
     /// What the camera holds, for a look past the port.
     [[nodiscard]] RegisterSpace& Registers() { return space; }
@@ -106,13 +106,13 @@ public:
 
 private:
     /// What comes before every access. @throws PortError
-    void Begin(const char* operation, bool writes, std::uint32_t address, std::size_t length);
+    void BeginAccess(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
     [[nodiscard]] bool IsLocked(const std::string& name) const { return locked.contains(name) && IsAcquiring(); }
     /// Whether the register takes what was written to it, of which the camera makes what it admits.
-    [[nodiscard]] bool Takes(const RegisterSpace::Change& change);
+    [[nodiscard]] bool Accept(const RegisterSpace::Change& change);
     void LoadSettings(std::uint32_t number);
 
     RegisterSpace space;

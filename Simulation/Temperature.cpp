@@ -4,9 +4,9 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::uint32_t tenthsByAcquisition = 60;
-constexpr std::uint64_t stepsOfDrift = 16;
-constexpr std::uint64_t stepsOfMeasuring = 32;
+constexpr std::uint32_t selfHeating = 60;   // of acquisition, in tenths of a degree
+constexpr std::uint64_t driftInterval = 16; // steps
+constexpr std::uint64_t measureInterval = 32;
 
 } // namespace
 
@@ -17,14 +17,14 @@ void AddTemperature(SimulatedCamera& camera, const World& world) {
     registers.Set("temperature", {degrees});
     registers.Set("warmth", {10 * degrees});
 
-    camera.EachStep([world, idle = 10 * degrees](RegisterSpace& space, std::uint64_t step) {
+    camera.EachStep([world, ambient = 10 * degrees](RegisterSpace& space, std::uint64_t step) {
         std::uint32_t warmth = space.Get("warmth")[0];
-        const std::uint32_t goal = idle + (space.Get("startacquisition")[0] != 0 ? tenthsByAcquisition : 0);
-        if (step % stepsOfDrift == 0 && warmth != goal) {
-            warmth += warmth < goal ? 1U : ~0U;
+        const std::uint32_t target = ambient + (space.Get("startacquisition")[0] != 0 ? selfHeating : 0);
+        if (step % driftInterval == 0 && warmth != target) {
+            warmth += warmth < target ? 1U : ~0U;
             space.Set("warmth", {warmth});
         }
-        const std::int32_t noise = world.Noise(Stream::TemperatureNoise, step / stepsOfMeasuring, 7);
+        const std::int32_t noise = world.Noise(Stream::TemperatureNoise, step / measureInterval, 7);
         space.Set("temperature", {(warmth + static_cast<std::uint32_t>(noise) + 5) / 10});
     });
 }

@@ -6,7 +6,7 @@ namespace Simulation {
 
 /// The streams of random numbers that a world draws from. The numbers are part of what a seed means.
 enum class Stream : std::uint32_t {
-    Brightness = 1, ///< of the scene
+    Illumination = 1, ///< of the scene
     StartTemperature = 2,
     TemperatureNoise = 3,
     MeasureNoise = 4,
@@ -30,9 +30,9 @@ public:
         return Draw(static_cast<std::uint32_t>(stream), time, range);
     }
 
-    /// How bright the scene is, in percent of what cameras are adjusted for.
-    [[nodiscard]] std::uint32_t Light() const {
-        return static_cast<std::uint32_t>(100 + Deviation(Stream::Brightness, 30));
+    /// Of the scene, in percent of the nominal one.
+    [[nodiscard]] std::uint32_t Illumination() const {
+        return static_cast<std::uint32_t>(100 + Deviation(Stream::Illumination, 30));
     }
 
 private:

@@ -54,7 +54,7 @@ void Device::ShowAddress() {
 void Device::PassTime(Time now) {
     const auto due = cameraStart + std::chrono::duration_cast<std::chrono::microseconds>(now - start);
     if (due > camera.Time()) {
-        camera.Pass(due - camera.Time());
+        camera.Advance(due - camera.Time());
     }
     if (control.IsExpired(now)) {
         EndControl();

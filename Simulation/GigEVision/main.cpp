@@ -46,7 +46,7 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
     }
     Name(camera->Registers(), order);
     for (const std::string& fault : order.faults) {
-        camera->PlantFault(fault);
+        camera->InjectFault(fault);
     }
     return camera;
 }

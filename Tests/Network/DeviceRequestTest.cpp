@@ -213,8 +213,8 @@ TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
 
 TEST_F(DeviceTest, AnswersAnErrorWhereAFaultWasPlanted) {
     TakeControl();
-    camera->PlantFault("fail:gain");
-    camera->PlantFault("null:measurewindow");
+    camera->InjectFault("fail:gain");
+    camera->InjectFault("null:measurewindow");
     EXPECT_EQ(Ask("4201 0080 0004 0002 14010000"), "8fff 0081 0000 0002");
     EXPECT_EQ(Ask("4201 0082 0010 0003 18010000 00000001 14010000 00000001"), "8fff 0083 0004 0003 00000001");
     EXPECT_EQ(Ask("4201 0086 0008 0004 14010000 01000000"), "8fff 0087 0004 0004 00000000");

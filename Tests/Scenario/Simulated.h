@@ -26,7 +26,7 @@ public:
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const {
         return camera->Registers().Get(name, index);
     }
-    void Pass(std::chrono::microseconds time) const { camera->Pass(time); }
+    void Advance(std::chrono::microseconds time) const { camera->Advance(time); }
 
     std::unique_ptr<Simulation::SimulatedCamera> camera;
 };

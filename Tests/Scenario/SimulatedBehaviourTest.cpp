@@ -59,26 +59,26 @@ TEST(SimulatedAutomatic, MovesWhatItOwnsStepByStepWhileItIsOn) {
     const Simulated camera("Orvik-520C");
     camera.Write(0x46010000, {1});
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 20000}));
-    camera.Pass(32ms);
+    camera.Advance(32ms);
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 22800})); // half of the way to 25600, which gives a level of 128
     for (int i = 0; i < 64; ++i) {
         (void)camera.camera->ReadRegister(0x46010000);
     }
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 24200})); // as many accesses take as long
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 25600}));
     EXPECT_EQ(camera.Get("frameduration"), Words{31228}); // three bytes per pixel, longer than the exposure
     camera.Write(0x0A030000, {3, 1});
     EXPECT_EQ(camera.Get("exposure"), (Words{3, 13})); // written in milliseconds: it goes on from there
     camera.Write(0x46010000, {0});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("exposure"), (Words{3, 13}));
 
     camera.Write(0x46020000, {2});
     camera.Write(0x46050000, {2});
     camera.Write(0x46040000, {1});
     camera.Write(0x15020000, {1});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{124}); // 128 is 1.97 times as bright as 13 ms are
     EXPECT_EQ(camera.Get("brightness"), Words{200});
     EXPECT_EQ(camera.Get("contrast"), Words{96});
@@ -91,19 +91,19 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     EXPECT_EQ(camera.Get("gain"), Words{120});
     camera.Write(0x46030000, {50});
     EXPECT_EQ(camera.Get("gain"), Words{160}); // on the way to 200
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{200});
 
     camera.Write(0x0A020000, {3}); // exposure times are the host's
     camera.Write(0x0A030000, {66});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{100});
     camera.Write(0x46090000, {1}); // what is found is kept, ...
     camera.Write(0x0A030000, {99});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{100});
     camera.Write(0x46030000, {90}); // ... until something else is to be looked for
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{120});
     camera.Write(0x0A020000, {1});
     EXPECT_EQ(camera.Get("exposure"), Words{33});
@@ -120,10 +120,10 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     camera.Write(0x47090000, {0, 600});
     camera.Write(0x47090000, {1, 500});
     camera.Write(0x47040000, {1});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("abcxrlevel"), Words{550});
     camera.Write(0x47040000, {0});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
 }
 
@@ -168,13 +168,13 @@ TEST(SimulatedAcquisition, ShowsAndLocksGeometryUntilItStops) {
     EXPECT_EQ(camera.Get("colorcoding"), Words{0});
     EXPECT_EQ(camera.Get("gain"), Words{0});
 
-    camera.Pass(60s); // and it gets warm
+    camera.Advance(60s); // and it gets warm
     EXPECT_GE(camera.Get("temperature")[0], 45U);
     camera.Write(0x00088138, {0});
     EXPECT_EQ(camera.Get("startacquisition"), Words{0});
     camera.Write(0x51020000, {1});
     EXPECT_EQ(camera.Get("imagesize"), (Words{1296, 1024}));
-    camera.Pass(60s);
+    camera.Advance(60s);
     EXPECT_LE(camera.Get("temperature")[0], 42U);
 
     const Simulated other("Sollux G");
@@ -192,9 +192,9 @@ Simulation::RegisterSpace::Content Afternoon(const char* model, std::uint64_t se
             camera.Write(mode, {1});
         }
     }
-    camera.Pass(100s);
+    camera.Advance(100s);
     return camera.camera->Registers().Save(
-        {Simulation::Role::Shown, Simulation::Role::Setting, Simulation::Role::NonVolatile, Simulation::Role::Fixed});
+        {Simulation::Role::Status, Simulation::Role::Setting, Simulation::Role::NonVolatile, Simulation::Role::Fixed});
 }
 
 TEST(SimulatedWorld, IsDecidedByItsSeedAlone) {

@@ -74,12 +74,12 @@ TEST(SimulatedMotor, TravelsToWhereItIsSent) {
     camera.Write(0x6E140000, {3, 5});
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{8192});
     EXPECT_EQ(camera.Get("motorcontrol", 3), Words{5});
-    camera.Pass(64ms);
+    camera.Advance(64ms);
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{24576});
     camera.Write(0x6E140000, {255, 100}); // sent back on its way
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{100});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{100});
 }
 
@@ -91,20 +91,20 @@ TEST(SimulatedLens, TravelsByItself) {
     EXPECT_EQ(camera.Get("lenscontrol", 0), Words{1024});
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{1144});
     EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1024});
-    camera.Pass(31ms); // with the accesses it is one step
+    camera.Advance(31ms); // with the accesses it is one step
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{2168});
     EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1500});
     camera.Write(0x6E140000, {0, 65535}); // a motor moves meanwhile
-    camera.Pass(32ms);
+    camera.Advance(32ms);
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{3000});
     EXPECT_EQ(camera.Get("lenscontrol", 2), Words{64}); // was not sent anywhere
     camera.Write(0x0C080000, {1, 0});
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{1976});
-    camera.Pass(1s);
+    camera.Advance(1s);
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{0});
     camera.Write(0x0C080000, {0, 70000});
     camera.Write(0x0C080000, {4, 7}); // there is no lens 4
-    camera.Pass(4s);
+    camera.Advance(4s);
     EXPECT_EQ(camera.Get("lenscontrol", 0), Words{65535});
     camera.Write(0x51010000, {0});
     EXPECT_EQ(camera.Get("lenscontrol", 0), Words{65535}); // where it stands

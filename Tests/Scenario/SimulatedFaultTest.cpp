@@ -1,4 +1,4 @@
-// The faults that can be planted in a simulated camera.
+// The faults that can be injected into a simulated camera.
 
 #include "Simulation/Cameras.h"
 
@@ -15,13 +15,13 @@ namespace Scenario {
 using Simulation::MakeCamera;
 using Simulation::Words;
 
-TEST(PlantedFault, ChangesWhatTheCameraHolds) {
+TEST(InjectedFault, ChangesWhatTheCameraHolds) {
     const auto camera = MakeCamera("Orvik-710C");
     const auto& held = camera->Registers();
     camera->WriteRegister(0x51030000, 1);
     for (const char* fault : {"ignore:gain", "clamp:contrast=100", "offset:sharpness=1", "clamp:lutindex=-2",
                               "ignore:0x51020000", "stale:saturation"}) {
-        camera->PlantFault(fault);
+        camera->InjectFault(fault);
     }
     camera->WriteRegister(0x14010000, 5);
     camera->WriteRegister(0x18020000, 101);
@@ -36,7 +36,7 @@ TEST(PlantedFault, ChangesWhatTheCameraHolds) {
     EXPECT_EQ(held.Get("brightness"), Words{9});
 
     const auto other = MakeCamera("Orvik-710C");
-    other->PlantFault("stale:saturation");
+    other->InjectFault("stale:saturation");
     other->WriteRegister(0x15040000, 9);
     other->WriteRegister(0x18010000, 9);
     other->WriteRegister(0x51020000, 0);
@@ -44,12 +44,12 @@ TEST(PlantedFault, ChangesWhatTheCameraHolds) {
     EXPECT_EQ(other->Registers().Get("brightness"), Words{0});
 }
 
-TEST(PlantedFault, ClampsAndShiftsEachWord) {
+TEST(InjectedFault, ClampsAndShiftsEachWord) {
     const auto camera = MakeCamera("Cerix7-MV");
     const auto held = [&](const char* name, std::uint32_t index = 0) { return camera->Registers().Get(name, index); };
     for (const char* fault : {"clamp:circularblankingposition=700", "offset:measurewindow=-3", "clamp:gain=300",
                               "offset:gain=2", "clamp:shadingcorrection=-5", "ignore:overlaysize"}) {
-        camera->PlantFault(fault);
+        camera->InjectFault(fault);
     }
     const auto write = [&](std::uint32_t address, Words words) {
         camera->WriteBlock(address, reinterpret_cast<const unsigned char*>(words.data()),
@@ -75,10 +75,10 @@ TEST(PlantedFault, ClampsAndShiftsEachWord) {
     EXPECT_EQ(camera->ReadRegister(0x17040000), 2U);
 }
 
-TEST(PlantedFault, KeepsAnAutomaticModeFromStopping) {
+TEST(InjectedFault, KeepsAnAutomaticModeFromStopping) {
     for (const char* model : {"Orvik-710M", "Cerix-MV7"}) {
         const auto camera = MakeCamera(model);
-        camera->PlantFault("endless:agc");
+        camera->InjectFault("endless:agc");
         camera->WriteRegister(0x14010000, 500);
         EXPECT_EQ(camera->Registers().Get("gain"), Words{500}) << model; // it was not on yet
         camera->WriteRegister(0x46020000, 1);
@@ -104,9 +104,9 @@ bool AnswersRead(Simulation::SimulatedCamera& camera, std::uint32_t address, std
     return Answers([&] { camera.ReadMem(address, bytes.data(), &length); });
 }
 
-TEST(PlantedFault, FailsAccesses) {
+TEST(InjectedFault, FailsAccesses) {
     const auto camera = MakeCamera("Cerix7-MV");
-    camera->PlantFault("fail:0x14010000");
+    camera->InjectFault("fail:0x14010000");
     try {
         camera->WriteRegister(0x14010000, 1);
         ADD_FAILURE();
@@ -118,15 +118,15 @@ TEST(PlantedFault, FailsAccesses) {
     EXPECT_EQ(camera->Registers().Get("gain"), Words{0});
     EXPECT_FALSE(Answers([&] { (void)camera->ReadRegister(0x14010000); }));
 
-    camera->PlantFault("failwrite:exposure");
-    camera->PlantFault("failread:overlayposition");
+    camera->InjectFault("failwrite:exposure");
+    camera->InjectFault("failread:overlayposition");
     EXPECT_EQ(camera->ReadRegister(0x0A030000), 33U);
     EXPECT_FALSE(Answers([&] { camera->WriteRegister(0x0A030000, 34); }));
     camera->WriteRegister(0x17020000, 1);
     EXPECT_FALSE(AnswersRead(*camera, 0x17020000, 12));
 }
 
-TEST(PlantedFault, ReachesFromTheFirstByteToTheLast) {
+TEST(InjectedFault, ReachesFromTheFirstByteToTheLast) {
     struct Row {
         const char* fault;
         std::uint32_t first;
@@ -143,7 +143,7 @@ TEST(PlantedFault, ReachesFromTheFirstByteToTheLast) {
     };
     for (const Row& row : rows) {
         const auto camera = MakeCamera("Orvik-710M");
-        camera->PlantFault(std::string("failread:") + row.fault);
+        camera->InjectFault(std::string("failread:") + row.fault);
         const std::uint32_t size = row.last - row.first + 1;
         EXPECT_FALSE(AnswersRead(*camera, row.first, 1)) << row.fault;
         EXPECT_FALSE(AnswersRead(*camera, row.last, 1)) << row.fault;
@@ -159,20 +159,20 @@ TEST(PlantedFault, ReachesFromTheFirstByteToTheLast) {
     }
 }
 
-TEST(PlantedFault, AnswersWithNothingWhereABlockBeginsAndNowhereElse) {
+TEST(InjectedFault, AnswersWithNothingWhereABlockBeginsAndNowhereElse) {
     const auto camera = MakeCamera("Cerix7-MV");
-    camera->PlantFault("null:measurewindow");
+    camera->InjectFault("null:measurewindow");
     EXPECT_EQ(camera->ReadBlock(0x1E030000, 20), nullptr);
     EXPECT_TRUE(AnswersRead(*camera, 0x1E030000, 20));
     const std::unique_ptr<unsigned char, decltype(&std::free)> next(camera->ReadBlock(0x1E030004, 4), &std::free);
     EXPECT_NE(next, nullptr);
 }
 
-TEST(PlantedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
+TEST(InjectedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
     const auto camera = MakeCamera("Orvik-710M");
     const auto reason = [&](const char* fault) -> std::string {
         try {
-            camera->PlantFault(fault);
+            camera->InjectFault(fault);
             return "";
         } catch (const Simulation::FaultError& error) {
             return error.what();

@@ -34,12 +34,12 @@ protected:
     [[nodiscard]] std::string Refusal(const std::string& content, const char* model = "Orvik-710M") const {
         std::ofstream(file) << content;
         const auto camera = MakeCamera(model);
-        const auto before = camera->Registers().Save({Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile});
+        const auto before = camera->Registers().Save({Role::Status, Role::Setting, Role::NonVolatile, Role::Volatile});
         try {
             Simulation::LoadState(*camera, file);
             return "";
         } catch (const Simulation::StateError& error) {
-            EXPECT_EQ(camera->Registers().Save({Role::Shown, Role::Setting, Role::NonVolatile, Role::Volatile}),
+            EXPECT_EQ(camera->Registers().Save({Role::Status, Role::Setting, Role::NonVolatile, Role::Volatile}),
                       before);
             EXPECT_TRUE(camera->Sets().All().empty());
             return error.what();
@@ -67,7 +67,7 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
         camera->WriteRegister(0x14010000, 12);
         camera->WriteRegister(0x00088134, 1);
         camera->WriteString(0x00E8, "door\xFF\0\0\0\0\0\0\0\0\0\0\0", 16);
-        camera->Pass(std::chrono::seconds(10));
+        camera->Advance(std::chrono::seconds(10));
         Simulation::SaveState(*camera, file);
         const std::string saved = Content(file);
 
