@@ -60,7 +60,7 @@ TEST_F(CameraTest, CachedGettersAllocateNothing) {
 TEST_F(CameraTest, SettersAllocateNothing) {
     std::size_t tested = 0;
     for (const Operation& row : Operations()) {
-        if (row.result != Done || row.accesses.again.empty() || row.state.before || NeedsInstances(row.state)) {
+        if (row.result != done || row.accesses.again.empty() || row.state.before || NeedsInstances(row.state)) {
             continue;
         }
         FlatPort flat;

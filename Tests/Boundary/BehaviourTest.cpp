@@ -67,7 +67,7 @@ TEST_F(BehaviourTest, EnumerationsAdmitTheseValuesOnly) {
     // clang-format on
     for (const auto& [name, set, admitted, state] : cases) {
         const Camera camera = Open(state);
-        EXPECT_EQ(AdmittedBy(set, camera, Invalid), admitted) << name;
+        EXPECT_EQ(AdmittedBy(set, camera, invalid), admitted) << name;
     }
 }
 
@@ -78,7 +78,7 @@ TEST_F(BehaviourTest, ModelIdentifierBitsDecideWhatExists) {
     };
     for (const auto& [identifier, expected] : cases) {
         const Camera camera = Open(With(0x64030000, identifier));
-        const auto exists = [&](const char* name) { return Outcome(Row(name), *camera.Object()) != NotImplemented; };
+        const auto exists = [&](const char* name) { return Outcome(Row(name), *camera.Object()) != notImplemented; };
         std::string found = exists("IBinning::GetBinning") ? "mono" : "";
         found += exists("IColor::GetColorSaturation") ? "colour" : "";
         found += exists("IMemory::GetVerticalFlip") ? " memory" : "";
@@ -92,10 +92,10 @@ TEST_F(BehaviourTest, RawCodingsAndOtherExposureModesDisable) {
     for (std::uint32_t value = 0; value < 160; ++value) {
         port.Set(0x28020000, value);
         port.Set(0x0A020000, value);
-        if (Outcome(Row("IColor::GetLightSource"), *camera.Object()) == Disabled) {
+        if (Outcome(Row("IColor::GetLightSource"), *camera.Object()) == disabled) {
             raw += std::to_string(value) + " ";
         }
-        if (Outcome(Row("ITrigger::GetTriggerDelay"), *camera.Object()) != Disabled) {
+        if (Outcome(Row("ITrigger::GetTriggerDelay"), *camera.Object()) != disabled) {
             delayed += std::to_string(value) + " ";
         }
     }
@@ -115,7 +115,7 @@ TEST_F(BehaviourTest, VideoFrameNamesThePixelFormat) {
     for (int coding = -1; coding < 300; ++coding) {
         port.Set(0x28020000, static_cast<std::uint32_t>(coding));
         EXPECT_EQ(Outcome(Row("IVideoFrame::GetFormat"), *camera.Object()),
-                  formats.contains(coding) ? std::to_string(formats.at(coding)) : Invalid)
+                  formats.contains(coding) ? std::to_string(formats.at(coding)) : invalid)
             << coding;
     }
 }
@@ -174,17 +174,17 @@ TEST_F(BehaviourTest, AcquisitionLocksTheStreamParameters) {
     auto& stream = camera.As<IStreamControl>();
     const auto areaOutcome = [&] { return Outcome(Row("IRoa::SetReadoutArea"), *camera.Object()); };
     const auto unlocked = areaOutcome();
-    ASSERT_NE(unlocked, Locked);
+    ASSERT_NE(unlocked, locked);
     port.FailAt(1, Unplug);
     EXPECT_THROW(stream.Start(), Unplugged);
     EXPECT_EQ(areaOutcome(), unlocked) << "the start did not reach the camera";
     stream.Start();
     stream.Start();
-    EXPECT_EQ(areaOutcome(), Locked);
+    EXPECT_EQ(areaOutcome(), locked);
     EXPECT_EQ(Outcome(Row("IRoa::GetReadoutArea"), *camera.Object()).find("SDK4_ERR"), std::string::npos);
     port.FailAt(1, Unplug);
     EXPECT_THROW(stream.Stop(), Unplugged);
-    EXPECT_EQ(areaOutcome(), Locked) << "the stop did not reach the camera";
+    EXPECT_EQ(areaOutcome(), locked) << "the stop did not reach the camera";
     stream.Stop();
     EXPECT_EQ(areaOutcome(), unlocked);
 }

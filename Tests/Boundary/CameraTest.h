@@ -80,8 +80,8 @@ protected:
         std::string accepted;
         for (const int value : values) {
             const auto [outcome, accesses] =
-                Observe(camera, [&](IDynamicObject& object) { return set(object, value), Done; });
-            if (outcome == Done) {
+                Observe(camera, [&](IDynamicObject& object) { return set(object, value), done; });
+            if (outcome == done) {
                 accepted += std::to_string(value) + " ";
             } else {
                 EXPECT_TRUE(outcome == refusal && accesses.find('=') == std::string::npos) << value << outcome;

@@ -154,7 +154,7 @@ TEST_F(FactoryTest, ObjectsShareNoCameraState) {
     camera.As<SDK4::IStreamControl>().Start();
     camera.As<SDK4::Control::IGain>().SetGain(5);
     EXPECT_EQ(other.As<SDK4::Control::IGain>().GetGain(), 1u);
-    EXPECT_EQ(Outcome(FindOperation("IBinning::SetBinning").call, *other.Object()), Done);
+    EXPECT_EQ(Outcome(FindOperation("IBinning::SetBinning").call, *other.Object()), done);
 }
 
 TEST(UnloadTest, TheLibraryLeavesTheProcess) {

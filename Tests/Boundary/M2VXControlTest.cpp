@@ -60,7 +60,7 @@ TEST_F(M2VXControlTest, RemembersWhatTheCameraMadeOfAValueOutOfRange) {
                 port.SetInstance(made.address, static_cast<std::uint32_t>(made.index), made.bytes);
             }
         });
-        EXPECT_EQ(OutcomeOf(set, camera), OutOfRange);
+        EXPECT_EQ(OutcomeOf(set, camera), outOfRange);
         EXPECT_EQ(Observe(camera, Row(get).call), (Observed{remembered, ""}));
     }
 }
@@ -76,7 +76,7 @@ TEST_F(M2VXControlTest, AFailedAccessLeavesWhatIsRemembered) {
         EXPECT_EQ(Observe(camera, Row("IGain::GetGain").call), (Observed{"1", ""})) << set;
         EXPECT_EQ(OutcomeOf("IGain::GetAGC", camera), "0") << set;
     }
-    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), Done) << "still manual";
+    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), done) << "still manual";
 }
 
 TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
@@ -100,7 +100,7 @@ TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
         for (const int index : {0, 3}) {
             const Camera camera = Open(state, index);
             LogCapture log(log4cxx::Level::getWarn());
-            EXPECT_EQ(Observe(camera, Row(name).call), (Observed{Disabled, Row(name).accesses.first})) << name;
+            EXPECT_EQ(Observe(camera, Row(name).call), (Observed{disabled, Row(name).accesses.first})) << name;
             EXPECT_EQ(log.TakeTexts(), Texts{"warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"}) << name;
         }
     }
@@ -108,7 +108,7 @@ TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
         const Camera camera = Open(OnM2VX(Disabling(sent)));
         for (const char* row :
              {"IBasicSettings::LoadSettings", "IBasicSettings::SaveSettings", "IMotorControl::SetMotorControl"}) {
-            EXPECT_EQ(OutcomeOf(row, camera), Done) << row;
+            EXPECT_EQ(OutcomeOf(row, camera), done) << row;
         }
     }
 }
@@ -118,8 +118,8 @@ TEST_F(M2VXControlTest, ADisabledPropertyIsReadFromTheCameraOnly) {
     EXPECT_EQ(OutcomeOf("IDigitalEnhancement::GetBrightness", Open(state, 0)), "1");
     const Camera camera = Open(state, 3);
     LogCapture log(log4cxx::Level::getWarn());
-    EXPECT_EQ(OutcomeOf("IDigitalEnhancement::SetBrightness", camera), Disabled);
-    EXPECT_EQ(Observe(camera, Row("IDigitalEnhancement::GetBrightness").call), (Observed{Disabled, ""}));
+    EXPECT_EQ(OutcomeOf("IDigitalEnhancement::SetBrightness", camera), disabled);
+    EXPECT_EQ(Observe(camera, Row("IDigitalEnhancement::GetBrightness").call), (Observed{disabled, ""}));
     EXPECT_EQ(log.TakeTexts(), Texts(2, "warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"));
     camera.As<IDigitalEnhancement>().SetHistogramEqualization(0);
     EXPECT_EQ(OutcomeOf("IDigitalEnhancement::GetBrightness", camera), "1") << "the refused store kept the old value";
@@ -131,7 +131,7 @@ TEST_F(M2VXControlTest, OnlyWhatReachedTheCameraStartsAndStopsTheAcquisition) {
     const auto load = [&] { return OutcomeOf("IBasicSettings::LoadSettings", camera); };
     port.FailAt(1, Unplug);
     EXPECT_THROW(stream.Start(), Unplugged);
-    EXPECT_EQ(load(), Done);
+    EXPECT_EQ(load(), done);
     stream.Start();
     EXPECT_EQ(load(), "SDK4_ERR_ACQUISITIONRUNNING");
     port.FailAt(1, Unplug);
@@ -139,7 +139,7 @@ TEST_F(M2VXControlTest, OnlyWhatReachedTheCameraStartsAndStopsTheAcquisition) {
     EXPECT_EQ(load(), "SDK4_ERR_ACQUISITIONRUNNING");
     EXPECT_EQ(OutcomeOf("IGigECamera::GetPacketSize", camera), "1") << "reading is not refused";
     stream.Stop();
-    EXPECT_EQ(load(), Done);
+    EXPECT_EQ(load(), done);
 }
 
 TEST_F(M2VXControlTest, BlocksThatThePortDoesNotDeliverAreRefused) {
@@ -191,7 +191,7 @@ TEST_F(M2VXControlTest, SettersLogTheirValues) {
 TEST_F(M2VXControlTest, AVideoFrameOfAnotherCodingIsRefused) {
     const Camera camera = Open(OnM2VX(With(0x28020000, 1)));
     LogCapture log(log4cxx::Level::getWarn());
-    EXPECT_EQ(OutcomeOf("IVideoFrame::GetFormat", camera), Invalid);
+    EXPECT_EQ(OutcomeOf("IVideoFrame::GetFormat", camera), invalid);
     EXPECT_EQ(log.TakeTexts(), Texts{"warn SDK4Exception [SDK4::X4Error(SDK4_ERR_INVALID_PARAMETER)]"});
 }
 

@@ -168,7 +168,7 @@ TEST_F(M2VXPropertyTest, EnumerationsAdmitTheseValuesOnly) {
     };
     // clang-format on
     for (const auto& [name, set, admitted] : cases) {
-        EXPECT_EQ(AdmittedBy(set, camera, OutOfRange), admitted) << name;
+        EXPECT_EQ(AdmittedBy(set, camera, outOfRange), admitted) << name;
     }
 }
 
@@ -257,7 +257,7 @@ TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
         static void Tell(const char* name, const char* attribute, void* context) {
             auto& self = *static_cast<Overruling*>(context);
             if (std::string(name) + attribute == "agcvalue") {
-                std::exchange(self.overrule, [](IDynamicObject&) { return Done; })(self.object);
+                std::exchange(self.overrule, [](IDynamicObject&) { return done; })(self.object);
             }
         }
         IDynamicObject& object;
@@ -265,13 +265,13 @@ TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
     };
     Overruling disabling{*camera.Object(), On(&IPropertyState::SetEnabled, "agc", false)};
     properties.AddCallback(Overruling::Tell, &disabling);
-    EXPECT_EQ(OutcomeOf("IGain::SetAGC 1", camera), Done);
+    EXPECT_EQ(OutcomeOf("IGain::SetAGC 1", camera), done);
     EXPECT_FALSE(properties.GetEnabled("agc") || properties.GetEnabled("gain"));
 
     properties.SetEnabled("agc", true);
     Overruling setting{*camera.Object(), Row("IGain::SetAGC").call};
     properties.AddCallback(Overruling::Tell, &setting);
-    EXPECT_EQ(Observe(camera, Row("IGain::SetAGC 2").call), (Observed{Done, "w 46020000=2; w 46020000=0"}));
+    EXPECT_EQ(Observe(camera, Row("IGain::SetAGC 2").call), (Observed{done, "w 46020000=2; w 46020000=0"}));
     EXPECT_EQ(properties.GetUIntValue("agc"), 0u);
     EXPECT_TRUE(properties.GetEnabled("gain"));
     EXPECT_FALSE(properties.GetEnabled("automaticlevel"));
@@ -284,7 +284,7 @@ TEST_F(M2VXPropertyTest, WhatAnObserverThrowsLeavesTheNewValue) {
     EXPECT_THROW(camera.As<M2VX::IGain>().SetGain(600), Unplugged) << "instead of the refusal";
     EXPECT_EQ(properties.GetUIntValue("gain"), 600u);
     EXPECT_THROW(properties.SetEnabled("gain", false), Unplugged);
-    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), Disabled);
+    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), disabled);
 }
 
 TEST_F(M2VXPropertyTest, ModesSwitchWhatDependsOnThemWhenSetAndWhenReadAtOpening) {

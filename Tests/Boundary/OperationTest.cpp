@@ -26,7 +26,7 @@ std::string LoggingClass(const Operation& row) {
 bool LogsItsValues(const Operation& row, const std::string& operation) {
     const bool isSetter = operation.starts_with("Set") || operation.starts_with("Store") ||
                           operation.starts_with("Load") || operation.starts_with("Save");
-    return row.state.IsM2VX() && isSetter && row.result != NotImplemented && !IsOf("IPropertyState", row);
+    return row.state.IsM2VX() && isSetter && row.result != notImplemented && !IsOf("IPropertyState", row);
 }
 
 } // namespace
@@ -110,7 +110,7 @@ TEST_F(CameraTest, NullPortIsRefusedAtTheFirstAccess) {
             continue;
         }
         const Camera camera(plugin, row.state.model, nullptr);
-        EXPECT_EQ(Outcome(row.call, *camera.Object()), Invalid) << row.name;
+        EXPECT_EQ(Outcome(row.call, *camera.Object()), invalid) << row.name;
     }
 }
 

@@ -3,6 +3,7 @@
 // Every operation that takes numbers, to be called with any.
 
 #include "Tests/Operations/Operations.h"
+#include "Tests/Operations/Published.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -14,10 +15,10 @@
 
 namespace Test {
 
-inline const std::string CantRead = "SDK4_ERR_CANTGETFEATURE";
+inline const std::string cantRead = "SDK4_ERR_CANTGETFEATURE";
 
 /// The words that hosts get wrong; as signed numbers the last four are INT_MAX, INT_MIN, -2 and -1.
-inline constexpr std::uint32_t OddWords[] = {0,   1,   2,     3,          4,          6,          7,  128,
+inline constexpr std::uint32_t oddWords[] = {0,   1,   2,     3,          4,          6,          7,  128,
                                              255, 256, 65536, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFE, ~0u};
 
 /// An argument that consists of one word, or a record with this word in every field.
@@ -33,33 +34,67 @@ template <typename T> T Filled(std::uint32_t word) {
 
 /// An operation with a word for its first argument and another for the rest of them.
 struct Wild {
-    template <typename Interface, typename Result, typename... Parameters>
-    Wild(Result (Interface::*operation)(Parameters...))
-        : arguments(sizeof...(Parameters)),
-          with([operation](std::uint32_t first, std::uint32_t rest) {
-              return Bound(operation, first, rest, std::index_sequence_for<Parameters...>{});
-          }) {}
-
+    std::string name; ///< as in the table of operations
     std::size_t arguments;
     std::function<Call(std::uint32_t first, std::uint32_t rest)> with;
+};
 
-private:
-    template <typename Interface, typename Result, typename... Parameters, std::size_t... I>
-    static Call Bound(Result (Interface::*operation)(Parameters...), std::uint32_t first, std::uint32_t rest,
-                      std::index_sequence<I...>) {
-        return On(operation, Filled<Parameters>(I == 0 ? first : rest)...);
+template <typename Interface, typename Result, typename... Parameters, std::size_t... I>
+Call Bound(Result (Interface::*operation)(Parameters...), std::uint32_t first, std::uint32_t rest,
+           std::index_sequence<I...>) {
+    return On(operation, Filled<Parameters>(I == 0 ? first : rest)...);
+}
+
+/// Those that a camera has, without the software trigger, which would wait out every readout time that is set here.
+inline std::vector<Wild> WildCalls(IDynamicObject& camera, bool isM2VX) {
+    std::vector<Wild> calls;
+    ForEachOperation([&]<typename Interface, typename Result, typename... Parameters>(
+                         const std::string& name, Result (Interface::*operation)(Parameters...)) {
+        if constexpr (sizeof...(Parameters) > 0 && !(std::is_pointer_v<Parameters> || ...)) {
+            if (Has<Interface>(camera) && name != "ITrigger::SetSoftTrigger") {
+                calls.push_back({(isM2VX ? "M2VX::" : "") + name, sizeof...(Parameters),
+                                 [operation](std::uint32_t first, std::uint32_t rest) {
+                                     return Bound(operation, first, rest, std::index_sequence_for<Parameters...>{});
+                                 }});
+            }
+        }
+    });
+    return calls;
+}
+
+/// What a first argument from @p first on is refused with; nothing where any number may be meant.
+struct Refusal {
+    std::uint32_t first = 0;
+    std::string code{};
+};
+
+inline Refusal RefusalOf(const std::string& operation) {
+    static const std::pair<std::string, Refusal> instances[] = {
+        {"IOverlay::", {2, invalid}},
+        {"ISignalAnalysis::GetMeasureWindow", {2, invalid}},
+        {"ISignalAnalysis::SetMeasureWindow", {2, invalid}},
+        {"IGPIO::", {6, invalid}},
+        {"IRoa::GetReadoutAreaLimits", {3, invalid}},
+        {"IInternalTests::GetTemperature", {1, invalid}},
+        {"M2VX::IOverlay::", {4, invalid}},
+        {"M2VX::IImageCorrection::GetShadingCorrection", {4, invalid}},
+        {"M2VX::IImageCorrection::SetShadingCorrection", {4, invalid}},
+        {"M2VX::IABC::GetABCThreshold", {2, invalid}},
+        {"M2VX::IABC::SetABCThreshold", {2, invalid}},
+        {"M2VX::IInternalTests::GetTestPattern", {2, invalid}},
+        {"M2VX::IInternalTests::SetTestPattern", {2, invalid}},
+        {"M2VX::IDefectPixel::GetDefectPixel", {2, cantRead}}, // either position of a pair; the pair is the same number
+        {"M2VX::IDefectPixel::SetDefectPixel", {2, cantRead}},
+        {"M2VX::IMotorControl::", {256, invalid}}};
+    for (const auto& [name, refusal] : instances) {
+        if (operation == name || (name.ends_with(':') && operation.starts_with(name))) {
+            return refusal;
+        }
     }
-};
-
-/// Operations whose first argument names one of so many instances; without a refusal, those of which any may be meant.
-struct Group {
-    std::uint32_t instances;
-    std::string refusal;
-    std::vector<Wild> operations;
-};
-
-/// Without the software trigger, which would wait out every readout time that is set here.
-std::vector<Group> OrvikGroups();
-std::vector<Group> M2VXGroups();
+    const auto row = std::find_if(Operations().begin(), Operations().end(), [&](const Operation& each) {
+        return each.name.substr(0, each.name.find(' ')) == operation;
+    });
+    return {0, row != Operations().end() && row->result == notImplemented ? notImplemented : ""};
+}
 
 } // namespace Test

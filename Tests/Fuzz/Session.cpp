@@ -1,8 +1,14 @@
 #include "Tests/Fuzz/Session.h"
 
+#include "Tests/Operations/Published.h"
+
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
 #include <string>
+#include <tuple>
+#include <type_traits>
 
 namespace Fuzz {
 
@@ -38,6 +44,66 @@ constexpr std::array<std::string_view, 24> words = {
 
 constexpr std::array<std::string_view, 5> attributes = {"minimum", "maximum", "value", "enabled", "implemented"};
 
+/// The longest text that an operation may return.
+std::size_t LongestText(const char* operation) {
+    static const std::map<std::string, std::size_t> documented = {{"IGigECamera::GetMacAddress", 17},
+                                                                  {"IGigECamera::GetCurrentIPAddress", 15},
+                                                                  {"IGigECamera::GetCurrentSubnetmask", 15},
+                                                                  {"IGigECamera::GetCurrentDefaultGateway", 15},
+                                                                  {"IGigECamera::GetUserDefinedName", 16},
+                                                                  {"IGufi::GetDeviceName", 20},
+                                                                  {"IGufi::GetSerialNumber", 20},
+                                                                  {"IGufi::GetSoftwareBuild", 20},
+                                                                  {"IPropertyList::GetPropertyName", 255}};
+    const auto found = documented.find(operation);
+    return found == documented.end() ? 512 : found->second;
+}
+
+template <typename Interface> Interface* Part(Session& session) {
+    if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>) {
+        auto& source = dynamic_cast<SDK4::Control::IDSMediaType&>(*session.camera);
+        auto* type = source.GetMediaType();
+        Require(type != nullptr && type == source.GetMediaType(), "a camera has one media type");
+        return dynamic_cast<Interface*>(type);
+    } else {
+        return dynamic_cast<Interface*>(session.camera);
+    }
+}
+
+/// Calls one operation with arguments from the input. Does nothing on a camera whose family does not have it.
+template <typename Interface, typename Result, typename... Parameters>
+void Invoke(Session& session, Result (Interface::*operation)(Parameters...), std::size_t longestText) {
+    auto* interface = Part<Interface>(session);
+    if (interface == nullptr) {
+        return;
+    }
+    Arguments arguments(session);
+    const std::tuple<Parameters...> values{arguments.Draw<Parameters>()...}; // braces: from left to right
+    const auto invoke = [&](auto... value) { return (interface->*operation)(value...); };
+    if constexpr (std::is_same_v<Result, const char*>) {
+        const char* text = std::apply(invoke, values);
+        Require(text == nullptr || strnlen(text, longestText + 1) <= longestText,
+                "a text ends within its documented length");
+    } else {
+        std::apply(invoke, values);
+    }
+}
+
+using Call = std::function<void(Session&)>;
+
+/// Everything that a host can call, on either family. An input chooses by the place.
+const std::vector<Call>& Calls() {
+    static const std::vector<Call> all = [] {
+        std::vector<Call> calls;
+        ::Test::ForEachOperation([&](const char* name, auto operation) {
+            calls.emplace_back(
+                [operation, longest = LongestText(name)](Session& session) { Invoke(session, operation, longest); });
+        });
+        return calls;
+    }();
+    return all;
+}
+
 } // namespace
 
 const char* Arguments::Keep(std::string_view text) {
@@ -70,7 +136,7 @@ unsigned char* Arguments::Buffer() {
 }
 
 void CallAny(Session& session) {
-    const Call call = Calls()[session.input.Choice(Calls().size())];
+    const Call& call = Calls()[session.input.Choice(Calls().size())];
     ++session.depth;
     session.failures.Watch([&] { call(session); });
     --session.depth;

@@ -10,7 +10,6 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 #include <vector>
 
@@ -24,10 +23,6 @@ struct Session {
     IDynamicObject* camera = nullptr;
     unsigned int depth = 0; ///< operations that run: more than one when an observer calls back
 };
-
-/// One operation with arguments from the input. Does nothing on a camera whose family does not have it.
-using Call = void (*)(Session&);
-const std::vector<Call>& Calls();
 
 /// Makes a call that the input chooses, and judges its end.
 void CallAny(Session& session);
@@ -81,41 +76,5 @@ private:
     std::unique_ptr<unsigned char[]> buffer;
     unsigned int length = 0;
 };
-
-/// The longest text that an operation may return.
-template <auto operation> constexpr std::size_t longestText = 512;
-
-template <typename Interface> Interface* Part(Session& session) {
-    if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>) {
-        auto& source = dynamic_cast<SDK4::Control::IDSMediaType&>(*session.camera);
-        auto* type = source.GetMediaType();
-        Require(type != nullptr && type == source.GetMediaType(), "a camera has one media type");
-        return dynamic_cast<Interface*>(type);
-    } else {
-        return dynamic_cast<Interface*>(session.camera);
-    }
-}
-
-template <auto operation, typename Result, typename Interface, typename... Parameters>
-void Invoke(Session& session, Result (Interface::*)(Parameters...)) {
-    auto* interface = Part<Interface>(session);
-    if (interface == nullptr) {
-        return;
-    }
-    Arguments arguments(session);
-    const std::tuple<Parameters...> values{arguments.Draw<Parameters>()...}; // braces: from left to right
-    const auto invoke = [interface](auto... value) { return (interface->*operation)(value...); };
-    if constexpr (std::is_same_v<Result, const char*>) {
-        const char* text = std::apply(invoke, values);
-        Require(text == nullptr || strnlen(text, longestText<operation> + 1) <= longestText<operation>,
-                "a text ends within its documented length");
-    } else {
-        std::apply(invoke, values);
-    }
-}
-
-template <auto... operations> void Add(std::vector<Call>& calls) {
-    (calls.push_back([](Session& session) { Invoke<operations>(session, operations); }), ...);
-}
 
 } // namespace Fuzz

@@ -30,8 +30,8 @@ State Versions(std::uint32_t address) { return {{{address, Words({5, 6})}}}; }
 std::vector<Operation> AccessOperations() {
     return {
         {"IControl::GetClassID",        On(&IControl::GetClassID),        "Orvik",        Never()},
-        {"IStreamControl::Start",       On(&IStreamControl::Start),       Done,           Always("W 00088134=1")},
-        {"IStreamControl::Stop",        On(&IStreamControl::Stop),        Done,           Always("W 00088138=0")},
+        {"IStreamControl::Start",       On(&IStreamControl::Start),       done,           Always("W 00088134=1")},
+        {"IStreamControl::Stop",        On(&IStreamControl::Stop),        done,           Always("W 00088138=0")},
         {"IDSMediaType::GetMediaType",  On(&IDSMediaType::GetMediaType),  "a media type", Never()},
 
         {"IVideoFrame::GetType",         On(&IVideoFrame::GetType),         "0",    Never()},
@@ -42,13 +42,13 @@ std::vector<Operation> AccessOperations() {
         {"IVideoFrame::GetTimePerFrame wrapped", On(&IVideoFrame::GetTimePerFrame), "704", Cached("R 28040000/4"), With(0x28040000, 4294968)},
 
         {"IGigEVisionPort::ReadRegister",  On(&IGigEVisionPort::ReadRegister, 0x01020304),     "1",      Always("r 01020304")},
-        {"IGigEVisionPort::WriteRegister", On(&IGigEVisionPort::WriteRegister, 0x01020304, 9), Done,     Always("w 01020304=9")},
+        {"IGigEVisionPort::WriteRegister", On(&IGigEVisionPort::WriteRegister, 0x01020304, 9), done,     Always("w 01020304=9")},
         {"IGigEVisionPort::ReadMem",       RawMemory(&IGigEVisionPort::ReadMem, 8),            "8: 1,2", Always("R 01020304/8")},
         {"IGigEVisionPort::WriteMem",      RawMemory(&IGigEVisionPort::WriteMem, 4), "4: 117901063", Always("W 01020304=117901063")},
-        {"IGigEVisionPort::ReadMem null buffer",  On(&IGigEVisionPort::ReadMem, 0, nullptr, &someLength), Invalid, Never()},
-        {"IGigEVisionPort::ReadMem null length",  On(&IGigEVisionPort::ReadMem, 0, someBytes, nullptr),   Invalid, Never()},
-        {"IGigEVisionPort::WriteMem null buffer", On(&IGigEVisionPort::WriteMem, 0, nullptr, &someLength), Invalid, Never()},
-        {"IGigEVisionPort::WriteMem null length", On(&IGigEVisionPort::WriteMem, 0, someBytes, nullptr),  Invalid, Never()},
+        {"IGigEVisionPort::ReadMem null buffer",  On(&IGigEVisionPort::ReadMem, 0, nullptr, &someLength), invalid, Never()},
+        {"IGigEVisionPort::ReadMem null length",  On(&IGigEVisionPort::ReadMem, 0, someBytes, nullptr),   invalid, Never()},
+        {"IGigEVisionPort::WriteMem null buffer", On(&IGigEVisionPort::WriteMem, 0, nullptr, &someLength), invalid, Never()},
+        {"IGigEVisionPort::WriteMem null length", On(&IGigEVisionPort::WriteMem, 0, someBytes, nullptr),  invalid, Never()},
 
         {"IGufi::GetDeviceName",   On(&IGufi::GetDeviceName),   "CAM 1",  Kept("R 64010000/24"), {{{0x64010000, TextBlock(24, "\t CAM 1")}}}},
         {"IGufi::GetSerialNumber", On(&IGufi::GetSerialNumber), "000815  ", Kept("R 64020000/16"), {{{0x64020000, TextBlock(16, "  000815  ")}}}},

@@ -81,9 +81,9 @@ struct Operation {
     State state{};
 };
 
-inline const std::string Done = "done", OutOfRange = "SDK4_ERR_OUTOFRANGE", Invalid = "SDK4_ERR_INVALID_PARAMETER",
-                         Locked = "SDK4_ERR_CANTSETFEATURE", Disabled = "SDK4_ERR_DISABLED",
-                         NotImplemented = "SDK4_ERR_NOT_IMPLEMENTED";
+inline const std::string done = "done", outOfRange = "SDK4_ERR_OUTOFRANGE", invalid = "SDK4_ERR_INVALID_PARAMETER",
+                         locked = "SDK4_ERR_CANTSETFEATURE", disabled = "SDK4_ERR_DISABLED",
+                         notImplemented = "SDK4_ERR_NOT_IMPLEMENTED";
 
 /// All rows. Those of the M2VX family are named "M2VX::IGain::SetGain".
 const std::vector<Operation>& Operations();
@@ -124,6 +124,11 @@ template <typename Interface> Interface& Part(IDynamicObject& camera) {
     }
 }
 
+/// Whether the camera has the interface. All have a media type.
+template <typename Interface> bool Has(IDynamicObject& camera) {
+    return std::is_base_of_v<SDK4::IMediaType, Interface> || dynamic_cast<Interface*>(&camera) != nullptr;
+}
+
 /// A call of one operation with fixed arguments.
 template <typename Interface, typename Result, typename... Parameters, typename... Arguments>
 Call On(Result (Interface::*operation)(Parameters...), Arguments... arguments) {
@@ -132,7 +137,7 @@ Call On(Result (Interface::*operation)(Parameters...), Arguments... arguments) {
         const auto invoke = [&](auto... value) { return (interface.*operation)(value...); };
         if constexpr (std::is_void_v<Result>) {
             std::apply(invoke, values);
-            return Done;
+            return done;
         } else {
             return Text(std::apply(invoke, values));
         }
