@@ -17,8 +17,8 @@ namespace Bench {
 
 namespace {
 
-constexpr std::size_t Sizes[] = {10, 100, 1000, 10000};
-constexpr const char* Operations[] = {"cached read", "write with a cascade", "settings load", "property by name"};
+constexpr std::size_t sizes[] = {10, 100, 1000, 10000};
+constexpr const char* operations[] = {"cached read", "write with a cascade", "settings load", "property by name"};
 /// A list of registers that a settings load makes stale, each with its feature, and so many properties. Eight registers
 /// depend on the first one.
 class Control final : public SDK4::Control::CBaseControlHelper {
@@ -82,23 +82,23 @@ private:
 std::string RowName(const char* operation, std::size_t size) { return operation + (", " + std::to_string(size)); }
 
 void AddRows(Table& table, Control& control, std::size_t size) {
-    table.Add({RowName(Operations[0], size)}, [&] { control.ReadMiddle(); });
+    table.Add({RowName(operations[0], size)}, [&] { control.ReadMiddle(); });
     table.Add(
-        {RowName(Operations[1], size)}, [&] { control.WriteFirst(); }, [&] { control.ReadDependants(); });
+        {RowName(operations[1], size)}, [&] { control.WriteFirst(); }, [&] { control.ReadDependants(); });
     table.Add(
-        {RowName(Operations[2], size)}, [&] { control.LoadSettings(); }, [&] { control.ReadAll(); });
-    table.Add({RowName(Operations[3], size)}, [&] { control.FindLast(); });
+        {RowName(operations[2], size)}, [&] { control.LoadSettings(); }, [&] { control.ReadAll(); });
+    table.Add({RowName(operations[3], size)}, [&] { control.FindLast(); });
 }
 
 void PrintTable(const Table& table) {
     std::printf("| Operation |");
-    for (const std::size_t size : Sizes) {
+    for (const std::size_t size : sizes) {
         std::printf(" %zu |", size);
     }
     std::puts("\n|---|--:|--:|--:|--:|");
-    for (const char* operation : Operations) {
+    for (const char* operation : operations) {
         std::printf("| %s |", operation);
-        for (const std::size_t size : Sizes) {
+        for (const std::size_t size : sizes) {
             std::printf(" %.0f |", table.At(RowName(operation, size)).nanoseconds);
         }
         std::puts("");
@@ -110,9 +110,9 @@ void WriteNumbers(const Table& table, const char* path) {
     if (file == nullptr) {
         throw std::runtime_error(std::string("cannot write ") + path);
     }
-    for (const std::size_t size : Sizes) {
+    for (const std::size_t size : sizes) {
         std::fprintf(file, "%zu", size);
-        for (const char* operation : Operations) {
+        for (const char* operation : operations) {
             std::fprintf(file, " %.1f", table.At(RowName(operation, size)).nanoseconds);
         }
         std::fputc('\n', file);
@@ -130,7 +130,7 @@ void Main(const char* numbers) {
         }
         return accesses;
     });
-    for (const std::size_t size : Sizes) {
+    for (const std::size_t size : sizes) {
         AddRows(table, controls.emplace_back(size), size);
     }
     table.Run();

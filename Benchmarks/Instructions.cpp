@@ -12,7 +12,7 @@ using namespace SDK4::Control;
 
 namespace {
 
-constexpr int Calls = 20; // the counts are of all together
+constexpr int calls = 20; // the counts are of all together
 
 /// Counts @p call, after it ran often enough for everything to be set up. @p prepare is not counted.
 void Count(
@@ -22,7 +22,7 @@ void Count(
         call();
     }
     CALLGRIND_ZERO_STATS;
-    for (int i = 0; i < Calls; ++i) {
+    for (int i = 0; i < calls; ++i) {
         prepare();
         CALLGRIND_TOGGLE_COLLECT;
         call();

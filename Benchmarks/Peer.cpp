@@ -10,9 +10,9 @@ namespace Bench {
 
 namespace {
 
-constexpr const char* Feature = "GainRaw";      // the cheapest: one register, limits that are constants
-constexpr const char* BoundedFeature = "Width"; // its greatest value is another feature's
-constexpr guint32 GainRegister = 0x110;
+constexpr const char* feature = "GainRaw";      // the cheapest: one register, limits that are constants
+constexpr const char* boundedFeature = "Width"; // its greatest value is another feature's
+constexpr guint32 gainRegister = 0x110;
 
 /// Calls with a place for an error as the last argument. An error would hide what is measured.
 template <typename Function, typename... Arguments> auto Call(Function function, Arguments... arguments) {
@@ -43,18 +43,18 @@ void Set(ArvDevice* device, const char* feature, gint64 value) {
 /// The cache answers when a change behind its back goes unnoticed.
 void RequireCache(ArvDevice* device) {
     ArvFakeCamera* camera = arv_fake_device_get_fake_camera(ARV_FAKE_DEVICE(device));
-    Set(device, Feature, 3);
-    Get(device, Feature);
-    arv_fake_camera_write_register(camera, GainRegister, 7);
-    if (Get(device, Feature) != 3) {
+    Set(device, feature, 3);
+    Get(device, feature);
+    arv_fake_camera_write_register(camera, gainRegister, 7);
+    if (Get(device, feature) != 3) {
         throw std::runtime_error("Aravis does not answer from its register cache");
     }
-    arv_fake_camera_write_register(camera, GainRegister, 3);
+    arv_fake_camera_write_register(camera, gainRegister, 3);
 }
 
 void RequireRangeCheck(ArvDevice* device) {
     GError* error = nullptr;
-    arv_device_set_integer_feature_value(device, Feature, 11, &error);
+    arv_device_set_integer_feature_value(device, feature, 11, &error);
     if (error == nullptr) {
         throw std::runtime_error("Aravis does not check the range");
     }
@@ -70,15 +70,15 @@ void AddPeer(Table& table) {
     RequireCache(device);
     RequireRangeCheck(device);
 
-    auto* node = ARV_GC_INTEGER(arv_device_get_feature(device, Feature));
-    const gint64 width = Get(device, BoundedFeature);
-    table.Add({PeerRead}, [=] { Get(device, Feature); });
-    table.Add({PeerWrite}, [=] { Set(device, Feature, 5); });
+    auto* node = ARV_GC_INTEGER(arv_device_get_feature(device, feature));
+    const gint64 width = Get(device, boundedFeature);
+    table.Add({peerRead}, [=] { Get(device, feature); });
+    table.Add({peerWrite}, [=] { Set(device, feature, 5); });
     table.Add({"Aravis: cached integer read, its node held"}, [=] { Call(arv_gc_integer_get_value, node); });
     table.Add({"Aravis: range-checked integer write, its node held"},
               [=] { Call(arv_gc_integer_set_value, node, gint64{5}); });
     table.Add({"Aravis: range-checked integer write, one limit from another feature"},
-              [=] { Set(device, BoundedFeature, width); });
+              [=] { Set(device, boundedFeature, width); });
 }
 
 } // namespace Bench

@@ -5,8 +5,8 @@
 namespace Bench {
 
 /// The rows that others are compared with.
-inline constexpr const char* PeerRead = "Aravis: cached integer read";
-inline constexpr const char* PeerWrite = "Aravis: range-checked integer write";
+inline constexpr const char* peerRead = "Aravis: cached integer read";
+inline constexpr const char* peerWrite = "Aravis: range-checked integer write";
 
 /// Adds a camera that Aravis simulates in the process, with its register cache and its range check on.
 /// @throws std::runtime_error when one of both does not work

@@ -26,14 +26,14 @@ void AddOrvik(Table& table, const Workbench& bench) {
     auto& identity = bench.orvik.As<IGufi>();
     auto& gainReading = bench.orvikReading.As<IGain>();
 
-    table.Add({"IGain::GetGain, cached",                           PeerRead,  0.10}, [&] { gain.GetGain(); });
-    table.Add({"ISignalFormat::GetImageSize, cached",              PeerRead,  0.10}, [&] { format.GetImageSize(); });
-    table.Add({"IExposure::GetAutoExposureLevel, cached",          PeerRead,  0.10}, [&] { exposure.GetAutoExposureLevel(); });
-    table.Add({"IGain::SetGain",                                   PeerWrite, 0.35}, [&] { gain.SetGain(100); });
-    table.Add({"IRoa::SetReadoutArea, limits cached",              PeerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); });
-    table.Add({"IRoa::SetReadoutArea, dependants valid, too",      PeerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); },
+    table.Add({"IGain::GetGain, cached",                           peerRead,  0.10}, [&] { gain.GetGain(); });
+    table.Add({"ISignalFormat::GetImageSize, cached",              peerRead,  0.10}, [&] { format.GetImageSize(); });
+    table.Add({"IExposure::GetAutoExposureLevel, cached",          peerRead,  0.10}, [&] { exposure.GetAutoExposureLevel(); });
+    table.Add({"IGain::SetGain",                                   peerWrite, 0.35}, [&] { gain.SetGain(100); });
+    table.Add({"IRoa::SetReadoutArea, limits cached",              peerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); });
+    table.Add({"IRoa::SetReadoutArea, dependants valid, too",      peerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); },
               [&] { bench.ReadEverything(bench.orvik); });
-    table.Add({"IBasicSettings::LoadSettings, 63 registers valid", PeerWrite, 20},   [&] { settings.LoadSettings(1); },
+    table.Add({"IBasicSettings::LoadSettings, 63 registers valid", peerWrite, 20},   [&] { settings.LoadSettings(1); },
               [&] { bench.ReadEverything(bench.orvikLoading); });
     table.Add({"IBasicSettings::LoadSettings, all stale"},      [&] { settings.LoadSettings(1); });
     table.Add({"IGain::GetGain, reading the camera"},           [&] { gainReading.GetGain(); });
@@ -47,9 +47,9 @@ void AddM2VX(Table& table, const Workbench& bench) {
     auto& overlay = bench.m2vx.As<M2VX::IOverlay>();
     auto& gainReading = bench.m2vxReading.As<M2VX::IGain>();
 
-    table.Add({"M2VX::IGain::GetGain, cached",                                   PeerRead, 0.05}, [&] { gain.GetGain(); });
-    table.Add({"IPropertyState::GetUIntValue, the last name, 849th of 1104",     PeerRead, 3},    [&] { properties.GetUIntValue("motorcontrol"); });
-    table.Add({"IPropertyState::IsEnumerated, a name that none of the 1104 has", PeerRead, 3},    [&] { properties.IsEnumerated("motorcontrox"); });
+    table.Add({"M2VX::IGain::GetGain, cached",                                   peerRead, 0.05}, [&] { gain.GetGain(); });
+    table.Add({"IPropertyState::GetUIntValue, the last name, 849th of 1104",     peerRead, 3},    [&] { properties.GetUIntValue("motorcontrol"); });
+    table.Add({"IPropertyState::IsEnumerated, a name that none of the 1104 has", peerRead, 3},    [&] { properties.IsEnumerated("motorcontrox"); });
     table.Add({"M2VX::IGain::GetGain, reading the camera"},   [&] { gainReading.GetGain(); });
     table.Add({"M2VX::IGain::SetGain"},                       [&] { gain.SetGain(100); });
     table.Add({"M2VX::IOverlay::GetOverlayPosition, cached"}, [&] { overlay.GetOverlayPosition(1); });

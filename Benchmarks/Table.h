@@ -32,8 +32,8 @@ public:
             Measure(state, call, accesses, prepare);
         };
         benchmark::RegisterBenchmark(row.name.c_str(), measure)
-            ->Iterations(Batches)
-            ->Repetitions(Repetitions)
+            ->Iterations(batches)
+            ->Repetitions(repetitions)
             ->Unit(benchmark::kNanosecond)
             ->UseManualTime();
         rows.push_back(std::move(row));
@@ -47,7 +47,7 @@ public:
     /// What was measured of the row of that name. @throws std::out_of_range
     [[nodiscard]] const Result& At(const std::string& name) const { return results.at(name); }
 
-    static constexpr int Batches = 300, Repetitions = 25;
+    static constexpr int batches = 300, repetitions = 25;
 
 private:
     Counter accesses;

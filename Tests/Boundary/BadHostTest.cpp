@@ -152,10 +152,10 @@ TEST_P(BadHostTest, TextsOfAnyLengthAreCutOrIgnored) {
 TEST_P(BadHostTest, ModelNamesOfAnyLengthAndIndexesOfAnyValueOpenOrDoNot) {
     const std::string name = state.model;
     for (std::size_t length = 0; length < name.size(); ++length) {
-        EXPECT_EQ(plugin.CreateObject(name.substr(0, length).c_str(), &port, GetParam().second), nullptr) << length;
+        EXPECT_EQ(plugin.createObject(name.substr(0, length).c_str(), &port, GetParam().second), nullptr) << length;
     }
     for (const std::string& longer : {name + " ", name + std::string(100000, 'x'), std::string(100000, 'C')}) {
-        EXPECT_EQ(plugin.CreateObject(longer.c_str(), &port, GetParam().second), nullptr);
+        EXPECT_EQ(plugin.createObject(longer.c_str(), &port, GetParam().second), nullptr);
     }
     EXPECT_EQ(port.TakeLog(), "");
     for (const int index : {INT_MIN, -1, INT_MAX}) {
@@ -265,9 +265,9 @@ TEST_F(CameraTest, ARegistryThatThrowsIsAskedAgain) {
         }
         int models = 0;
     } registry;
-    EXPECT_THROW(plugin.InitLibrary(static_cast<IModelRegistry*>(&registry)), std::length_error);
+    EXPECT_THROW(plugin.initLibrary(static_cast<IModelRegistry*>(&registry)), std::length_error);
     EXPECT_EQ(registry.models, 5);
-    plugin.InitLibrary(static_cast<IModelRegistry*>(&registry));
+    plugin.initLibrary(static_cast<IModelRegistry*>(&registry));
     EXPECT_EQ(registry.models, 18);
 }
 

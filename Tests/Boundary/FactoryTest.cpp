@@ -35,11 +35,11 @@ TEST_F(FactoryTest, RegistersEveryModelInOrderEachTime) {
                                  "Sollux G=qdv12\n";
     Registry registry;
     LogCapture log(info);
-    plugin.InitLibrary(static_cast<IModelRegistry*>(&registry));
+    plugin.initLibrary(static_cast<IModelRegistry*>(&registry));
     EXPECT_EQ(registry.models, thirteen);
-    plugin.InitLibrary(static_cast<IModelRegistry*>(&registry));
+    plugin.initLibrary(static_cast<IModelRegistry*>(&registry));
     EXPECT_EQ(registry.models, thirteen + thirteen);
-    plugin.InitLibrary(nullptr);
+    plugin.initLibrary(nullptr);
     EXPECT_EQ(log.TakeTexts(), Texts(3, "info Init QDV12Control"));
 }
 
@@ -57,11 +57,11 @@ TEST_F(FactoryTest, ServesTheTenOrvikModels) {
 TEST_F(FactoryTest, AnswersNullForOtherNames) {
     LogCapture log(info);
     for (const char* model : {"Orvik-31200m", "orvik-31200M", "Orvik-31200M ", "Orvik-31200", ""}) {
-        EXPECT_EQ(plugin.CreateObject(model, &port, 0), nullptr) << model;
+        EXPECT_EQ(plugin.createObject(model, &port, 0), nullptr) << model;
         EXPECT_EQ(log.TakeTexts(),
                   (Texts{"info QDV12: CreateObject(" + std::string(model) + ")", "info Unknown (Flying) Object "}));
     }
-    EXPECT_EQ(plugin.CreateObject(nullptr, &port, 0), nullptr);
+    EXPECT_EQ(plugin.createObject(nullptr, &port, 0), nullptr);
     EXPECT_EQ(log.TakeTexts().back(), "info Unknown (Flying) Object ");
 }
 
@@ -131,7 +131,7 @@ TEST_F(FactoryTest, ShowsTheNetworkWhenOpenedAtDebug) {
 TEST_F(FactoryTest, AConstructorThatFailsReachesTheHost) {
     LogCapture log;
     port.FailAt(3, [] { throw SDK4::X4Error(SDK4_ERR_ERROR); });
-    EXPECT_THROW(plugin.CreateObject("Orvik-520C", &port, 0), SDK4::X4Error);
+    EXPECT_THROW(plugin.createObject("Orvik-520C", &port, 0), SDK4::X4Error);
     const Texts lines = log.TakeTexts();
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "debug dtor CFeatureList"), 1);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "debug dtor CRegisterList"), 1);

@@ -93,7 +93,7 @@ protected:
     static void SetUpTestSuite() {
         const Plugin plugin;
         const LogCapture log;
-        plugin.CreateObject("", nullptr, 0);
+        plugin.createObject("", nullptr, 0);
     }
 
     /// The blocks on the heap but for those of the port, which remembers what it is told.

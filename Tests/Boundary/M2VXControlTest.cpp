@@ -151,7 +151,7 @@ TEST_F(M2VXControlTest, BlocksThatThePortDoesNotDeliverAreRefused) {
           "IDefectPixel::GetDefectPixel", "IDefectPixel::SetDefectPixel x", "IBasicSettings::GetDevice"}) {
         EXPECT_EQ(OutcomeOf(row, camera), "SDK4_ERR_CANTGETFEATURE") << row;
     }
-    EXPECT_THROW(plugin.CreateObject("Cerix7-MV", &port, 3), SDK4::X4Error);
+    EXPECT_THROW(plugin.createObject("Cerix7-MV", &port, 3), SDK4::X4Error);
     EXPECT_EQ(OutcomeOf("IGain::GetGain", camera), "1");
 }
 

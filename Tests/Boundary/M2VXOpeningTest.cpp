@@ -184,7 +184,7 @@ TEST_F(M2VXOpeningTest, ANullPortIsRefusedWhenOpened) {
     for (const int index : {0, 3}) {
         LogCapture log(log4cxx::Level::getInfo());
         try {
-            plugin.CreateObject("Sollux G", nullptr, index);
+            plugin.createObject("Sollux G", nullptr, index);
             ADD_FAILURE() << "nothing was thrown";
         } catch (const SDK4::X4Error& error) {
             EXPECT_EQ(error.code, -1009);

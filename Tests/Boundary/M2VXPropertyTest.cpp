@@ -175,6 +175,9 @@ TEST_F(M2VXPropertyTest, EnumerationsAdmitTheseValuesOnly) {
 TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
     using C = M2VX::IImageCorrection;
     const Texts thresholds{"abcthreshold enabled", "abcthreshold enabled"};
+    const Texts window{"measurewindow.radius value", "measurewindow.width value", "measurewindow.xpos value",
+                       "measurewindow.ypos value", "measurewindow.vstretch value"};
+    const std::string blanking = "circularblankingposition";
     // clang-format off
     const struct {
         Call call;
@@ -202,11 +205,11 @@ TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
         {On(&IDigitalEnhancement::SetBrightness, 5),            {}},
         {On(&IDigitalEnhancement::SetHistogramEqualization, 3), {"histogramequalization value", "brightness enabled", "contrast enabled"}},
         {On(&C::SetShadingCorrectionMode, 0), Texts(4, "shadingcorrection enabled")},
-        {On(&C::SetCircularBlankingMode, 0),  {"circularblankingsize enabled", "circularblankingposition.xpos enabled", "circularblankingposition.ypos enabled"}},
+        {On(&C::SetCircularBlankingMode, 0),  {"circularblankingsize enabled", blanking + ".xpos enabled", blanking + ".ypos enabled"}},
         {Row("IOverlay::SetOverlayPosition").call, {"overlayposition.posx value", "overlayposition.posy value"}},
         {On(&M2VX::IOverlay::SetOverlaySize, 0, SDK4_KOVERLAYSIZE{0, 5}), {"overlaysize.length value"}},
         {On(&M2VX::IOverlay::SetOverlayShow, 3, 1), {}},
-        {Row("ISignalAnalysis::SetMeasureWindow").call, {"measurewindow.radius value", "measurewindow.width value", "measurewindow.xpos value", "measurewindow.ypos value", "measurewindow.vstretch value"}},
+        {Row("ISignalAnalysis::SetMeasureWindow").call, window},
         {Row("IDefectPixel::SetDefectPixel last").call, {"defectpixel.xpos value", "defectpixel.ypos value", "defectpixel.mode value"}},
         {Row("IDefectPixel::SetDefectPixelAutoCompensation").call, {}},
         {Row("IMotorControl::SetMotorControl").call,    {}},

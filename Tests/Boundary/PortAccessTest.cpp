@@ -31,10 +31,11 @@ on a port which writes down what it is asked; the test fails when a line is no l
 Addresses are hexadecimal, values are decimal words. What stands behind an operation's name is special about the call or
 about the state of the camera ("above": a value above the range), and, in brackets, how the call is refused.
 
-*Remembering* is a control that keeps what it can (Orvik: camera index 0, M2VX: 3); *reading* is one that asks the camera
-(Orvik: 2, M2VX: 0). "Again" is the same call repeated at once. "-" is no access, "same" is what the column to the left
-says. The last column names the getters of a remembering control that notice the call: those of Orvik read the camera the
-next time, those of M2VX answer differently; "all but" stands for all that answered before the call, without those named.
+*Remembering* is a control that keeps what it can (Orvik: camera index 0, M2VX: 3); *reading* is one that asks the
+camera (Orvik: 2, M2VX: 0). "Again" is the same call repeated at once. "-" is no access, "same" is what the column to
+the left says. The last column names the getters of a remembering control that notice the call: those of Orvik read the
+camera the next time, those of M2VX answer differently; "all but" stands for all that answered before the call, without
+those named.
 )";
 
 std::string Code(const std::string& text) { return "`" + text + "`"; }

@@ -22,6 +22,9 @@ Call RawMemory(void (IGigEVisionPort::*operation)(unsigned int, unsigned char*, 
 unsigned char someBytes[4];
 unsigned int someLength = 4;
 
+State Block(std::uint32_t address, std::size_t length, const char* text) {
+    return {{{address, TextBlock(length, text)}}};
+}
 State Versions(std::uint32_t address) { return {{{address, Words({5, 6})}}}; }
 
 } // namespace
@@ -50,9 +53,9 @@ std::vector<Operation> AccessOperations() {
         {"IGigEVisionPort::WriteMem null buffer", On(&IGigEVisionPort::WriteMem, 0, nullptr, &someLength), invalid, Never()},
         {"IGigEVisionPort::WriteMem null length", On(&IGigEVisionPort::WriteMem, 0, someBytes, nullptr),  invalid, Never()},
 
-        {"IGufi::GetDeviceName",   On(&IGufi::GetDeviceName),   "CAM 1",  Kept("R 64010000/24"), {{{0x64010000, TextBlock(24, "\t CAM 1")}}}},
-        {"IGufi::GetSerialNumber", On(&IGufi::GetSerialNumber), "000815  ", Kept("R 64020000/16"), {{{0x64020000, TextBlock(16, "  000815  ")}}}},
-        {"IGufi::GetSoftwareBuild", On(&IGufi::GetSoftwareBuild), "Build of a full bloc", Kept("R 65020000/24"), {{{0x65020000, TextBlock(24, "Build of a full bloc")}}}},
+        {"IGufi::GetDeviceName",   On(&IGufi::GetDeviceName),   "CAM 1",  Kept("R 64010000/24"), Block(0x64010000, 24, "\t CAM 1")},
+        {"IGufi::GetSerialNumber", On(&IGufi::GetSerialNumber), "000815  ", Kept("R 64020000/16"), Block(0x64020000, 16, "  000815  ")},
+        {"IGufi::GetSoftwareBuild", On(&IGufi::GetSoftwareBuild), "Build of a full bloc", Kept("R 65020000/24"), Block(0x65020000, 24, "Build of a full bloc")},
         {"IGufi::GetFunctionModelID",      On(&IGufi::GetFunctionModelID), "131072", Kept("R 64030000/4")},
         {"IGufi::GetFunctionModelVersion", On(&IGufi::GetFunctionModelVersion), "5,6", Kept("R 64040000/8"), Versions(0x64040000)},
         {"IGufi::GetRevision",             On(&IGufi::GetRevision),             "5,6", Kept("R 65010000/8"), Versions(0x65010000)},

@@ -9,8 +9,8 @@ namespace Test {
 namespace {
 
 /// A function of the image memory: written, it must be asked what the camera made of the value.
-Accesses MemoryRead(const std::string& address) { return Cached("R " + address + "/4").AskingForTheModel(); }
-Accesses MemoryWrite(const std::string& written) { return Always("W " + written).AskingForTheModel(); }
+Accesses MemoryRead(const std::string& address) { return Cached("R " + address + "/4").AskingModel(); }
+Accesses MemoryWrite(const std::string& written) { return Always("W " + written).AskingModel(); }
 
 unsigned char update[4];
 
@@ -18,6 +18,7 @@ unsigned char update[4];
 
 // clang-format off
 std::vector<Operation> DeviceOperations() {
+    using B = IBasicSettings; using T = IInternalTests;
     const SDK4_KDEVICESELECT device{1, 2, 3};
     const State without = WithoutMemory();
     const Accesses lacking = Kept("R 64030000/4");
@@ -62,30 +63,30 @@ std::vector<Operation> DeviceOperations() {
         {"IGPIO::GetIoDelay no line",   On(&IGPIO::GetIoDelay, 0x80000000), invalid, Never()},
         {"IGPIO::SetIoDelay no line",   On(&IGPIO::SetIoDelay, 6, 0),    invalid, Never()},
 
-        {"IBasicSettings::Restart",             On(&IBasicSettings::Restart),         notImplemented, Never()},
-        {"IBasicSettings::LoadSettings",        On(&IBasicSettings::LoadSettings, 0), done,    Always("W 51020000=0").Stales("all but GetPatternGenerator")},
-        {"IBasicSettings::LoadSettings colour", On(&IBasicSettings::LoadSettings, 2), done,    Always("W 51020000=2").Stales("all but GetPatternGenerator"), Colour()},
-        {"IBasicSettings::LoadSettings 3",      On(&IBasicSettings::LoadSettings, 3), invalid, Never()},
-        {"IBasicSettings::SaveSettings",        On(&IBasicSettings::SaveSettings, 2), done,    Always("W 51030000=2")},
-        {"IBasicSettings::SaveSettings 0",      On(&IBasicSettings::SaveSettings, 0), invalid, Never()},
-        {"IBasicSettings::GetStartupSettings",  On(&IBasicSettings::GetStartupSettings),    "1",  Always("R 51040000/4")},
-        {"IBasicSettings::SetStartupSettings",  On(&IBasicSettings::SetStartupSettings, 2), done, Always("W 51040000=2")},
-        {"IBasicSettings::GetOperationMode",    On(&IBasicSettings::GetOperationMode),      "1",  Always("R 52020000/4")},
-        {"IBasicSettings::SetUpdateFile",       On(&IBasicSettings::SetUpdateFile, update, 4), notImplemented, Never()},
-        {"IBasicSettings::GetUpdateStatus",     On(&IBasicSettings::GetUpdateStatus),       notImplemented, Never()},
-        {"IBasicSettings::GetDevice",           On(&IBasicSettings::GetDevice, device),     notImplemented, Never()},
-        {"IBasicSettings::SetDevice",           On(&IBasicSettings::SetDevice, device, 4),  notImplemented, Never()},
-        {"IBasicSettings::GetErrorRegisterStatus", On(&IBasicSettings::GetErrorRegisterStatus), notImplemented, Never()},
+        {"IBasicSettings::Restart",             On(&B::Restart),         notImplemented, Never()},
+        {"IBasicSettings::LoadSettings",        On(&B::LoadSettings, 0), done,    Always("W 51020000=0").Stales("all but GetPatternGenerator")},
+        {"IBasicSettings::LoadSettings colour", On(&B::LoadSettings, 2), done,    Always("W 51020000=2").Stales("all but GetPatternGenerator"), Colour()},
+        {"IBasicSettings::LoadSettings 3",      On(&B::LoadSettings, 3), invalid, Never()},
+        {"IBasicSettings::SaveSettings",        On(&B::SaveSettings, 2), done,    Always("W 51030000=2")},
+        {"IBasicSettings::SaveSettings 0",      On(&B::SaveSettings, 0), invalid, Never()},
+        {"IBasicSettings::GetStartupSettings",  On(&B::GetStartupSettings),    "1",  Always("R 51040000/4")},
+        {"IBasicSettings::SetStartupSettings",  On(&B::SetStartupSettings, 2), done, Always("W 51040000=2")},
+        {"IBasicSettings::GetOperationMode",    On(&B::GetOperationMode),      "1",  Always("R 52020000/4")},
+        {"IBasicSettings::SetUpdateFile",       On(&B::SetUpdateFile, update, 4), notImplemented, Never()},
+        {"IBasicSettings::GetUpdateStatus",     On(&B::GetUpdateStatus),       notImplemented, Never()},
+        {"IBasicSettings::GetDevice",           On(&B::GetDevice, device),     notImplemented, Never()},
+        {"IBasicSettings::SetDevice",           On(&B::SetDevice, device, 4),  notImplemented, Never()},
+        {"IBasicSettings::GetErrorRegisterStatus", On(&B::GetErrorRegisterStatus), notImplemented, Never()},
 
-        {"IInternalTests::GetPatternGenerator",   On(&IInternalTests::GetPatternGenerator),    "1",  Cached("R 5A010000/4")},
-        {"IInternalTests::SetPatternGenerator",   On(&IInternalTests::SetPatternGenerator, 3), done, Always("W 5A010000=3")},
-        {"IInternalTests::SetPatternGenerator colour", On(&IInternalTests::SetPatternGenerator, 2), invalid, Never(), Colour()},
-        {"IInternalTests::GetTestPattern",        On(&IInternalTests::GetTestPattern, 0),      notImplemented, Never()},
-        {"IInternalTests::SetTestPattern",        On(&IInternalTests::SetTestPattern, 0, 1),   notImplemented, Never()},
-        {"IInternalTests::GetTemperaturePCB",     On(&IInternalTests::GetTemperaturePCB),      notImplemented, Never()},
-        {"IInternalTests::GetTemperature",        On(&IInternalTests::GetTemperature, 0), "-5",    Always("w 5A030000=0; R 5A030000/8"), {{{0x5A030000, Words({0xFFFFFFFB}), 0}}}},
-        {"IInternalTests::GetTemperature 1",      On(&IInternalTests::GetTemperature, 1), invalid, Never()},
-        {"IInternalTests::GetTemperature -1",     On(&IInternalTests::GetTemperature, -1), invalid, Never()},
+        {"IInternalTests::GetPatternGenerator",   On(&T::GetPatternGenerator),    "1",  Cached("R 5A010000/4")},
+        {"IInternalTests::SetPatternGenerator",   On(&T::SetPatternGenerator, 3), done, Always("W 5A010000=3")},
+        {"IInternalTests::SetPatternGenerator colour", On(&T::SetPatternGenerator, 2), invalid, Never(), Colour()},
+        {"IInternalTests::GetTestPattern",        On(&T::GetTestPattern, 0),      notImplemented, Never()},
+        {"IInternalTests::SetTestPattern",        On(&T::SetTestPattern, 0, 1),   notImplemented, Never()},
+        {"IInternalTests::GetTemperaturePCB",     On(&T::GetTemperaturePCB),      notImplemented, Never()},
+        {"IInternalTests::GetTemperature",        On(&T::GetTemperature, 0), "-5",    Always("w 5A030000=0; R 5A030000/8"), With(0x5A030000, 0xFFFFFFFB, 0)},
+        {"IInternalTests::GetTemperature 1",      On(&T::GetTemperature, 1), invalid, Never()},
+        {"IInternalTests::GetTemperature -1",     On(&T::GetTemperature, -1), invalid, Never()},
     };
 }
 // clang-format on

@@ -18,37 +18,44 @@ State Limits(const std::vector<std::uint32_t>& min, const std::vector<std::uint3
     return {{{roaLimits, Words(min), 0}, {roaLimits, Words(max), 1}, {roaLimits, Words({7, 7, 70, 70}), 2}}};
 }
 
+/// A write of the trigger delay asks for the exposure mode, which then stays known.
+Accesses DelayWrite(const std::string& written) { return Settling("R 0A020000/4; " + written, written); }
+
+/// What is stale once the readout area is another.
+const char* const moved = "GetImageSize, GetOverlayPosition line 1, GetOverlayPosition line 2, GetMeasureWindow, "
+                          "GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration";
+
 /// A write of the readout area after its limits were read; they then stay known.
 Accesses AreaWrite(const std::string& written) {
     return Settling("w 28090000=0; R 28090000/20; w 28090000=1; R 28090000/20; W 28050000=" + written,
                     "W 28050000=" + written)
-        .Stales("GetImageSize, GetOverlayPosition line 1, GetOverlayPosition line 2, GetMeasureWindow, "
-                "GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration");
+        .Stales(moved);
 }
 
 } // namespace
 
 // clang-format off
 std::vector<Operation> ImagingOperations() {
+    using E = IExposure; using T = ITrigger;
     const State mode3 = With(exposureMode, 3);
     const State limits = Limits({0, 0, 63, 63}, {100, 100, 1023, 767});
     const SDK4_KBINNING two{2, 3}, eight{8, 8};
     const SDK4_KEXPOSURE time{3, 2097151};
-    const std::string areaBinning = "GetReadoutArea, GetReadoutAreaLimits active, GetReadoutAreaLimits max, GetReadoutAreaLimits min, GetImageSize, GetOverlayPosition line 1, "
-                                    "GetOverlayPosition line 2, GetMeasureWindow, GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration";
+    const std::string exposed = "GetExposure, GetFrameDuration", timed = "GetReadoutTime, " + exposed;
+    const std::string binned = std::string("GetReadoutArea, GetReadoutAreaLimits active, GetReadoutAreaLimits max, GetReadoutAreaLimits min, ") + moved;
     return {
-        {"IExposure::GetExposureMode",        On(&IExposure::GetExposureMode),        "1",   Cached("R 0A020000/4")},
-        {"IExposure::SetExposureMode",        On(&IExposure::SetExposureMode, 4),     done,  Always("W 0A020000=4").Stales("GetExposure, GetFrameDuration")},
-        {"IExposure::SetExposureMode 5",      On(&IExposure::SetExposureMode, 5),     invalid, Never()},
-        {"IExposure::GetExposure",            On(&IExposure::GetExposure),            "1,2", Cached("R 0A030000/8")},
-        {"IExposure::SetExposure",            On(&IExposure::SetExposure, time),      done,  Always("R 46010000/4; W 0A030000=3,2097151").Stales("GetExposure, GetFrameDuration")},
-        {"IExposure::SetExposure automatic",  On(&IExposure::SetExposure, time),      locked, Always("R 46010000/4"), With(aet, 2)},
-        {"IExposure::GetAutoExposureLevel",   On(&IExposure::GetAutoExposureLevel),   "1",   Cached("R 46030000/4")},
-        {"IExposure::SetAutoExposureLevel",   On(&IExposure::SetAutoExposureLevel, 255), done, Always("W 46030000=255")},
-        {"IExposure::SetAutoExposureLevel above", On(&IExposure::SetAutoExposureLevel, 256), outOfRange, Always("W 46030000=255")},
-        {"IExposure::GetAET",                 On(&IExposure::GetAET),                 "0",   Always("R 46010000/4")},
-        {"IExposure::SetAET",                 On(&IExposure::SetAET, 0),              done,  Always("W 46010000=0").Stales("GetExposure, GetFrameDuration")},
-        {"IExposure::SetAET on",              On(&IExposure::SetAET, 2),              done,  Always("W 46010000=2").Stales("GetExposure, GetFrameDuration")},
+        {"IExposure::GetExposureMode",        On(&E::GetExposureMode),        "1",   Cached("R 0A020000/4")},
+        {"IExposure::SetExposureMode",        On(&E::SetExposureMode, 4),     done,  Always("W 0A020000=4").Stales(exposed)},
+        {"IExposure::SetExposureMode 5",      On(&E::SetExposureMode, 5),     invalid, Never()},
+        {"IExposure::GetExposure",            On(&E::GetExposure),            "1,2", Cached("R 0A030000/8")},
+        {"IExposure::SetExposure",            On(&E::SetExposure, time),      done,  Always("R 46010000/4; W 0A030000=3,2097151").Stales(exposed)},
+        {"IExposure::SetExposure automatic",  On(&E::SetExposure, time),      locked, Always("R 46010000/4"), With(aet, 2)},
+        {"IExposure::GetAutoExposureLevel",   On(&E::GetAutoExposureLevel),   "1",   Cached("R 46030000/4")},
+        {"IExposure::SetAutoExposureLevel",   On(&E::SetAutoExposureLevel, 255), done, Always("W 46030000=255")},
+        {"IExposure::SetAutoExposureLevel above", On(&E::SetAutoExposureLevel, 256), outOfRange, Always("W 46030000=255")},
+        {"IExposure::GetAET",                 On(&E::GetAET),                 "0",   Always("R 46010000/4")},
+        {"IExposure::SetAET",                 On(&E::SetAET, 0),              done,  Always("W 46010000=0").Stales(exposed)},
+        {"IExposure::SetAET on",              On(&E::SetAET, 2),              done,  Always("W 46010000=2").Stales(exposed)},
 
         {"IGain::GetGain",                    On(&IGain::GetGain),                    "1",   Cached("R 14010000/4")},
         {"IGain::SetGain",                    On(&IGain::SetGain, 511),               done,  Always("R 46020000/4; W 14010000=511")},
@@ -61,17 +68,17 @@ std::vector<Operation> ImagingOperations() {
 
         {"ITiming::GetPixelClock",            On(&ITiming::GetPixelClock),            "1",   Cached("R 0A090000/4")},
         {"ITiming::GetReadoutTime",           On(&ITiming::GetReadoutTime),           "1",   Cached("R 0A0A0000/4")},
-        {"ITiming::SetReadoutTime",           On(&ITiming::SetReadoutTime, 4000000000), done, Always("W 0A0A0000=4000000000").Stales("GetReadoutTime, GetExposure, GetFrameDuration")},
+        {"ITiming::SetReadoutTime",           On(&ITiming::SetReadoutTime, 4000000000), done, Always("W 0A0A0000=4000000000").Stales(timed)},
         {"ITiming::GetFrameDuration",         On(&ITiming::GetFrameDuration),         "1",   Cached("R 28040000/4")},
 
-        {"ITrigger::GetSoftTrigger",          On(&ITrigger::GetSoftTrigger),          "1",   Always("R 0A070000/4")},
-        {"ITrigger::SetSoftTrigger",          On(&ITrigger::SetSoftTrigger, 1),       done,  Settling("R 0A0A0000/4; W 0A070000=1", "W 0A070000=1")},
-        {"ITrigger::GetTriggerTimer",         On(&ITrigger::GetTriggerTimer),         "1",   Always("R 0A080000/4")},
-        {"ITrigger::SetTriggerTimer",         On(&ITrigger::SetTriggerTimer, 77),     done,  Always("W 0A080000=77")},
-        {"ITrigger::GetTriggerDelay",         On(&ITrigger::GetTriggerDelay),         "1,2", Settling("R 0A020000/4; R 0A100000/8", "R 0A100000/8"), mode3},
-        {"ITrigger::SetTriggerDelay",         On(&ITrigger::SetTriggerDelay, time),   done,  Settling("R 0A020000/4; W 0A100000=3,2097151", "W 0A100000=3,2097151"), mode3},
-        {"ITrigger::GetTriggerDelay other mode", On(&ITrigger::GetTriggerDelay),      disabled, Cached("R 0A020000/4"), With(exposureMode, 4)},
-        {"ITrigger::SetTriggerDelay other mode", On(&ITrigger::SetTriggerDelay, time), disabled, Cached("R 0A020000/4")},
+        {"ITrigger::GetSoftTrigger",          On(&T::GetSoftTrigger),          "1",   Always("R 0A070000/4")},
+        {"ITrigger::SetSoftTrigger",          On(&T::SetSoftTrigger, 1),       done,  Settling("R 0A0A0000/4; W 0A070000=1", "W 0A070000=1")},
+        {"ITrigger::GetTriggerTimer",         On(&T::GetTriggerTimer),         "1",   Always("R 0A080000/4")},
+        {"ITrigger::SetTriggerTimer",         On(&T::SetTriggerTimer, 77),     done,  Always("W 0A080000=77")},
+        {"ITrigger::GetTriggerDelay",         On(&T::GetTriggerDelay),         "1,2", Settling("R 0A020000/4; R 0A100000/8", "R 0A100000/8"), mode3},
+        {"ITrigger::SetTriggerDelay",         On(&T::SetTriggerDelay, time),   done,  DelayWrite("W 0A100000=3,2097151"), mode3},
+        {"ITrigger::GetTriggerDelay other mode", On(&T::GetTriggerDelay),      disabled, Cached("R 0A020000/4"), With(exposureMode, 4)},
+        {"ITrigger::SetTriggerDelay other mode", On(&T::SetTriggerDelay, time), disabled, Cached("R 0A020000/4")},
 
         {"ISlowScan::GetSlowScan",            On(&ISlowScan::GetSlowScan),            notImplemented, Never()},
         {"ISlowScan::SetSlowScan",            On(&ISlowScan::SetSlowScan, 0),         notImplemented, Never()},
@@ -96,10 +103,10 @@ std::vector<Operation> ImagingOperations() {
         {"IRoa::GetFrameMask",                On(&IRoa::GetFrameMask),                        notImplemented, Never()},
         {"IRoa::SetFrameMask",                On(&IRoa::SetFrameMask, SDK4_KAREA{1, 2, 3, 4}), notImplemented, Never()},
 
-        {"IBinning::GetBinning",              On(&IBinning::GetBinning),        "1,2",  Cached("R 0A0B0000/8").AskingForTheModel()},
+        {"IBinning::GetBinning",              On(&IBinning::GetBinning),        "1,2",  Cached("R 0A0B0000/8").AskingModel()},
         {"IBinning::GetBinning colour",       On(&IBinning::GetBinning),        notImplemented, Kept("R 64030000/4"), Colour()},
-        {"IBinning::SetBinning",              On(&IBinning::SetBinning, two),   done,   Always("W 0A0B0000=2,3").AskingForTheModel().Stales(areaBinning)},
-        {"IBinning::SetBinning 8",            On(&IBinning::SetBinning, eight), done,   Always("W 0A0B0000=8,8").AskingForTheModel().Stales(areaBinning)},
+        {"IBinning::SetBinning",              On(&IBinning::SetBinning, two),   done,   Always("W 0A0B0000=2,3").AskingModel().Stales(binned)},
+        {"IBinning::SetBinning 8",            On(&IBinning::SetBinning, eight), done,   Always("W 0A0B0000=8,8").AskingModel().Stales(binned)},
         {"IBinning::SetBinning streaming",    On(&IBinning::SetBinning, two),   locked, Kept("R 64030000/4"), Streaming()},
         {"IBinning::SetBinning colour",       On(&IBinning::SetBinning, two),   notImplemented, Kept("R 64030000/4"), Colour()},
         {"IBinning::SetBinning 0,1",          On(&IBinning::SetBinning, SDK4_KBINNING{0, 1}), invalid, Never(), Streaming()},

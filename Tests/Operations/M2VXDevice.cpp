@@ -30,6 +30,7 @@ Call GetIntValue(int index, const char* name) {
 
 // clang-format off
 std::vector<Operation> ControlOperations() {
+    const char* const serial = "a serial of 20 char";
     return {
         {"IControl::GetClassID",         On(&IControl::GetClassID),         "M2VX",         Never()},
         {"IStreamControl::Start",        On(&IStreamControl::Start),        done,           Always("w 00088134=1")},
@@ -42,7 +43,7 @@ std::vector<Operation> ControlOperations() {
         {"IVideoFrame::GetTimePerFrame", On(&IVideoFrame::GetTimePerFrame), "0",            Never()},
 
         {"IGufi::GetDeviceName",           On(&IGufi::GetDeviceName),   "  CAM 1 ", Always("rs 64010000/24"), Text24(0x64010000, "  CAM 1 ")},
-        {"IGufi::GetSerialNumber",         On(&IGufi::GetSerialNumber), "a serial of 20 char", Always("rs 64020000/24"), Text24(0x64020000, "a serial of 20 char")},
+        {"IGufi::GetSerialNumber",         On(&IGufi::GetSerialNumber), serial, Always("rs 64020000/24"), Text24(0x64020000, serial)},
         {"IGufi::GetFunctionModelID",      On(&IGufi::GetFunctionModelID),      "7",   Always("r 64030000"), With(0x64030000, 7)},
         {"IGufi::GetFunctionModelVersion", On(&IGufi::GetFunctionModelVersion), "1,2", Always("rp 64040000")},
         {"IGufi::GetRevision",             On(&IGufi::GetRevision),             "1,2", Always("rp 65010000")},
@@ -72,7 +73,7 @@ std::vector<Operation> SettingsOperations() {
         {"IBasicSettings::SaveSettings running",  On(&B::SaveSettings, 1),       done,       Always("w 51030000=1"), Streaming()},
         {"IBasicSettings::SaveSettings 0",        On(&B::SaveSettings, 0),       outOfRange, Never()},
         {"IBasicSettings::GetStartupSettings",    On(&B::GetStartupSettings),    "1",        ReadThrough("r 51040000")},
-        {"IBasicSettings::SetStartupSettings",    On(&B::SetStartupSettings, 2), done,       Always("w 51040000=2").Changes("GetStartupSettings")},
+        {"IBasicSettings::SetStartupSettings",    On(&B::SetStartupSettings, 2), done,       Sets("w 51040000=2")},
         {"IBasicSettings::SetStartupSettings 3",  On(&B::SetStartupSettings, 3), outOfRange, Never()},
         {"IBasicSettings::SetStartupSettings -1", On(&B::SetStartupSettings, -1), outOfRange, Never()},
         {"IBasicSettings::GetOperationMode",      On(&B::GetOperationMode),      "1",        Always("r 52020000")},
@@ -88,7 +89,7 @@ std::vector<Operation> SettingsOperations() {
         {"IInternalTests::GetTestPattern",      On(&T::GetTestPattern, 0),      "5",        ReadThrough("w 5A010000=0; rp 5A010000")},
         {"IInternalTests::GetTestPattern 1",    On(&T::GetTestPattern, 1),      "15",       ReadThrough("w 5A010000=1; rp 5A010000")},
         {"IInternalTests::GetTestPattern 2",    On(&T::GetTestPattern, 2),      invalid,    Never()},
-        {"IInternalTests::SetTestPattern",      On(&T::SetTestPattern, 1, 6),   done,       Always("wp 5A010000=1,6").Changes("GetTestPattern 1")},
+        {"IInternalTests::SetTestPattern",      On(&T::SetTestPattern, 1, 6),   done,       Sets("wp 5A010000=1,6", "1")},
         {"IInternalTests::SetTestPattern value 7", On(&T::SetTestPattern, 1, 7), outOfRange, Never()},
         {"IInternalTests::SetTestPattern 2",    On(&T::SetTestPattern, 2, 7),   invalid,    Never()},
         {"IInternalTests::GetTemperaturePCB",   On(&T::GetTemperaturePCB),      "-5",       Always("r 5A030000"), With(0x5A030000, 0xFFFFFFFB)},
@@ -110,6 +111,7 @@ void Ignore(const char*, const char*, void*) {}
 
 std::vector<Operation> PropertyOperations() {
     using P = IPropertyState;
+    const State pixel = After(On(&M2VX::IDefectPixel::SetDefectPixel, SDK4_KDEFECTPIXELSELECT{0, 1}, SDK4_KDEFECTPIXEL{9, 8, 1}));
     const State gain7 = After(On(&M2VX::IGain::SetGain, 7)), threshold = After(On(&M2VX::IABC::SetABCThreshold, 1, 9)),
                 gamma3 = After(On(&ILookUpTable::SetLUTInterpolatorIndex, 3)), correction = After(On(&M2VX::IImageCorrection::SetShadingCorrection, 2, -3));
     return {
@@ -123,7 +125,7 @@ std::vector<Operation> PropertyOperations() {
         {"IPropertyState::GetUIntValue unknown",  GetUIntValue("overlayposition"),     unknown, Never()},
         {"IPropertyState::GetUIntValue index 1",  GetUIntValue(1, "abcthreshold"),     "9",    Never(), threshold},
         {"IPropertyState::GetUIntValue index 0 not indexed", GetUIntValue(0, "gain"),  "7",    Never(), gain7},
-        {"IPropertyState::GetUIntValue first pair", GetUIntValue(1, "defectpixel.xpos"), "9",  Never(), After(On(&M2VX::IDefectPixel::SetDefectPixel, SDK4_KDEFECTPIXELSELECT{0, 1}, SDK4_KDEFECTPIXEL{9, 8, 1}))},
+        {"IPropertyState::GetUIntValue first pair", GetUIntValue(1, "defectpixel.xpos"), "9",  Never(), pixel},
         {"IPropertyState::GetUIntValue no such index", GetUIntValue(2, "abcthreshold"), unknown, Never()},
         {"IPropertyState::GetUIntValue motor unindexed", GetUIntValue(1, "motorcontrol"), unknown, Never()},
         {"IPropertyState::GetUIntValue index, null", GetUIntValue(0, nullptr),         unknown, Never()},

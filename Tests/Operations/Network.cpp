@@ -21,7 +21,7 @@ State WithText(std::uint32_t address, const std::string& text) {
     return {{{address, Bytes(text.begin(), text.end())}}};
 }
 
-Call EnablePersistent(const char* ip, const char* mask, const char* gateway) {
+Call Persistent(const char* ip, const char* mask, const char* gateway) {
     return On(&IGigECamera::EnablePersistentIP, ip, mask, gateway);
 }
 
@@ -36,10 +36,11 @@ std::vector<Operation> NetworkOperations() {
     const char* const ip = "192.168.1.20";
     const char* const mask = "255.255.255.0";
     const char* const gateway = "192.168.1.1";
-    const Call setPersistent = EnablePersistent(ip, mask, gateway);
+    const State mac{{{0x0008, Words({0xFFFF0A1B})}, {0x000C, Words({0x2C3D4E5F})}}};
+    const Call setPersistent = Persistent(ip, mask, gateway);
     return {
         {"IGigECamera::GetGigEVersion",     On(&IGigECamera::GetGigEVersion), "65538", Always("r 0000"), With(0, 0x00010002)},
-        {"IGigECamera::GetMacAddress",      On(&IGigECamera::GetMacAddress), "0A:1B:2C:3D:4E:5F", Always("r 000C; r 0008"), {{{0x0008, Words({0xFFFF0A1B})}, {0x000C, Words({0x2C3D4E5F})}}}},
+        {"IGigECamera::GetMacAddress",      On(&IGigECamera::GetMacAddress), "0A:1B:2C:3D:4E:5F", Always("r 000C; r 0008"), mac},
         {"IGigECamera::GetCurrentIPAddress",     On(&IGigECamera::GetCurrentIPAddress),      "192.168.1.10",  Always("r 0024"), Network(3, 6)},
         {"IGigECamera::GetCurrentIPAddress longest", On(&IGigECamera::GetCurrentIPAddress),  "255.255.255.255", Always("r 0024"), With(0x0024, 0xFFFFFFFF)},
         {"IGigECamera::GetCurrentSubnetmask",    On(&IGigECamera::GetCurrentSubnetmask),     "255.255.255.0", Always("r 0034"), Network(3, 6)},
@@ -59,13 +60,13 @@ std::vector<Operation> NetworkOperations() {
         {"IGigECamera::GetPacketDelay",      On(&IGigECamera::GetPacketDelay), "12", Always("r 0D08"), With(0x0D08, 12)},
 
         {"IGigECamera::EnablePersistentIP",               setPersistent, done, Always(persistentIP), Network(3, 6)},
-        {"IGigECamera::EnablePersistentIP octet above 255", EnablePersistent("192.168.257.20", mask, gateway), done, Always(persistentIP), Network(1, 6)},
+        {"IGigECamera::EnablePersistentIP octet above 255", Persistent("192.168.257.20", mask, gateway), done, Always(persistentIP), Network(1, 6)},
         {"IGigECamera::EnablePersistentIP not supported", setPersistent, done, Always("r 0010"), Network(2, 6)},
-        {"IGigECamera::EnablePersistentIP other subnet",  EnablePersistent("192.168.2.5", mask, "192.168.2.1"), done, Always("r 0010; r 0024; r 0034"), Network(3, 6)},
-        {"IGigECamera::EnablePersistentIP other mask",    EnablePersistent(ip, "255.255.0.0", gateway), done, Always("r 0010; r 0024; r 0034"), Network(3, 6)},
-        {"IGigECamera::EnablePersistentIP null ip",       EnablePersistent(nullptr, mask, gateway), invalid, Never(), Network(3, 6)},
-        {"IGigECamera::EnablePersistentIP null mask",     EnablePersistent(ip, nullptr, gateway),   invalid, Never(), Network(3, 6)},
-        {"IGigECamera::EnablePersistentIP null gateway",  EnablePersistent(ip, mask, nullptr),      invalid, Never(), Network(3, 6)},
+        {"IGigECamera::EnablePersistentIP other subnet",  Persistent("10.0.2.5", mask, "10.0.2.1"), done, Always("r 0010; r 0024; r 0034"), Network(3, 6)},
+        {"IGigECamera::EnablePersistentIP other mask",    Persistent(ip, "255.255.0.0", gateway), done, Always("r 0010; r 0024; r 0034"), Network(3, 6)},
+        {"IGigECamera::EnablePersistentIP null ip",       Persistent(nullptr, mask, gateway), invalid, Never(), Network(3, 6)},
+        {"IGigECamera::EnablePersistentIP null mask",     Persistent(ip, nullptr, gateway),   invalid, Never(), Network(3, 6)},
+        {"IGigECamera::EnablePersistentIP null gateway",  Persistent(ip, mask, nullptr),      invalid, Never(), Network(3, 6)},
         {"IGigECamera::DisablePersistentIP",               On(&IGigECamera::DisablePersistentIP), done, Always("r 0010; r 0014; w 0014=6"), Network(1, 7)},
         {"IGigECamera::DisablePersistentIP not supported", On(&IGigECamera::DisablePersistentIP), done, Always("r 0010"), Network(2, 7)},
         {"IGigECamera::EnableDHCP",                On(&IGigECamera::EnableDHCP),  done, Always("r 0010; r 0014; w 0014=7"), Network(2, 5)},

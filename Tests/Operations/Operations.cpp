@@ -9,6 +9,7 @@ namespace Test {
 namespace {
 
 constexpr std::uint32_t functionModel = 0x64030000;
+const std::string ownGetter = "its getter"; // of the operation that a row is for
 
 std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
@@ -68,7 +69,7 @@ Accesses Accesses::Stales(std::string names) const {
     return result;
 }
 
-Accesses Accesses::AskingForTheModel() const {
+Accesses Accesses::AskingModel() const {
     Accesses result = *this;
     result.first = Join("R 64030000/4", first);
     result.firstUncached = Join("R 64030000/4", firstUncached);
@@ -81,7 +82,11 @@ Accesses Cached(std::string accesses) { return Settling(accesses, ""); }
 Accesses Kept(std::string accesses) { return {accesses, "", accesses, "", ""}; }
 Accesses ReadThrough(std::string accesses) { return {"", "", accesses, accesses, ""}; }
 
-State With(std::uint32_t address, std::uint32_t word) { return {{{address, Words({word})}}}; }
+Accesses Sets(std::string accesses, const std::string& instance) {
+    return Always(std::move(accesses)).Changes(ownGetter + (instance.empty() ? "" : " ") + instance);
+}
+
+State With(std::uint32_t address, std::uint32_t word, int index) { return {{{address, Words({word}), index}}}; }
 State Colour() { return {{{functionModel, Words({0x00030000})}}, "Orvik-31200C"}; }
 State Streaming() { return After(On(&SDK4::IStreamControl::Start)); }
 State After(Call call) { return {{}, "Orvik-31200M", std::move(call)}; }
@@ -119,6 +124,10 @@ std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups)
     std::vector<Operation> rows;
     for (const auto& group : groups) {
         for (Operation row : group) {
+            if (row.accesses.affected.starts_with(ownGetter)) {
+                const std::string setter = row.name.substr(0, row.name.find(' '));
+                row.accesses.affected.replace(0, ownGetter.size(), "Get" + setter.substr(setter.rfind("::Set") + 5));
+            }
             row.name = "M2VX::" + row.name;
             row.state = OnM2VX(row.state);
             rows.push_back(row);

@@ -36,7 +36,7 @@ struct Accesses {
     Accesses Changes(std::string names) const { return Stales(std::move(names)); }
 
     /// Adds, to the first call only, the read of the function-model identifier: it is kept even with index 2.
-    Accesses AskingForTheModel() const;
+    Accesses AskingModel() const;
 };
 
 Accesses Always(std::string accesses);                   ///< the same every time: cache mode 0, or a write
@@ -45,6 +45,10 @@ Accesses Cached(std::string accesses);                   ///< the second call at
 Accesses Kept(std::string accesses);                     ///< the second call costs nothing, even with index 2
 Accesses ReadThrough(std::string accesses);              ///< M2VX: only a camera that does not remember is read
 inline Accesses Never() { return {}; }
+
+/// M2VX: the accesses of a setter, after which the getter of the same name answers differently, or its row for @p
+/// instance, "GetABCThreshold 1".
+Accesses Sets(std::string accesses, const std::string& instance = "");
 
 struct Preset {
     std::uint32_t address;
@@ -65,8 +69,8 @@ struct State {
     static constexpr const char* m2vxModel = "Cerix7-MV";
 };
 
-/// The state that differs in one word.
-State With(std::uint32_t address, std::uint32_t word);
+/// The state that differs in one word, or in that of one of several instances.
+State With(std::uint32_t address, std::uint32_t word, int index = -1);
 State Colour();                        ///< a colour camera with image memory
 State Streaming();                     ///< the acquisition runs
 State After(Call call);                ///< the host has called something

@@ -29,8 +29,8 @@ Plugin::Plugin() : handle(dlopen(Path(), RTLD_NOW | RTLD_LOCAL | keepLoaded)) {
     if (handle == nullptr) {
         throw std::runtime_error(dlerror());
     }
-    Resolve(InitLibrary, handle, "InitLibrary");
-    Resolve(CreateObject, handle, "CreateObject");
+    Resolve(initLibrary, handle, "InitLibrary");
+    Resolve(createObject, handle, "CreateObject");
 }
 
 Plugin::~Plugin() { dlclose(handle); }

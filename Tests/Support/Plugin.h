@@ -18,8 +18,8 @@ public:
 
     static const char* Path();
 
-    void (*InitLibrary)(void* registry);
-    void* (*CreateObject)(const char* modelName, void* port, std::int32_t index);
+    void (*initLibrary)(void* registry);
+    void* (*createObject)(const char* modelName, void* port, std::int32_t index);
 
 private:
     void* handle;
@@ -29,7 +29,7 @@ private:
 class Camera {
 public:
     Camera(const Plugin& plugin, const char* model, SDK4::IControlPort* port, std::int32_t index = 0)
-        : object(static_cast<IDynamicObject*>(plugin.CreateObject(model, port, index))) {}
+        : object(static_cast<IDynamicObject*>(plugin.createObject(model, port, index))) {}
 
     [[nodiscard]] IDynamicObject* Object() const { return object.get(); }
 
