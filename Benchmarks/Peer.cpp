@@ -10,7 +10,7 @@ namespace Bench {
 
 namespace {
 
-constexpr const char* feature = "GainRaw";      // the cheapest: one register, limits that are constants
+constexpr const char* plainFeature = "GainRaw"; // the cheapest: one register, limits that are constants
 constexpr const char* boundedFeature = "Width"; // its greatest value is another feature's
 constexpr guint32 gainRegister = 0x110;
 
@@ -43,10 +43,10 @@ void Set(ArvDevice* device, const char* feature, gint64 value) {
 /// The cache answers when a change behind its back goes unnoticed.
 void RequireCache(ArvDevice* device) {
     ArvFakeCamera* camera = arv_fake_device_get_fake_camera(ARV_FAKE_DEVICE(device));
-    Set(device, feature, 3);
-    Get(device, feature);
+    Set(device, plainFeature, 3);
+    Get(device, plainFeature);
     arv_fake_camera_write_register(camera, gainRegister, 7);
-    if (Get(device, feature) != 3) {
+    if (Get(device, plainFeature) != 3) {
         throw std::runtime_error("Aravis does not answer from its register cache");
     }
     arv_fake_camera_write_register(camera, gainRegister, 3);
@@ -54,7 +54,7 @@ void RequireCache(ArvDevice* device) {
 
 void RequireRangeCheck(ArvDevice* device) {
     GError* error = nullptr;
-    arv_device_set_integer_feature_value(device, feature, 11, &error);
+    arv_device_set_integer_feature_value(device, plainFeature, 11, &error);
     if (error == nullptr) {
         throw std::runtime_error("Aravis does not check the range");
     }
@@ -70,10 +70,10 @@ void AddPeer(Table& table) {
     RequireCache(device);
     RequireRangeCheck(device);
 
-    auto* node = ARV_GC_INTEGER(arv_device_get_feature(device, feature));
+    auto* node = ARV_GC_INTEGER(arv_device_get_feature(device, plainFeature));
     const gint64 width = Get(device, boundedFeature);
-    table.Add({peerRead}, [=] { Get(device, feature); });
-    table.Add({peerWrite}, [=] { Set(device, feature, 5); });
+    table.Add({peerRead}, [=] { Get(device, plainFeature); });
+    table.Add({peerWrite}, [=] { Set(device, plainFeature, 5); });
     table.Add({"Aravis: cached integer read, its node held"}, [=] { Call(arv_gc_integer_get_value, node); });
     table.Add({"Aravis: range-checked integer write, its node held"},
               [=] { Call(arv_gc_integer_set_value, node, gint64{5}); });
