@@ -5,38 +5,42 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Host {
 
-/// What a command takes. The name says how it is given: "MODEL" in its place, "NAME..." once or more, "[NAME...]" any
-/// number of times, "[FILE]" at most once, "--all" as a switch, "--seconds N" as an option with a value.
-struct Parameter {
-    const char* name;
-    const char* about;
-};
+/// What can be given to a command.
+enum class Parameter { All, Assignments, Camera, DryRun, File, First, Names, Outputs, Plugin, Second, Seconds };
 
-/// The parameter that names a camera. In a shell, which has one open, no command takes it.
-constexpr const char* modelParameter = "MODEL";
+/// Whether an operand has to be given.
+enum class Need { Always, OutsideShell, Never };
+
+/// How a command takes a parameter.
+struct Syntax {
+    Parameter parameter;
+    const char* name; ///< "FILE" of an operand, which stands in its place; "--all", or "--seconds N", of an option
+    const char* about;
+    Need need = Need::Always;
+    bool several = false; ///< whether an operand may be given more than once
+};
 
 /// One run of a command: what was given to it, and the program that it runs in.
 class Invocation {
 public:
-    using Given = std::map<std::string, std::vector<std::string>>;
+    using Given = std::map<Parameter, std::vector<std::string>>;
 
     Invocation(Host::Program& runningProgram, Given givenParameters)
         : program(runningProgram),
           given(std::move(givenParameters)) {}
 
-    /// What was given for a parameter, by its whole name in the command's list; nothing if it was left out.
-    [[nodiscard]] const std::vector<std::string>& Texts(const std::string& parameter) const;
-    [[nodiscard]] std::string Text(const std::string& parameter) const;
-    [[nodiscard]] bool Has(const std::string& parameter) const { return given.contains(parameter); }
+    /// What was given for a parameter; nothing if it was left out.
+    [[nodiscard]] const std::vector<std::string>& Texts(Parameter parameter) const;
+    [[nodiscard]] std::string Text(Parameter parameter) const;
+    [[nodiscard]] bool Has(Parameter parameter) const { return given.contains(parameter); }
 
     [[nodiscard]] Host::Program& Program() const { return program; }
 
-    /// The camera that the command is about: that of the shell, or MODEL, opened now.
+    /// The camera that the command is about: that of the shell, or CAMERA, opened now.
     [[nodiscard]] Session& Open() const;
     /// Its functions.
     [[nodiscard]] Camera OpenCamera() const { return Open().Camera(); }
@@ -51,7 +55,7 @@ private:
 struct Command {
     const char* name;
     const char* about;
-    std::vector<Parameter> parameters;
+    std::vector<Syntax> syntax; ///< in a shell, which has a camera open, no command takes that
     int (*run)(const Invocation& invocation);
     bool inShell = true;  ///< whether a shell has it too
     int failed = Refused; ///< the exit code where the camera is lost, something refuses, or results cannot be written

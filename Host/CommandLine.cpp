@@ -1,7 +1,6 @@
 #include "Host/CommandLine.h"
 
-#include "Host/Channel/Datagrams.h"
-#include "Host/Positionals.h"
+#include "Host/Functions/Tables.h"
 #include "Host/Trace.h"
 #include "Simulation/Suggestion.h"
 
@@ -19,106 +18,111 @@ namespace {
 struct Filled {
     CLI::App* app;
     const Command* command;
-    std::vector<std::pair<std::string, CLI::Option*>> options; ///< by the parameter's name
+    std::vector<std::pair<Parameter, CLI::Option*>> options;
 };
 
-CLI::Option* AddParameter(CLI::App& app, const Parameter& parameter, CameraFrom camera) {
-    const std::string name = parameter.name;
-    if (!IsPositional(parameter)) {
-        const std::size_t blank = name.find(' ');
-        return blank == std::string::npos
-                   ? app.add_flag(name, parameter.about)
-                   : app.add_option(name.substr(0, blank), parameter.about)->type_name(name.substr(blank + 1));
-    }
-    const bool required = !name.starts_with('[') && camera != CameraFrom::Network;
-    const bool several = name.find("...") != std::string::npos;
-    CLI::Option* const option = app.add_option(BareName(parameter), parameter.about)->type_name("")->required(required);
-    return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
+bool IsOperand(const Syntax& syntax) { return *syntax.name != '-'; }
+
+bool IsRequired(const Syntax& syntax, bool inShell) {
+    return syntax.need == Need::Always || (syntax.need == Need::OutsideShell && !inShell);
 }
 
-Filled AddCommand(CLI::App& app, const Command& command, CameraFrom camera) {
+/// What is wrong with the value of an option: nothing may be meant, and no other option.
+std::string ValueFault(const std::string& text) {
+    const bool isOption = text.size() > 1 && text[0] == '-' && (text[1] < '0' || text[1] > '9');
+    return text.empty() || isOption ? "a value is required" : "";
+}
+
+CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
+    const std::string name = syntax.name;
+    if (!IsOperand(syntax)) {
+        const std::size_t blank = name.find(' ');
+        return blank == std::string::npos ? app.add_flag(name, syntax.about)
+                                          : app.add_option(name.substr(0, blank), syntax.about)
+                                                ->type_name(name.substr(blank + 1))
+                                                ->check(ValueFault);
+    }
+    CLI::Option* const option =
+        app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));
+    return syntax.several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
+}
+
+bool Takes(const Syntax& syntax, bool inShell) { return !inShell || syntax.parameter != Parameter::Camera; }
+
+Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
     Filled filled{app.add_subcommand(command.name, command.about), &command, {}};
-    for (const Parameter& parameter : command.parameters) {
-        if (camera != CameraFrom::Shell || parameter.name != std::string_view(modelParameter)) {
-            filled.options.emplace_back(parameter.name, AddParameter(*filled.app, parameter, camera));
+    for (const Syntax& syntax : command.syntax) {
+        if (Takes(syntax, inShell)) {
+            filled.options.emplace_back(syntax.parameter, AddParameter(*filled.app, syntax, inShell));
         }
     }
     return filled;
 }
 
-constexpr const char* cameraOption = "--camera";
-
-/// Whether a camera on the network is asked for, which changes what else has to be given.
-bool NamesCamera(const std::vector<std::string>& arguments) {
-    return std::any_of(arguments.begin(), arguments.end(), [](const std::string& argument) {
-        return argument == cameraOption || argument.starts_with(std::string(cameraOption) + "=");
-    });
-}
-
-std::string AddressOf(const std::string& text) {
-    const std::string form = "gige:";
-    std::string address = text.starts_with(form) ? text.substr(form.size()) : "";
-    if (!IsAddress(address)) {
-        throw CLI::ValidationError(cameraOption, '"' + text +
-                                                     "\" is no camera; gige:ADDRESS is wanted, such as "
-                                                     "gige:192.168.1.10");
+std::string UsageOf(const Command& command, bool inShell) {
+    std::string usage = std::string("; usage: ") + (inShell ? "" : "qdv12host ") + command.name;
+    for (const Syntax& syntax : command.syntax) {
+        if (IsOperand(syntax) && Takes(syntax, inShell)) {
+            const std::string form = std::string(syntax.name) + (syntax.several ? "..." : "");
+            usage += IsRequired(syntax, inShell) ? ' ' + form : " [" + form + ']';
+        }
     }
-    return address;
+    return usage;
 }
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
-    app.add_option("--plugin", options.plugin, "The plug-in to load (default: the installed one, else the built one)")
-        ->check([](const std::string& path) { return path.empty() ? "a path is required" : ""; })
-        ->type_name("PATH");
-    app.add_option("--index", options.camera.index,
-                   "Camera index; with 2, the default, every value is read from the camera each time")
-        ->type_name("N");
+    const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
+        return app.add_option(name, variable, about)->type_name(value)->check(ValueFault);
+    };
+    add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
+    add("--index", options.camera.index, "N",
+        "Camera index; with 2, the default, every value is read from the camera each time");
     app.add_flag("--trace", trace, "Show each port access on standard error");
-    app.add_option("--log", options.logLevel, "What log4cxx writes to standard error")
+    add("--log", options.logLevel, "LEVEL", "What log4cxx writes to standard error")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
-    app.add_option("--config", options.logConfig, "A configuration file for log4cxx")->type_name("FILE");
-    auto* const camera =
-        app.add_option_function<std::string>(
-               cameraOption, [&](const std::string& text) { options.camera.address = AddressOf(text); },
-               "Drives a camera on the network, instead of a simulated one; MODEL may then be left "
-               "out (not for check and models, which need no camera)")
-            ->type_name("gige:ADDRESS");
-    app.add_flag("--force-model", options.camera.forceModel,
-                 "Drives the camera on the network as a MODEL, whatever it calls itself")
-        ->needs(camera);
+    add("--config", options.logConfig, "FILE", "A configuration file for log4cxx");
+    add("--force-model", options.camera.forcedModel, "MODEL",
+        "Drives a camera on the network as that model, whatever it calls itself");
     auto& simulation = options.camera.simulation;
-    app.add_option("--seed", simulation.seed, "Chooses the world around the simulated camera")
-        ->check(Simulation::SeedFault)
-        ->type_name("N")
-        ->excludes(camera);
-    app.add_option("--state", simulation.state, "Keeps the simulated camera in a file between two runs")
-        ->type_name("FILE")
-        ->excludes(camera);
-    app.add_option("--fault", simulation.faults, "Plants a fault in the simulated camera, such as ignore:gain")
-        ->type_name("TEXT")
-        ->allow_extra_args(false) // else it would take the model for a fault too
-        ->excludes(camera);
+    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Simulation::SeedFault);
+    add("--state", simulation.state, "FILE", "Keeps a simulated camera in a file between two runs");
+    add("--fault", simulation.faults, "TEXT", "Plants a fault in a simulated camera, such as ignore:gain")
+        ->allow_extra_args(false); // else it would take the camera for a fault too
+}
+
+/// @throws UsageError if CAMERA was forgotten, so that a function stands in its place
+void RequireCamera(const Request& request) {
+    const auto camera = request.given.find(Parameter::Camera);
+    if (camera == request.given.end()) {
+        return;
+    }
+    const std::string& text = camera->second.front();
+    if (IsFunction(text) || text.find('=') != std::string::npos) {
+        throw UsageError("CAMERA is required before \"" + text + '"' + UsageOf(*request.command, false));
+    }
 }
 
 /// Takes over what was given for the one command that was named.
+/// @throws UsageError as above
 void TakeGiven(const std::vector<Filled>& commands, Request& request) {
     for (const Filled& filled : commands) {
         if (!filled.app->parsed()) {
             continue;
         }
         request.command = filled.command;
-        for (const auto& [name, option] : filled.options) {
+        for (const auto& [parameter, option] : filled.options) {
             if (option->count() != 0) {
-                request.given[name] = option->results();
+                request.given[parameter] = option->results();
             }
         }
     }
+    RequireCamera(request);
 }
 
 std::vector<std::string> OptionNames(const CLI::App& app) {
     std::vector<std::string> names;
-    for (const CLI::Option* option : app.get_options()) {
+    for (const CLI::Option* option : app.get_options([](const CLI::Option* each) { return !each->get_positional(); })) {
         names.push_back(option->get_name());
     }
     return names;
@@ -133,12 +137,13 @@ std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name)
 }
 
 /// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
-std::string Describe(CLI::App& app, const CLI::ParseError& error) {
+/// @param usage of the command, for one that lacks an operand
+std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::string& usage) {
     const auto unknown = app.remaining(true);
     const auto parsed = app.get_subcommands();
     if (unknown.empty()) {
-        const bool noCommand = parsed.empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
-        return noCommand ? "COMMAND is required" : error.what();
+        const bool lacks = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+        return lacks && parsed.empty() ? "COMMAND is required" : error.what() + (lacks ? usage : "");
     }
     const std::string quoted = " \"" + unknown.front() + '"';
     if (unknown.front().starts_with('-')) {
@@ -148,12 +153,6 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error) {
         return "unknown option" + quoted + Simulation::Suggestion(unknown.front(), names);
     }
     return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : quoted.substr(1) + " was not expected";
-}
-
-/// Whether the parser found too few texts for the parameters of a command, but nothing else.
-bool LacksPositionals(const CLI::App& app, const CLI::ParseError& error) {
-    return dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && app.remaining(true).empty() &&
-           !app.get_subcommands().empty();
 }
 
 /// Prints what --help prints, of a command or of them all.
@@ -170,18 +169,6 @@ void PrintHelp(const CLI::App& app, const std::string& name) {
     std::cout << found.front()->help(app.get_name());
 }
 
-CameraFrom SourceOf(const std::vector<std::string>& arguments, bool inShell) {
-    return inShell ? CameraFrom::Shell : NamesCamera(arguments) ? CameraFrom::Network : CameraFrom::Model;
-}
-
-/// See Positionals.h.
-void Assign(Request& request, CameraFrom camera) {
-    AssignPositionals(*request.command, camera, request.given);
-    if (request.options.camera.forceModel && !request.given.contains(modelParameter)) {
-        throw UsageError("MODEL is required with --force-model");
-    }
-}
-
 Request Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, simulated ones or on the network.",
                  inShell ? "" : "qdv12host");
@@ -196,11 +183,10 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
         AddCommonOptions(app, request.options, trace);
         app.footer("Exit codes: 0 all well; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
     }
-    const CameraFrom camera = SourceOf(arguments, inShell);
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
         if (command.inShell || !inShell) {
-            commands.push_back(AddCommand(app, command, camera));
+            commands.push_back(AddCommand(app, command, inShell));
         }
     }
     std::string helped;
@@ -214,19 +200,16 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
             app.exit(error);
             return request;
         }
-        if (!LacksPositionals(app, error)) {
-            throw UsageError(Describe(app, error));
-        }
+        TakeGiven(commands, request);
+        throw UsageError(Describe(app, error, request.command == nullptr ? "" : UsageOf(*request.command, inShell)));
     }
+    TakeGiven(commands, request);
     if (help->parsed()) {
         PrintHelp(app, helped);
-        return request;
     }
     if (trace) {
         request.options.camera.accesses = PrintAccess;
     }
-    TakeGiven(commands, request);
-    Assign(request, camera);
     return request;
 }
 

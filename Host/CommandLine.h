@@ -18,7 +18,7 @@ struct Request {
 /// @throws UsageError for what is wrong with them
 [[nodiscard]] Request ParseCommandLine(std::vector<std::string> arguments);
 
-/// Reads a line of a shell: a command without MODEL, and of the common options --json alone.
+/// Reads a line of a shell: a command without CAMERA, and of the common options --json alone.
 /// @throws UsageError as above
 [[nodiscard]] Request ParseShellLine(std::vector<std::string> arguments);
 

@@ -11,9 +11,10 @@ const Plugin& Program::LoadedPlugin() {
     return *plugin;
 }
 
-Session& Program::Open(const std::string& model) {
+Session& Program::Open(const std::string& camera) {
     if (!session) {
-        session.emplace(LoadedPlugin(), model, options.camera);
+        session.emplace(LoadedPlugin(), camera, options.camera);
+        opened = camera;
     }
     return *session;
 }

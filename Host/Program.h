@@ -32,9 +32,10 @@ public:
     /// @throws OpenError
     [[nodiscard]] const Plugin& LoadedPlugin();
     /// Opens a camera, or gives back the one that is open.
-    /// @throws OpenError; ChannelLost
-    [[nodiscard]] Session& Open(const std::string& model);
+    /// @throws as Session
+    [[nodiscard]] Session& Open(const std::string& camera);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
+    [[nodiscard]] bool IsOpen(const std::string& camera) const { return IsOpen() && camera == opened; }
     /// Once a command has ended: tells on standard error who has control, if the command lacked it here and there.
     void TellWhoControls();
     /// Has the state file, if there is one, hold the camera as it is now.
@@ -48,6 +49,7 @@ private:
     Host::Options options;
     std::optional<Plugin> plugin; // before the session, which needs it to the end
     std::optional<Session> session;
+    std::string opened; ///< the camera of the session, as it was given
 };
 
 } // namespace Host

@@ -1,11 +1,14 @@
 #include "Host/Session.h"
 
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/Datagrams.h"
 #include "Host/Channel/GigEConnection.h"
 #include "Host/Text.h"
+#include "Simulation/Cameras.h"
 #include "Simulation/Suggestion.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace Host {
 
@@ -33,43 +36,71 @@ void RequireServed(const Plugin& plugin, const std::string& model) {
     }
 }
 
-/// What a camera on the network is to be opened as. @param wanted may be empty
-std::string ModelOf(const Plugin& plugin, NetworkConnection& connection, const std::string& wanted) {
+/// What a camera on the network calls itself, if the plug-in serves that.
+std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     std::string read;
     try {
         read = connection.ModelName();
     } catch (const ChannelError& error) {
         throw OpenError("the model of " + connection.Describe() + " could not be read: " + error.what());
     }
-    const bool mismatch = !wanted.empty() && wanted != read;
-    if (!mismatch && Serves(plugin, read)) {
+    if (Serves(plugin, read)) {
         return read;
     }
     std::string served;
     for (const std::string& name : NamesOf(plugin.Models())) {
         served += (served.empty() ? "" : ", ") + name;
     }
-    throw OpenError(connection.Describe() + " calls itself \"" + Escaped(read) + '"' +
-                    (mismatch ? ", not \"" + wanted + '"' : "") + "; the plug-in serves " + served +
-                    " (--force-model opens it as one of these)");
+    throw OpenError(connection.Describe() + " calls itself \"" + Escaped(read) + "\"; the plug-in serves " + served +
+                    " (--force-model MODEL opens it as one of these)");
+}
+
+constexpr std::string_view network = "gige:"; ///< begins what is no model
+
+/// @return the address of a camera on the network, empty for a simulated one
+std::string AddressOf(const std::string& camera) {
+    const std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
+    if (!IsAddress(address) && (camera.find(':') != std::string::npos || IsAddress(camera))) {
+        throw UsageError('"' + camera +
+                         "\" is no camera; a model or gige:ADDRESS is wanted, such as gige:192.168.1.10");
+    }
+    return address;
+}
+
+void RequireFitting(const CameraOptions& options, bool isSimulated) {
+    if (isSimulated && !options.forcedModel.empty()) {
+        throw UsageError("--force-model is for a camera on the network, not for a simulated one");
+    }
+    const SimulationOptions& simulation = options.simulation;
+    if (!isSimulated && (simulation.seed || !simulation.state.empty() || !simulation.faults.empty())) {
+        throw UsageError("--seed, --state and --fault are for a simulated camera, not for one on the network");
+    }
 }
 
 } // namespace
 
-Session::Reached Session::Reach(const Plugin& plugin, const std::string& model, const CameraOptions& options) {
-    if (options.address.empty() || options.forceModel) {
+bool IsCamera(const std::string& text) {
+    const auto models = Simulation::ModelNames();
+    return text.starts_with(network) || std::find(models.begin(), models.end(), text) != models.end();
+}
+
+Session::Reached Session::Reach(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
+    const std::string address = AddressOf(camera);
+    RequireFitting(options, address.empty());
+    const std::string& model = address.empty() ? camera : options.forcedModel;
+    if (!model.empty() || address.empty()) {
         RequireServed(plugin, model);
     }
-    if (options.address.empty()) {
+    if (address.empty()) {
         return {std::make_unique<SimulatedConnection>(model, options.simulation), model};
     }
-    auto connection = ConnectGigE(options.address);
-    const std::string opened = options.forceModel ? model : ModelOf(plugin, *connection, model);
+    auto connection = ConnectGigE(address);
+    const std::string opened = model.empty() ? ModelOf(plugin, *connection) : model;
     return {std::move(connection), opened};
 }
 
-Session::Session(const Plugin& loaded, const std::string& name, const CameraOptions& options)
-    : Session(loaded, Reach(loaded, name, options), options) {}
+Session::Session(const Plugin& loaded, const std::string& camera, const CameraOptions& options)
+    : Session(loaded, Reach(loaded, camera, options), options) {}
 
 Session::Session(const Plugin& loaded, Reached reached, const CameraOptions& options)
     : plugin(loaded),

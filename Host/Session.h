@@ -11,12 +11,14 @@
 
 namespace Host {
 
+/// Whether a text means a camera where it may mean a file: the name of a model, or gige:ADDRESS.
+[[nodiscard]] bool IsCamera(const std::string& text);
+
 /// How a camera is reached and opened.
 struct CameraOptions {
     std::int32_t index = 0;           ///< with which the control is created
-    std::string address{};            ///< of a GigE Vision camera; if empty, the camera is simulated ...
-    SimulationOptions simulation{};   ///< ... like this
-    bool forceModel = false;          ///< opens a GigE Vision camera as the given model, whatever it calls itself
+    SimulationOptions simulation{};   ///< of a simulated camera
+    std::string forcedModel{};        ///< drives a camera on the network as that, whatever it calls itself
     TracingPort::Observer accesses{}; ///< told of every port access; without it the port remembers them
 };
 
@@ -24,11 +26,11 @@ struct CameraOptions {
 class Session {
 public:
     /// Switches a simulated camera on, or connects to one on the network, and opens it.
-    /// @param model may be empty for a camera on the network, which says what it is
-    /// @throws OpenError for a model that the plug-in does not serve, or that is not the camera's; for a camera that
-    ///        cannot be reached; for what SimulatedConnection does not admit
-    /// @throws UsageError for a fault that cannot be planted
-    Session(const Plugin& plugin, const std::string& model, const CameraOptions& options = {});
+    /// @param camera a model, which is simulated, or gige:ADDRESS
+    /// @throws OpenError for a model that the plug-in does not serve; for a camera that cannot be reached; for what
+    ///         SimulatedConnection does not admit
+    /// @throws UsageError for what is no camera; for options that do not fit it; for a fault that cannot be planted
+    Session(const Plugin& plugin, const std::string& camera, const CameraOptions& options = {});
 
     [[nodiscard]] const std::string& Model() const { return model; }
     [[nodiscard]] Host::Connection& Connection() { return *connection; }
@@ -53,7 +55,7 @@ private:
         std::unique_ptr<Host::Connection> connection;
         std::string model;
     };
-    [[nodiscard]] static Reached Reach(const Plugin& plugin, const std::string& model, const CameraOptions& options);
+    [[nodiscard]] static Reached Reach(const Plugin& plugin, const std::string& camera, const CameraOptions& options);
     Session(const Plugin& plugin, Reached reached, const CameraOptions& options);
 
     // In this order: the control goes first, the camera and the name that the control points to go last.

@@ -2,7 +2,9 @@
 
 #include "Host/Connection.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Simulation {
@@ -13,7 +15,7 @@ namespace Host {
 
 /// How a simulated camera is switched on.
 struct SimulationOptions {
-    std::uint64_t seed = 0;            ///< of the world around the camera
+    std::optional<std::uint64_t> seed; ///< of the world around the camera; 0 if it is not given
     std::string state{};               ///< a file that holds the camera between two runs; none if empty
     std::vector<std::string> faults{}; ///< to be planted in the camera
 };

@@ -40,7 +40,7 @@ void Print(const PluginCheck& check) {
 } // namespace
 
 int Check(const Invocation& invocation) {
-    const std::string path = invocation.Text("[PLUGIN]");
+    const std::string path = invocation.Text(Parameter::Plugin);
     const PluginCheck check = CheckPlugin(path.empty() ? invocation.Program().Options().plugin : path);
     invocation.Program().Json() ? PrintAsJson(check) : Print(check);
     if (const std::string fault = check.Fault(); !fault.empty()) {

@@ -4,7 +4,10 @@
 #include "Host/Format.h"
 #include "Host/Settings/LiveSettings.h"
 #include "Host/Settings/SettingsFile.h"
+#include "Simulation/Cameras.h"
+#include "Simulation/Suggestion.h"
 
+#include <filesystem>
 #include <iostream>
 #include <vector>
 
@@ -12,28 +15,35 @@ namespace Host {
 
 namespace {
 
-/// @throws UsageError unless it is clear what the first file is compared with
-void RequireOneOther(const Invocation& invocation) {
-    const bool live = invocation.Has("--live MODEL");
-    const Program& program = invocation.Program();
-    const bool onNetwork = !program.Options().camera.address.empty() && !program.IsOpen();
-    if (invocation.Has("[B]") && (live || onNetwork)) {
-        throw UsageError(std::string("a second file or ") + (live ? "--live" : "--camera") + ", not both");
-    }
-    if (!invocation.Has("[B]") && !live && !onNetwork && !program.IsOpen()) { // a shell has its camera open
-        throw UsageError("a second file is required, or --live MODEL");
-    }
-    if (invocation.Text("A") == standardStream && invocation.Text("[B]") == standardStream) {
-        throw UsageError("standard input can be read once; give a file for one of the two");
-    }
+/// One of the two that are compared.
+struct Side {
+    Settings settings;
+    std::string file;       ///< empty for a camera
+    bool hasControl = true; ///< of a camera: whether this program could take control
+};
+
+Side TakeFrom(Session& session) {
+    Settings settings = TakeReadableSettings(session);
+    session.Connection().SaveState();
+    return {std::move(settings), "", session.Connection().HasControl()};
 }
 
-/// What is compared with the first file.
-Settings SecondSettings(const Invocation& invocation) {
-    if (invocation.Has("[B]")) {
-        return ReadSettings(invocation.Text("[B]"), invocation.Program().IsOpen());
+/// Cameras are opened one after the other, but for that of a shell.
+Side Take(const Invocation& invocation, Parameter parameter) {
+    Program& program = invocation.Program();
+    const std::string given = invocation.Text(parameter);
+    if (!invocation.Has(parameter) || program.IsOpen(given)) {
+        return TakeFrom(program.Open(given));
     }
-    return TakeReadableSettings(invocation.Program().Open(invocation.Text("--live MODEL")));
+    if (!IsCamera(given)) {
+        if (given != standardStream && !std::filesystem::exists(given)) {
+            throw UsageError('"' + given + "\" is neither a file nor a camera" +
+                             Simulation::Suggestion(given, Simulation::ModelNames()));
+        }
+        return {ReadSettings(given, program.IsOpen()), given};
+    }
+    Session session(program.LoadedPlugin(), given, program.Options().camera);
+    return TakeFrom(session);
 }
 
 std::string PrintOne(const Instance& instance, const Value* value) {
@@ -55,31 +65,27 @@ Json ToJson(const Difference& difference) {
 
 /// Tells what is missing in a file and thus not compared.
 /// @return whether everything could be compared
-bool TellNotCompared(const Settings& settings, const Settings& other, const std::string& file) {
-    const auto missing = LeftUncompared(settings, other);
-    if (!missing.empty() && !file.empty()) { // of a camera it was told when it was read
-        PrintError(Quoted(file) + " does not hold these, which are not compared: " + NamesOf(missing));
+bool TellNotCompared(const Side& side, const Side& other) {
+    const auto missing = LeftUncompared(side.settings, other.settings);
+    if (!missing.empty() && !side.file.empty()) { // of a camera it was told when it was read
+        PrintError(Quoted(side.file) + " does not hold these, which are not compared: " + NamesOf(missing));
     }
     return missing.empty();
-}
-
-/// Whether one of the two is a camera of which another program has control.
-bool IsControlledElsewhere(const Invocation& invocation) {
-    return !invocation.Has("[B]") && !invocation.Open().Connection().HasControl();
 }
 
 } // namespace
 
 int Diff(const Invocation& invocation) {
-    RequireOneOther(invocation);
-    const Program& program = invocation.Program();
-    const Settings first = ReadSettings(invocation.Text("A"), program.IsOpen());
-    const Settings second = SecondSettings(invocation);
-    if (first.model != second.model) {
-        throw UsageError("settings of different models: " + first.model + " and " + second.model);
+    if (invocation.Text(Parameter::First) == standardStream && invocation.Text(Parameter::Second) == standardStream) {
+        throw UsageError("standard input can be read once; give a file for one of the two");
     }
-    const auto differences = Compare(first, second);
-    const bool json = program.Json();
+    const Side first = Take(invocation, Parameter::First);
+    const Side second = Take(invocation, Parameter::Second);
+    if (first.settings.model != second.settings.model) {
+        throw UsageError("settings of different models: " + first.settings.model + " and " + second.settings.model);
+    }
+    const auto differences = Compare(first.settings, second.settings);
+    const bool json = invocation.Program().Json();
     Json document(Json::List{});
     for (const Difference& difference : differences) {
         json ? document.Add(ToJson(difference)) : Print(difference);
@@ -87,10 +93,10 @@ int Diff(const Invocation& invocation) {
     if (json) {
         std::cout << document.Print() << '\n';
     }
-    const bool firstIsWhole = TellNotCompared(first, second, invocation.Text("A"));
-    const bool secondIsWhole = TellNotCompared(second, first, invocation.Text("[B]"));
+    const bool firstIsWhole = TellNotCompared(first, second);
+    const bool secondIsWhole = TellNotCompared(second, first);
     if (!firstIsWhole || !secondIsWhole) {
-        return IsControlledElsewhere(invocation) ? NotOpened : NotCompared;
+        return first.hasControl && second.hasControl ? NotCompared : NotOpened;
     }
     return differences.empty() ? Success : Differs;
 }

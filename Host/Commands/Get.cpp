@@ -9,7 +9,7 @@ namespace Host {
 int Get(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
     std::vector<Instance> wanted;
-    for (const std::string& name : invocation.Texts("NAME...")) {
+    for (const std::string& name : invocation.Texts(Parameter::Names)) {
         const auto found = camera.Find(name);
         if (found.front()->get == nullptr) {
             throw UsageError("\"" + name + "\" can only be written");

@@ -151,7 +151,7 @@ Json Document(const Camera& camera, const Instance& instance, bool all) {
 
 int List(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
-    const bool all = invocation.Has("--all");
+    const bool all = invocation.Has(Parameter::All);
     if (!invocation.Program().Json()) {
         PrintTable(camera, all);
         return Success;

@@ -160,15 +160,15 @@ int Report(const Restorer& restorer) {
 } // namespace
 
 int RunRestore(const Invocation& invocation) {
-    const std::string file = invocation.Text("FILE");
-    const bool dryRun = invocation.Has("--dry-run");
+    const std::string file = invocation.Text(Parameter::File);
+    const bool dryRun = invocation.Has(Parameter::DryRun);
     const bool json = invocation.Program().Json();
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
         throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());
     }
-    Restorer::Options options{.outputs = invocation.Has("--outputs")};
+    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs)};
     if (!json) {
         options.settled = Printer();
     }

@@ -21,7 +21,7 @@ Json Names(const std::vector<Instance>& instances) {
 } // namespace
 
 int Save(const Invocation& invocation) {
-    const std::string file = invocation.Text("FILE");
+    const std::string file = invocation.Text(Parameter::File);
     const Settings settings = TakeAllSettings(invocation.Open());
     WriteSettings(settings, file);
     if (!std::cout) {

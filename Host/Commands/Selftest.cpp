@@ -196,7 +196,7 @@ int Report(const std::vector<Tested>& results, bool json) {
 int RunSelftest(const Invocation& invocation) {
     Session& session = invocation.Open();
     session.Connection().RequireControl();
-    const bool outputs = invocation.Has("--outputs");
+    const bool outputs = invocation.Has(Parameter::Outputs);
     const Interrupts interrupts;
     const IgnoredPipeSignal pipes;
     Preserved preserved(session, outputs);

@@ -79,7 +79,7 @@ Json ToJson(const Assignment& assignment, const Result& result) {
 int Set(const Invocation& invocation) {
     invocation.Open().Connection().RequireControl();
     const Camera camera = invocation.OpenCamera();
-    const auto assignments = ParseAssignments(camera, invocation.Texts("NAME=VALUE..."));
+    const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
     const ReadThrough reader(invocation.Open());
     const Wait wait = WaitFor(invocation.Open());
     Json document;

@@ -65,12 +65,11 @@ std::vector<std::string> CommandNames() {
 /// assignments.
 std::vector<std::string> FunctionsFor(const Command& command, const Camera& camera) {
     std::vector<std::string> found;
-    for (const Parameter& parameter : command.parameters) {
-        const std::string_view given = parameter.name;
-        if (given.find("NAME") == given.npos) {
+    for (const Syntax& syntax : command.syntax) {
+        const bool assigns = syntax.parameter == Parameter::Assignments;
+        if (!assigns && syntax.parameter != Parameter::Names) {
             continue;
         }
-        const bool assigns = given.find('=') != given.npos;
         for (const Instance& instance : camera.All(false)) {
             if (!assigns || instance->set != nullptr) {
                 found.push_back(instance.Name() + (assigns ? "=" : ""));

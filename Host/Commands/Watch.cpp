@@ -136,7 +136,7 @@ private:
 
 /// @return what was given for --seconds, or nothing if it was left out
 std::optional<milliseconds> DurationOf(const Invocation& invocation) {
-    const std::string text = invocation.Text("--seconds N");
+    const std::string text = invocation.Text(Parameter::Seconds);
     if (text.empty()) {
         return std::nullopt;
     }
@@ -154,10 +154,10 @@ int Watch(const Invocation& invocation) {
     const auto duration = DurationOf(invocation);
     Session& session = invocation.Open();
     const Camera camera = session.Camera();
-    if (invocation.Has("[NAME=VALUE...]")) {
+    if (invocation.Has(Parameter::Assignments)) {
         session.Connection().RequireControl();
     }
-    const auto assignments = ParseAssignments(camera, invocation.Texts("[NAME=VALUE...]"));
+    const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
     const ReadThrough reader(session);
     const Interrupts interrupts;
     const Changes changes(invocation.Program().Json());

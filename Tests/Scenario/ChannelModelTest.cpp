@@ -20,7 +20,8 @@ private:
 
 const std::string served =
     "the plug-in serves Orvik-31200M, Orvik-31200C, Orvik-710M, Orvik-710C, Orvik-390M, Orvik-390C, Orvik-520M, "
-    "Orvik-520C, Orvik-530M, Orvik-530C, Cerix7-MV, Cerix-MV7, Sollux G (--force-model opens it as one of these)\n";
+    "Orvik-520C, Orvik-530M, Orvik-530C, Cerix7-MV, Cerix-MV7, Sollux G (--force-model MODEL opens it as one of "
+    "these)\n";
 
 /// What follows a label on its line.
 std::string After(const std::string& label, const std::string& text) {
@@ -33,33 +34,28 @@ std::string After(const std::string& label, const std::string& text) {
 
 TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
     const NetworkCamera camera("Cerix-MV7");
-    EXPECT_EQ(camera.Run("get gain").out, "gain=0\n");
-    EXPECT_EQ(camera.Run("get Cerix-MV7 gain").out, "gain=0\n");
+    EXPECT_EQ(camera.Run("get CAMERA gain").out, "gain=0\n");
     struct Case {
         const char* command;
         int code;
         std::string err;
     };
     const Case cases[] = {
-        {"get Orvik-710C gain", 3,
-         "qdv12host: the camera at 192.168.1.10 calls itself \"Cerix-MV7\", not \"Orvik-710C\"; " + served},
-        {"get Orvik-71 gain", 3,
-         "qdv12host: the camera at 192.168.1.10 calls itself \"Cerix-MV7\", not \"Orvik-71\"; " + served},
-        {"get Orvik-71 gain --force-model", 3, "qdv12host: unknown model \"Orvik-71\"; did you mean \"Orvik-710M\"?\n"},
-        {"get Orvik-710C functionmodelid --force-model", 0, ""},
-        {"get --force-model gain", 2, "qdv12host: MODEL is required with --force-model (qdv12host --help says more)\n"},
-        {"get Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
-        {"get", 2, "qdv12host: NAME is required; usage: qdv12host get [MODEL] NAME... (qdv12host --help says more)\n"},
-        {"get gain --seed 3", 2, "qdv12host: --camera excludes --seed (qdv12host --help says more)\n"},
-        {"diff a b", 2, "qdv12host: a second file or --camera, not both\n"},
-        {"check", 0, ""},
+        {"get CAMERA gain --force-model Orvik-71", 3,
+         "qdv12host: unknown model \"Orvik-71\"; did you mean \"Orvik-710M\"?\n"},
+        {"get CAMERA functionmodelid --force-model Orvik-710C", 0, ""},
+        {"get CAMERA Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
+        {"get CAMERA gain --seed 0", 2,
+         "qdv12host: --seed, --state and --fault are for a simulated camera, not for one on the network\n"},
+        {"diff CAMERA Cerix-MV7", 0, ""},
+        {"diff Orvik-710C CAMERA", 2, "qdv12host: settings of different models: Orvik-710C and Cerix-MV7\n"},
     };
     for (const Case& each : cases) {
         const Outcome run = camera.Run(each.command);
         EXPECT_EQ(run.code, each.code) << each.command;
         EXPECT_EQ(run.err, each.err) << each.command;
     }
-    const Outcome traced = camera.Run("get gain --trace");
+    const Outcome traced = camera.Run("get CAMERA gain --trace");
     EXPECT_TRUE(std::regex_search(traced.err, std::regex("read  ReadRegister      0x14010000  0  [0-9]+ us\n")));
 }
 
@@ -67,7 +63,7 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
     const NetworkCamera orvik("Orvik-710C");
     const NetworkCamera m2vx("Sollux G", "192.168.1.20");
     const AravisCamera foreign;
-    ASSERT_EQ(orvik.Run("set username='on the left'").code, 0);
+    ASSERT_EQ(orvik.Run("set CAMERA username='on the left'").code, 0);
     const Outcome found = RunHost("discover");
     EXPECT_EQ(found.code, 0);
     EXPECT_EQ(found.err, "");
@@ -82,7 +78,7 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
             "  {\n    \"address\": \"192.168.1.10\",\n    \"mac\": \"02:00:12:07:07:10\",\n    \"model\": "
             "\"Orvik-710C\",\n    \"serial\": \"710C-0042\",\n    \"userName\": \"on the left\",\n    \"served\": "
             "true\n  }"));
-    const Outcome refused = RunHost("info --camera gige:127.0.0.1");
+    const Outcome refused = RunHost("info gige:127.0.0.1");
     EXPECT_EQ(refused.code, 3);
     EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 calls itself \"Fake\"; " + served);
 }
@@ -118,7 +114,7 @@ TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
 
 TEST(ChannelModel, DiscoveryEscapesWhatACameraIsCalled) {
     const NetworkCamera camera("Orvik-710C");
-    ASSERT_EQ(camera.Run("set username='\\x1B]0;owned\\x07'").code, 0);
+    ASSERT_EQ(camera.Run("set CAMERA username='\\x1B]0;owned\\x07'").code, 0);
     const Outcome found = RunHost("discover");
     EXPECT_TRUE(found.out.ends_with("710C-0042       \\x1B]0;owned\\x07\n")) << found.out;
     EXPECT_TRUE(Has(RunHost("discover --json").out, "\"userName\": \"\\u001b]0;owned\\u0007\""));
@@ -134,9 +130,12 @@ TEST(ChannelModel, TwoCamerasOfAModelAreToldApart) {
             found.out, std::regex("192\\.168\\.1\\.20 +02:00:12:34:56:78 +" + model + " +left-rig\\.042\n")))
             << found.out;
         // From the bootstrap registers and from the camera's own one.
-        EXPECT_EQ(other.Run("get serialnumber macaddress").out,
+        EXPECT_EQ(other.Run("get CAMERA serialnumber macaddress").out,
                   "serialnumber=left-rig.042\nmacaddress=02:00:12:34:56:78\n");
-        EXPECT_FALSE(Has(one.Run("get serialnumber macaddress").out, "left-rig.042"));
+        EXPECT_FALSE(Has(one.Run("get CAMERA serialnumber macaddress").out, "left-rig.042"));
+        ASSERT_EQ(one.Run("set CAMERA gain=5").code, 0);
+        EXPECT_EQ(RunHost("diff gige:192.168.1.10 gige:192.168.1.20").out,
+                  "gain                      5                       0\n");
     }
 }
 
@@ -147,8 +146,8 @@ TEST(ChannelModel, AgreesWithAravisAboutItsCamera) {
     const std::string registers =
         RunHost("control 'R[0x0]' 'R[0x8]' 'R[0xC]' 'R[0x14]' 'R[0xD04]' 'R[0xD08]'", "arv-tool-0.8").out;
     const Outcome run =
-        RunHost("get Orvik-710M ipaddress subnetmask gateway gigeversion macaddress ipconfig packetsize "
-                "packetdelay --camera gige:127.0.0.1 --force-model");
+        RunHost("get gige:127.0.0.1 ipaddress subnetmask gateway gigeversion macaddress ipconfig packetsize "
+                "packetdelay --force-model Orvik-710M");
     EXPECT_EQ(run.code, 0) << run.err;
     EXPECT_EQ(After("ipaddress=", run.out), After("Current IP: ", aravis));
     EXPECT_EQ(After("subnetmask=", run.out), After("Current Mask: ", aravis));

@@ -84,10 +84,10 @@ TEST(ChannelPort, TellsEachStatusInItsOwnWords) {
     const std::string failed = "qdv12host: the camera at 192.168.1.10 could not be opened: ";
     for (const auto& [status, words] : statuses) {
         const RefusingDevice device("192.168.1.10", status);
-        EXPECT_EQ(RunHost("info --camera gige:192.168.1.10").err, failed + words + "\n");
+        EXPECT_EQ(RunHost("info gige:192.168.1.10").err, failed + words + "\n");
     }
     const NetworkCamera mute("Orvik-710C", "192.168.1.10", {"--fault", "fail:description"});
-    EXPECT_EQ(mute.Run("info").err, failed + "its GenICam description cannot be read\n");
+    EXPECT_EQ(mute.Run("info CAMERA").err, failed + "its GenICam description cannot be read\n");
 }
 
 TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
@@ -146,7 +146,7 @@ TEST(ChannelPort, TellsHowTheCameraRefuses) {
                          "program at 192.168.1.10:"))
         << held;
     const NetworkCamera broken("Cerix-MV7", "192.168.1.11", {"--fault", "fail:0x934"});
-    const Outcome opening = broken.Run("get gain");
+    const Outcome opening = broken.Run("get CAMERA gain");
     EXPECT_EQ(opening.code, 3);
     EXPECT_TRUE(opening.err.starts_with("qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: "))
         << opening.err;

@@ -41,7 +41,7 @@ std::string Difference(const std::string& one, const std::string& other) {
 }
 
 /// Runs commands one after the other on a camera on the network and on one in the host's process, and expects the same
-/// of both. MODEL and "--live MODEL" are left out on the network.
+/// of both.
 void ExpectSame(const std::string& model, const std::string& address, const std::vector<std::string>& commands,
                 const std::vector<std::string>& disturbances = {}) {
     const NetworkCamera camera(model, address, disturbances);
@@ -51,9 +51,9 @@ void ExpectSame(const std::string& model, const std::string& address, const std:
     for (const std::string& command : commands) {
         SCOPED_TRACE(command + " of " + model);
         const std::string filled = Replaced(command, "FILE", settings);
-        const Outcome here = RunHost(Replaced(filled, "MODEL", model) + " --state " + state);
+        const Outcome here = RunHost(Replaced(filled, "CAMERA", model) + " --state " + state);
         const std::string savedHere = Comparable(Content(settings));
-        const Outcome there = camera.Run(Replaced(Replaced(filled, "--live MODEL", ""), "MODEL", ""));
+        const Outcome there = camera.Run(filled);
         EXPECT_EQ(there.code, here.code);
         EXPECT_EQ(Difference(Comparable(there.out, address), Comparable(here.out)), "");
         EXPECT_EQ(Difference(Comparable(there.err, address), Comparable(here.err)), "");
@@ -83,7 +83,7 @@ void ExpectSameCalls(const std::string& model) {
     const auto operations = OperationsOf(model);
     const int index = operations.front()->state.ReadingIndex();
     Host::Session here(LoadedPlugin(), model, {.index = index});
-    Host::Session there(LoadedPlugin(), model, {.index = index, .address = address});
+    Host::Session there(LoadedPlugin(), "gige:" + address, {.index = index});
     for (const ::Test::Operation* row : operations) {
         const std::string outcomeHere = OutcomeOf(*row, *OpenedAnew(here, index));
         const std::string outcomeThere = OutcomeOf(*row, *OpenedAnew(there, index));
@@ -94,16 +94,16 @@ void ExpectSameCalls(const std::string& model) {
 }
 
 const std::vector<std::string> afternoon = {
-    "info MODEL",
-    "list MODEL",
-    "set MODEL gain=31 sharpness=7 username=bench overlayposition.1=20,30",
-    "save MODEL FILE",
-    "set MODEL gain=600 sharpness=9",
-    "diff FILE --live MODEL",
-    "restore MODEL FILE",
-    "diff FILE --live MODEL",
-    "list MODEL --json",
-    "get MODEL username overlayposition",
+    "info CAMERA",
+    "list CAMERA",
+    "set CAMERA gain=31 sharpness=7 username=bench overlayposition.1=20,30",
+    "save CAMERA FILE",
+    "set CAMERA gain=600 sharpness=9",
+    "diff FILE CAMERA",
+    "restore FILE CAMERA",
+    "diff FILE CAMERA",
+    "list CAMERA --json",
+    "get CAMERA username overlayposition",
 };
 
 /// All of it on a camera of each family at once, since most of the time is waited.
@@ -120,7 +120,7 @@ void ExpectSameOfBoth(const std::vector<std::string>& checks, const std::vector<
 
 } // namespace
 
-TEST(ChannelResult, EveryCommandGivesTheSameAsInProcess) { ExpectSameOfBoth({"list MODEL --all", "selftest MODEL"}); }
+TEST(ChannelResult, EveryCommandGivesTheSameAsInProcess) { ExpectSameOfBoth({"list CAMERA --all", "selftest CAMERA"}); }
 
 TEST(ChannelResult, EveryCallGivesTheSameAsInProcess) {
     ExpectSameCalls("Orvik-710C");
@@ -130,9 +130,9 @@ TEST(ChannelResult, EveryCallGivesTheSameAsInProcess) {
 TEST(ChannelLoss, LosesNoResult) {
     const std::vector<std::string> disturbances{"--drop", "0.05", "--duplicate", "0.05", "--delay", "2"};
 #ifdef QDV12_SANITIZED // of which each lost datagram costs half a second
-    ExpectSame("Orvik-710C", "192.168.1.10", {"info MODEL"}, disturbances);
+    ExpectSame("Orvik-710C", "192.168.1.10", {"info CAMERA"}, disturbances);
 #else
-    ExpectSameOfBoth({"selftest MODEL"}, disturbances);
+    ExpectSameOfBoth({"selftest CAMERA"}, disturbances);
 #endif
 }
 

@@ -40,8 +40,7 @@ void ExpectLost(const std::string& command, const std::function<Outcome()>& run,
 
 /// Watches a camera, and has begun to.
 struct Watching : Running {
-    explicit Watching(const std::string& address)
-        : Running(QDV12_HOST, {"watch", "gain=7", "--camera", "gige:" + address}, both) {
+    explicit Watching(const std::string& address) : Running(QDV12_HOST, {"watch", "gige:" + address, "gain=7"}, both) {
         EXPECT_TRUE(ReadUntil(begun)) << Read();
     }
 
@@ -67,15 +66,15 @@ TEST(ChannelTrouble, ARebootInTheMiddleEndsInOneLine) {
         int code = 1;
     };
     const Case cases[] = {
-        {"list", "Orvik-710C", "90"},
-        {"list", "Cerix-MV7", "90"},
-        {"list --all", "Cerix-MV7", "800"},
-        {"selftest", "Orvik-710C", "70"},
-        {"selftest", "Orvik-710C", "400"},
-        {"selftest", "Cerix-MV7", "300"},
-        {"selftest --outputs", "Cerix-MV7", "1500"},
-        {"restore " + file, "Orvik-710C", "100"},
-        {"diff " + file, "Orvik-710C", "100", 2},
+        {"list CAMERA", "Orvik-710C", "90"},
+        {"list CAMERA", "Cerix-MV7", "90"},
+        {"list --all CAMERA", "Cerix-MV7", "800"},
+        {"selftest CAMERA", "Orvik-710C", "70"},
+        {"selftest CAMERA", "Orvik-710C", "400"},
+        {"selftest CAMERA", "Cerix-MV7", "300"},
+        {"selftest --outputs CAMERA", "Cerix-MV7", "1500"},
+        {"restore " + file + " CAMERA", "Orvik-710C", "100"},
+        {"diff " + file + " CAMERA", "Orvik-710C", "100", 2},
     };
     std::vector<std::future<void>> runs;
     int last = 10;
@@ -94,42 +93,43 @@ TEST(ChannelTrouble, ARebootInTheMiddleEndsInOneLine) {
 TEST(ChannelTrouble, ABusyCameraIsAskedAgain) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--nack", "0.02"});
     const std::string file = TemporaryFile("json");
-    for (const std::string& command : {"save " + file, std::string("selftest"), "restore " + file}) {
+    for (const std::string& command :
+         {"save CAMERA " + file, std::string("selftest CAMERA"), "restore " + file + " CAMERA"}) {
         const Outcome run = camera.Run(command);
         EXPECT_EQ(run.code, 0) << run.out;
         EXPECT_EQ(run.err, "") << command;
     }
     std::filesystem::remove(file);
     const NetworkCamera busy("Orvik-710C", "192.168.1.11", {"--nack", "1"});
-    EXPECT_EQ(busy.Run("info").err,
+    EXPECT_EQ(busy.Run("info CAMERA").err,
               "qdv12host: the camera at 192.168.1.11 could not be opened: the camera is busy (0x8007)\n");
 }
 
 TEST(ChannelTrouble, WhoIsEndedGivesControlBack) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--delay", "8"});
-    Running list(QDV12_HOST, {"list", "--all", "--camera", "gige:192.168.1.10"}, STDOUT_FILENO);
+    Running list(QDV12_HOST, {"list", "--all", "gige:192.168.1.10"}, STDOUT_FILENO);
     ASSERT_TRUE(list.ReadUntil("NAME"));
     list.Signal(SIGTERM);
     EXPECT_EQ(list.End(), -1); // by that signal
     EXPECT_FALSE(Has(list.Read(), "iodelay.5"));
-    const Outcome next = camera.Run("set gain=5");
+    const Outcome next = camera.Run("set CAMERA gain=5");
     EXPECT_EQ(next.code, 0) << next.err;
 }
 
 TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--delay", "4"});
     const std::string file = TemporaryFile("json");
-    ASSERT_EQ(camera.Run("save " + file).code, 0);
+    ASSERT_EQ(camera.Run("save CAMERA " + file).code, 0);
     for (const int signal : {SIGTERM, SIGHUP}) {
-        ASSERT_EQ(camera.Run("set agc=off gain=7 agc=2").code, 0);
-        Running restore(QDV12_HOST, {"restore", file, "--camera", "gige:192.168.1.10"}, Running::both);
+        ASSERT_EQ(camera.Run("set CAMERA agc=off gain=7 agc=2").code, 0);
+        Running restore(QDV12_HOST, {"restore", file, "gige:192.168.1.10"}, Running::both);
         ASSERT_TRUE(restore.ReadUntil("\nexposuremode  ")) << restore.Read();
         restore.Signal(signal);
         EXPECT_EQ(restore.End(), 1);
         EXPECT_FALSE(Has(restore.Read(), "\noverlayshow"));
         EXPECT_TRUE(Has(restore.Read(), "\nagc                       put back    2, as it was before\n"
                                         "qdv12host: interrupted; "));
-        EXPECT_EQ(camera.Run("get agc").out, "agc=2\n");
+        EXPECT_EQ(camera.Run("get CAMERA agc").out, "agc=2\n");
     }
     std::filesystem::remove(file);
 }
@@ -160,24 +160,24 @@ TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
 
 TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {
     const auto start = Clock::now();
-    const Outcome run = RunHost("info --camera gige:192.168.1.77");
+    const Outcome run = RunHost("info gige:192.168.1.77");
     EXPECT_LT(Clock::now() - start, patience);
     EXPECT_EQ(run.code, 3);
     EXPECT_EQ(run.err, "qdv12host: the camera at 192.168.1.77 could not be opened: no answer\n");
-    EXPECT_EQ(RunHost("info --camera gige:203.0.113.1").err, // there is loopback alone
+    EXPECT_EQ(RunHost("info gige:203.0.113.1").err, // there is loopback alone
               "qdv12host: there is no way to 203.0.113.1: Network is unreachable\n");
 }
 
 TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
     const NetworkCamera camera("Orvik-710C");
     const std::string file = TemporaryFile("json");
-    ASSERT_EQ(camera.Run("save " + file).code, 0);
+    ASSERT_EQ(camera.Run("save CAMERA " + file).code, 0);
     Watching holder("192.168.1.10");
 
     const std::string held = "the camera at 192\\.168\\.1\\.10 is controlled by another program at "
                              "192\\.168\\.1\\.10:[0-9]+";
-    const std::vector<std::string> writing = {"set gain=5", "selftest", "watch gain=5 --seconds 1", "restore " + file,
-                                              "save " + file + ".2"};
+    const std::vector<std::string> writing = {"set CAMERA gain=5", "selftest CAMERA", "watch CAMERA gain=5 --seconds 1",
+                                              "restore " + file + " CAMERA", "save CAMERA " + file + ".2"};
     for (const std::string& command : writing) {
         const Outcome run = camera.Run(command);
         EXPECT_EQ(run.code, 3) << command;
@@ -185,31 +185,31 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
         ExpectMatch(run.err, "qdv12host: " + held + "\n");
     }
     EXPECT_FALSE(std::filesystem::exists(file + ".2"));
-    const Outcome get = camera.Run("get gain overlayshow.1");
+    const Outcome get = camera.Run("get CAMERA gain overlayshow.1");
     EXPECT_EQ(get.out, "gain=7\n");
     const std::string notRead = "qdv12host: " + held + "; what needs control could not be read\n";
     ExpectMatch(get.err, "qdv12host: overlayshow\\.1: needs control\n" + notRead);
-    const Outcome list = camera.Run("list");
+    const Outcome list = camera.Run("list CAMERA");
     EXPECT_EQ(list.code, 0);
     ExpectMatch(list.err, notRead);
     EXPECT_TRUE(std::regex_search(list.out, std::regex("\nioport\\.2 +- +needs control\n")));
     EXPECT_TRUE(std::regex_search(list.out, std::regex("\nreadoutarea +0,0,3207,2207 px +limits need control\n")));
-    EXPECT_TRUE(Has(camera.Run("list --json").out, "\"error\": \"needs control\""));
-    EXPECT_EQ(camera.Run("watch --seconds 0").code, 0);
-    EXPECT_EQ(camera.Run("restore --dry-run " + file).code, 0);
+    EXPECT_TRUE(Has(camera.Run("list CAMERA --json").out, "\"error\": \"needs control\""));
+    EXPECT_EQ(camera.Run("watch CAMERA --seconds 0").code, 0);
+    EXPECT_EQ(camera.Run("restore --dry-run " + file + " CAMERA").code, 0);
 
     const std::string missing = "qdv12host: " + held +
                                 "; without control these cannot be read: overlayshow, overlayposition, overlaystyle, "
                                 "overlaysize, measurewindow, iomode, "
                                 "ioport, iopolarity, iodelay\n";
-    const Outcome diff = camera.Run("diff " + file);
+    const Outcome diff = camera.Run("diff " + file + " CAMERA");
     EXPECT_EQ(diff.code, 3);
     ExpectMatch(diff.out, "gain +0 +7\n");
     ExpectMatch(diff.err, missing);
 
     holder.Signal(SIGINT); // which gives control back
     EXPECT_EQ(holder.End(), 0);
-    EXPECT_EQ(camera.Run("set gain=5").code, 0);
+    EXPECT_EQ(camera.Run("set CAMERA gain=5").code, 0);
     std::filesystem::remove(file);
 }
 
@@ -217,8 +217,8 @@ TEST(ChannelTrouble, ControlIsGivenBackToABusyCamera) {
     const std::string file = TemporaryFile("settings.json");
     for (const char* seed : {"4", "5", "6"}) {
         const NetworkCamera camera("Orvik-710C", "127.0.0.5", {"--nack", "0.05", "--seed", seed});
-        EXPECT_EQ(camera.Run("save " + file).code, 0);
-        const Outcome set = camera.Run("set gain=5");
+        EXPECT_EQ(camera.Run("save CAMERA " + file).code, 0);
+        const Outcome set = camera.Run("set CAMERA gain=5");
         EXPECT_EQ(set.code, 0) << set.err;
     }
     std::filesystem::remove(file);

@@ -3,33 +3,10 @@
 #include "Host/Channel/Discovery.h"
 #include "Host/Channel/GigEConnection.h"
 #include "Host/Errors.h"
-#include "Host/Positionals.h"
-
-#include <initializer_list>
 
 namespace Scenario {
 
 namespace {
-
-using Given = Host::Invocation::Given;
-
-/// What each parameter of a command is given, of texts that a parser put into their places in order.
-Given GivenTo(std::initializer_list<const char*> parameters, std::vector<std::string> texts,
-              Host::CameraFrom from = Host::CameraFrom::Network) {
-    Host::Command command{"do", "", {}, nullptr};
-    Given given;
-    for (const char* name : parameters) {
-        command.parameters.push_back({name, ""});
-        const bool several = std::string_view(name).find("...") != std::string_view::npos;
-        if (*name != '-' && !texts.empty()) {
-            const auto end = several ? texts.end() : texts.begin() + 1;
-            given[name].assign(texts.begin(), end);
-            texts.erase(texts.begin(), end);
-        }
-    }
-    Host::AssignPositionals(command, from, given);
-    return given;
-}
 
 template <typename Call> std::string Refusal(const Call& call) {
     try {
@@ -42,59 +19,35 @@ template <typename Call> std::string Refusal(const Call& call) {
 
 } // namespace
 
-TEST(HostCommandLine, ModelMayBeLeftOutWhereTheCameraSaysIt) {
-    const auto info = {"MODEL", "--all"};
-    EXPECT_EQ(GivenTo(info, {}), Given{});
-    EXPECT_EQ(GivenTo(info, {}, Host::CameraFrom::Shell), Given{});
-    EXPECT_EQ(GivenTo(info, {"anything"}), (Given{{"MODEL", {"anything"}}}));
-    const auto set = {"MODEL", "NAME=VALUE..."};
-    const std::vector<std::string> two = {"gain=1", "agc=off"};
-    EXPECT_EQ(GivenTo(set, two), (Given{{"NAME=VALUE...", two}}));
-    EXPECT_EQ(GivenTo(set, {"Orvik-710C", "gain=1", "agc=off"}),
-              (Given{{"MODEL", {"Orvik-710C"}}, {"NAME=VALUE...", two}}));
-    EXPECT_EQ(GivenTo(set, {"username=My Camera"}), (Given{{"NAME=VALUE...", {"username=My Camera"}}}));
-    const auto get = {"MODEL", "NAME..."};
-    EXPECT_EQ(GivenTo(get, {"gain", "iomode.3"}), (Given{{"NAME...", {"gain", "iomode.3"}}}));
-    EXPECT_EQ(GivenTo(get, {"sollux g", "gain"}), (Given{{"MODEL", {"sollux g"}}, {"NAME...", {"gain"}}}));
-    EXPECT_EQ(GivenTo(get, {"Gain"}), (Given{{"NAME...", {"Gain"}}})); // of which the camera may say what is meant
-    EXPECT_EQ(Refusal([&] { GivenTo(get, {}); }), "NAME is required; usage: qdv12host do [MODEL] NAME...");
-    EXPECT_EQ(Refusal([&] { GivenTo(get, {}, Host::CameraFrom::Shell); }), "NAME is required; usage: do NAME...");
-    const auto watch = {"MODEL", "[NAME=VALUE...]", "--seconds N"};
-    EXPECT_EQ(GivenTo(watch, {"Cerix-MV7"}), (Given{{"MODEL", {"Cerix-MV7"}}}));
-    EXPECT_EQ(GivenTo(watch, {"gain=1"}), (Given{{"[NAME=VALUE...]", {"gain=1"}}}));
-    const auto save = {"MODEL", "FILE"};
-    EXPECT_EQ(GivenTo(save, {"Bench.json"}), (Given{{"FILE", {"Bench.json"}}}));
-    EXPECT_EQ(GivenTo(save, {"Cerix-MV7", "a.json"}), (Given{{"MODEL", {"Cerix-MV7"}}, {"FILE", {"a.json"}}}));
-    EXPECT_TRUE(Refusal([&] { GivenTo(save, {}); }).starts_with("FILE is required"));
-    const auto diff = {"A", "[B]", "--live MODEL"};
-    EXPECT_EQ(GivenTo(diff, {"a.json"}), (Given{{"A", {"a.json"}}}));
-    EXPECT_EQ(GivenTo(diff, {"a.json", "b.json"}), (Given{{"A", {"a.json"}}, {"[B]", {"b.json"}}}));
-}
-
 TEST(HostCommandLine, TellsWhatIsMissing) {
     const std::string more = " (qdv12host --help says more)\n";
-    const auto noCamera = [&](const std::string& usage) {
-        return "qdv12host: no camera: MODEL or --camera gige:ADDRESS is required; usage: qdv12host " + usage + more;
-    };
+    const std::string no = "qdv12host: CAMERA is required";
     const std::pair<std::string, std::string> cases[] = {
-        {"set gain=3", noCamera("set MODEL NAME=VALUE...")},
-        {"set gain=3 agc=1", noCamera("set MODEL NAME=VALUE...")},
-        {"get gain", noCamera("get MODEL NAME...")},
-        {"get overlayshow.1 lenscontrol", noCamera("get MODEL NAME...")},
-        {"watch gain=3", noCamera("watch MODEL [NAME=VALUE...]")},
-        {"save bench.json", noCamera("save MODEL FILE")},
-        {"info", noCamera("info MODEL")},
-        {"get Orvik-710C", "qdv12host: NAME is required; usage: qdv12host get MODEL NAME..." + more},
-        {"save 'Sollux G'", "qdv12host: FILE is required; usage: qdv12host save MODEL FILE" + more},
-        {"diff", "qdv12host: A is required; usage: qdv12host diff A [B]" + more},
-        {"--json", "qdv12host: COMMAND is required" + more},
-        {"get --jsn", "qdv12host: unknown option \"--jsn\"; did you mean \"--json\"?" + more},
+        {"set gain=3 agc=1", no + " before \"gain=3\"; usage: qdv12host set CAMERA NAME=VALUE..."},
+        {"get gain", no + " before \"gain\"; usage: qdv12host get CAMERA NAME..."},
+        {"get overlayshow.1 lenscontrol", no + " before \"overlayshow.1\"; usage: qdv12host get CAMERA NAME..."},
+        {"watch gain=3", no + " before \"gain=3\"; usage: qdv12host watch CAMERA [NAME=VALUE...]"},
+        {"info", no + "; usage: qdv12host info CAMERA"},
+        {"restore bench.json", no + "; usage: qdv12host restore FILE CAMERA"},
+        {"get Orvik-710C", "qdv12host: NAME is required; usage: qdv12host get CAMERA NAME..."},
+        {"save 'Sollux G'", "qdv12host: FILE is required; usage: qdv12host save CAMERA FILE"},
+        {"diff a.json", "qdv12host: B is required; usage: qdv12host diff A B"},
+        {"--json", "qdv12host: COMMAND is required"},
+        {"get --jsn", "qdv12host: unknown option \"--jsn\"; did you mean \"--json\"?"},
+        {"info Orvik-710C Cerix-MV7", "qdv12host: \"Cerix-MV7\" was not expected"},
+        {"info Orvik-710C --state --json", "qdv12host: --state: a value is required"},
+        {"info Orvik-710C --state ''", "qdv12host: --state: a value is required"},
+        {"info Orvik-710C --fault --trace", "qdv12host: --fault: a value is required"},
+        {"watch Orvik-710C --seconds --json", "qdv12host: --seconds: a value is required"},
     };
     for (const auto& [arguments, said] : cases) {
         const Outcome run = RunHost(arguments);
         EXPECT_EQ(run.code, 2) << arguments;
-        EXPECT_EQ(run.err, said) << arguments;
+        EXPECT_EQ(run.err, said + more) << arguments;
     }
+    const Outcome log = RunHost("--log --json info Orvik-710C");
+    EXPECT_EQ(log.code, 2);
+    EXPECT_TRUE(log.err.starts_with("qdv12host: --log: ")) << log.err;
     EXPECT_EQ(RunHost("get orvik-710c gain").err,
               "qdv12host: unknown model \"orvik-710c\"; did you mean \"Orvik-710C\"?\n");
 }
@@ -106,7 +59,7 @@ TEST(HostCommandLine, KnowsHelpAsACommand) {
     const Outcome set = RunHost("help set");
     EXPECT_EQ(set.code, 0);
     EXPECT_EQ(set.out, RunHost("set --help").out);
-    EXPECT_TRUE(Has(set.out, "Usage: qdv12host set [OPTIONS] MODEL NAME=VALUE...\n"));
+    EXPECT_TRUE(Has(set.out, "Usage: qdv12host set [OPTIONS] CAMERA NAME=VALUE...\n"));
     const Outcome unknown = RunHost("help sett");
     EXPECT_EQ(unknown.code, 2);
     EXPECT_EQ(unknown.err, "qdv12host: unknown command \"sett\"; did you mean \"set\"? (qdv12host --help says more)\n");
@@ -123,17 +76,17 @@ TEST(HostCommandLine, RemarksStandBehindCommandsOfAShell) {
     std::filesystem::remove(script);
 }
 
-TEST(HostCommandLine, TellsWhatACameraOnTheNetworkIsGivenAs) {
-    for (const char* camera : {"192.168.1.10", "gige:", "gige:door", "gige:192.168.1", "u3v:192.168.1.10"}) {
-        const Outcome run = RunHost("info --camera " + std::string(camera));
+TEST(HostCommandLine, TellsHowACameraIsNamed) {
+    for (const std::string camera : {"192.168.1.10", "gige:", "gige:door", "gige:192.168.1", "u3v:192.168.1.10"}) {
+        const Outcome run = RunHost("info " + camera);
         EXPECT_EQ(run.code, 2) << camera;
-        EXPECT_EQ(run.err, "qdv12host: --camera: \"" + std::string(camera) +
-                               "\" is no camera; gige:ADDRESS is wanted, such as gige:192.168.1.10 (qdv12host --help "
-                               "says more)\n");
+        EXPECT_EQ(run.err, "qdv12host: \"" + camera +
+                               "\" is no camera; a model or gige:ADDRESS is wanted, such as gige:192.168.1.10\n");
     }
-    EXPECT_EQ(RunHost("info Orvik-710C --force-model").err,
-              "qdv12host: --force-model requires --camera (qdv12host --help says more)\n");
-    EXPECT_EQ(RunHost("models --camera gige:192.0.2.1").code, 0); // needs none
+    EXPECT_EQ(RunHost("info Orvik-710C --force-model Cerix-MV7").err,
+              "qdv12host: --force-model is for a camera on the network, not for a simulated one\n");
+    EXPECT_EQ(RunHost("diff Orvik-71 Orvik-710C").err,
+              "qdv12host: \"Orvik-71\" is neither a file nor a camera; did you mean \"Orvik-710M\"?\n");
 }
 
 TEST(HostCommandLine, TakesSeedsOf64Bits) {

@@ -165,7 +165,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         EXPECT_TRUE(run.err.starts_with("qdv12host: ")) << run.err;
     }
     EXPECT_EQ(RunHost("--help").code, 0);
-    EXPECT_TRUE(Has(RunHost("set --help").out, "qdv12host set [OPTIONS] MODEL NAME=VALUE..."));
+    EXPECT_TRUE(Has(RunHost("set --help").out, "qdv12host set [OPTIONS] CAMERA NAME=VALUE..."));
 }
 
 TEST(HostCommand, ResultsThatCannotBeWrittenAreNoSuccess) {
@@ -219,7 +219,7 @@ TEST(HostCommand, ListOfACameraThatIsLostAtOnceHasNoHeading) {
     Host::Program program(options);
     std::ostringstream out;
     std::streambuf* const usual = std::cout.rdbuf(out.rdbuf());
-    EXPECT_THROW(Host::List(Host::Invocation(program, {{"MODEL", {"Orvik-710C"}}})), Host::ChannelLost);
+    EXPECT_THROW(Host::List(Host::Invocation(program, {{Host::Parameter::Camera, {"Orvik-710C"}}})), Host::ChannelLost);
     std::cout.rdbuf(usual);
     EXPECT_EQ(out.str(), "");
 }

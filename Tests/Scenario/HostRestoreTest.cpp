@@ -11,6 +11,8 @@ namespace Scenario {
 
 namespace {
 
+using Host::Parameter;
+
 constexpr std::uint32_t agc = 0x46020000;
 constexpr std::uint32_t sharpness = 0x18030000; // of a setting in the middle
 
@@ -28,7 +30,8 @@ protected:
     }
     [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
         signal(SIGHUP, SIG_DFL); // which nohup has ignored
-        return RunInProcess(Host::RunRestore, {{"MODEL", {model}}, {"FILE", {saved}}}, observer, state, json);
+        return RunInProcess(Host::RunRestore, {{Parameter::Camera, {model}}, {Parameter::File, {saved}}}, observer,
+                            state, json);
     }
     [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
 
@@ -152,7 +155,7 @@ TEST_F(HostRestore, BeginsWithAModeAsWell) {
     const std::string text = Content(saved);
     Write(saved,
           Replaced(text, text.substr(text.find("    \"username\"")), "    \"agc\": 1,\n    \"gain\": 5\n  }\n}\n"));
-    const Outcome run = Run("restore Orvik-390C " + saved);
+    const Outcome run = Run("restore " + saved + " Orvik-390C");
     EXPECT_EQ(run.code, 0) << run.err;
     EXPECT_EQ(run.out, "gain                      ok          7 -> 5\n"
                        "agc                       ok          off -> 1\n");
@@ -162,7 +165,7 @@ TEST_F(HostRestore, BeginsWithAModeAsWell) {
 TEST_F(HostRestore, SetsNothingThatAModeLocksWhichCannotBeRead) {
     for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
         Prepare(each, "gain=5", "gain=7");
-        const Outcome run = Run("restore " + model + " " + saved + " --fault failread:agc");
+        const Outcome run = Run("restore " + saved + " " + model + " --fault failread:agc");
         EXPECT_EQ(run.code, 1);
         EXPECT_TRUE(
             std::regex_search(run.out, std::regex("\ngain +refused +Read[A-Za-z]+ at 0x46020000 failed: no answer "
@@ -194,7 +197,7 @@ TEST_F(HostRestore, SaysWhyAValueCannotBeReadBack) {
 TEST_F(HostRestore, GoesOnWhenNobodyReadsOn) {
     Prepare("Cerix-MV7", "agc=2 sharpness=3", "agc=1 sharpness=9");
     {
-        Running restore(QDV12_HOST, {"restore", "--trace", "Cerix-MV7", saved, "--state", state}, STDERR_FILENO);
+        Running restore(QDV12_HOST, {"restore", "--trace", saved, "Cerix-MV7", "--state", state}, STDERR_FILENO);
         ASSERT_TRUE(restore.ReadUntil("write WriteRegister     0x46020000  0"));
         restore.StopReading();
         EXPECT_EQ(restore.End(), 0);

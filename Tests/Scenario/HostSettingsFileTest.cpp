@@ -17,6 +17,7 @@ namespace Scenario {
 namespace {
 
 using Given = Host::Invocation::Given;
+using Host::Parameter;
 
 /// A camera of another firmware, which lacks the registers of sharpness, as on the network, and of the levels of the
 /// I/O lines, as in this process.
@@ -39,7 +40,7 @@ mode_t ModeOf(const std::string& file) {
 
 TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
     const std::string lacking = "a simulated camera has no address for these, which are left out: ";
-    const Given save{{"MODEL", {"Orvik-390M"}}, {"FILE", {saved}}};
+    const Given save{{Parameter::Camera, {"Orvik-390M"}}, {Parameter::File, {saved}}};
     const Outcome run = RunInProcess(Host::Save, save, Lack);
     EXPECT_EQ(run.code, 0);
     EXPECT_TRUE(run.err.starts_with("qdv12host: " + lacking)) << run.err;
@@ -51,7 +52,7 @@ TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
     EXPECT_TRUE(Has(RunInProcess(Host::Save, save, Lack, "", true).out, "\"missing\": [\n"));
 
     const auto diff = [&](const Observer& observer) {
-        return RunInProcess(Host::Diff, {{"A", {saved}}, {"--live MODEL", {"Orvik-390M"}}}, observer);
+        return RunInProcess(Host::Diff, {{Parameter::First, {saved}}, {Parameter::Second, {"Orvik-390M"}}}, observer);
     };
     EXPECT_EQ(diff(Lack).code, 0);
     const Outcome whole = diff([](const Host::Access&) {});
@@ -59,7 +60,7 @@ TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
     EXPECT_EQ(whole.out, "");
     EXPECT_TRUE(whole.err.starts_with("qdv12host: \"" + saved + "\" does not hold these, which are not compared: "))
         << whole.err;
-    EXPECT_EQ(Run("restore Orvik-390M " + saved).code, 0);
+    EXPECT_EQ(Run("restore " + saved + " Orvik-390M").code, 0);
     Write(other, Replaced(text, "\"sharpness\"", "\"sharpnes\""));
     EXPECT_TRUE(Has(Run("diff " + other + " " + saved).err, "unknown function \"sharpnes\"; did you mean"));
 }
@@ -68,7 +69,7 @@ TEST_F(HostSettings, ThatCannotBeComparedDoNotCountAsDifferent) {
     ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
     ASSERT_EQ(RunHost("save Orvik-710M " + other).code, 0);
     Write(input, "{");
-    const std::string live = "diff " + saved + " --live Orvik-390M ";
+    const std::string live = "diff " + saved + " Orvik-390M ";
     const std::pair<std::string, int> cases[] = {
         {live, 0},
         {live + "--fault failread:sharpness", 2},
@@ -77,7 +78,7 @@ TEST_F(HostSettings, ThatCannotBeComparedDoNotCountAsDifferent) {
         {"diff " + saved + " " + input, 2},
         {"diff " + saved + " - <" + other, 2},
         {"diff - - <" + saved, 2},
-        {"diff " + saved + " --live Orvik-390", 3},
+        {"diff " + saved + " Orvik-390", 2},
         {live + "--plugin /nowhere/p.so", 3},
         {live + "--json >/dev/full", 2},
     };
@@ -112,7 +113,7 @@ TEST_F(HostSettings, KeepATextThatIsNoUtf8) {
         ASSERT_EQ(Run("set " + std::string(model) + " username='" + name + "'").code, 0);
         ASSERT_EQ(Run("save " + std::string(model) + " " + saved).code, 0);
         EXPECT_TRUE(Has(Content(saved), "\"username\": " + std::string(json)));
-        const Outcome diff = Run("diff " + saved + " --live " + model);
+        const Outcome diff = Run("diff " + saved + " " + model);
         EXPECT_EQ(diff.code, 0) << diff.out << diff.err;
     }
     for (const char* hex : {"6", "6z", "00", "+1"}) {
@@ -168,11 +169,11 @@ TEST_F(HostSettings, GoThroughStandardOutputAndInput) {
     const auto piped = [&](const std::string& arguments) {
         return RunHost(arguments + " --state " + state, QDV12_HOST, saved);
     };
-    EXPECT_EQ(piped("diff - --live Orvik-390M").out, "gain                      7                       9\n");
+    EXPECT_EQ(piped("diff - Orvik-390M").out, "gain                      7                       9\n");
     EXPECT_EQ(piped("diff " + saved + " -").code, 0);
-    EXPECT_TRUE(Has(piped("restore Orvik-390M -").out, "\ngain                      ok          9 -> 7\n"));
-    EXPECT_EQ(piped("diff --live Orvik-390M -").code, 0);
-    EXPECT_EQ(Run("diff - --live Orvik-390M").err, "qdv12host: standard input: is empty\n");
+    EXPECT_TRUE(Has(piped("restore - Orvik-390M").out, "\ngain                      ok          9 -> 7\n"));
+    EXPECT_EQ(piped("diff Orvik-390M -").code, 0);
+    EXPECT_EQ(Run("diff - Orvik-390M").err, "qdv12host: standard input: is empty\n");
 
     Write(input, "save -\nrestore -\ndiff -\n");
     const Outcome shell = RunHost("shell Orvik-390M", QDV12_HOST, input);
@@ -208,7 +209,7 @@ TEST_F(HostSettings, MayBeSavedToOneFileAtTheSameTime) {
     for (auto& save : saves) {
         EXPECT_EQ(save.get(), 0);
     }
-    EXPECT_EQ(RunHost("diff " + file + " --live Orvik-390M").code, 0);
+    EXPECT_EQ(RunHost("diff " + file + " Orvik-390M").code, 0);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2); // nothing is left behind
 
     const mode_t mask = umask(027);

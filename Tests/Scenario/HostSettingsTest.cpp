@@ -41,28 +41,27 @@ TEST_F(HostSettings, ComeBackAsTheyWereSaved) {
     };
     for (const Case& each : cases) {
         const std::string model = each.model;
-        const std::string file = model + " " + saved;
         std::filesystem::remove(state);
         ASSERT_EQ(Run("set " + model + " " + each.first).code, 0);
-        ASSERT_EQ(Run("save " + file).code, 0);
-        const Outcome same = Run("diff " + saved + " --live " + model);
+        ASSERT_EQ(Run("save " + model + " " + saved).code, 0);
+        const Outcome same = Run("diff " + saved + " " + model);
         EXPECT_EQ(same.code, 0) << same.err;
         EXPECT_EQ(same.out, "");
 
         ASSERT_EQ(Run("set " + model + " username=bench " + each.changes + " " + each.outputs).code, 0);
-        const Outcome changed = Run("diff " + saved + " --live " + model);
+        const Outcome changed = Run("diff " + saved + " " + model);
         EXPECT_EQ(changed.code, 1);
         EXPECT_TRUE(Has(changed.out, each.found));
 
-        const Outcome restored = Run("restore " + file);
+        const Outcome restored = Run("restore " + saved + " " + model);
         EXPECT_EQ(restored.code, 0) << restored.out << restored.err;
         EXPECT_TRUE(Has(restored.out, "username                  skipped     network settings are never restored\n"));
-        const Outcome left = Run("diff " + saved + " --live " + model);
+        const Outcome left = Run("diff " + saved + " " + model);
         EXPECT_EQ(std::count(left.out.begin(), left.out.end(), '\n'), 2) << left.out; // user name and output
 
         EXPECT_EQ(Run("set " + model + " username=''").code, 0);
-        EXPECT_EQ(Run("restore --outputs " + file).code, 0);
-        const Outcome none = Run("diff " + saved + " --live " + model + " --json");
+        EXPECT_EQ(Run("restore --outputs " + saved + " " + model).code, 0);
+        const Outcome none = Run("diff " + saved + " " + model + " --json");
         EXPECT_EQ(none.code, 0);
         EXPECT_EQ(none.out, "[]\n");
     }
@@ -86,7 +85,7 @@ TEST_F(HostSettings, AreReadableText) {
 TEST_F(HostSettings, AreNotWrittenByADryRun) {
     const Outcome reading = Run("save --trace Orvik-390M " + saved);
     ASSERT_EQ(Run("set Orvik-390M gain=100 agc=1 binning=2,2").code, 0);
-    const Outcome dry = Run("restore --dry-run --trace Orvik-390M " + saved);
+    const Outcome dry = Run("restore --dry-run --trace " + saved + " Orvik-390M");
     EXPECT_EQ(dry.code, 0);
     EXPECT_TRUE(Has(dry.out, "binning                   would set   2,2 -> 1,1\n"));
     const auto selectors = WritesIn(reading.err); // reading chooses among several values by writing an index
@@ -104,7 +103,7 @@ TEST_F(HostSettings, OfAnAutomaticModeThatIsOnAreNotCompared) {
     EXPECT_EQ(Run("diff " + saved + " " + other).code, 0);
 
     // They are restored all the same, under the mode that is switched off for that while.
-    const Outcome restored = Run("restore --trace Orvik-390M " + other);
+    const Outcome restored = Run("restore --trace " + other + " Orvik-390M");
     EXPECT_EQ(restored.code, 0) << restored.out;
     const std::size_t off = restored.err.find("write WriteMem          0x46020000  0  ");
     const std::size_t gain = restored.err.find("write WriteMem          0x14010000  ");
@@ -123,14 +122,14 @@ TEST_F(HostSettings, ThatAreRefusedDoNotStopTheOthers) {
     ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
     Write(other,
           Replaced(Replaced(Content(saved), "\"gain\": 0", "\"gain\": 600"), "\"sharpness\": 0", "\"sharpness\": 9"));
-    const Outcome clamped = Run("restore Orvik-390M " + other);
+    const Outcome clamped = Run("restore " + other + " Orvik-390M");
     EXPECT_EQ(clamped.code, 1);
     EXPECT_TRUE(Has(clamped.out, "gain                      clamped     SDK4_ERR_OUTOFRANGE; asked for 600, the camera "
                                  "now holds 511\n"));
     EXPECT_TRUE(Has(clamped.out, "sharpness                 ok          0 -> 9\n"));
     EXPECT_TRUE(Has(clamped.err, "1 of 65 functions not restored\n")) << clamped.err;
 
-    const Outcome faulty = Run("restore --fault ignore:gain Orvik-390M " + saved);
+    const Outcome faulty = Run("restore --fault ignore:gain " + saved + " Orvik-390M");
     EXPECT_EQ(faulty.code, 1);
     EXPECT_TRUE(Has(faulty.out, "gain                      refused     the camera does not take it; asked for 0, the "
                                 "camera now holds 511\n"));
@@ -140,11 +139,11 @@ TEST_F(HostSettings, ThatAreRefusedDoNotStopTheOthers) {
 TEST_F(HostSettings, AreRoundedAsTheCameraMay) {
     ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
     Write(other, std::regex_replace(Content(saved), std::regex("(\"readouttime\": )[0-9]+"), "$015"));
-    const Outcome up = Run("restore Orvik-390M " + other);
+    const Outcome up = Run("restore " + other + " Orvik-390M");
     EXPECT_EQ(up.code, 0);
     EXPECT_TRUE(Has(up.out, "readouttime               rounded     asked for 5, the camera now holds 12182\n"));
     Write(other, std::regex_replace(Content(saved), std::regex("(\"readouttime\": )[0-9]+"), "$0130000"));
-    const Outcome down = Run("restore --fault clamp:readouttime=20000 Orvik-390M " + other);
+    const Outcome down = Run("restore --fault clamp:readouttime=20000 " + other + " Orvik-390M");
     EXPECT_EQ(down.code, 1);
     EXPECT_TRUE(Has(down.out, "readouttime               clamped     asked for 30000, the camera now holds 20000\n"));
 }
@@ -164,7 +163,7 @@ TEST_F(HostSettings, AreRefusedFromAFileThatIsNotTheirs) {
     };
     for (const auto& [content, complaint] : cases) {
         Write(other, content);
-        const Outcome run = Run("restore Orvik-390M " + other);
+        const Outcome run = Run("restore " + other + " Orvik-390M");
         EXPECT_EQ(run.code, 2) << complaint;
         EXPECT_EQ(run.out, "");
         EXPECT_TRUE(Has(run.err, complaint));

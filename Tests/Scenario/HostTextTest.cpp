@@ -59,7 +59,7 @@ TEST(HostText, FillsColumnsByWhatIsSeen) {
     ASSERT_EQ(RunHost("set" + camera + "username=\u5BB6").code, 0); // two columns wide
     ASSERT_EQ(RunHost("save" + camera + saved).code, 0);
     ASSERT_EQ(RunHost("set" + camera + "username=x").code, 0);
-    EXPECT_EQ(RunHost("diff " + saved + " --live" + camera).out,
+    EXPECT_EQ(RunHost("diff " + saved + camera).out,
               Host::Pad("username", 26) + "\u5BB6" + std::string(22, ' ') + "x\n");
     std::filesystem::remove(state);
     std::filesystem::remove(saved);
@@ -121,7 +121,7 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
         EXPECT_EQ(run("get " + model + " username --trace --log debug").out, "username=" + name + "\n");
         EXPECT_TRUE(Has(run("info " + model).out, "\nusername              " + name + "\n"));
         EXPECT_TRUE(Has(run("list " + model).out, "\nusername                  " + name + "\n"));
-        EXPECT_EQ(run("diff " + saved + " --live " + model).out, Host::Pad("username", 50) + name + "\n");
+        EXPECT_EQ(run("diff " + saved + " " + model).out, Host::Pad("username", 50) + name + "\n");
         EXPECT_TRUE(Has(run("shell " + model, script).out, "username=" + name + "\nusername=a\nusername=\\x1B[2J\n"));
         EXPECT_TRUE(Has(run("watch " + model + " username=x --seconds 0").out, " \\x1B[2J -> x\n"));
         EXPECT_TRUE(Has(run("watch " + model + " username='" + name + "' --seconds 0").out, "x -> " + name));
@@ -131,8 +131,8 @@ TEST(HostText, OfACameraReachesNoTerminalAsItIs) {
         EXPECT_EQ(run("set " + model + " username='" + name + "\\q'").code, 2);
         run("selftest " + model);
         run("save " + model + " " + saved);
-        EXPECT_EQ(run("diff " + saved + " --live " + model).code, 0);
-        EXPECT_EQ(run("restore " + model + " " + saved).code, 0);
+        EXPECT_EQ(run("diff " + saved + " " + model).code, 0);
+        EXPECT_EQ(run("restore " + saved + " " + model).code, 0);
     }
     for (const std::string& file : {state, saved, script}) {
         std::filesystem::remove(file);

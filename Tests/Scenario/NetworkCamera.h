@@ -11,15 +11,18 @@ public:
     explicit NetworkCamera(const std::string& model, const std::string& address = "192.168.1.10",
                            std::vector<std::string> options = {})
         : process(QDV12_SIM, Arguments(model, address, std::move(options)), STDOUT_FILENO),
-          camera(" --camera gige:" + address) {
+          camera("gige:" + address) {
         EXPECT_TRUE(process.ReadUntil("serial number")) << process.Read();
     }
 
     /// Stops, continues or kills it.
     void Signal(int signal) const { process.Signal(signal); }
 
-    /// Runs a command of the host on it.
-    [[nodiscard]] Outcome Run(const std::string& command) const { return RunHost(command + camera); }
+    /// Runs a command of the host, in which CAMERA stands for it.
+    [[nodiscard]] Outcome Run(std::string command) const {
+        const std::size_t at = command.find("CAMERA");
+        return RunHost(at == std::string::npos ? command : command.replace(at, 6, camera));
+    }
 
 private:
     static std::vector<std::string> Arguments(const std::string& model, const std::string& address,
