@@ -132,7 +132,7 @@ void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const
 
 Reading Camera::Try(const Instance& instance, bool andItsLock) const {
     Reading reading;
-    const Failure failure = Attempt([&] {
+    static_cast<Outcome&>(reading) = Attempt([&] {
         if (instance->get != nullptr) {
             reading.value = Read(instance);
         } else if (!instance->presence.empty()) {
@@ -140,12 +140,8 @@ Reading Camera::Try(const Instance& instance, bool andItsLock) const {
         }
         if (andItsLock) {
             reading.lockedBy = LockedBy(instance);
-            reading.moved = !reading.lockedBy.empty() && instance->lock && instance->lock->moves;
         }
     });
-    reading.error = failure.code;
-    reading.errorText = failure.reason;
-    reading.noSuchAddress = failure.noSuchAddress;
     return reading;
 }
 
@@ -157,7 +153,7 @@ std::string Camera::LockedBy(const Instance& instance) const {
     if (const auto& lock = instance->lock) {
         const Instance mode = FindOne(lock->mode);
         const Value value = Read(mode);
-        if (std::find(lock->open.begin(), lock->open.end(), value.numbers.at(0)) == lock->open.end()) {
+        if (!lock->IsOpen(value)) {
             return mode.Name() + "=" + mode.Print(value);
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/ErrorReporting.h"
 #include "Host/Function.h"
 
 #include <SDK4/IPropertyState.h>
@@ -11,14 +12,9 @@
 namespace Host {
 
 /// What reading a function tells.
-struct Reading {
-    Value value;            ///< valid unless there is an error, and for what has a getter
-    std::int32_t error = 0; ///< of the getter: SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED, ...; of what it throws that
-                            ///< has no code, SDK4_ERR_ERROR
-    std::string errorText;  ///< the name of the code, or what the port said
-    bool noSuchAddress = false; ///< the camera lacks its register: it is of another firmware
-    std::string lockedBy;       ///< "agc=1" while that keeps it from being set, else empty
-    bool moved = false;         ///< and the camera moves it by itself
+struct Reading : Outcome {
+    Value value;          ///< if it was read, of what has a getter
+    std::string lockedBy; ///< "agc=1" while that keeps it from being set, else empty
 };
 
 /// An opened control, seen through the table of its family.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Errors.h"
+#include "Host/Output.h"
 #include "Host/Program.h"
 
 #include <map>
@@ -39,6 +40,8 @@ public:
     [[nodiscard]] bool Has(Parameter parameter) const { return given.contains(parameter); }
 
     [[nodiscard]] Host::Program& Program() const { return program; }
+    /// For its result.
+    [[nodiscard]] Host::Output Output() const { return Host::Output(program.Json()); }
 
     /// The camera that the command is about: that of the shell, or CAMERA, opened now.
     [[nodiscard]] Session& Open() const;

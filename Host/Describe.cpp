@@ -135,15 +135,15 @@ std::string DescribeLimits(const Instance& instance, const Limits& limits) {
 }
 
 std::string DescribeState(const Instance& instance, const Reading& reading) {
-    if (reading.errorText == needsControl) {
-        return needsControl;
+    if (reading.cause == Cause::NoControl) {
+        return reading.reason;
     }
-    if (reading.error != 0) {
-        const bool missing = reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE;
-        const char* const what = missing                              ? "not implemented"
-                                 : reading.error == SDK4_ERR_DISABLED ? "not available"
-                                                                      : "not readable";
-        return what + std::string(" (") + reading.errorText + ")";
+    if (reading.code != 0) {
+        const bool missing = reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE;
+        const char* const what = missing                             ? "not implemented"
+                                 : reading.code == SDK4_ERR_DISABLED ? "not available"
+                                                                     : "not readable";
+        return what + std::string(" (") + reading.reason + ")";
     }
     if (!reading.lockedBy.empty()) {
         return "locked by " + reading.lockedBy;

@@ -38,22 +38,22 @@ int RunAndReport(const std::function<int()>& action, int failed) {
     }
 }
 
-Failure Attempt(const std::function<void()>& calls) {
+Outcome Attempt(const std::function<void()>& calls) {
     try {
         calls();
         return {};
     } catch (const SDK4::X4Error& error) {
-        return {error.code, SDK4::ErrorName(error.code)};
+        return {error.code, SDK4::ErrorName(error.code), Cause::Any};
     } catch (const ChannelLost&) {
         throw;
     } catch (const NoSuchAddress& error) {
-        return {SDK4_ERR_ERROR, error.what(), true};
+        return {SDK4_ERR_ERROR, error.what(), Cause::NoSuchAddress};
     } catch (const Simulation::InvalidAddressError& error) {
-        return {SDK4_ERR_ERROR, error.what(), true};
+        return {SDK4_ERR_ERROR, error.what(), Cause::NoSuchAddress};
     } catch (const ControlHeld&) { // who has it is told once, at the end of the command
-        return {SDK4_ERR_ERROR, needsControl};
+        return {SDK4_ERR_ERROR, "needs control", Cause::NoControl};
     } catch (const std::exception& error) {
-        return {SDK4_ERR_ERROR, error.what()};
+        return {SDK4_ERR_ERROR, error.what(), Cause::Any};
     }
 }
 

@@ -11,6 +11,10 @@ bool FieldLimits::Admits(std::int64_t number) const {
                             : std::find(admitted.begin(), admitted.end(), number) != admitted.end();
 }
 
+bool Lock::IsOpen(const Value& value) const {
+    return std::find(open.begin(), open.end(), value.numbers.at(0)) != open.end();
+}
+
 Function& Function::Unit(std::string_view text) {
     unit = text;
     return *this;

@@ -41,6 +41,9 @@ struct Lock {
     std::string_view mode;
     std::vector<std::int64_t> open;
     bool moves; ///< while it is closed the camera moves the value by itself
+
+    /// Whether a value of the mode leaves the function open.
+    [[nodiscard]] bool IsOpen(const Value& value) const;
 };
 
 /// How a value is refused that is not admitted.

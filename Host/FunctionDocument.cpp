@@ -57,7 +57,7 @@ bool Enter(Session& session, Line& line) {
     const Camera camera = session.Camera();
     const Instance instance{line.function};
     const Reading reading = camera.Look(instance);
-    if (reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE) {
+    if (reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE) {
         return false;
     }
     const bool settable = instance->set != nullptr;

@@ -8,7 +8,6 @@
 #include "Simulation/Suggestion.h"
 
 #include <filesystem>
-#include <iostream>
 #include <vector>
 
 namespace Host {
@@ -50,9 +49,9 @@ std::string PrintOne(const Instance& instance, const Value* value) {
     return value == nullptr ? "-" : PrintWithUnit(instance, *value);
 }
 
-void Print(const Difference& difference) {
-    std::cout << Pad(difference.instance.Name(), 24) << "  " << Pad(PrintOne(difference.instance, difference.first), 22)
-              << "  " << PrintOne(difference.instance, difference.second) << '\n';
+std::string Describe(const Difference& difference) {
+    return Pad(difference.instance.Name(), 24) + "  " + Pad(PrintOne(difference.instance, difference.first), 22) +
+           "  " + PrintOne(difference.instance, difference.second);
 }
 
 Json ToJson(const Difference& difference) {
@@ -85,14 +84,11 @@ int Diff(const Invocation& invocation) {
         throw UsageError("settings of different models: " + first.settings.model + " and " + second.settings.model);
     }
     const auto differences = Compare(first.settings, second.settings);
-    const bool json = invocation.Program().Json();
-    Json document(Json::List{});
+    Output output = invocation.Output();
     for (const Difference& difference : differences) {
-        json ? document.Add(ToJson(difference)) : Print(difference);
+        output.Add(Describe(difference), ToJson(difference));
     }
-    if (json) {
-        std::cout << document.Print() << '\n';
-    }
+    output.End();
     const bool firstIsWhole = TellNotCompared(first, second);
     const bool secondIsWhole = TellNotCompared(second, first);
     if (!firstIsWhole || !secondIsWhole) {

@@ -7,17 +7,16 @@
 #include "Host/Text.h"
 
 #include <algorithm>
-#include <iostream>
 
 namespace Host {
 
 namespace {
 
-void Print(const FoundCamera& camera, bool served) {
+std::string Describe(const FoundCamera& camera, bool served) {
     const auto column = [](const std::string& text, std::size_t width) { return Pad(Escaped(text) + ' ', width); };
     std::string line = column(camera.address, 17) + column(camera.mac, 19) + column(camera.model, 16) +
                        column(camera.serial, 16) + column(camera.userName, 16) + (served ? "" : "(not served)");
-    std::cout << line.erase(line.find_last_not_of(' ') + 1) << '\n';
+    return line.erase(line.find_last_not_of(' ') + 1);
 }
 
 } // namespace
@@ -25,27 +24,20 @@ void Print(const FoundCamera& camera, bool served) {
 int Discover(const Invocation& invocation) {
     const auto& served = invocation.Program().LoadedPlugin().Models();
     const auto found = DiscoverCameras();
-    Json list(Json::List{});
+    Output output = invocation.Output();
     for (const FoundCamera& camera : found) {
         const bool known =
             std::any_of(served.begin(), served.end(), [&](const Model& model) { return model.name == camera.model; });
-        if (invocation.Program().Json()) {
-            list.Add(Json{{"address", camera.address},
-                          {"mac", camera.mac},
-                          {"model", TextToJson(camera.model)},
-                          {"serial", TextToJson(camera.serial)},
-                          {"userName", TextToJson(camera.userName)},
-                          {"served", known}});
-        } else {
-            Print(camera, known);
-        }
+        output.Add(Describe(camera, known), Json{{"address", camera.address},
+                                                 {"mac", camera.mac},
+                                                 {"model", TextToJson(camera.model)},
+                                                 {"serial", TextToJson(camera.serial)},
+                                                 {"userName", TextToJson(camera.userName)},
+                                                 {"served", known}});
     }
     const bool unreachable = found.empty() && !HasNetworkInterface();
-    if (invocation.Program().Json()) {
-        std::cout << list.Print() << '\n';
-    } else if (found.empty() && !unreachable) {
-        std::cout << "no camera was found\n";
-    }
+    output.Line(found.empty() && !unreachable ? "no camera was found" : "");
+    output.End();
     if (unreachable) {
         PrintError("no network interface is up with an IPv4 address, other than loopback");
         return Refused;

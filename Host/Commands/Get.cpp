@@ -2,8 +2,6 @@
 
 #include "Host/Describe.h"
 
-#include <iostream>
-
 namespace Host {
 
 int Get(const Invocation& invocation) {
@@ -16,23 +14,20 @@ int Get(const Invocation& invocation) {
         }
         wanted.insert(wanted.end(), found.begin(), found.end());
     }
-    Json document;
+    Output output = invocation.Output();
     bool refused = false;
     for (const Instance& instance : wanted) {
         const Reading reading = camera.TryRead(instance);
-        if (reading.error != 0) {
+        if (reading.code != 0) {
             refused = true;
-            PrintError(instance.Name() + ": " + reading.errorText);
-            document.Add(instance.Name(), Json());
-        } else if (invocation.Program().Json()) {
-            document.Add(instance.Name(), ToJson(instance, reading.value));
+            PrintError(instance.Name() + ": " + reading.reason);
+            output.Add("", instance.Name(), Json());
         } else {
-            std::cout << instance.Name() << '=' << instance.Print(reading.value) << '\n';
+            output.Add(instance.Name() + '=' + instance.Print(reading.value), instance.Name(),
+                       ToJson(instance, reading.value));
         }
     }
-    if (invocation.Program().Json()) {
-        std::cout << document.Print() << '\n';
-    }
+    output.End();
     return refused ? Refused : Success;
 }
 

@@ -5,20 +5,11 @@
 #include "Host/Format.h"
 #include "Host/Style.h"
 
-#include <iostream>
 #include <utility>
 
 namespace Host {
 
 namespace {
-
-struct Row {
-    std::string name;
-    std::string value;
-    std::string defaultValue;
-    std::string limits;
-    std::string state;
-};
 
 /// The defaults of all fields, where the family publishes them.
 std::optional<Value> DefaultOf(const Limits& limits) {
@@ -39,65 +30,53 @@ bool StandsForMany(const Instance& instance, bool all) { return !all && instance
 struct Found {
     Reading reading;
     Limits limits;
-    std::string state;
+    std::optional<Value> defaultValue;
+    Outcome limitsOutcome; ///< how reading the limits ended
 };
 
 Found Look(const Camera& camera, const Instance& instance) {
-    Found found{camera.Look(instance), {}, {}};
-    Failure failure;
-    if (found.reading.error == 0) {
-        failure = Attempt([&] { found.limits = camera.LimitsOf(instance); });
+    Found found{camera.Look(instance), {}, {}, {}};
+    if (found.reading.code == 0) {
+        found.limitsOutcome = Attempt([&] { found.limits = camera.LimitsOf(instance); });
+        found.defaultValue = DefaultOf(found.limits);
     }
-    found.state = failure.code == 0                ? DescribeState(instance, found.reading)
-                  : failure.reason == needsControl ? "limits need control"
-                                                   : "limits not readable (" + failure.reason + ")";
     return found;
 }
 
-bool HasValue(const Instance& instance, const Reading& reading) {
-    return reading.error == 0 && instance->get != nullptr;
+std::string StateOf(const Instance& instance, const Found& found) {
+    const Outcome& limits = found.limitsOutcome;
+    return limits.code == 0                   ? DescribeState(instance, found.reading)
+           : limits.cause == Cause::NoControl ? "limits " + limits.reason
+                                              : "limits not readable (" + limits.reason + ")";
 }
 
-Row Describe(const Camera& camera, const Instance& instance, bool all) {
-    const auto [reading, limits, state] = Look(camera, instance);
-    const bool many = StandsForMany(instance, all);
-    Row row;
-    row.name = instance.Name() + (many ? ".." + std::to_string(instance->count - 1) : "");
-    row.value = !HasValue(instance, reading) ? "-"
-                : many                       ? std::to_string(instance->count) + " values"
-                                             : PrintWithUnit(instance, reading.value);
-    row.state = state;
-    const auto defaultValue = DefaultOf(limits);
-    row.defaultValue = defaultValue ? instance.Print(*defaultValue) : "";
-    row.limits = instance->set != nullptr ? DescribeLimits(instance, limits) : "";
-    return row;
+bool HasValue(const Instance& instance, const Reading& reading) {
+    return reading.code == 0 && instance->get != nullptr;
 }
 
 /// What is too long for its column pushes the next ones aside, no further than it must.
-void Print(const Row& row) {
-    std::string line = row.name;
+std::string Row(std::string name, const std::string& value, const std::string& defaultValue, const std::string& limits,
+                const std::string& state) {
     const auto add = [&](std::size_t column, const std::string& cell) {
-        if (!cell.empty()) {
-            line = Pad(line + "  ", column) + cell;
-        }
+        name = cell.empty() ? name : Pad(name + "  ", column) + cell;
     };
-    add(26, row.value);
-    add(50, row.defaultValue);
-    add(66, row.limits);
-    add(92, row.state);
-    const bool missing = row.state.find('(') != std::string::npos || row.state == needsControl;
-    std::cout << (missing ? Dim(line) : row.state.starts_with("locked") ? Yellow(line) : line) << '\n';
+    add(26, value);
+    add(50, defaultValue);
+    add(66, limits);
+    add(92, state);
+    return name;
 }
 
-void PrintTable(const Camera& camera, bool all) {
-    bool begins = true;
-    for (const Instance& instance : camera.All(all)) {
-        const Row row = Describe(camera, instance, all); // before the heading: the camera may be lost by now
-        if (std::exchange(begins, false)) {
-            Print({"NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"});
-        }
-        Print(row);
-    }
+std::string Describe(const Instance& instance, const Found& found, bool many) {
+    const std::string last = std::to_string(instance->count - 1);
+    const std::string value = !HasValue(instance, found.reading) ? "-"
+                              : many                             ? std::to_string(instance->count) + " values"
+                                                                 : PrintWithUnit(instance, found.reading.value);
+    const std::string row =
+        Row(instance.Name() + (many ? ".." + last : ""), value,
+            found.defaultValue ? instance.Print(*found.defaultValue) : "",
+            instance->set != nullptr ? DescribeLimits(instance, found.limits) : "", StateOf(instance, found));
+    return found.reading.code != 0 ? Dim(row) : found.reading.lockedBy.empty() ? row : Yellow(row);
 }
 
 Json LimitsToJson(const Instance& instance, const Limits& limits) {
@@ -121,10 +100,8 @@ Json LimitsToJson(const Instance& instance, const Limits& limits) {
     return fields;
 }
 
-Json Document(const Camera& camera, const Instance& instance, bool all) {
-    const auto [reading, limits, state] = Look(camera, instance);
-    const auto defaultValue = DefaultOf(limits);
-    const bool many = StandsForMany(instance, all);
+Json ToJson(const Instance& instance, const Found& found, bool many) {
+    const auto& [reading, limits, defaultValue, limitsOutcome] = found;
     Json codes(Json::Object{});
     for (const Code& code : instance->codes) {
         codes.Add(code.name, code.value);
@@ -140,7 +117,7 @@ Json Document(const Camera& camera, const Instance& instance, bool all) {
                   {"readable", instance->get != nullptr},
                   {"writable", instance->set != nullptr},
                   {"lockedBy", reading.lockedBy.empty() ? Json() : Json(reading.lockedBy)},
-                  {"error", reading.error == 0 ? Json() : Json(reading.errorText)}};
+                  {"error", reading.code == 0 ? Json() : Json(reading.reason)}};
     if (many) {
         document.Add("count", instance->count);
     }
@@ -152,15 +129,17 @@ Json Document(const Camera& camera, const Instance& instance, bool all) {
 int List(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
     const bool all = invocation.Has(Parameter::All);
-    if (!invocation.Program().Json()) {
-        PrintTable(camera, all);
-        return Success;
-    }
-    Json document(Json::List{});
+    Output output = invocation.Output();
+    bool begins = true;
     for (const Instance& instance : camera.All(all)) {
-        document.Add(Document(camera, instance, all));
+        const Found found = Look(camera, instance); // before the heading: the camera may be lost by now
+        if (std::exchange(begins, false)) {
+            output.Line(Row("NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"));
+        }
+        const bool many = StandsForMany(instance, all);
+        output.Add(Describe(instance, found, many), ToJson(instance, found, many));
     }
-    std::cout << document.Print() << '\n';
+    output.End();
     return Success;
 }
 

@@ -1,11 +1,8 @@
 #include "Host/Commands/Commands.h"
 
 #include "Host/Format.h"
-#include "Host/Json.h"
 
 #include <SDK4/IControl.h>
-
-#include <iostream>
 
 namespace Host {
 
@@ -26,18 +23,13 @@ std::string FamilyOf(const Plugin& plugin, const std::string& model) {
 
 int Models(const Invocation& invocation) {
     const Plugin& plugin = invocation.Program().LoadedPlugin();
-    Json list(Json::List{});
+    Output output = invocation.Output();
     for (const Model& model : plugin.Models()) {
         const std::string family = FamilyOf(plugin, model.name);
-        if (invocation.Program().Json()) {
-            list.Add(Json{{"name", model.name}, {"key", model.key}, {"family", family}});
-        } else {
-            std::cout << Pad(model.name, 16) << Pad(model.key, 8) << family << '\n';
-        }
+        output.Add(Pad(model.name, 16) + Pad(model.key, 8) + family,
+                   Json{{"name", model.name}, {"key", model.key}, {"family", family}});
     }
-    if (invocation.Program().Json()) {
-        std::cout << list.Print() << '\n';
-    }
+    output.End();
     return Success;
 }
 

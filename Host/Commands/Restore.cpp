@@ -43,30 +43,31 @@ std::string Describe(const Restored& result) {
            (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
 }
 
-void Print(const Restored& result) {
+std::string Line(const Restored& result) {
     const std::string status = Pad(NameOf(result.status), 10);
     const bool left = result.status == RestoreStatus::Unchanged || result.status == RestoreStatus::Skipped;
     const std::string name =
         result.status == RestoreStatus::Skipped ? std::string(result.instance->name) : result.instance.Name();
-    std::cout << Pad(name, 24) << "  "
-              << (IsFailure(result.status) ? Red(status)
-                  : left                   ? Dim(status)
-                                           : Green(status))
-              << "  " << Describe(result) << std::endl; // whoever reads it waits for it
+    const std::string shown = IsFailure(result.status) ? Red(status) : left ? Dim(status) : Green(status);
+    return Pad(name, 24) + "  " + shown + "  " + Describe(result);
 }
 
 /// Prints one line per function as its result arrives; all that is skipped of one has one.
 class Printer {
 public:
+    explicit Printer(const Output& printed) : output(printed) {}
+
     void operator()(const Restored& result) {
         const Function* const skipped = result.status == RestoreStatus::Skipped ? result.instance.function : nullptr;
         if (skipped == nullptr || skipped != lastSkipped) {
-            Print(result);
+            output.Line(Line(result));
+            std::cout.flush(); // whoever reads it waits for it
         }
         lastSkipped = skipped;
     }
 
 private:
+    const Output& output;
     const Function* lastSkipped = nullptr;
 };
 
@@ -82,14 +83,13 @@ Json ToJson(const Restored& result) {
                 {"reason", result.reason.empty() ? Json() : Json(result.reason)}};
 }
 
-void PrintAsJson(const std::vector<Restored>& results) {
-    Json document(Json::List{});
+void PrintDocument(const std::vector<Restored>& results, Output& output) {
     for (const Restored& result : results) {
         if (result.status != RestoreStatus::Pending) {
-            document.Add(ToJson(result));
+            output.Add("", ToJson(result));
         }
     }
-    std::cout << document.Print() << '\n';
+    output.End();
 }
 
 /// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes put back: agc", of a restore that did not
@@ -125,21 +125,17 @@ std::string DescribeProgress(const Restorer& restorer) {
 }
 
 /// Carries out a restore, or finds out what it would do, and prints the results; also those of one that fails.
-void RunAndPrint(Restorer& restorer, bool dryRun, bool json) {
+void RunAndPrint(Restorer& restorer, bool dryRun, Output& output) {
     try {
         dryRun ? restorer.Plan() : restorer.Restore();
     } catch (ChannelLost& error) {
-        if (json) {
-            PrintAsJson(restorer.Results());
-        }
+        PrintDocument(restorer.Results(), output);
         if (!dryRun) {
             error.AddConsequence(DescribeProgress(restorer));
         }
         throw;
     }
-    if (json) {
-        PrintAsJson(restorer.Results());
-    }
+    PrintDocument(restorer.Results(), output);
 }
 
 /// Says on standard error what did not go as asked for. @return the exit code
@@ -162,16 +158,13 @@ int Report(const Restorer& restorer) {
 int RunRestore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
-    const bool json = invocation.Program().Json();
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
         throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());
     }
-    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs)};
-    if (!json) {
-        options.settled = Printer();
-    }
+    Output output = invocation.Output();
+    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs), .settled = Printer(output)};
     std::optional<Interrupts> interrupts;
     std::optional<IgnoredPipeSignal> pipes;
     if (!dryRun) {
@@ -183,7 +176,7 @@ int RunRestore(const Invocation& invocation) {
     const Camera camera = session.Camera();
     const ReadThrough reader(session);
     Restorer restorer(saved, camera, reader.Camera(), WaitFor(session), options);
-    RunAndPrint(restorer, dryRun, json);
+    RunAndPrint(restorer, dryRun, output);
     return Report(restorer);
 }
 

@@ -28,14 +28,12 @@ int Save(const Invocation& invocation) {
         return Refused; // told once, at the end
     }
     const bool toStandardOutput = file == standardStream;
-    std::ostream& stream = toStandardOutput ? std::cerr : std::cout;
     const auto count = static_cast<std::int64_t>(settings.values.size());
-    if (invocation.Program().Json()) {
-        stream << Json{{"file", file}, {"functions", count}, {"missing", Names(settings.missing)}}.Print() << '\n';
-    } else {
-        stream << count << " functions of " << settings.model << " saved to "
-               << (toStandardOutput ? "standard output" : file) << '\n';
-    }
+    Output output(invocation.Program().Json(), toStandardOutput ? std::cerr : std::cout);
+    output.Set(std::to_string(count) + " functions of " + settings.model + " saved to " +
+                   (toStandardOutput ? "standard output" : file),
+               Json{{"file", file}, {"functions", count}, {"missing", Names(settings.missing)}});
+    output.End();
     return Success;
 }
 

@@ -4,7 +4,6 @@
 #include "Host/Commands/Commands.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
-#include "Host/Json.h"
 #include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/Restorer.h"
 #include "Host/Settings/SettingsFile.h"
@@ -141,18 +140,20 @@ std::vector<Tested> TestAll(Session& session, bool outputs) {
     return results;
 }
 
-bool HasValueToSet(const Tested& tested) { return tested.instance->set != nullptr; }
-
-void Print(const Tested& tested) {
-    std::cout << Pad(std::string(tested.instance->name), 24) << "  " << Pad(std::to_string(tested.checks), 6) << "  ";
-    if (!tested.leftOut.empty()) {
-        std::cout << Dim("left out (" + tested.leftOut + ")") << '\n';
-        return;
+/// @return nothing for what can only be read, unless that failed
+std::string Describe(const Tested& tested) {
+    if (tested.instance->set == nullptr && tested.failures.empty()) {
+        return "";
     }
-    std::cout << (tested.failures.empty() ? Green("passed") : Red("FAILED")) << '\n';
+    std::string text =
+        Pad(std::string(tested.instance->name), 24) + "  " + Pad(std::to_string(tested.checks), 6) + "  ";
+    text += !tested.leftOut.empty()   ? Dim("left out (" + tested.leftOut + ")")
+            : tested.failures.empty() ? Green("passed")
+                                      : Red("FAILED");
     for (const std::string& failure : tested.failures) {
-        std::cout << "    " << failure << '\n';
+        text += "\n    " + failure;
     }
+    return text;
 }
 
 Json ToJson(const Tested& tested) {
@@ -167,27 +168,17 @@ Json ToJson(const Tested& tested) {
 }
 
 /// @return how many checks failed
-int Report(const std::vector<Tested>& results, bool json) {
+int Report(const std::vector<Tested>& results, Output output) {
     int checks = 0;
     int failures = 0;
-    Json document(Json::List{});
-    if (!json) {
-        std::cout << Pad("FUNCTION", 24) << "  CHECKS  RESULT\n";
-    }
+    output.Line(Pad("FUNCTION", 24) + "  CHECKS  RESULT");
     for (const Tested& tested : results) {
         checks += tested.checks;
         failures += static_cast<int>(tested.failures.size());
-        if (json) {
-            document.Add(ToJson(tested));
-        } else if (HasValueToSet(tested) || !tested.failures.empty()) {
-            Print(tested);
-        }
+        output.Add(Describe(tested), ToJson(tested));
     }
-    if (json) {
-        std::cout << document.Print() << '\n';
-    } else {
-        std::cout << checks << " checks, " << failures << " failures\n";
-    }
+    output.Line(std::to_string(checks) + " checks, " + std::to_string(failures) + " failures");
+    output.End();
     return failures;
 }
 
@@ -209,7 +200,7 @@ int RunSelftest(const Invocation& invocation) {
         error.AddConsequence(preserved.GiveUp());
         throw;
     }
-    const int failures = Report(results, invocation.Program().Json());
+    const int failures = Report(results, invocation.Output());
     for (const Difference& difference : left) {
         PrintError("not put back: " + difference.instance.Name());
     }

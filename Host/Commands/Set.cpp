@@ -6,14 +6,12 @@
 #include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/ReadWhenSettled.h"
 
-#include <iostream>
-
 namespace Host {
 
 namespace {
 
 struct Result {
-    Failure failure;
+    Outcome failure;
     std::string lockedBy;      ///< if that is the reason
     std::optional<Value> held; ///< by the camera, afterwards
     bool rounded = false;      ///< to what it holds, as it may
@@ -28,7 +26,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
     }
     if (assignment.instance->get != nullptr) {
         const Reading reading = ReadWhenSettled(reader, assignment.instance, assignment.value, wait);
-        if (reading.error == 0) {
+        if (reading.code == 0) {
             result.held = reading.value;
             result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
         }
@@ -82,20 +80,15 @@ int Set(const Invocation& invocation) {
     const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
     const ReadThrough reader(invocation.Open());
     const Wait wait = WaitFor(invocation.Open());
-    Json document;
+    Output output = invocation.Output();
     bool refused = false;
     for (const Assignment& assignment : assignments) {
         const Result result = Perform(camera, reader.Camera(), wait, assignment);
-        if (invocation.Program().Json()) {
-            document.Add(ToJson(assignment, result));
-        } else if (result.held) {
-            std::cout << assignment.instance.Name() << '=' << assignment.instance.Print(*result.held) << '\n';
-        }
+        const Instance& instance = assignment.instance;
+        output.Add(result.held ? instance.Name() + '=' + instance.Print(*result.held) : "", ToJson(assignment, result));
         refused |= Report(camera, assignment, result);
     }
-    if (invocation.Program().Json()) {
-        std::cout << document.Print() << '\n';
-    }
+    output.End();
     return refused ? Refused : Success;
 }
 

@@ -124,8 +124,8 @@ private:
 
     [[nodiscard]] Held Read(const Instance& instance) const {
         const Reading reading = reader.TryRead(instance);
-        if (reading.error != 0) {
-            return {"(" + reading.errorText + ")", {}};
+        if (reading.code != 0) {
+            return {"(" + reading.reason + ")", {}};
         }
         return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value)};
     }
@@ -166,7 +166,7 @@ int Watch(const Invocation& invocation) {
     {
         const Listener listener(camera, changes);
         for (const Assignment& assignment : assignments) {
-            const Failure failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
+            const Outcome failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
             if (failure.code != 0) { // the camera is watched all the same
                 PrintError(assignment.instance.Name() + ": " + failure.reason);
                 code = Refused;

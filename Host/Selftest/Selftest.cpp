@@ -22,7 +22,7 @@ bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code ==
 
 void Selftest::SwitchOffModes() const {
     for (const Instance& instance : setter.All(false)) {
-        if (instance->restore == Restore::Mode && reader.TryRead(instance).error == 0) {
+        if (instance->restore == Restore::Mode && reader.TryRead(instance).code == 0) {
             // What refuses this fails in the mode's own test, too.
             static_cast<void>(Attempt([&] { static_cast<void>(Write(instance, {{0}, {}})); }));
         }
@@ -35,11 +35,11 @@ Tested Selftest::Test(const Instance& instance) const {
         return tested;
     }
     // One that is not available now may be so when it is unlocked.
-    if (const Reading reading = reader.TryRead(instance); IsAbsent(reading) && reading.error != SDK4_ERR_DISABLED) {
-        tested.leftOut = reading.errorText;
+    if (const Reading reading = reader.TryRead(instance); IsAbsent(reading) && reading.code != SDK4_ERR_DISABLED) {
+        tested.leftOut = reading.reason;
         return tested;
     }
-    const Failure failure = Attempt([&] {
+    const Outcome failure = Attempt([&] {
         WhileUnlocked(setter, instance, [&] { TestUnlocked(tested); });
         if (tested.leftOut.empty() && tested.failures.empty() && instance->lock && instance->set != nullptr) {
             TestLock(tested);
@@ -73,12 +73,12 @@ void Selftest::TestUnlocked(Tested& tested) const {
     const Instance& instance = tested.instance;
     const Reading reading = reader.TryRead(instance);
     if (IsAbsent(reading)) {
-        tested.leftOut = reading.errorText;
+        tested.leftOut = reading.reason;
         return;
     }
     ++tested.checks;
-    if (reading.error != 0) {
-        tested.failures.push_back("reading it: " + reading.errorText);
+    if (reading.code != 0) {
+        tested.failures.push_back("reading it: " + reading.reason);
         return;
     }
     if (instance->set == nullptr || reading.value.numbers.empty()) {
@@ -150,12 +150,10 @@ void Selftest::TestLock(Tested& tested) const {
     const Instance mode = setter.FindOne(lock.mode);
     const Reading held = reader.TryRead(mode);
     const Limits admitted = reader.LimitsOf(mode);
-    if (held.error != 0 || admitted.empty()) {
+    if (held.code != 0 || admitted.empty()) {
         return;
     }
-    const auto isOpen = [&](std::int64_t number) {
-        return std::find(lock.open.begin(), lock.open.end(), number) != lock.open.end();
-    };
+    const auto isOpen = [&](std::int64_t number) { return lock.IsOpen({{number}, {}}); };
     const auto& numbers = admitted.front().admitted;
     const auto closing = std::find_if_not(numbers.begin(), numbers.end(), isOpen);
     if (closing == numbers.end()) {
@@ -197,8 +195,8 @@ std::int32_t Selftest::Write(const Instance& instance, const Value& value) const
 /// What the camera holds after a write. @throws std::runtime_error if it cannot be read any more
 Value Selftest::Held(const Instance& instance, const Value& expected) const {
     const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
-    if (reading.error != 0) {
-        throw std::runtime_error("reading it back: " + reading.errorText);
+    if (reading.code != 0) {
+        throw std::runtime_error("reading it back: " + reading.reason);
     }
     return reading.value;
 }

@@ -24,12 +24,11 @@ struct Missing {
     std::vector<Instance> withoutControl;
 
     /// @return whether it is for one of these reasons
-    bool Note(const Instance& instance, const Reading& reading) {
-        const bool needs = reading.errorText == needsControl;
-        if (needs || reading.noSuchAddress) {
-            (needs ? withoutControl : withoutAddress).push_back(instance);
+    bool Note(const Instance& instance, Cause cause) {
+        if (cause != Cause::Any) {
+            (cause == Cause::NoControl ? withoutControl : withoutAddress).push_back(instance);
         }
-        return needs || reading.noSuchAddress;
+        return cause != Cause::Any;
     }
     void Tell(Connection& connection) const {
         if (!withoutAddress.empty()) {
@@ -48,8 +47,8 @@ Settings TakeAllSettings(Session& session) {
     session.Connection().RequireControl();
     Missing missing;
     Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
-        if (!missing.Note(instance, reading)) {
-            throw std::runtime_error(instance.Name() + ": " + reading.errorText);
+        if (!missing.Note(instance, reading.cause)) {
+            throw std::runtime_error(instance.Name() + ": " + reading.reason);
         }
     });
     missing.Tell(session.Connection());
@@ -59,8 +58,8 @@ Settings TakeAllSettings(Session& session) {
 Settings TakeReadableSettings(Session& session) {
     Missing missing;
     Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
-        if (!missing.Note(instance, reading)) {
-            PrintError(instance.Name() + ": " + reading.errorText);
+        if (!missing.Note(instance, reading.cause)) {
+            PrintError(instance.Name() + ": " + reading.reason);
         }
     });
     missing.Tell(session.Connection());

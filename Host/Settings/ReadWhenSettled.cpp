@@ -18,7 +18,7 @@ Wait WaitFor(Session& session) {
 Reading ReadWhenSettled(const Camera& reader, const Instance& instance, const Value& expected, const Wait& wait) {
     Reading reading = reader.TryRead(instance);
     if (instance->restore == Restore::Output) {
-        for (milliseconds waited{0}; reading.error == 0 && reading.value != expected && waited < travel;
+        for (milliseconds waited{0}; reading.code == 0 && reading.value != expected && waited < travel;
              waited += glance) {
             wait(glance);
             reading = reader.TryRead(instance);

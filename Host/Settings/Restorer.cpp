@@ -80,7 +80,7 @@ Restored Restorer::Compare(const Setting& setting) const {
         return result;
     }
     const Reading reading = reader.TryRead(setting.instance);
-    if (reading.error == 0) {
+    if (reading.code == 0) {
         result.before = reading.value;
         result.held = reading.value;
         result.status = reading.value == setting.value ? RestoreStatus::Unchanged : RestoreStatus::Planned;
@@ -96,9 +96,9 @@ Restored Restorer::Set(const Setting& setting) const {
     const auto set = [&] { setter.SetUnlessLocked(setting.instance, setting.value); };
     result.reason = Attempt([&] { WhileUnlocked(setter, setting.instance, set); }).reason;
     const Reading reading = ReadWhenSettled(reader, setting.instance, setting.value, wait);
-    if (reading.error != 0) {
+    if (reading.code != 0) {
         result.held.reset();
-        result.reason = result.reason.empty() ? reading.errorText : result.reason;
+        result.reason = result.reason.empty() ? reading.reason : result.reason;
         result.status = RestoreStatus::Refused;
         return result;
     }

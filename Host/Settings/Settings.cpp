@@ -49,20 +49,19 @@ bool Settings::Moved(const Instance& instance) const {
     }
     const auto mode = std::find_if(values.begin(), values.end(),
                                    [&](const Setting& setting) { return setting.instance->name == lock->mode; });
-    return mode != values.end() &&
-           std::find(lock->open.begin(), lock->open.end(), mode->value.numbers.at(0)) == lock->open.end();
+    return mode != values.end() && !lock->IsOpen(mode->value);
 }
 
 bool IsAbsent(const Reading& reading) {
-    return reading.error == SDK4_ERR_NOT_IMPLEMENTED || reading.error == SDK4_ERR_INVALID_INTERFACE ||
-           reading.error == SDK4_ERR_DISABLED;
+    return reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE ||
+           reading.code == SDK4_ERR_DISABLED;
 }
 
 Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs) {
     Settings settings{camera.Model(), camera.Family(), "", Now(), {}};
     const auto read = [&](const Instance& instance) -> std::optional<Value> {
         const Reading reading = camera.TryRead(instance);
-        if (reading.error == 0) {
+        if (reading.code == 0) {
             return reading.value;
         }
         if (!IsAbsent(reading)) {

@@ -2,8 +2,6 @@
 
 #include "Host/Channel/ChannelErrors.h"
 
-#include <algorithm>
-
 namespace Host {
 
 namespace {
@@ -29,15 +27,14 @@ void WhileUnlocked(const Camera& camera, const Instance& instance, const std::fu
         action();
         return;
     }
-    const auto& open = instance->lock->open;
     const Instance mode = camera.FindOne(instance->lock->mode);
     const Value held = camera.Read(mode);
-    if (std::find(open.begin(), open.end(), held.numbers.at(0)) != open.end()) {
+    if (instance->lock->IsOpen(held)) {
         camera.Write(mode, held); // the control takes the function for locked, the camera does not
         action();
         return;
     }
-    const Value opening{{open.front()}, {}};
+    const Value opening{{instance->lock->open.front()}, {}};
     try {
         WhileSet(camera, mode, opening, held, action);
     } catch (ChannelLost& error) { // nothing can be put back
