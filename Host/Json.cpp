@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <set>
 #include <stdexcept>
 
 namespace Host {
@@ -122,9 +123,18 @@ std::string Json::PrintInOneLine() const { return Dump(*this, -1); }
 Json Json::Parse(const std::string& text) {
     // Documents are walked by recursion: one that is nested without end would end the program.
     constexpr int deepest = 64;
-    return FromDocument(OrderedJson::parse(text, [](int depth, OrderedJson::parse_event_t, const OrderedJson&) {
+    std::vector<std::set<std::string>> names; // of the objects that are being read
+    return FromDocument(OrderedJson::parse(text, [&](int depth, OrderedJson::parse_event_t event,
+                                                     const OrderedJson& parsed) {
         if (depth > deepest) {
             throw std::runtime_error("nested too deeply");
+        }
+        if (event == OrderedJson::parse_event_t::object_start) {
+            names.emplace_back();
+        } else if (event == OrderedJson::parse_event_t::object_end) {
+            names.pop_back();
+        } else if (event == OrderedJson::parse_event_t::key && !names.back().insert(parsed.get<std::string>()).second) {
+            throw std::runtime_error(parsed.dump() + " stands there twice");
         }
         return true;
     }));

@@ -54,7 +54,8 @@ public:
     [[nodiscard]] std::string Print() const;
     [[nodiscard]] std::string PrintInOneLine() const;
 
-    /// @throws std::runtime_error that says where a text is no JSON, or holds a number that is no integer
+    /// @throws std::runtime_error that says where a text is no JSON, or holds a number that is no integer, or a name
+    ///         twice
     [[nodiscard]] static Json Parse(const std::string& text);
 
 private:

@@ -2,6 +2,8 @@
 
 #include "Host/Command.h"
 
+#include <utility>
+
 namespace Host {
 
 const Plugin& Program::LoadedPlugin() {
@@ -12,6 +14,7 @@ const Plugin& Program::LoadedPlugin() {
 }
 
 Session& Program::Open(const std::string& camera) {
+    finished = false;
     if (!session) {
         session.emplace(LoadedPlugin(), camera, options.camera);
         opened = camera;
@@ -32,7 +35,7 @@ void Program::SaveState() {
 }
 
 void Program::Finish() {
-    if (session) {
+    if (session && !std::exchange(finished, true)) {
         session->Connection().RequireUnbroken();
         SaveState();
     }

@@ -40,8 +40,8 @@ public:
     void TellWhoControls();
     /// Has the state file, if there is one, hold the camera as it is now.
     void SaveState();
-    /// Once all have ended: makes sure that its camera was there all the time, and has the state file, if there is
-    /// one, hold it.
+    /// Once all have ended, or one before it tells of its success: makes sure that its camera was there all the time,
+    /// and has the state file, if there is one, hold it. Does so once.
     /// @throws ChannelLost
     void Finish();
 
@@ -50,6 +50,7 @@ private:
     std::optional<Plugin> plugin; // before the session, which needs it to the end
     std::optional<Session> session;
     std::string opened; ///< the camera of the session, as it was given
+    bool finished = false;
 };
 
 } // namespace Host

@@ -159,6 +159,9 @@ int RunRestore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
+    if (saved.values.empty()) {
+        throw UsageError(Quoted(file) + " holds no values to restore");
+    }
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
         throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());

@@ -27,6 +27,7 @@ int Save(const Invocation& invocation) {
     if (!std::cout) {
         return Refused; // told once, at the end
     }
+    invocation.Program().Finish();
     const bool toStandardOutput = file == standardStream;
     const auto count = static_cast<std::int64_t>(settings.values.size());
     Output output(invocation.Program().Json(), toStandardOutput ? std::cerr : std::cout);

@@ -159,6 +159,8 @@ TEST_F(HostSettings, AreRefusedFromAFileThatIsNotTheirs) {
         {Replaced(good, "\"gain\"", "\"gian\""), "unknown function \"gian\"; did you mean \"gain\"?"},
         {Replaced(good, "\"gain\": 0", "\"gain\": \"high\""), "invalid value for gain: \"high\""},
         {Replaced(good, "\"base\": 0,", ""), "invalid value for exposure: {\"counter\":20000}\n"},
+        {Replaced(good, "\"gain\": 0", "\"gain\": 0, \"gain\": 1"), "\"gain\" stands there twice"},
+        {good.substr(0, good.find("\"values\"")) + "\"values\": {}}", "holds no values to restore"},
         {Replaced(good, "Orvik-390M", "Orvik-710M"), "settings of model Orvik-710M, this is Orvik-390M"},
     };
     for (const auto& [content, complaint] : cases) {
