@@ -5,7 +5,7 @@
 
 namespace Host {
 
-Assignment ParseAssignment(const Camera& camera, const std::string& text) {
+FunctionValue ParseAssignment(const Camera& camera, const std::string& text) {
     const std::size_t equals = text.find('=');
     const std::string name = text.substr(0, equals);
     const Instance instance = camera.FindOne(name);
@@ -29,8 +29,8 @@ Assignment ParseAssignment(const Camera& camera, const std::string& text) {
     throw UsageError("invalid value \"" + given + "\" for " + name + (form.empty() ? "" : " (" + form + ")"));
 }
 
-std::vector<Assignment> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts) {
-    std::vector<Assignment> assignments;
+std::vector<FunctionValue> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts) {
+    std::vector<FunctionValue> assignments;
     assignments.reserve(texts.size());
     for (const std::string& text : texts) {
         assignments.push_back(ParseAssignment(camera, text));

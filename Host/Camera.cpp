@@ -147,7 +147,7 @@ Reading Camera::Try(const Instance& instance, bool andItsLock) const {
 
 Reading Camera::TryRead(const Instance& instance) const { return Try(instance, false); }
 
-Reading Camera::Look(const Instance& instance) const { return Try(instance, true); }
+Reading Camera::Inspect(const Instance& instance) const { return Try(instance, true); }
 
 std::string Camera::LockedBy(const Instance& instance) const {
     if (const auto& lock = instance->lock) {

@@ -53,7 +53,7 @@ public:
     /// @throws ChannelLost
     [[nodiscard]] Reading TryRead(const Instance& instance) const;
     /// The same, and finds out what locks it. Nothing is written.
-    [[nodiscard]] Reading Look(const Instance& instance) const;
+    [[nodiscard]] Reading Inspect(const Instance& instance) const;
 
     /// Whether a mode keeps the function from being set now: "agc=1", or empty. Reads the mode.
     [[nodiscard]] std::string LockedBy(const Instance& instance) const;

@@ -14,14 +14,14 @@ namespace Host {
 enum class Parameter { All, Assignments, Camera, DryRun, File, First, Names, Outputs, Plugin, Second, Seconds };
 
 /// Whether an operand has to be given.
-enum class Need { Always, OutsideShell, Never };
+enum class Required { Always, OutsideShell, Never };
 
 /// How a command takes a parameter.
 struct Syntax {
     Parameter parameter;
     const char* name; ///< "FILE" of an operand, which stands in its place; "--all", or "--seconds N", of an option
     const char* about;
-    Need need = Need::Always;
+    Required required = Required::Always;
     bool several = false; ///< whether an operand may be given more than once
 };
 

@@ -24,7 +24,7 @@ struct Filled {
 bool IsOperand(const Syntax& syntax) { return *syntax.name != '-'; }
 
 bool IsRequired(const Syntax& syntax, bool inShell) {
-    return syntax.need == Need::Always || (syntax.need == Need::OutsideShell && !inShell);
+    return syntax.required == Required::Always || (syntax.required == Required::OutsideShell && !inShell);
 }
 
 /// What is wrong with the value of an option: nothing may be meant, and no other option.

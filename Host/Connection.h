@@ -25,7 +25,7 @@ public:
     /// Lets the camera's time pass, before it returns.
     virtual void Wait(std::chrono::microseconds time) = 0;
     /// Tells that time has passed for this host.
-    virtual void Passed(std::chrono::microseconds time) = 0;
+    virtual void TimePassed(std::chrono::microseconds time) = 0;
 
     /// Whether the camera takes what this host writes.
     [[nodiscard]] virtual bool HasControl() const = 0;

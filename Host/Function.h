@@ -28,7 +28,7 @@ struct FieldLimits {
 using Limits = std::vector<FieldLimits>;
 
 /// What may become of a function when settings are restored.
-enum class Restore {
+enum class RestorePolicy {
     Never,   ///< what the camera reports, or does when written
     Setting, ///< written in the order of the table
     Mode,    ///< moves other settings by itself: off first, the saved mode last
@@ -76,7 +76,7 @@ struct Function {
     Host::Codes codes; ///< names of its numbers; some may have none
     std::optional<Lock> lock;
     std::optional<Refusal> refusal; ///< where it is not the family's usual one
-    Restore restore = Restore::Never;
+    RestorePolicy restore = RestorePolicy::Never;
     RoundingRule rounding = nullptr; ///< null: the camera holds what it accepts
     bool trigger = false;            ///< has no value: writing it, whatever is written, is the command
     std::string_view property;       ///< what IPropertyState calls it, if it knows it
@@ -117,6 +117,12 @@ struct Instance {
     [[nodiscard]] std::optional<Value> Parse(std::string_view text) const {
         return ParseValue(text, function->shape, function->codes);
     }
+};
+
+/// What a function holds, or is to hold.
+struct FunctionValue {
+    Instance instance;
+    Value value;
 };
 
 /// All instances of a row.

@@ -56,7 +56,7 @@ std::string RegisterOf(Session& session, const Function& function) {
 bool Enter(Session& session, Line& line) {
     const Camera camera = session.Camera();
     const Instance instance{line.function};
-    const Reading reading = camera.Look(instance);
+    const Reading reading = camera.Inspect(instance);
     if (reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE) {
         return false;
     }

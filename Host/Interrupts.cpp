@@ -8,7 +8,7 @@ namespace {
 
 constexpr int watched[] = {SIGINT, SIGTERM, SIGHUP};
 
-volatile std::sig_atomic_t came = 0; ///< the last signal that came
+volatile std::sig_atomic_t received = 0; ///< the last signal that came
 int alive = 0;
 struct sigaction before[std::size(watched)];
 
@@ -18,9 +18,9 @@ Interrupts::Interrupts() {
     if (alive++ != 0) {
         return;
     }
-    came = 0;
+    received = 0;
     struct sigaction action {};
-    action.sa_handler = [](int which) { came = which; };
+    action.sa_handler = [](int which) { received = which; };
     action.sa_flags = SA_RESTART; // a line that is being printed is printed
     for (std::size_t i = 0; i < std::size(watched); ++i) {
         sigaction(watched[i], nullptr, &before[i]);
@@ -40,12 +40,12 @@ Interrupts::~Interrupts() {
     }
 }
 
-bool Interrupts::Came() { return came != 0; }
+bool Interrupts::Received() { return received != 0; }
 
-bool Interrupts::CameToEnd() { return Came() && came != SIGINT; }
+bool Interrupts::ReceivedTermination() { return Received() && received != SIGINT; }
 
 void Interrupts::Sleep(std::chrono::milliseconds time) {
-    if (!Came()) {
+    if (!Received()) {
         const timespec pause{time.count() / 1000, time.count() % 1000 * 1000000};
         nanosleep(&pause, nullptr);
     }

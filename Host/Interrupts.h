@@ -15,9 +15,9 @@ public:
     Interrupts& operator=(const Interrupts&) = delete;
 
     /// Whether a signal came since the outermost one was made.
-    [[nodiscard]] static bool Came();
+    [[nodiscard]] static bool Received();
     /// Whether it was one that is to end the program, and not only what runs in it.
-    [[nodiscard]] static bool CameToEnd();
+    [[nodiscard]] static bool ReceivedTermination();
     /// Waits, but not beyond a signal.
     static void Sleep(std::chrono::milliseconds time);
 };

@@ -37,8 +37,8 @@ private:
 } // namespace
 
 std::string PluginCheck::Fault() const {
-    if (!loader.empty()) {
-        return "cannot load " + path + ": " + loader + (advice.empty() ? "" : "; " + advice);
+    if (!loadError.empty()) {
+        return "cannot load " + path + ": " + loadError + (hint.empty() ? "" : "; " + hint);
     }
     for (const auto& [name, found] : exports) {
         if (!found) {
@@ -66,14 +66,15 @@ void Plugin::Load(const std::string& path) {
     check.path = std::filesystem::exists(path) ? std::filesystem::absolute(path).string() : path;
     library.reset(dlopen(check.path.c_str(), RTLD_NOW | RTLD_LOCAL | stayLoaded));
     if (!library) {
-        check.loader = dlerror();
-        if (const std::string prefix = check.path + ": "; check.loader.starts_with(prefix)) { // which is said beside it
-            check.loader.erase(0, prefix.size());
+        check.loadError = dlerror();
+        if (const std::string prefix = check.path + ": ";
+            check.loadError.starts_with(prefix)) { // which is said beside it
+            check.loadError.erase(0, prefix.size());
         }
-        if (check.loader.find("undefined symbol") != std::string::npos &&
-            check.loader.find("log4cxx") != std::string::npos) {
-            check.advice = "the plug-in takes log4cxx from the program that loads it: link that with the shared "
-                           "log4cxx that the plug-in was built with (-Wl,--no-as-needed -llog4cxx)";
+        if (check.loadError.find("undefined symbol") != std::string::npos &&
+            check.loadError.find("log4cxx") != std::string::npos) {
+            check.hint = "the plug-in takes log4cxx from the program that loads it: link that with the shared "
+                         "log4cxx that the plug-in was built with (-Wl,--no-as-needed -llog4cxx)";
         }
         return;
     }

@@ -22,8 +22,8 @@ struct Model {
 /// What loading a plug-in tells.
 struct PluginCheck {
     std::string path;
-    std::string loader;                                ///< why the loader refused it, in the loader's words, else empty
-    std::string advice;                                ///< what to do about that, if it is known
+    std::string loadError;                             ///< why the loader refused it, in the loader's words, else empty
+    std::string hint;                                  ///< what to do about that, if it is known
     std::vector<std::pair<std::string, bool>> exports; ///< by name, whether each is there; none if it was not loaded
     std::vector<Model> models;
 

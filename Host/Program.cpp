@@ -22,7 +22,7 @@ Session& Program::Open(const std::string& camera) {
     return *session;
 }
 
-void Program::TellWhoControls() {
+void Program::ReportController() {
     if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {
         PrintError(denial + "; what needs control could not be read");
     }

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     [[nodiscard]] bool IsOpen(const std::string& camera) const { return IsOpen() && camera == opened; }
     /// Once a command has ended: tells on standard error who has control, if the command lacked it here and there.
-    void TellWhoControls();
+    void ReportController();
     /// Has the state file, if there is one, hold the camera as it is now.
     void SaveState();
     /// Once all have ended, or one before it tells of its success: makes sure that its camera was there all the time,

@@ -84,7 +84,7 @@ bool IsCamera(const std::string& text) {
     return text.starts_with(network) || std::find(models.begin(), models.end(), text) != models.end();
 }
 
-Session::Reached Session::Reach(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
+Session::Connected Session::Connect(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
     const std::string address = AddressOf(camera);
     RequireFitting(options, address.empty());
     const std::string& model = address.empty() ? camera : options.forcedModel;
@@ -100,16 +100,16 @@ Session::Reached Session::Reach(const Plugin& plugin, const std::string& camera,
 }
 
 Session::Session(const Plugin& loaded, const std::string& camera, const CameraOptions& options)
-    : Session(loaded, Reach(loaded, camera, options), options) {}
+    : Session(loaded, Connect(loaded, camera, options), options) {}
 
-Session::Session(const Plugin& loaded, Reached reached, const CameraOptions& options)
+Session::Session(const Plugin& loaded, Connected connected, const CameraOptions& options)
     : plugin(loaded),
-      model(std::move(reached.model)),
-      connection(std::move(reached.connection)),
+      model(std::move(connected.model)),
+      connection(std::move(connected.connection)),
       port(connection->Port(), options.accesses),
-      control(OpenAgain(options.index)) {}
+      control(CreateControl(options.index)) {}
 
-Control Session::OpenAgain(std::int32_t index) {
+Control Session::CreateControl(std::int32_t index) {
     try {
         if (Control opened = plugin.Create(model.c_str(), port, index)) {
             return opened;

@@ -47,16 +47,17 @@ public:
 
     /// Opens the same camera once more, on the same port.
     /// @throws OpenError; ChannelLost
-    [[nodiscard]] Control OpenAgain(std::int32_t index);
+    [[nodiscard]] Control CreateControl(std::int32_t index);
 
 private:
     /// A camera that is reached, and what it is.
-    struct Reached {
+    struct Connected {
         std::unique_ptr<Host::Connection> connection;
         std::string model;
     };
-    [[nodiscard]] static Reached Reach(const Plugin& plugin, const std::string& camera, const CameraOptions& options);
-    Session(const Plugin& plugin, Reached reached, const CameraOptions& options);
+    [[nodiscard]] static Connected Connect(const Plugin& plugin, const std::string& camera,
+                                           const CameraOptions& options);
+    Session(const Plugin& plugin, Connected connected, const CameraOptions& options);
 
     // In this order: the control goes first, the camera and the name that the control points to go last.
     const Plugin& plugin;

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] SDK4::IControlPort& Port() override;
     [[nodiscard]] std::string Describe() const override { return "a simulated camera"; }
     void Wait(std::chrono::microseconds time) override;
-    void Passed(std::chrono::microseconds time) override { Wait(time); }
+    void TimePassed(std::chrono::microseconds time) override { Wait(time); }
     [[nodiscard]] bool HasControl() const override { return true; }
     void RequireControl() override {}
     [[nodiscard]] std::string TakeDenial() override { return ""; }

@@ -36,7 +36,7 @@ int Run(std::vector<std::string> arguments) {
     const int failed = request.command->failed;
     Program program(request.options);
     const int code = RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, failed);
-    program.TellWhoControls();
+    program.ReportController();
     const auto finish = [&]() -> int {
         program.Finish();
         return Success;

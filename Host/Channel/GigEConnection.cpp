@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::string Describe() const override { return port.Name(); }
     /// Also after a signal: what is put back then needs its time as well.
     void Wait(std::chrono::microseconds time) override { std::this_thread::sleep_for(time); }
-    void Passed(std::chrono::microseconds /*time*/) override {}
+    void TimePassed(std::chrono::microseconds /*time*/) override {}
     [[nodiscard]] bool HasControl() const override { return port.HasControl(); }
     void RequireControl() override {
         port.TryToTakeControl();

@@ -16,13 +16,14 @@ Json ToJson(const PluginCheck& check) {
     for (const Model& model : check.models) {
         models.Add(Json{{"name", model.name}, {"key", model.key}});
     }
-    return Json{{"path", check.path}, {"loaded", check.loader.empty()}, {"loader", check.loader}, {"exports", exports},
-                {"models", models},   {"fault", check.Fault()}};
+    return Json{{"path", check.path},        {"loaded", check.loadError.empty()},
+                {"loader", check.loadError}, {"exports", exports},
+                {"models", models},          {"fault", check.Fault()}};
 }
 
 std::string Describe(const PluginCheck& check) {
-    std::string text =
-        "path    " + InOneLine(check.path) + "\nloader  " + (check.loader.empty() ? "loaded" : InOneLine(check.loader));
+    std::string text = "path    " + InOneLine(check.path) + "\nloader  " +
+                       (check.loadError.empty() ? "loaded" : InOneLine(check.loadError));
     for (const auto& [name, found] : check.exports) {
         text += "\nexport  " + Pad(name, 14) + (found ? "found" : "missing");
     }

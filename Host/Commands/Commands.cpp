@@ -7,12 +7,13 @@ const std::vector<Command>& Commands() {
                                "A model that the plug-in serves, which is simulated, or gige:ADDRESS on the network"};
     static const Syntax names{Parameter::Names, "NAME",
                               "Functions, as list names them; without its number an indexed one is meant whole",
-                              Need::Always, true};
-    static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "What to set, in this order", Need::Always,
-                                    true};
-    static const Syntax later{Parameter::Assignments, "NAME=VALUE", "What to set when it has begun", Need::Never, true};
+                              Required::Always, true};
+    static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "What to set, in this order",
+                                    Required::Always, true};
+    static const Syntax later{Parameter::Assignments, "NAME=VALUE", "What to set when it has begun", Required::Never,
+                              true};
     static const Syntax seconds{Parameter::Seconds, "--seconds N", "Ends after that time"};
-    static const Syntax plugin{Parameter::Plugin, "PLUGIN", "The plug-in (default: that of --plugin)", Need::Never};
+    static const Syntax plugin{Parameter::Plugin, "PLUGIN", "The plug-in (default: that of --plugin)", Required::Never};
     static const Syntax all{Parameter::All, "--all", "Also list one by one what there are many of"};
     static const Syntax written{Parameter::File, "FILE", "A file for the settings; - is standard output"};
     static const Syntax read{Parameter::File, "FILE", "A file with settings; - is standard input"};
@@ -20,7 +21,7 @@ const std::vector<Command>& Commands() {
                               "A camera, or a file with settings (./NAME if it is called like a model); - is standard "
                               "input"};
     static const Syntax second{Parameter::Second, "B", "Another one; in a shell, if left out, its camera",
-                               Need::OutsideShell};
+                               Required::OutsideShell};
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Also I/O lines, motors and lenses, which move what is wired to the camera"};
     static const Syntax dryRun{Parameter::DryRun, "--dry-run", "Say what would be set, and set nothing"};
@@ -36,7 +37,7 @@ const std::vector<Command>& Commands() {
         {"save",     "Save the settings of a camera as JSON",               {camera, written},               Save},
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if that cannot be told",
                                                                             {first, second},                 Diff, true, NotCompared},
-        {"restore",  "Set a camera to saved settings",                      {read, camera, outputs, dryRun}, RunRestore},
+        {"restore",  "Set a camera to saved settings",                      {read, camera, outputs, dryRun}, Restore},
         {"watch",    "Show what changes, until interrupted",                {camera, later, seconds},        Watch},
         {"selftest", "Test every function that can be set, and put all settings back", {camera, outputs},    RunSelftest},
         {"shell",    "Run these commands at a prompt, on one camera",       {camera},                        Shell, false},

@@ -14,7 +14,7 @@ int Get(const Invocation& invocation);
 int Set(const Invocation& invocation);
 int Save(const Invocation& invocation);
 int Diff(const Invocation& invocation);
-int RunRestore(const Invocation& invocation);
+int Restore(const Invocation& invocation);
 int Watch(const Invocation& invocation);
 int RunSelftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);

@@ -2,7 +2,7 @@
 
 #include "Host/Describe.h"
 #include "Host/Format.h"
-#include "Host/Settings/LiveSettings.h"
+#include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Simulation/Cameras.h"
 #include "Simulation/Suggestion.h"
@@ -64,8 +64,8 @@ Json ToJson(const Difference& difference) {
 
 /// Tells what is missing in a file and thus not compared.
 /// @return whether everything could be compared
-bool TellNotCompared(const Side& side, const Side& other) {
-    const auto missing = LeftUncompared(side.settings, other.settings);
+bool ReportUncompared(const Side& side, const Side& other) {
+    const auto missing = Uncompared(side.settings, other.settings);
     if (!missing.empty() && !side.file.empty()) { // of a camera it was told when it was read
         PrintError(Quoted(side.file) + " does not hold these, which are not compared: " + NamesOf(missing));
     }
@@ -89,8 +89,8 @@ int Diff(const Invocation& invocation) {
         output.Add(Describe(difference), ToJson(difference));
     }
     output.End();
-    const bool firstIsWhole = TellNotCompared(first, second);
-    const bool secondIsWhole = TellNotCompared(second, first);
+    const bool firstIsWhole = ReportUncompared(first, second);
+    const bool secondIsWhole = ReportUncompared(second, first);
     if (!firstIsWhole || !secondIsWhole) {
         return first.hasControl && second.hasControl ? NotCompared : NotOpened;
     }

@@ -10,7 +10,7 @@ namespace Host {
 
 namespace {
 
-constexpr std::string_view topics[] = {Topic::identity, Topic::network, Topic::image};
+constexpr std::string_view topics[] = {Topics::identity, Topics::network, Topics::image};
 
 std::string Line(const std::string& name, const std::string& value) {
     return value.empty() ? name : Pad(name, 22) + value;

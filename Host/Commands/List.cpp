@@ -34,8 +34,8 @@ struct Found {
     Outcome limitsOutcome; ///< how reading the limits ended
 };
 
-Found Look(const Camera& camera, const Instance& instance) {
-    Found found{camera.Look(instance), {}, {}, {}};
+Found Inspect(const Camera& camera, const Instance& instance) {
+    Found found{camera.Inspect(instance), {}, {}, {}};
     if (found.reading.code == 0) {
         found.limitsOutcome = Attempt([&] { found.limits = camera.LimitsOf(instance); });
         found.defaultValue = DefaultOf(found.limits);
@@ -132,7 +132,7 @@ int List(const Invocation& invocation) {
     Output output = invocation.Output();
     bool begins = true;
     for (const Instance& instance : camera.All(all)) {
-        const Found found = Look(camera, instance); // before the heading: the camera may be lost by now
+        const Found found = Inspect(camera, instance); // before the heading: the camera may be lost by now
         if (std::exchange(begins, false)) {
             output.Line(Row("NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"));
         }

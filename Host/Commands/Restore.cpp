@@ -4,9 +4,9 @@
 #include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
-#include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/Restorer.h"
 #include "Host/Settings/SettingsFile.h"
+#include "Host/Settings/UncachedCamera.h"
 #include "Host/Style.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace Host {
 namespace {
 
 /// "7 -> 100", and whatever is not as wanted.
-std::string Describe(const Restored& result) {
+std::string Describe(const RestoreResult& result) {
     const Instance& instance = result.instance;
     switch (result.status) {
     case RestoreStatus::Done:
@@ -43,7 +43,7 @@ std::string Describe(const Restored& result) {
            (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
 }
 
-std::string Line(const Restored& result) {
+std::string Line(const RestoreResult& result) {
     const std::string status = Pad(NameOf(result.status), 10);
     const bool left = result.status == RestoreStatus::Unchanged || result.status == RestoreStatus::Skipped;
     const std::string name =
@@ -57,7 +57,7 @@ class Printer {
 public:
     explicit Printer(const Output& printed) : output(printed) {}
 
-    void operator()(const Restored& result) {
+    void operator()(const RestoreResult& result) {
         const Function* const skipped = result.status == RestoreStatus::Skipped ? result.instance.function : nullptr;
         if (skipped == nullptr || skipped != lastSkipped) {
             output.Line(Line(result));
@@ -71,7 +71,7 @@ private:
     const Function* lastSkipped = nullptr;
 };
 
-Json ToJson(const Restored& result) {
+Json ToJson(const RestoreResult& result) {
     const auto json = [&](const std::optional<Value>& value) {
         return value ? ToJson(result.instance, *value) : Json();
     };
@@ -83,8 +83,8 @@ Json ToJson(const Restored& result) {
                 {"reason", result.reason.empty() ? Json() : Json(result.reason)}};
 }
 
-void PrintDocument(const std::vector<Restored>& results, Output& output) {
-    for (const Restored& result : results) {
+void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {
+    for (const RestoreResult& result : results) {
         if (result.status != RestoreStatus::Pending) {
             output.Add("", ToJson(result));
         }
@@ -100,7 +100,7 @@ std::string DescribeProgress(const Restorer& restorer) {
     std::size_t refused = 0;
     std::vector<Instance> putBack;
     const auto& results = restorer.Results();
-    for (const Restored& result : results) {
+    for (const RestoreResult& result : results) {
         const RestoreStatus status = result.status;
         restored +=
             status == RestoreStatus::Done || status == RestoreStatus::Unchanged || status == RestoreStatus::Rounded ? 1
@@ -145,8 +145,8 @@ int Report(const Restorer& restorer) {
         return Refused;
     }
     const auto& results = restorer.Results();
-    const auto failures =
-        std::count_if(results.begin(), results.end(), [](const Restored& result) { return IsFailure(result.status); });
+    const auto failures = std::count_if(results.begin(), results.end(),
+                                        [](const RestoreResult& result) { return IsFailure(result.status); });
     if (failures != 0) {
         PrintError(std::to_string(failures) + " of " + std::to_string(results.size()) + " functions not restored");
     }
@@ -155,7 +155,7 @@ int Report(const Restorer& restorer) {
 
 } // namespace
 
-int RunRestore(const Invocation& invocation) {
+int Restore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
@@ -167,18 +167,18 @@ int RunRestore(const Invocation& invocation) {
         throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());
     }
     Output output = invocation.Output();
-    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs), .settled = Printer(output)};
+    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs), .report = Printer(output)};
     std::optional<Interrupts> interrupts;
     std::optional<IgnoredPipeSignal> pipes;
     if (!dryRun) {
         session.Connection().RequireControl();
         interrupts.emplace();
         pipes.emplace();
-        options.isToStop = Interrupts::Came;
+        options.shouldStop = Interrupts::Received;
     }
     const Camera camera = session.Camera();
-    const ReadThrough reader(session);
-    Restorer restorer(saved, camera, reader.Camera(), WaitFor(session), options);
+    const UncachedCamera reader(session);
+    Restorer restorer(saved, camera, reader.Camera(), MakeWait(session), options);
     RunAndPrint(restorer, dryRun, output);
     return Report(restorer);
 }

@@ -1,7 +1,7 @@
 #include "Host/Commands/Commands.h"
 
 #include "Host/Json.h"
-#include "Host/Settings/LiveSettings.h"
+#include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/SettingsFile.h"
 
 #include <iostream>

@@ -4,9 +4,9 @@
 #include "Host/Commands/Commands.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
-#include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/Restorer.h"
 #include "Host/Settings/SettingsFile.h"
+#include "Host/Settings/UncachedCamera.h"
 #include "Host/Style.h"
 
 #include <unistd.h>
@@ -48,18 +48,21 @@ private:
 };
 
 /// Keeps what the camera is set to, and sets it back, however the test ends.
-class Preserved {
+class SettingsGuard {
 public:
-    Preserved(Session& openSession, bool withOutputs) : session(openSession), outputs(withOutputs), before(Take()) {}
-    ~Preserved() {
+    SettingsGuard(Session& openSession, bool withOutputs)
+        : session(openSession),
+          outputs(withOutputs),
+          before(Take()) {}
+    ~SettingsGuard() {
         try {
             static_cast<void>(PutBack());
         } catch (const std::exception& error) {
             PrintError(notPutBack + std::string(": ") + error.what());
         }
     }
-    Preserved(const Preserved&) = delete;
-    Preserved& operator=(const Preserved&) = delete;
+    SettingsGuard(const SettingsGuard&) = delete;
+    SettingsGuard& operator=(const SettingsGuard&) = delete;
 
     /// The camera is lost: keeps the settings in a file.
     /// @return what became of them, in words
@@ -80,13 +83,13 @@ public:
         if (std::exchange(isBack, true)) {
             return {};
         }
-        const ReadThrough setter(session);
-        const ReadThrough reader(session);
-        Restorer restorer(before, setter.Camera(), reader.Camera(), WaitFor(session), {.outputs = outputs});
+        const UncachedCamera setter(session);
+        const UncachedCamera reader(session);
+        Restorer restorer(before, setter.Camera(), reader.Camera(), MakeWait(session), {.outputs = outputs});
         restorer.Restore();
         now = Take();
         auto left = Compare(before, now);
-        for (const Instance& instance : LeftUncompared(now, before)) {
+        for (const Instance& instance : Uncompared(now, before)) {
             left.push_back({instance, before.Find(instance), nullptr});
         }
         return left;
@@ -95,7 +98,7 @@ public:
 private:
     /// What cannot be read fails its test, and is not put back.
     [[nodiscard]] Settings Take() const {
-        const ReadThrough reader(session);
+        const UncachedCamera reader(session);
         return TakeSettings(
             reader.Camera(), [](const Instance&, const Reading&) {}, outputs);
     }
@@ -108,7 +111,7 @@ private:
 };
 
 /// The instances of a row as one.
-void Merge(std::vector<Tested>& results, Tested tested) {
+void Merge(std::vector<TestResult>& results, TestResult tested) {
     const Instance instance = tested.instance;
     for (std::string& failure : tested.failures) {
         failure.insert(0, instance->indexed ? std::to_string(instance.index) + ": " : "");
@@ -117,21 +120,21 @@ void Merge(std::vector<Tested>& results, Tested tested) {
         results.push_back(std::move(tested));
         return;
     }
-    Tested& row = results.back();
+    TestResult& row = results.back();
     row.checks += tested.checks;
     row.failures.insert(row.failures.end(), tested.failures.begin(), tested.failures.end());
 }
 
-std::vector<Tested> TestAll(Session& session, bool outputs) {
-    const ReadThrough setter(session);
-    const ReadThrough reader(session);
-    const Selftest test(setter.Camera(), reader.Camera(), WaitFor(session), outputs);
+std::vector<TestResult> TestAll(Session& session, bool outputs) {
+    const UncachedCamera setter(session);
+    const UncachedCamera reader(session);
+    const Selftest test(setter.Camera(), reader.Camera(), MakeWait(session), outputs);
     test.SwitchOffModes();
     const auto instances = setter.Camera().All();
     Progress progress(instances.size());
-    std::vector<Tested> results;
+    std::vector<TestResult> results;
     for (const Instance& instance : instances) {
-        if (Interrupts::Came()) {
+        if (Interrupts::Received()) {
             break;
         }
         progress.Step(instance.Name());
@@ -141,7 +144,7 @@ std::vector<Tested> TestAll(Session& session, bool outputs) {
 }
 
 /// @return nothing for what can only be read, unless that failed
-std::string Describe(const Tested& tested) {
+std::string Describe(const TestResult& tested) {
     if (tested.instance->set == nullptr && tested.failures.empty()) {
         return "";
     }
@@ -156,7 +159,7 @@ std::string Describe(const Tested& tested) {
     return text;
 }
 
-Json ToJson(const Tested& tested) {
+Json ToJson(const TestResult& tested) {
     Json failures(Json::List{});
     for (const std::string& failure : tested.failures) {
         failures.Add(failure);
@@ -168,11 +171,11 @@ Json ToJson(const Tested& tested) {
 }
 
 /// @return how many checks failed
-int Report(const std::vector<Tested>& results, Output output) {
+int Report(const std::vector<TestResult>& results, Output output) {
     int checks = 0;
     int failures = 0;
     output.Line(Pad("FUNCTION", 24) + "  CHECKS  RESULT");
-    for (const Tested& tested : results) {
+    for (const TestResult& tested : results) {
         checks += tested.checks;
         failures += static_cast<int>(tested.failures.size());
         output.Add(Describe(tested), ToJson(tested));
@@ -190,8 +193,8 @@ int RunSelftest(const Invocation& invocation) {
     const bool outputs = invocation.Has(Parameter::Outputs);
     const Interrupts interrupts;
     const IgnoredPipeSignal pipes;
-    Preserved preserved(session, outputs);
-    std::vector<Tested> results;
+    SettingsGuard preserved(session, outputs);
+    std::vector<TestResult> results;
     std::vector<Difference> left;
     try {
         results = TestAll(session, outputs);
@@ -204,7 +207,7 @@ int RunSelftest(const Invocation& invocation) {
     for (const Difference& difference : left) {
         PrintError("not put back: " + difference.instance.Name());
     }
-    if (Interrupts::Came()) {
+    if (Interrupts::Received()) {
         PrintError(left.empty() ? "interrupted; the settings are put back" : "interrupted");
         return Refused;
     }

@@ -3,8 +3,8 @@
 #include "Host/Assignment.h"
 #include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
-#include "Host/Settings/ReadThrough.h"
 #include "Host/Settings/ReadWhenSettled.h"
+#include "Host/Settings/UncachedCamera.h"
 
 namespace Host {
 
@@ -18,11 +18,11 @@ struct Result {
 };
 
 /// @param reader tells what the camera holds, whatever the other control remembers
-Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, const Assignment& assignment) {
+Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
     Result result;
     result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
     if (result.failure.code != 0) {
-        result.lockedBy = camera.Look(assignment.instance).lockedBy;
+        result.lockedBy = camera.Inspect(assignment.instance).lockedBy;
     }
     if (assignment.instance->get != nullptr) {
         const Reading reading = ReadWhenSettled(reader, assignment.instance, assignment.value, wait);
@@ -35,7 +35,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
 }
 
 /// What became of a value that the camera does not hold as it was asked for.
-std::string DescribeHeld(const Camera& camera, const Assignment& assignment, const Result& result) {
+std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, const Result& result) {
     const std::string asked = assignment.instance.Print(assignment.value);
     const std::string held = assignment.instance.Print(*result.held);
     if (result.failure.code == 0) {
@@ -48,7 +48,7 @@ std::string DescribeHeld(const Camera& camera, const Assignment& assignment, con
 
 /// Says on standard error what did not go as asked for.
 /// @return whether it was refused
-bool Report(const Camera& camera, const Assignment& assignment, const Result& result) {
+bool Report(const Camera& camera, const FunctionValue& assignment, const Result& result) {
     const bool differs = result.held && *result.held != assignment.value;
     if (result.failure.code == 0 && !differs) {
         return false;
@@ -64,7 +64,7 @@ bool Report(const Camera& camera, const Assignment& assignment, const Result& re
     return result.failure.code != 0 || !result.rounded;
 }
 
-Json ToJson(const Assignment& assignment, const Result& result) {
+Json ToJson(const FunctionValue& assignment, const Result& result) {
     const Instance& instance = assignment.instance;
     return Json{{"name", instance.Name()},
                 {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
@@ -78,11 +78,11 @@ int Set(const Invocation& invocation) {
     invocation.Open().Connection().RequireControl();
     const Camera camera = invocation.OpenCamera();
     const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
-    const ReadThrough reader(invocation.Open());
-    const Wait wait = WaitFor(invocation.Open());
+    const UncachedCamera reader(invocation.Open());
+    const Wait wait = MakeWait(invocation.Open());
     Output output = invocation.Output();
     bool refused = false;
-    for (const Assignment& assignment : assignments) {
+    for (const FunctionValue& assignment : assignments) {
         const Result result = Perform(camera, reader.Camera(), wait, assignment);
         const Instance& instance = assignment.instance;
         output.Add(result.held ? instance.Name() + '=' + instance.Print(*result.held) : "", ToJson(assignment, result));

@@ -110,7 +110,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
     program.SetJson(json || request.options.json);
     const int code =
         RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
-    program.TellWhoControls();
+    program.ReportController();
     program.SaveState(); // whatever ends the shell, its state file holds what was set
     return code;
 }
@@ -124,7 +124,7 @@ int RunText(Program& program, const std::string& line, bool json, bool& leaves) 
 
 /// At a terminal Ctrl-C ends a command alone.
 bool IsInterrupted(const LineReader& lines) {
-    return Interrupts::CameToEnd() || (Interrupts::Came() && !lines.IsTerminal());
+    return Interrupts::ReceivedTermination() || (Interrupts::Received() && !lines.IsTerminal());
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 #include "Host/ErrorReporting.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
-#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/UncachedCamera.h"
 
 #include <charconv>
 #include <iostream>
@@ -57,19 +57,19 @@ public:
         : properties(camera.As<SDK4::Control::IPropertyState>()),
           changes(printed) {
         if (properties != nullptr) {
-            properties->AddCallback(Told, this);
+            properties->AddCallback(OnChange, this);
         }
     }
     ~Listener() {
         if (properties != nullptr) {
-            properties->RemoveCallback(Told);
+            properties->RemoveCallback(OnChange);
         }
     }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
 
 private:
-    static void Told(const char* name, const char* attribute, void* context) {
+    static void OnChange(const char* name, const char* attribute, void* context) {
         const auto* const self = static_cast<Listener*>(context);
         const auto now = self->Read(name, attribute);
         self->changes.Print(name, "callback", attribute + (now ? " = " + now->Print() : ""),
@@ -96,9 +96,9 @@ private:
 };
 
 /// The functions that can be read one by one, and what they held at the last look.
-class Watched {
+class WatchedFunctions {
 public:
-    explicit Watched(const Camera& reading) : reader(reading) {
+    explicit WatchedFunctions(const Camera& reading) : reader(reading) {
         for (const Instance& instance : reader.All()) {
             if (instance->get != nullptr && instance->count <= fewInstances) {
                 last.push_back({instance, Read(instance)});
@@ -106,7 +106,7 @@ public:
         }
     }
 
-    void Look(const Changes& changes) {
+    void Poll(const Changes& changes) {
         for (auto& [instance, before] : last) {
             if (Held now = Read(instance); now.text != before.text) {
                 changes.Print(instance.Name(), "camera", before.text + " -> " + now.text,
@@ -158,14 +158,14 @@ int Watch(const Invocation& invocation) {
         session.Connection().RequireControl();
     }
     const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
-    const ReadThrough reader(session);
+    const UncachedCamera reader(session);
     const Interrupts interrupts;
     const Changes changes(invocation.Program().Json());
-    Watched watched(reader.Camera());
+    WatchedFunctions watched(reader.Camera());
     int code = Success;
     {
         const Listener listener(camera, changes);
-        for (const Assignment& assignment : assignments) {
+        for (const FunctionValue& assignment : assignments) {
             const Outcome failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
             if (failure.code != 0) { // the camera is watched all the same
                 PrintError(assignment.instance.Name() + ": " + failure.reason);
@@ -174,13 +174,13 @@ int Watch(const Invocation& invocation) {
         }
     }
     const auto end = Clock::now() + duration.value_or(milliseconds(0));
-    while (!Interrupts::Came() && (!duration || Clock::now() < end)) {
-        watched.Look(changes);
+    while (!Interrupts::Received() && (!duration || Clock::now() < end)) {
+        watched.Poll(changes);
         const auto before = Clock::now();
         Interrupts::Sleep(period);
-        session.Connection().Passed(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
+        session.Connection().TimePassed(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
     }
-    watched.Look(changes);
+    watched.Poll(changes);
     return code;
 }
 

@@ -43,7 +43,7 @@ int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } 
 
 void AddIdentity(FunctionTable& table) {
     using I = IGufi;
-    table.Topic(Topic::identity);
+    table.Topic(Topics::identity);
     table.ReadOnly<&I::GetDeviceName>           ("devicename");
     table.ReadOnly<&I::GetSerialNumber>         (Name::serialNumber);
     table.ReadOnly<&I::GetFunctionModelID>      ("functionmodelid")      .Hexadecimal();
@@ -57,7 +57,7 @@ void AddIdentity(FunctionTable& table) {
 
 void AddNetwork(FunctionTable& table) {
     using I = IGigECamera;
-    table.Topic(Topic::network);
+    table.Topic(Topics::network);
     table.ReadOnly<&I::GetMacAddress>                     ("macaddress");
     table.ReadOnly<&I::GetCurrentIPAddress>               ("ipaddress");
     table.ReadOnly<&I::GetCurrentSubnetmask>              ("subnetmask");
@@ -73,7 +73,7 @@ void AddNetwork(FunctionTable& table) {
 }
 
 void AddFrames(FunctionTable& table) {
-    table.Topic(Topic::image);
+    table.Topic(Topics::image);
     table.ReadOnly<&ISignalFormat::GetImageSize> ("imagesize")    .Unit("px");
     table.ReadOnly<&PixelFormat>                 ("pixelformat")  .Hexadecimal();
     table.ReadOnly<&TimePerFrame>                ("timeperframe") .Unit("ns");
@@ -82,7 +82,7 @@ void AddFrames(FunctionTable& table) {
 void AddProcessing(FunctionTable& table) {
     using I = ILookUpTable;
     using E = IDigitalEnhancement;
-    table.Topic(Topic::processing);
+    table.Topic(Topics::processing);
     table.Setting<&E::GetSharpness, &E::SetSharpness>         ("sharpness")     .Range(0, 255);
     table.Setting<&I::GetLUTMode, &I::SetLUTMode>             ("lutmode")       .OneOf(0, 1);
     table.Setting<&I::GetNegativeImage, &I::SetNegativeImage> ("negativeimage") .OnOff();
@@ -90,7 +90,7 @@ void AddProcessing(FunctionTable& table) {
 
 void AddMemory(FunctionTable& table) {
     using I = IMemory;
-    table.Topic(Topic::memory);
+    table.Topic(Topics::memory);
     table.Setting<&I::GetVerticalFlip, &I::SetVerticalFlip>               (Name::verticalFlip)    .OnOff();
     table.Setting<&I::GetHorizontalFlip, &I::SetHorizontalFlip>           ("horizontalflip")      .OnOff();
     table.Setting<&I::GetLastImageHold, &I::SetLastImageHold>             ("lastimagehold")       .OnOff();
@@ -102,7 +102,7 @@ void AddMemory(FunctionTable& table) {
 
 void AddSettingsSets(FunctionTable& table) {
     using I = IBasicSettings;
-    table.Topic(Topic::settings);
+    table.Topic(Topics::settings);
     table.Row<&I::GetStartupSettings, &I::SetStartupSettings> ("startupsettings") .OneOf(0, 2);
     table.WriteOnly<&I::LoadSettings>                         ("loadsettings")    .OneOf(0, 2);
     table.WriteOnly<&I::SaveSettings>                         ("savesettings")    .OneOf(1, 2); // set 0 is the factory's
@@ -111,7 +111,7 @@ void AddSettingsSets(FunctionTable& table) {
 }
 
 void AddTests(FunctionTable& table) {
-    table.Topic(Topic::tests);
+    table.Topic(Topics::tests);
     table.ReadOnly<&BoardTemperature> ("temperature") .Unit("degC");
 }
 

@@ -30,21 +30,23 @@ public:
     /// What the next rows belong to.
     void Topic(std::string_view name) { topic = name; }
 
-    template <auto Get, auto Set> Function& Row(std::string_view name, Restore restore = Restore::Never) {
+    template <auto Get, auto Set> Function& Row(std::string_view name, RestorePolicy restore = RestorePolicy::Never) {
         Function& function = Add(name, Operation<Get>::Kind(), &CallGetter<Get>, &CallSetter<Set>);
         function.restore = restore;
         return function;
     }
-    // What becomes of it when settings are restored, see Restore.
+    // What becomes of it when settings are restored, see RestorePolicy.
     template <auto Get, auto Set> Function& Setting(std::string_view name) {
-        return Row<Get, Set>(name, Restore::Setting);
+        return Row<Get, Set>(name, RestorePolicy::Setting);
     }
-    template <auto Get, auto Set> Function& Mode(std::string_view name) { return Row<Get, Set>(name, Restore::Mode); }
+    template <auto Get, auto Set> Function& Mode(std::string_view name) {
+        return Row<Get, Set>(name, RestorePolicy::Mode);
+    }
     template <auto Get, auto Set> Function& Output(std::string_view name) {
-        return Row<Get, Set>(name, Restore::Output);
+        return Row<Get, Set>(name, RestorePolicy::Output);
     }
     template <auto Get, auto Set> Function& Network(std::string_view name) {
-        return Row<Get, Set>(name, Restore::Network);
+        return Row<Get, Set>(name, RestorePolicy::Network);
     }
     /// What can only be read.
     template <auto Get> Function& ReadOnly(std::string_view name) {

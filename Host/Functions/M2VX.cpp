@@ -13,7 +13,7 @@ using namespace SDK4::Control;
 // clang-format off
 
 void AddM2VXFormat(FunctionTable& table) {
-    table.Topic(Topic::image);
+    table.Topic(Topics::image);
     table.ReadOnly<&ISignalFormat::GetColorCoding> (Name::colorCoding) .Named(Named::colorCodings);
 }
 
@@ -21,7 +21,7 @@ void AddM2VXExposure(FunctionTable& table) {
     using E = M2VX::IExposure;
     using G = M2VX::IGain;
     using A = M2VX::IABC;
-    table.Topic(Topic::exposure);
+    table.Topic(Topics::exposure);
     table.Setting<&E::GetExposureMode, &E::SetExposureMode>                   (Name::exposureMode)      .Named(Named::exposureModes);
     table.Setting<&E::GetExposure, &E::SetExposure>                           (Name::exposure)          .MovedBy(Name::exposureMode, {Named::resetRestart});
     table.Setting<&E::GetTwinModeShutterOffset, &E::SetTwinModeShutterOffset> ("twinmodeshutteroffset") .Range(0, 2000).Keeps();
@@ -40,12 +40,12 @@ void AddM2VXProcessing(FunctionTable& table) {
     using E = IDigitalEnhancement;
     using C = M2VX::IImageCorrection;
     using L = ILookUpTable;
-    table.Topic(Topic::processing);
+    table.Topic(Topics::processing);
     table.Mode<&E::GetHistogramEqualization, &E::SetHistogramEqualization>  (Name::histogramEqualization) .Named(Named::off);
     table.Setting<&E::GetBrightness, &E::SetBrightness>                     (Name::brightness)            .MovedBy(Name::histogramEqualization, {0, 3});
     table.Setting<&E::GetContrast, &E::SetContrast>                         (Name::contrast)              .MovedBy(Name::histogramEqualization, {0, 3});
     table.Setting<&L::GetLUTInterpolatorIndex, &L::SetLUTInterpolatorIndex> (Name::lutIndex)              .PublishedAs("gammaindex").Keeps();
-    table.Topic(Topic::correction);
+    table.Topic(Topics::correction);
     table.Setting<&C::GetShadingCorrectionMode, &C::SetShadingCorrectionMode> (Name::shadingCorrectionMode) .Named(Named::onOff);
     table.Setting<&C::GetShadingCorrection, &C::SetShadingCorrection>         ("shadingcorrection")         .Instances(4).Needs(Name::shadingCorrectionMode);
     table.Setting<&C::GetCircularBlankingMode, &C::SetCircularBlankingMode>   (Name::circularBlankingMode)  .Named(Named::onOff);
@@ -56,7 +56,7 @@ void AddM2VXProcessing(FunctionTable& table) {
 void AddM2VXOverlay(FunctionTable& table) {
     using O = M2VX::IOverlay;
     using A = M2VX::ISignalAnalysis;
-    table.Topic(Topic::overlay);
+    table.Topic(Topics::overlay);
     table.Setting<&O::GetOverlayShow, &O::SetOverlayShow>           (Name::overlayShow)      .Instances(3).Named(Named::onOff);
     table.Setting<&O::GetOverlayPosition, &O::SetOverlayPosition>   (Name::overlayPosition)  .Fields(Named::centredPosition).Instances(3).Unit("px");
     table.Setting<&O::GetOverlayStyle, &O::SetOverlayStyle>         (Name::overlayStyle)     .Instances(3);
@@ -69,15 +69,15 @@ void AddM2VXDevice(FunctionTable& table) {
     using D = M2VX::IDefectPixel;
     using L = M2VX::ILensControl;
     using M = M2VX::IMotorControl;
-    table.Topic(Topic::tests);
+    table.Topic(Topics::tests);
     table.Setting<&IInternalTests::GetTestPattern, &IInternalTests::SetTestPattern> ("testpattern") .Instances(2);
     table.WriteOnly<&IBasicSettings::Restart>                                       ("restart");
-    table.Topic(Topic::correction);
+    table.Topic(Topics::correction);
     table.Setting<&D::GetDefectPixelShow, &D::SetDefectPixelShow> ("defectpixelshow")             .Named(Named::onOff);
     table.ReadOnly<&D::GetDefectPixelCount>                       ("defectpixelcount")            .Unit("pairs");
     table.Row<&D::GetDefectPixel, &D::SetDefectPixel>             ("defectpixel")                 .Instances(256); // two of each pair
     table.WriteOnly<&D::SetDefectPixelAutoCompensation>           ("defectpixelautocompensation");
-    table.Topic(Topic::outputs);
+    table.Topic(Topics::outputs);
     table.Output<&M::GetMotorControl, &M::SetMotorControl> ("motorcontrol") .Instances(256).Keeps();
     table.Output<&L::GetLensControl, &L::SetLensControl>   ("lenscontrol")  .Instances(4); // takes any; four are there
 }

@@ -35,7 +35,7 @@ inline constexpr std::string_view verticalFlip          = "verticalflip";
 } // namespace Host::Name
 
 /// What functions belong to.
-namespace Host::Topic {
+namespace Host::Topics {
 
 inline constexpr std::string_view identity = "identity";
 inline constexpr std::string_view network = "network";
@@ -50,4 +50,4 @@ inline constexpr std::string_view tests = "tests";
 inline constexpr std::string_view outputs = "outputs";
 inline constexpr std::string_view correction = "correction";
 
-} // namespace Host::Topic
+} // namespace Host::Topics

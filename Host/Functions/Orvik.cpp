@@ -57,7 +57,7 @@ SDK4_KAREA ActiveArea(IRoa& roa) { return roa.GetReadoutAreaLimits(SDK4_ROADOMAI
 // clang-format off
 
 void AddOrvikFormat(FunctionTable& table) {
-    table.Topic(Topic::image);
+    table.Topic(Topics::image);
     table.Setting<&ISignalFormat::GetColorCoding, &ISignalFormat::SetColorCoding> (Name::colorCoding)   .Named(Named::colorCodings).LimitsFrom(ColorCodings);
     table.Setting<&IBinning::GetBinning, &IBinning::SetBinning>                   ("binning")           .Range(1, 8).Keeps(SDK4_ERR_INVALID_PARAMETER);
     table.Setting<&IRoa::GetReadoutArea, &IRoa::SetReadoutArea>                   ("readoutarea")       .Unit("px").LimitsFrom(ReadoutAreas);
@@ -70,7 +70,7 @@ void AddOrvikFormat(FunctionTable& table) {
 void AddOrvikExposure(FunctionTable& table) {
     using E = IExposure;
     using T = ITrigger;
-    table.Topic(Topic::exposure);
+    table.Topic(Topics::exposure);
     table.Setting<&E::GetExposureMode, &E::SetExposureMode>           (Name::exposureMode)  .OneOf(Named::exposureModes);
     table.ReadOnly<&ITiming::GetPixelClock>                           ("pixelclock")        .Unit("Hz");
     table.Setting<&ISlowScan::GetSlowScan, &ISlowScan::SetSlowScan>   ("slowscan")          .OnOff();
@@ -90,13 +90,13 @@ void AddOrvikProcessing(FunctionTable& table) {
     using E = IDigitalEnhancement;
     using C = IColor;
     using L = ILookUpTable;
-    table.Topic(Topic::processing);
+    table.Topic(Topics::processing);
     table.Mode<&IACC::GetACC, &IACC::SetACC>                                  (Name::acc)                   .OneOf(0, 4).Named(Named::off);
     table.Setting<&E::GetBrightness, &E::SetBrightness>                       (Name::brightness)            .Range(0, 2047).MovedBy(Name::acc);
     table.Setting<&E::GetContrast, &E::SetContrast>                           (Name::contrast)              .Range(32, 255).MovedBy(Name::acc);
     table.Setting<&E::GetHistogramEqualization, &E::SetHistogramEqualization> (Name::histogramEqualization) .OneOf(0, 3).Named(Named::off);
     table.Setting<&L::GetLUTInterpolatorIndex, &L::SetLUTInterpolatorIndex>   (Name::lutIndex)              .Range(-8, 12);
-    table.Topic(Topic::color);
+    table.Topic(Topics::color);
     table.Mode<&C::GetAutoWhiteset, &C::SetAutoWhiteset>          (Name::awb)      .OneOf(0, 2).Named(Named::off);
     table.Setting<&C::GetLightSource, &C::SetLightSource>         ("lightsource")  .OneOf(0, 3);
     table.Setting<&C::GetColorBalance, &C::SetColorBalance>       ("colorbalance") .Range(0, 255).MovedBy(Name::awb);
@@ -106,7 +106,7 @@ void AddOrvikProcessing(FunctionTable& table) {
 void AddOrvikOverlay(FunctionTable& table) {
     using O = IOverlay;
     using A = ISignalAnalysis;
-    table.Topic(Topic::overlay);
+    table.Topic(Topics::overlay);
     table.Setting<&O::GetOverlayShow, &O::SetOverlayShow>             (Name::overlayShow)      .Instances(2).OnOff();
     table.Setting<&O::GetOverlayPosition, &O::SetOverlayPosition>     (Name::overlayPosition)  .Instances(2).Unit("px").LimitsFrom(OverlayPositions);
     table.Setting<&O::GetOverlayStyle, &O::SetOverlayStyle>           (Name::overlayStyle)     .Instances(2);
@@ -119,9 +119,9 @@ void AddOrvikOverlay(FunctionTable& table) {
 
 void AddOrvikDevice(FunctionTable& table) {
     using G = IGPIO;
-    table.Topic(Topic::tests);
+    table.Topic(Topics::tests);
     table.Setting<&IInternalTests::GetPatternGenerator, &IInternalTests::SetPatternGenerator> ("patterngenerator") .Named(Named::off).LimitsFrom(Patterns);
-    table.Topic(Topic::outputs);
+    table.Topic(Topics::outputs);
     table.Output<&G::GetIoMode, &G::SetIoMode>         ("iomode")     .Instances(6).OneOf(0, 1);
     table.Output<&G::GetIoPort, &G::SetIoPort>         ("ioport")     .Instances(6).OneOf(0, 4);
     table.Output<&G::GetIoPolarity, &G::SetIoPolarity> ("iopolarity") .Instances(6).OneOf(0, 1);

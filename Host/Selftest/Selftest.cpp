@@ -12,7 +12,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds automatic{500}; ///< in which an automatic mode moves what it owns
+constexpr milliseconds modeTime{500}; ///< in which an automatic mode moves what it owns
 
 std::string NameOf(std::int32_t code) { return code == 0 ? "no refusal" : SDK4::ErrorName(code); }
 
@@ -22,15 +22,15 @@ bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code ==
 
 void Selftest::SwitchOffModes() const {
     for (const Instance& instance : setter.All(false)) {
-        if (instance->restore == Restore::Mode && reader.TryRead(instance).code == 0) {
+        if (instance->restore == RestorePolicy::Mode && reader.TryRead(instance).code == 0) {
             // What refuses this fails in the mode's own test, too.
             static_cast<void>(Attempt([&] { static_cast<void>(Write(instance, {{0}, {}})); }));
         }
     }
 }
 
-Tested Selftest::Test(const Instance& instance) const {
-    Tested tested{instance, 0, {}, WhyNot(instance)};
+TestResult Selftest::Test(const Instance& instance) const {
+    TestResult tested{instance, 0, {}, WhyNot(instance)};
     if (!tested.leftOut.empty()) {
         return tested;
     }
@@ -56,20 +56,20 @@ std::string Selftest::WhyNot(const Instance& instance) const {
         return ""; // reading it does no harm
     }
     switch (instance->restore) {
-    case Restore::Setting:
-    case Restore::Mode:
+    case RestorePolicy::Setting:
+    case RestorePolicy::Mode:
         return "";
-    case Restore::Output:
+    case RestorePolicy::Output:
         return outputs ? "" : "an output; --outputs includes it";
-    case Restore::Network:
+    case RestorePolicy::Network:
         return "network";
-    case Restore::Never:
+    case RestorePolicy::Never:
         break;
     }
     return "no setting";
 }
 
-void Selftest::TestUnlocked(Tested& tested) const {
+void Selftest::TestUnlocked(TestResult& tested) const {
     const Instance& instance = tested.instance;
     const Reading reading = reader.TryRead(instance);
     if (IsAbsent(reading)) {
@@ -86,7 +86,7 @@ void Selftest::TestUnlocked(Tested& tested) const {
     }
     const Limits limits = reader.LimitsOf(instance);
     const Refusal refusal = reader.RefusalOf(instance);
-    for (const Trial& trial : TrialsOf(instance, limits, refusal, reading.value)) {
+    for (const TestCase& trial : TestCasesOf(instance, limits, refusal, reading.value)) {
         Try(tested, trial, limits, refusal);
     }
     if (limits.empty()) {
@@ -95,7 +95,7 @@ void Selftest::TestUnlocked(Tested& tested) const {
     static_cast<void>(Write(instance, reading.value));
 }
 
-void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, const Refusal& refusal) const {
+void Selftest::Try(TestResult& tested, const TestCase& trial, const Limits& limits, const Refusal& refusal) const {
     ++tested.checks;
     const Instance& instance = tested.instance;
     const Value before = reader.Read(instance);
@@ -114,7 +114,7 @@ void Selftest::Try(Tested& tested, const Trial& trial, const Limits& limits, con
     }
 }
 
-void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
+void Selftest::TryNeighbours(TestResult& tested, const Value& current) const {
     const Instance& instance = tested.instance;
     for (std::size_t field = 0; field < current.numbers.size(); ++field) {
         ++tested.checks;
@@ -129,7 +129,7 @@ void Selftest::TryNeighbours(Tested& tested, const Value& current) const {
     }
 }
 
-bool Selftest::TryNeighbour(Tested& tested, const Value& neighbour, const Value& current) const {
+bool Selftest::TryNeighbour(TestResult& tested, const Value& neighbour, const Value& current) const {
     const Instance& instance = tested.instance;
     if (const std::int32_t code = Write(instance, neighbour); code != 0) {
         tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
@@ -144,7 +144,7 @@ bool Selftest::TryNeighbour(Tested& tested, const Value& neighbour, const Value&
     return held != current;
 }
 
-void Selftest::TestLock(Tested& tested) const {
+void Selftest::TestLock(TestResult& tested) const {
     const Instance& instance = tested.instance;
     const Lock& lock = *instance->lock;
     const Instance mode = setter.FindOne(lock.mode);
@@ -167,13 +167,13 @@ void Selftest::TestLock(Tested& tested) const {
         !IsLockCode(code)) {
         tested.failures.push_back("under " + closed + ": " + NameOf(code));
     }
-    wait(automatic);
+    wait(modeTime);
     setter.Write(mode, {{lock.open.front()}, {}});
     if (lock.moves) {
         ++tested.checks;
         static_cast<void>(Write(instance, value));
         const Value written = reader.Read(instance);
-        wait(automatic);
+        wait(modeTime);
         if (const Value now = reader.Read(instance); now != written) {
             tested.failures.push_back("after " + closed + ": the camera still moves it, from " +
                                       instance.Print(written) + " to " + instance.Print(now));

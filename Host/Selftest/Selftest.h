@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Host/Selftest/Trials.h"
+#include "Host/Selftest/TestCases.h"
 #include "Host/Settings/ReadWhenSettled.h"
 #include "Host/Settings/Settings.h"
 
@@ -10,7 +10,7 @@
 namespace Host {
 
 /// What the test of a function found.
-struct Tested {
+struct TestResult {
     Instance instance;
     int checks = 0;
     std::vector<std::string> failures;
@@ -35,16 +35,16 @@ public:
 
     /// Tests a function, or reads it if it can only be read.
     /// @throws ChannelLost, and nothing else
-    [[nodiscard]] Tested Test(const Instance& instance) const;
+    [[nodiscard]] TestResult Test(const Instance& instance) const;
 
 private:
     [[nodiscard]] std::string WhyNot(const Instance& instance) const;
-    void TestUnlocked(Tested& tested) const;
-    void Try(Tested& tested, const Trial& trial, const Limits& limits, const Refusal& refusal) const;
-    void TryNeighbours(Tested& tested, const Value& current) const;
+    void TestUnlocked(TestResult& tested) const;
+    void Try(TestResult& tested, const TestCase& trial, const Limits& limits, const Refusal& refusal) const;
+    void TryNeighbours(TestResult& tested, const Value& current) const;
     /// @return whether the camera then holds another value than before
-    bool TryNeighbour(Tested& tested, const Value& neighbour, const Value& current) const;
-    void TestLock(Tested& tested) const;
+    bool TryNeighbour(TestResult& tested, const Value& neighbour, const Value& current) const;
+    void TestLock(TestResult& tested) const;
     [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
     [[nodiscard]] Value Held(const Instance& instance, const Value& expected) const;
 

@@ -9,7 +9,7 @@ namespace Host {
 
 /// Lets the time of a camera pass.
 using Wait = std::function<void(std::chrono::milliseconds)>;
-[[nodiscard]] Wait WaitFor(Session& session);
+[[nodiscard]] Wait MakeWait(Session& session);
 
 /// What a function holds; of one that reaches what is wired to the camera, once it has arrived there, or does not get
 /// there in the time that a motor needs from one end to the other.

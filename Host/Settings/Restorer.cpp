@@ -15,7 +15,7 @@ constexpr int passes = 3; ///< more than one setting needs that is moved by one 
 const Value off{{0}, {}};
 
 /// What became of a setting that was written, and then read.
-RestoreStatus StatusOf(const Camera& camera, const Restored& result) {
+RestoreStatus StatusOf(const Camera& camera, const RestoreResult& result) {
     const bool accepted = result.reason.empty();
     if (result.held == result.saved) {
         return accepted ? RestoreStatus::Done : RestoreStatus::Refused;
@@ -26,9 +26,9 @@ RestoreStatus StatusOf(const Camera& camera, const Restored& result) {
     return result.held != result.before ? RestoreStatus::Clamped : RestoreStatus::Refused;
 }
 
-bool IsMode(const Instance& instance) { return instance->restore == Restore::Mode; }
+bool IsMode(const Instance& instance) { return instance->restore == RestorePolicy::Mode; }
 
-bool WasSwitchedOff(const Restored& mode) { return mode.before && *mode.before != off && mode.held == off; }
+bool WasSwitchedOff(const RestoreResult& mode) { return mode.before && *mode.before != off && mode.held == off; }
 
 } // namespace
 
@@ -60,21 +60,21 @@ const char* NameOf(RestoreStatus status) {
 
 std::string Restorer::WhyNot(const Instance& instance) const {
     switch (instance->restore) {
-    case Restore::Setting:
-    case Restore::Mode:
+    case RestorePolicy::Setting:
+    case RestorePolicy::Mode:
         return "";
-    case Restore::Output:
+    case RestorePolicy::Output:
         return options.outputs ? "" : "an output; --outputs includes it";
-    case Restore::Network:
+    case RestorePolicy::Network:
         return "network settings are never restored";
-    case Restore::Never:
+    case RestorePolicy::Never:
         break;
     }
     return "never restored";
 }
 
-Restored Restorer::Compare(const Setting& setting) const {
-    Restored result{setting.instance, RestoreStatus::Planned, setting.value, {}, {}, WhyNot(setting.instance)};
+RestoreResult Restorer::Compare(const FunctionValue& setting) const {
+    RestoreResult result{setting.instance, RestoreStatus::Planned, setting.value, {}, {}, WhyNot(setting.instance)};
     if (!result.reason.empty()) {
         result.status = RestoreStatus::Skipped;
         return result;
@@ -88,8 +88,8 @@ Restored Restorer::Compare(const Setting& setting) const {
     return result;
 }
 
-Restored Restorer::Set(const Setting& setting) const {
-    Restored result = Compare(setting);
+RestoreResult Restorer::Set(const FunctionValue& setting) const {
+    RestoreResult result = Compare(setting);
     if (result.status != RestoreStatus::Planned) {
         return result;
     }
@@ -111,11 +111,11 @@ Restored Restorer::Set(const Setting& setting) const {
 }
 
 bool Restorer::MustStop() {
-    stopped = stopped || options.isToStop();
+    stopped = stopped || options.shouldStop();
     return stopped;
 }
 
-void Restorer::Settle(Restored& result, Restored now) {
+void Restorer::Record(RestoreResult& result, RestoreResult now) {
     now.before = result.before;
     if (now.status == RestoreStatus::Done && now.before == now.saved) { // another setting moved it meanwhile
         now.status = RestoreStatus::Unchanged;
@@ -125,12 +125,12 @@ void Restorer::Settle(Restored& result, Restored now) {
     const bool told = result.status == now.status && result.held == now.held && result.reason == now.reason;
     result = std::move(now);
     if (!told) {
-        options.settled(result);
+        options.report(result);
     }
 }
 
-void Restorer::Look() {
-    for (const Setting& setting : settings.values) { // all of them, however far the look gets
+void Restorer::ReadCurrent() {
+    for (const FunctionValue& setting : settings.values) { // all of them, however far the look gets
         results.push_back({setting.instance, RestoreStatus::Pending, setting.value, {}, {}, {}});
     }
     for (std::size_t i = 0; i < results.size(); ++i) {
@@ -140,7 +140,7 @@ void Restorer::Look() {
 }
 
 void Restorer::SwitchOff() {
-    for (Restored& result : results) {
+    for (RestoreResult& result : results) {
         if (IsMode(result.instance) && !MustStop()) {
             result.held = off; // before it is tried: if the camera is lost meanwhile, nobody knows
             // What refuses this is told of where its saved value is set, or where it keeps others from being set.
@@ -152,14 +152,14 @@ void Restorer::SwitchOff() {
 bool Restorer::SetValues(bool again) {
     bool changed = false;
     for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
-        Restored& result = results[i];
+        RestoreResult& result = results[i];
         if (IsMode(result.instance) || (again && IsFailure(result.status))) {
             continue;
         }
-        Restored now = Set(settings.values[i]);
+        RestoreResult now = Set(settings.values[i]);
         changed |= now.status == RestoreStatus::Done;
         if (!again || now.status != RestoreStatus::Unchanged) {
-            Settle(result, std::move(now));
+            Record(result, std::move(now));
         }
     }
     return changed;
@@ -171,23 +171,23 @@ void Restorer::SetModes() {
             continue;
         }
         if (!MustStop()) {
-            Settle(results[i], Set(settings.values[i]));
+            Record(results[i], Set(settings.values[i]));
         } else if (WasSwitchedOff(results[i])) {
             PutBack(results[i]);
         }
     }
 }
 
-void Restorer::PutBack(Restored& mode) {
-    const Restored now = Set({mode.instance, *mode.before});
+void Restorer::PutBack(RestoreResult& mode) {
+    const RestoreResult now = Set({mode.instance, *mode.before});
     mode.held = now.held;
     mode.status = now.held == mode.before ? RestoreStatus::PutBack : RestoreStatus::LeftOff;
     mode.reason = now.reason;
-    options.settled(mode);
+    options.report(mode);
 }
 
 void Restorer::Restore() {
-    Look(); // modes will be off, but it counts what they were
+    ReadCurrent(); // modes will be off, but it counts what they were
     SwitchOff();
     for (int pass = 0; pass < passes && SetValues(pass != 0) && !stopped; ++pass) {
     }
@@ -195,15 +195,15 @@ void Restorer::Restore() {
 }
 
 void Restorer::Plan() {
-    for (const Setting& setting : settings.values) {
+    for (const FunctionValue& setting : settings.values) {
         results.push_back(Compare(setting));
-        options.settled(results.back());
+        options.report(results.back());
     }
 }
 
 std::vector<Instance> Restorer::ModesLeftOff() const {
     std::vector<Instance> modes;
-    for (const Restored& result : results) {
+    for (const RestoreResult& result : results) {
         const bool restored = result.status == RestoreStatus::Done || result.status == RestoreStatus::Unchanged;
         if (result.status == RestoreStatus::LeftOff ||
             (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {

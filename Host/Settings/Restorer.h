@@ -24,7 +24,7 @@ enum class RestoreStatus {
     LeftOff, ///< an automatic mode that could not be put back
 };
 
-struct Restored {
+struct RestoreResult {
     Instance instance;
     RestoreStatus status;
     Value saved;
@@ -45,9 +45,9 @@ public:
         bool outputs = false;
         /// Told what became of a function as soon as it is known; again in the rare case that a later setting moves it
         /// to where it cannot be brought back from.
-        std::function<void(const Restored&)> settled = [](const Restored&) {};
+        std::function<void(const RestoreResult&)> report = [](const RestoreResult&) {};
         /// Asked before each function whether to stop.
-        std::function<bool()> isToStop = [] { return false; };
+        std::function<bool()> shouldStop = [] { return false; };
     };
 
     /// @param setting sets the functions
@@ -69,7 +69,7 @@ public:
     void Plan();
 
     /// What became of each function, in the order of the settings; also after an exception.
-    [[nodiscard]] const std::vector<Restored>& Results() const { return results; }
+    [[nodiscard]] const std::vector<RestoreResult>& Results() const { return results; }
     /// Whether something was left undone because it was to stop.
     [[nodiscard]] bool IsStopped() const { return stopped; }
     /// Automatic modes that were on before, and are off although they were not restored.
@@ -77,24 +77,24 @@ public:
 
 private:
     [[nodiscard]] std::string WhyNot(const Instance& instance) const;
-    [[nodiscard]] Restored Compare(const Setting& setting) const;
-    [[nodiscard]] Restored Set(const Setting& setting) const;
+    [[nodiscard]] RestoreResult Compare(const FunctionValue& setting) const;
+    [[nodiscard]] RestoreResult Set(const FunctionValue& setting) const;
     [[nodiscard]] bool MustStop();
-    void Look();
+    void ReadCurrent();
     void SwitchOff();
     /// Sets what is no mode; again, what did not fail.
     /// @return whether that changed anything
     bool SetValues(bool again);
     void SetModes();
-    void PutBack(Restored& mode);
-    void Settle(Restored& result, Restored now);
+    void PutBack(RestoreResult& mode);
+    void Record(RestoreResult& result, RestoreResult now);
 
     const Settings& settings;
     const Camera& setter;
     const Camera& reader;
     Wait wait;
     Options options;
-    std::vector<Restored> results;
+    std::vector<RestoreResult> results;
     bool stopped = false;
 };
 

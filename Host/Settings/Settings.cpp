@@ -34,7 +34,7 @@ bool IsSame(const Instance& one, const Instance& other) {
 
 const Value* Settings::Find(const Instance& instance) const {
     const auto found = std::find_if(values.begin(), values.end(),
-                                    [&](const Setting& setting) { return IsSame(setting.instance, instance); });
+                                    [&](const FunctionValue& setting) { return IsSame(setting.instance, instance); });
     return found == values.end() ? nullptr : &found->value;
 }
 
@@ -48,7 +48,7 @@ bool Settings::Moved(const Instance& instance) const {
         return false;
     }
     const auto mode = std::find_if(values.begin(), values.end(),
-                                   [&](const Setting& setting) { return setting.instance->name == lock->mode; });
+                                   [&](const FunctionValue& setting) { return setting.instance->name == lock->mode; });
     return mode != values.end() && !lock->IsOpen(mode->value);
 }
 
@@ -72,7 +72,8 @@ Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool o
     };
     settings.serial = read(camera.FindOne(Name::serialNumber)).value_or(Value()).text;
     for (const Instance& instance : camera.All()) {
-        const bool wanted = instance->restore != Restore::Never && (instance->restore != Restore::Output || outputs);
+        const bool wanted =
+            instance->restore != RestorePolicy::Never && (instance->restore != RestorePolicy::Output || outputs);
         if (!wanted || instance->get == nullptr || instance->set == nullptr) {
             continue;
         }
@@ -111,7 +112,7 @@ std::vector<Difference> Compare(const Settings& first, const Settings& second) {
     return differences;
 }
 
-std::vector<Instance> LeftUncompared(const Settings& first, const Settings& second) {
+std::vector<Instance> Uncompared(const Settings& first, const Settings& second) {
     std::vector<Instance> missing = first.missing;
     std::erase_if(missing, [&](const Instance& instance) {
         return second.Find(instance) == nullptr || IsMoved(first, second, instance);

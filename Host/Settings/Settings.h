@@ -8,19 +8,14 @@
 
 namespace Host {
 
-struct Setting {
-    Instance instance;
-    Value value;
-};
-
 /// What a camera is set to.
 struct Settings {
     std::string model;
     std::string family;
     std::string serial;
-    std::string date;                ///< when they were taken
-    std::vector<Setting> values;     ///< in the order of the table
-    std::vector<Instance> missing{}; ///< what the camera may have, but could not be read
+    std::string date;                  ///< when they were taken
+    std::vector<FunctionValue> values; ///< in the order of the table
+    std::vector<Instance> missing{};   ///< what the camera may have, but could not be read
 
     [[nodiscard]] const Value* Find(const Instance& instance) const;
     [[nodiscard]] bool Misses(const Instance& instance) const;
@@ -57,6 +52,6 @@ struct Difference {
 [[nodiscard]] std::vector<Difference> Compare(const Settings& first, const Settings& second);
 
 /// What is missing in the first, and has a value in the second that it could have been compared with.
-[[nodiscard]] std::vector<Instance> LeftUncompared(const Settings& first, const Settings& second);
+[[nodiscard]] std::vector<Instance> Uncompared(const Settings& first, const Settings& second);
 
 } // namespace Host

@@ -100,7 +100,7 @@ private:
 };
 
 /// The values that the file holds, in the order of the table.
-std::vector<Setting> ValuesOf(const Json& document, const KnownFunctions& known, const std::string& file) {
+std::vector<FunctionValue> ValuesOf(const Json& document, const KnownFunctions& known, const std::string& file) {
     const auto* const members = document["values"].Members();
     if (members == nullptr) {
         Fail(file, "damaged: no \"values\"");
@@ -108,7 +108,7 @@ std::vector<Setting> ValuesOf(const Json& document, const KnownFunctions& known,
     for (const Json::Member& member : *members) {
         static_cast<void>(known.Find(member.name, file));
     }
-    std::vector<Setting> values;
+    std::vector<FunctionValue> values;
     for (const Instance& instance : known.All()) {
         const std::string name = instance.Name();
         const auto member =
@@ -140,7 +140,7 @@ std::vector<Instance> MissingIn(const Json& document, const KnownFunctions& know
 
 Json ToJson(const Settings& settings) {
     Json values(Json::Object{});
-    for (const Setting& setting : settings.values) {
+    for (const FunctionValue& setting : settings.values) {
         values.Add(setting.instance.Name(), ToJson(setting.instance, setting.value));
     }
     Json document{{"format", format},          {"version", formatVersion},        {"model", settings.model},

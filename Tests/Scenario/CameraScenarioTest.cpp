@@ -90,7 +90,7 @@ TEST(Afternoon, RawAccessGoesPastTheCaches) {
 
 TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
     Host::Session session(LoadedPlugin(), "Orvik-520C");
-    const Host::Control second = session.OpenAgain(2);
+    const Host::Control second = session.CreateControl(2);
     auto& cached = As<IGain>(session);
     auto& uncached = dynamic_cast<IGain&>(*second);
 
@@ -115,7 +115,7 @@ TEST(M2VXAfternoon, OnlyAControlOpenedAnewSeesWhatTheCameraChangedByItself) {
     gain.SetGain(40);
     settings.SaveSettings(1);
     gain.SetGain(50);
-    const Host::Control old = session.OpenAgain(3);
+    const Host::Control old = session.CreateControl(3);
     settings.LoadSettings(1);
     As<M2VX::IDefectPixel>(session).SetDefectPixelAutoCompensation();
 
@@ -125,7 +125,7 @@ TEST(M2VXAfternoon, OnlyAControlOpenedAnewSeesWhatTheCameraChangedByItself) {
     EXPECT_EQ(Of<M2VX::IDefectPixel>(old).GetDefectPixel({2, 0}).xpos, 0U);
 
     (void)session.Port().Take();
-    const Host::Control anew = session.OpenAgain(3);
+    const Host::Control anew = session.CreateControl(3);
     EXPECT_EQ(session.Port().Take().size(), 608U); // one pair of defect pixels more
     EXPECT_EQ(Of<M2VX::IGain>(anew).GetGain(), 40U);
     EXPECT_EQ(Of<M2VX::IDefectPixel>(anew).GetDefectPixel({2, 0}).xpos, 302U);

@@ -70,7 +70,7 @@ bool IsMoved(const std::string& operation) {
 }
 
 Host::Control OpenedAnew(Host::Session& session, int index) {
-    Host::Control control = session.OpenAgain(index);
+    Host::Control control = session.CreateControl(index);
     dynamic_cast<SDK4::Control::IBasicSettings&>(*control).LoadSettings(0);
     return control;
 }

@@ -30,8 +30,8 @@ protected:
     }
     [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
         signal(SIGHUP, SIG_DFL); // which nohup has ignored
-        return RunInProcess(Host::RunRestore, {{Parameter::Camera, {model}}, {Parameter::File, {saved}}}, observer,
-                            state, json);
+        return RunInProcess(Host::Restore, {{Parameter::Camera, {model}}, {Parameter::File, {saved}}}, observer, state,
+                            json);
     }
     [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
 

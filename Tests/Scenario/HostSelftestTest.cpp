@@ -8,7 +8,7 @@
 
 #include "Host/Logging.h"
 #include "Host/Selftest/Selftest.h"
-#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/UncachedCamera.h"
 
 #include "Simulation/SimulatedCamera.h"
 
@@ -192,9 +192,9 @@ TEST(HostSelftest, HoldsRoundingToWhatIsAnnounced) {
         window[2] += window[2] % 2 == 0 ? 1U : 0U;
         space.Set("measurewindow", window, change.index);
     });
-    const Host::ReadThrough setter(session);
-    const Host::ReadThrough reader(session);
-    const Host::Selftest selftest(setter.Camera(), reader.Camera(), Host::WaitFor(session), false);
+    const Host::UncachedCamera setter(session);
+    const Host::UncachedCamera reader(session);
+    const Host::Selftest selftest(setter.Camera(), reader.Camera(), Host::MakeWait(session), false);
     const auto failures = [&](const char* name) { return selftest.Test(setter.Camera().FindOne(name)).failures; };
     EXPECT_EQ(failures("exposure"), std::vector<std::string>()); // another count
     EXPECT_EQ(failures("measurewindow.0"),

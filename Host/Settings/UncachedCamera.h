@@ -7,9 +7,11 @@ namespace Host {
 /// A control of its own for the camera of a session, with which every value is read from the camera. It stays so as
 /// long as nothing is set through it: an Orvik control through which an automatic mode is switched off caches from then
 /// on what that mode moved, whatever its index.
-class ReadThrough {
+class UncachedCamera {
 public:
-    explicit ReadThrough(Session& session) : control(session.OpenAgain(index)), camera(*control, session.Model()) {}
+    explicit UncachedCamera(Session& session)
+        : control(session.CreateControl(index)),
+          camera(*control, session.Model()) {}
 
     [[nodiscard]] const Host::Camera& Camera() const { return camera; }
 

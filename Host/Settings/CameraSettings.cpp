@@ -1,8 +1,8 @@
-#include "Host/Settings/LiveSettings.h"
+#include "Host/Settings/CameraSettings.h"
 
 #include "Host/Command.h"
 #include "Host/ErrorReporting.h"
-#include "Host/Settings/ReadThrough.h"
+#include "Host/Settings/UncachedCamera.h"
 
 #include <stdexcept>
 
@@ -12,7 +12,7 @@ namespace {
 
 /// Reads through a control of its own; what was read counts only if it was one camera all the time.
 Settings Take(Session& session, const Unreadable& unreadable) {
-    const ReadThrough reader(session);
+    const UncachedCamera reader(session);
     Settings settings = TakeSettings(reader.Camera(), unreadable);
     session.Connection().RequireUnbroken();
     return settings;
@@ -30,7 +30,7 @@ struct Missing {
         }
         return cause != Cause::Any;
     }
-    void Tell(Connection& connection) const {
+    void Report(Connection& connection) const {
         if (!withoutAddress.empty()) {
             PrintError(connection.Describe() +
                        " has no address for these, which are left out: " + NamesOf(withoutAddress));
@@ -51,7 +51,7 @@ Settings TakeAllSettings(Session& session) {
             throw std::runtime_error(instance.Name() + ": " + reading.reason);
         }
     });
-    missing.Tell(session.Connection());
+    missing.Report(session.Connection());
     return settings;
 }
 
@@ -62,7 +62,7 @@ Settings TakeReadableSettings(Session& session) {
             PrintError(instance.Name() + ": " + reading.reason);
         }
     });
-    missing.Tell(session.Connection());
+    missing.Report(session.Connection());
     return settings;
 }
 

@@ -1,4 +1,4 @@
-#include "Host/Selftest/Trials.h"
+#include "Host/Selftest/TestCases.h"
 
 #include <algorithm>
 #include <limits>
@@ -29,9 +29,9 @@ Value Replaced(Value value, std::size_t field, std::int64_t number) {
 
 } // namespace
 
-std::vector<Trial> TrialsOf(const Instance& instance, const Limits& limits, const Refusal& refusal,
-                            const Value& current) {
-    std::vector<Trial> trials{{"the value it holds", current, true}};
+std::vector<TestCase> TestCasesOf(const Instance& instance, const Limits& limits, const Refusal& refusal,
+                                  const Value& current) {
+    std::vector<TestCase> trials{{"the value it holds", current, true}};
     if (limits.empty()) {
         return trials;
     }
