@@ -1,10 +1,11 @@
 #include "Host/Camera.h"
 
+#include "Common/Number.h"
+#include "Common/Suggestion.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
-#include "Simulation/Suggestion.h"
 
 #include <SDK4/IControl.h>
 
@@ -86,18 +87,17 @@ std::vector<Instance> Camera::Find(std::string_view name) const {
         for (const Function& function : *functions) {
             known.emplace_back(function.name);
         }
-        throw UsageError("unknown function \"" + std::string(name) + '"' + Simulation::Suggestion(row, known));
+        throw UsageError("unknown function \"" + std::string(name) + '"' + Common::Suggestion(row, known));
     }
     if (row.size() == name.size()) {
         return InstancesOf(*found);
     }
-    std::uint32_t index = 0;
-    const auto [end, error] = std::from_chars(name.data() + row.size() + 1, name.data() + name.size(), index);
-    if (!found->indexed || error != std::errc() || end != name.data() + name.size() || index >= found->count) {
+    const auto index = Common::ParseWhole<std::uint32_t>(name.substr(row.size() + 1));
+    if (!found->indexed || !index || *index >= found->count) {
         throw UsageError("unknown function \"" + std::string(name) + "\": there is " + std::string(row) +
                          (found->indexed ? ".0 to ." + std::to_string(found->count - 1) : ", without a number"));
     }
-    return {{&*found, index}};
+    return {{&*found, *index}};
 }
 
 Instance Camera::FindOne(std::string_view name) const {

@@ -1,9 +1,5 @@
 #include "Host/Command.h"
 
-#include "Host/Text.h"
-
-#include <iostream>
-
 namespace Host {
 
 const std::vector<std::string>& Invocation::Texts(Parameter parameter) const {
@@ -19,9 +15,6 @@ std::string Invocation::Text(Parameter parameter) const {
 
 Session& Invocation::Open() const { return program.Open(Text(Parameter::Camera)); }
 
-void PrintError(const std::string& text) {
-    std::cout.flush(); // keeps the order of results and errors where both go to the same place
-    std::cerr << "qdv12host: " << InOneLine(text) << '\n';
-}
+void PrintError(const std::string& text) { Common::PrintError("qdv12host", text); }
 
 } // namespace Host

@@ -1,10 +1,9 @@
 #include "Host/CommandLine.h"
 
+#include "Common/Number.h"
+#include "Common/Suggestion.h"
 #include "Host/Functions/Tables.h"
 #include "Host/Trace.h"
-#include "Simulation/Suggestion.h"
-
-#include "Simulation/Seed.h"
 
 #include <CLI/CLI.hpp>
 
@@ -85,7 +84,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     add("--force-model", options.camera.forcedModel, "MODEL",
         "Drives a camera on the network as that model, whatever it calls itself");
     auto& simulation = options.camera.simulation;
-    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Simulation::SeedFault);
+    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Common::SeedFault);
     add("--state", simulation.state, "FILE", "Keeps a simulated camera in a file between two runs");
     add("--fault", simulation.faults, "TEXT", "Plants a fault in a simulated camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the camera for a fault too
@@ -133,7 +132,7 @@ std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name)
     for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
         names.push_back(command->get_name());
     }
-    return "unknown command \"" + name + '"' + Simulation::Suggestion(name, names);
+    return "unknown command \"" + name + '"' + Common::Suggestion(name, names);
 }
 
 /// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
@@ -150,7 +149,7 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
         auto names = OptionNames(app);
         const auto more = parsed.empty() ? std::vector<std::string>() : OptionNames(*parsed.front());
         names.insert(names.end(), more.begin(), more.end());
-        return "unknown option" + quoted + Simulation::Suggestion(unknown.front(), names);
+        return "unknown option" + quoted + Common::Suggestion(unknown.front(), names);
     }
     return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : quoted.substr(1) + " was not expected";
 }

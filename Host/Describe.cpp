@@ -1,10 +1,10 @@
 #include "Host/Describe.h"
 
+#include "Common/Number.h"
+#include "Common/Utf8.h"
 #include "Host/ErrorReporting.h"
-#include "Host/Utf8.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace Host {
 
@@ -35,13 +35,12 @@ std::string Hexadecimal(const std::string& bytes) {
 std::optional<std::string> BytesOf(const std::string& hexadecimal) {
     std::string bytes;
     for (std::size_t i = 0; i < hexadecimal.size(); i += 2) {
-        unsigned int byte = 0;
-        const char* const first = hexadecimal.data() + i;
-        const char* const last = first + 2;
-        if (i + 1 == hexadecimal.size() || std::from_chars(first, last, byte, 16).ptr != last || byte == 0) {
+        const std::string digits = hexadecimal.substr(i, 2);
+        const auto byte = Common::ParseWhole<std::uint8_t>(digits, 16);
+        if (digits.size() != 2 || byte.value_or(0) == 0) {
             return std::nullopt;
         }
-        bytes += static_cast<char>(byte);
+        bytes += static_cast<char>(*byte);
     }
     return bytes;
 }
@@ -84,7 +83,9 @@ std::string PrintWithUnit(const Instance& instance, const Value& value) {
     return instance.Print(value) + (instance->unit.empty() ? "" : " " + std::string(instance->unit));
 }
 
-Json TextToJson(const std::string& text) { return IsUtf8(text) ? Json(text) : Json{{hexMember, Hexadecimal(text)}}; }
+Json TextToJson(const std::string& text) {
+    return Common::IsUtf8(text) ? Json(text) : Json{{hexMember, Hexadecimal(text)}};
+}
 
 Json ToJson(const Instance& instance, const Value& value) {
     if (instance->shape.fields.empty()) {

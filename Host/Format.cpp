@@ -1,9 +1,9 @@
 #include "Host/Format.h"
 
-#include "Host/Text.h"
+#include "Common/Number.h"
+#include "Common/Text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 
 namespace Host {
@@ -18,20 +18,14 @@ std::string TextIn(std::span<const std::uint8_t> bytes) {
     return padded && end - bytes.begin() >= 4 ? std::string(bytes.begin(), end) : std::string();
 }
 
-std::string Quoted(const std::string& text) { return '"' + Escaped(text) + '"'; }
+std::string Quoted(const std::string& text) { return '"' + Common::Escaped(text) + '"'; }
 
-std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(word) : Hex(word); }
+std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(word) : Common::Hex(word); }
 
 } // namespace
 
-std::string Hex(std::uint32_t value) {
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%08X", value);
-    return text;
-}
-
 std::string Pad(std::string text, std::size_t width) {
-    const std::size_t taken = Width(text);
+    const std::size_t taken = Common::Width(text);
     return text.append(taken < width ? width - taken : 0, ' ');
 }
 

@@ -10,9 +10,6 @@ namespace Host {
 /// What went over the port: a text in quotes where the bytes are one, else their words.
 [[nodiscard]] std::string FormatBytes(std::span<const std::uint8_t> bytes);
 
-/// "0x" and eight digits.
-[[nodiscard]] std::string Hex(std::uint32_t value);
-
 /// An escaped text, filled up with blanks to the width, in columns of a terminal.
 [[nodiscard]] std::string Pad(std::string text, std::size_t width);
 

@@ -2,6 +2,7 @@
 // of it is written down here: the functions come from the host's table, limits and presence from the control of each
 // model, registers from the accesses that a call comes to.
 
+#include "Common/Number.h"
 #include "Host/Describe.h"
 #include "Host/Errors.h"
 #include "Host/Format.h"
@@ -48,7 +49,7 @@ std::string RegisterOf(Session& session, const Function& function) {
         camera.Write(instance, {.numbers = std::vector<std::int64_t>(instance->shape.fields.size(), 1), .text = "1"});
     }
     std::vector<Access> accesses = session.Port().Take();
-    return accesses.empty() ? "" : Hex(accesses.back().address);
+    return accesses.empty() ? "" : Common::Hex(accesses.back().address);
 }
 
 /// Enters the model of the camera, if it has the function.

@@ -1,7 +1,7 @@
 #include "Host/Logging.h"
 
+#include "Common/Text.h"
 #include "Host/Errors.h"
-#include "Host/Text.h"
 
 #include <log4cxx/consoleappender.h>
 #include <log4cxx/helpers/loglog.h>
@@ -27,7 +27,7 @@ public:
                 log4cxx::helpers::Pool& pool) const override {
         log4cxx::LogString line;
         PatternLayout::format(line, event, pool);
-        output += InOneLine(line) + '\n';
+        output += Common::InOneLine(line) + '\n';
     }
 };
 

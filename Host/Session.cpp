@@ -1,11 +1,11 @@
 #include "Host/Session.h"
 
+#include "Common/Suggestion.h"
+#include "Common/Text.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/Datagrams.h"
 #include "Host/Channel/GigEConnection.h"
-#include "Host/Text.h"
 #include "Simulation/Cameras.h"
-#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <string_view>
@@ -32,7 +32,7 @@ bool Serves(const Plugin& plugin, const std::string& model) {
 
 void RequireServed(const Plugin& plugin, const std::string& model) {
     if (!Serves(plugin, model)) {
-        throw OpenError("unknown model \"" + model + '"' + Simulation::Suggestion(model, NamesOf(plugin.Models())));
+        throw OpenError("unknown model \"" + model + '"' + Common::Suggestion(model, NamesOf(plugin.Models())));
     }
 }
 
@@ -51,7 +51,7 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     for (const std::string& name : NamesOf(plugin.Models())) {
         served += (served.empty() ? "" : ", ") + name;
     }
-    throw OpenError(connection.Describe() + " calls itself \"" + Escaped(read) + "\"; the plug-in serves " + served +
+    throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " + served +
                     " (--force-model MODEL opens it as one of these)");
 }
 
@@ -60,7 +60,7 @@ constexpr std::string_view network = "gige:"; ///< begins what is no model
 /// @return the address of a camera on the network, empty for a simulated one
 std::string AddressOf(const std::string& camera) {
     const std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
-    if (!IsAddress(address) && (camera.find(':') != std::string::npos || IsAddress(camera))) {
+    if (!Common::ParseAddress(address) && (camera.find(':') != std::string::npos || Common::ParseAddress(camera))) {
         throw UsageError('"' + camera +
                          "\" is no camera; a model or gige:ADDRESS is wanted, such as gige:192.168.1.10");
     }

@@ -1,5 +1,6 @@
 #include "Host/Trace.h"
 
+#include "Common/Number.h"
 #include "Host/Format.h"
 
 #include <cmath>
@@ -9,8 +10,8 @@ namespace Host {
 
 void PrintAccess(const Access& access) {
     std::cout.flush(); // an access stands behind the results that came before it
-    std::cerr << (access.write ? "write " : "read  ") << Pad(access.operation, 18) << Hex(access.address) << "  "
-              << FormatBytes(access.data) << (access.failed ? " (failed)" : "") << "  "
+    std::cerr << (access.write ? "write " : "read  ") << Pad(access.operation, 18) << Common::Hex(access.address)
+              << "  " << FormatBytes(access.data) << (access.failed ? " (failed)" : "") << "  "
               << std::lround(access.microseconds) << " us\n";
 }
 

@@ -1,10 +1,9 @@
 #include "Host/Value.h"
 
-#include "Host/Format.h"
-#include "Host/Text.h"
+#include "Common/Number.h"
+#include "Common/Text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 #include <limits>
 
@@ -35,21 +34,11 @@ std::optional<std::int64_t> ParseNumber(std::string_view text, const Field& fiel
             return code.value;
         }
     }
-    const bool negative = text.starts_with('-');
-    text.remove_prefix(negative ? 1 : 0);
-    const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
-    text.remove_prefix(hexadecimal ? 2 : 0);
-
-    std::uint32_t magnitude = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), magnitude, hexadecimal ? 16 : 10);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        return std::nullopt;
-    }
-    const std::int64_t number = negative ? -std::int64_t{magnitude} : std::int64_t{magnitude};
+    const auto number = Common::ParseNumber(text);
     const bool fits = field.isSigned ? number >= std::numeric_limits<std::int32_t>::min() &&
                                            number <= std::numeric_limits<std::int32_t>::max()
                                      : number >= 0;
-    return fits ? std::optional(number) : std::nullopt;
+    return fits ? number : std::nullopt;
 }
 
 } // namespace
@@ -80,12 +69,12 @@ std::string Print(std::int64_t number, const Shape& shape, Codes codes) {
     if (found != codes.end()) {
         return found->name;
     }
-    return shape.hexadecimal ? Hex(static_cast<std::uint32_t>(number)) : std::to_string(number);
+    return shape.hexadecimal ? Common::Hex(static_cast<std::uint32_t>(number)) : std::to_string(number);
 }
 
 std::string Print(const Value& value, const Shape& shape, Codes codes) {
     if (shape.fields.empty()) {
-        return Escaped(value.text);
+        return Common::Escaped(value.text);
     }
     std::string text;
     for (const std::int64_t number : value.numbers) {
@@ -97,7 +86,7 @@ std::string Print(const Value& value, const Shape& shape, Codes codes) {
 std::optional<Value> ParseValue(std::string_view text, const Shape& shape, Codes codes) {
     Value value;
     if (shape.fields.empty()) {
-        const auto plain = Unescaped(text);
+        const auto plain = Common::Unescaped(text);
         return plain ? std::optional(Value{{}, *plain}) : std::nullopt;
     }
     for (std::size_t i = 0; i < shape.fields.size(); ++i) {

@@ -3,7 +3,6 @@
 #include "Host/Logging.h"
 
 #include <clocale>
-#include <iostream>
 #include <string_view>
 
 namespace Host {
@@ -18,19 +17,10 @@ void TakeUpLocale() {
     }
 }
 
-/// What nobody gets to see is no success: a disk is full, for one.
-int AsSeen(int code, int failed) {
-    if (std::cout.flush()) {
-        return code;
-    }
-    PrintError("the results could not be written");
-    return code == Success || code == Differs ? failed : code;
-}
-
 int Run(std::vector<std::string> arguments) {
     const Request request = ParseCommandLine(std::move(arguments));
     if (request.command == nullptr) {
-        return AsSeen(Success, Refused);
+        return Common::AsWritten("qdv12host", Success, Refused);
     }
     ConfigureLogging(request.options.logLevel, request.options.logConfig);
     const int failed = request.command->failed;
@@ -42,7 +32,7 @@ int Run(std::vector<std::string> arguments) {
         return Success;
     };
     const int end = RunAndReport(finish, failed);
-    return AsSeen(end == Success ? code : end, failed);
+    return Common::AsWritten("qdv12host", end == Success ? code : end, failed);
 }
 
 } // namespace

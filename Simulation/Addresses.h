@@ -6,10 +6,9 @@
 /// How the address space of a camera is divided: bootstrap registers, registers of the camera's own, functions.
 namespace Simulation {
 
-constexpr std::size_t discoverySize = 0xF8; ///< the bootstrap registers that a discovery acknowledge is made of
-constexpr std::uint32_t privilegeAddress = 0x00000A00; ///< of the control channel privilege
-constexpr std::uint32_t bootstrapEnd = 0x00010000;     ///< below it the standard rules
-constexpr std::uint32_t firstFunction = 0x01000000;    ///< from there on each function has functionSize addresses
+constexpr std::size_t discoverySize = 0xF8;         ///< the bootstrap registers that a discovery acknowledge is made of
+constexpr std::uint32_t bootstrapEnd = 0x00010000;  ///< below it the standard rules
+constexpr std::uint32_t firstFunction = 0x01000000; ///< from there on each function has functionSize addresses
 constexpr std::uint32_t functionSize = 0x00010000;
 constexpr std::uint32_t firstInternal =
     0xE0000000; ///< from there on is the camera's internal state, which no host reaches

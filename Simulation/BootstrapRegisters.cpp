@@ -1,5 +1,6 @@
 #include "Simulation/BootstrapRegisters.h"
 
+#include "Common/Bootstrap.h"
 #include "Simulation/Addresses.h"
 #include "Simulation/Description.h"
 
@@ -49,6 +50,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
     using enum Role;
     std::string file = identity.model; // an address has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
+    using namespace Common::Bootstrap;
     // clang-format off
     return {
         // name                        address role         kind and power-up value
@@ -62,11 +64,11 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"currentsubnetmask",          0x0034, Status,      Word(IPAddress(255, 255, 255, 0))},
         {"currentdefaultgateway",      0x0044, Status,      Word(IPAddress(192, 168, 1, 1))},
         {"manufacturername",           0x0048, Fixed,       Text(32, "Simulation")},
-        {"modelname",                  0x0068, Fixed,       Text(32, identity.model)},
+        {"modelname",                  modelName, Fixed,       Text(modelNameLength, identity.model)},
         {"deviceversion",              0x0088, Fixed,       Text(32, "1.0")},
         {"manufacturerinfo",           0x00A8, Fixed,       Text(48, "A camera that lives in memory")},
         {"bootstrapserialnumber",      0x00D8, Fixed,       Text(16, identity.serial)},
-        {"userdefinedname",            0x00E8, NonVolatile, Text(16, "")},
+        {"userdefinedname",            userDefinedName, NonVolatile, Text(userDefinedNameLength, "")},
         {"firsturl",                   0x0200, Fixed,       Text(512, LocalUrl(file, identity.description.size()))},
         {"secondurl",                  0x0400, Fixed,       Text(512, "http://192.168.1.10/" + file + ".xml")},
         {"interfaces",                 0x0600, Fixed,       Word(1)},
@@ -79,13 +81,13 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"heartbeat",                  0x0938, Channel,     Word(3000)},                // milliseconds
         {"tickfrequencyhigh",          0x093C, Fixed,       Word(0)},
         {"tickfrequencylow",           0x0940, Fixed,       Word(1000000)},             // the camera counts microseconds
-        {"clockcontrol",               0x0944, Channel,     Word(0)},
-        {"clockhigh",                  0x0948, Channel,     Word(0)},
-        {"clocklow",                   0x094C, Channel,     Word(0)},
+        {"timestampcontrol",               0x0944, Channel,     Word(0)},
+        {"timestamphigh",                  0x0948, Channel,     Word(0)},
+        {"timestamplow",                   0x094C, Channel,     Word(0)},
         {"gvcpconfiguration",          0x0954, Volatile,    Word(0)},
-        {"privilege",                  privilegeAddress, Channel, Word(0)},
-        {"applicationport",            0x0A04, Channel,     Word(0)},
-        {"applicationaddress",         0x0A14, Channel,     Word(0)},
+        {"privilege",                  controlChannelPrivilege, Channel, Word(0)},
+        {"applicationport",            primaryApplicationPort, Channel,     Word(0)},
+        {"applicationaddress",         primaryApplicationAddress, Channel,     Word(0)},
         {"streamport",                 0x0D00, Channel,     Word(0)},
         {"packetsize",                 0x0D04, Volatile,    Word(1404)},
         {"packetdelay",                0x0D08, Volatile,    Word(0)},

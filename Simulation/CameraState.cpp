@@ -1,10 +1,9 @@
 #include "Simulation/CameraState.h"
 
+#include "Common/ReplaceFile.h"
 #include "Simulation/Identity.h"
 
 #include <nlohmann/json.hpp>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -216,18 +215,10 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
                        {"registers", ToJson(space, space.Save(savedRoles))},
                        {"settings sets", sets}};
 
-    const std::filesystem::path fresh = path.string() + ".new" + std::to_string(getpid());
-    std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
-    out << Formatted(file, 3, "") << '\n';
-    out.close();
-    std::error_code error(errno, std::generic_category());
-    if (out) {
-        std::filesystem::rename(fresh, path, error);
-    }
-    if (!out || error) {
-        std::error_code ignored;
-        std::filesystem::remove(fresh, ignored);
-        Refuse(path, "it cannot be written (" + error.message() + ")");
+    try {
+        Common::ReplaceFile(path, Lines(file, 3, "") + '\n');
+    } catch (const std::system_error& error) {
+        Refuse(path, "it cannot be written (" + error.code().message() + ")");
     }
 }
 

@@ -1,27 +1,14 @@
 #include "Simulation/Faults.h"
 
+#include "Common/Number.h"
+
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <utility>
 
 namespace Simulation {
 
 namespace {
-
-/// A whole text as a number: decimal, or hexadecimal after "0x".
-std::optional<std::int64_t> ParseNumber(std::string_view text) {
-    const bool negative = text.starts_with('-');
-    text.remove_prefix(negative ? 1 : 0);
-    const bool hexadecimal = text.starts_with("0x");
-    text.remove_prefix(hexadecimal ? 2 : 0);
-    std::uint32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, hexadecimal ? 16 : 10);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        return std::nullopt;
-    }
-    return negative ? -std::int64_t{number} : std::int64_t{number};
-}
 
 /// "kind:register" or "kind:register=number", taken apart.
 struct FaultSpec {
@@ -44,7 +31,7 @@ FaultSpec Parse(std::string_view text) {
         spec.target = spec.text.substr(colon + 1, equals == std::string::npos ? equals : equals - colon - 1);
     }
     if (equals != std::string::npos) {
-        spec.number = ParseNumber(std::string_view(spec.text).substr(equals + 1));
+        spec.number = Common::ParseNumber(std::string_view(spec.text).substr(equals + 1));
         if (!spec.number) {
             Refuse(spec, "what stands behind = is not a number");
         }
@@ -65,7 +52,7 @@ const Register* Target(const FaultSpec& spec, const RegisterSpace& space) {
     if (const Register* const named = space.Find(spec.target)) {
         return named;
     }
-    const auto number = ParseNumber(spec.target);
+    const auto number = Common::ParseNumber(spec.target);
     if (!number || *number < 0) {
         Refuse(spec, "this camera has no register \"" + spec.target + "\"");
     }
@@ -106,7 +93,7 @@ std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultSpec& spec, const Re
         const std::uint64_t bytes = instance.selector.size() + instance.value.size();
         return {target->address, target->address + bytes - 1};
     }
-    const auto address = static_cast<std::uint32_t>(*ParseNumber(spec.target));
+    const auto address = static_cast<std::uint32_t>(*Common::ParseNumber(spec.target));
     if (!space.HasAddresses(address, sizeof address)) {
         Refuse(spec, "this camera has no address " + spec.target);
     }

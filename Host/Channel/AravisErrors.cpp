@@ -1,6 +1,6 @@
 #include "Host/Channel/AravisErrors.h"
 
-#include "Host/Text.h"
+#include "Common/Text.h"
 
 #include <arv.h>
 
@@ -30,7 +30,7 @@ std::string Reason(const GError& error) {
             }
         }
     }
-    return InOneLine(error.message);
+    return Common::InOneLine(error.message);
 }
 
 void SilenceAravis() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Host/Format.h"
+#include "Common/Number.h"
 
 #include <cstdint>
 #include <stdexcept>
@@ -13,7 +13,7 @@ class ChannelError : public std::runtime_error {
 public:
     /// @param operation of the port, such as "WriteRegister"
     ChannelError(const std::string& operation, std::uint32_t address, const std::string& reason)
-        : std::runtime_error(operation + " at " + Hex(address) + " failed: " + reason) {}
+        : std::runtime_error(operation + " at " + Common::Hex(address) + " failed: " + reason) {}
 
     /// Which camera function was being called; the first to say so is right, it is the innermost call.
     void SetFunction(const std::string& name) {

@@ -8,10 +8,6 @@ namespace Host {
 
 // What is asked of the network beside Aravis. Addresses are IPv4.
 
-[[nodiscard]] bool IsAddress(const std::string& text);
-/// "192.168.1.10" for 0xC0A8010A
-[[nodiscard]] std::string PrintAddress(std::uint32_t address);
-
 /// Whether discovery reaches beyond this machine: by a network interface that is up, has an IPv4 address and is neither
 /// loopback nor a point-to-point link, which Aravis passes over.
 [[nodiscard]] bool HasNetworkInterface();

@@ -1,5 +1,6 @@
 #include "Host/Channel/Discovery.h"
 
+#include "Common/Bootstrap.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/Datagrams.h"
 #include "Host/Errors.h"
@@ -10,14 +11,12 @@ namespace Host {
 
 namespace {
 
-constexpr std::uint32_t userDefinedName = 0x00E8; // bootstrap register of the GigE Vision standard
-constexpr std::uint16_t userDefinedNameLength = 16;
-
 std::string Text(const char* text) { return text == nullptr ? "" : text; }
 
 /// Aravis does not tell it.
 std::string UserNameOf(const std::string& address) {
     try {
+        using namespace Common::Bootstrap;
         return ReadTextWithoutControl(address, userDefinedName, userDefinedNameLength).value_or("");
     } catch (const OpenError&) { // the camera stands in another subnet, and cannot be asked
         return "";

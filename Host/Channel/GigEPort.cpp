@@ -1,36 +1,36 @@
 #include "Host/Channel/GigEPort.h"
 
+#include "Common/Bootstrap.h"
+#include "Common/Ipv4.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/Datagrams.h"
 #include "Host/Channel/DeferredTermination.h"
-#include "Host/Channel/LittleEndian.h"
 #include "Host/Errors.h"
 
 #include <arv.h>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdlib>
 #include <cstring>
 #include <thread>
 
 namespace Host {
 
+using namespace Common::Bootstrap;
+
 namespace {
 
 constexpr std::uint32_t wordSize = 4;
 constexpr std::uint64_t largestPiece = 512; ///< that a packet of the control channel surely carries
 
-constexpr int busyTrials = 6;                      ///< of an access ...
+constexpr int busyAttempts = 6;                    ///< of an access ...
 constexpr std::chrono::milliseconds busyPause{20}; ///< ... and the time between them
 
-// Bootstrap registers of the GigE Vision standard.
-constexpr std::uint32_t modelName = 0x0068;
-constexpr std::uint32_t modelNameLength = 32;
-constexpr std::uint32_t privilege = 0x0A00;
-constexpr std::uint32_t controllerPort = 0x0A04;
-constexpr std::uint32_t controllerAddress = 0x0A14;
+// What the plug-in reads from a block or a text as well: words lie in memory as the camera has them.
+static_assert(std::endian::native == std::endian::little, "cameras have the low byte of a number first");
 
 struct Unref {
     void operator()(void* object) const { g_object_unref(object); }
@@ -47,13 +47,13 @@ bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_D
 /// Makes an access, again and again for a while as long as the camera is busy.
 /// @return how it failed, or nothing
 Error Try(const std::function<bool(GError**)>& access) {
-    for (int trial = 1;; ++trial) {
+    for (int attempt = 1;; ++attempt) {
         GError* failure = nullptr;
         if (access(&failure)) {
             return nullptr;
         }
         Error error(failure);
-        if (trial == busyTrials || !Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY)) {
+        if (attempt == busyAttempts || !Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY)) {
             return error;
         }
         std::this_thread::sleep_for(busyPause);
@@ -65,7 +65,7 @@ ArvDevice* Open(const std::string& address) {
     const Address from(g_inet_address_new_from_string(local.c_str()));
     const Address to(g_inet_address_new_from_string(address.c_str()));
     SilenceAravis();
-    for (int trial = 1;; ++trial) {
+    for (int attempt = 1;; ++attempt) {
         GError* failure = nullptr;
         if (ArvDevice* const opened = arv_gv_device_new(from.get(), to.get(), &failure)) {
             return opened;
@@ -74,7 +74,7 @@ ArvDevice* Open(const std::string& address) {
         // Of a camera that was busy just then, the description may be missing; Aravis opens none without.
         const bool mayBeBusy = error && (Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY) ||
                                          Is(*error, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND));
-        if (trial == busyTrials || !mayBeBusy) {
+        if (attempt == busyAttempts || !mayBeBusy) {
             throw OpenError("the camera at " + address +
                             " could not be opened: " + (error ? Reason(*error) : "unknown error"));
         }
@@ -118,14 +118,15 @@ void GigEPort::TryToTakeControl() {
 }
 
 std::string GigEPort::WhoControls() const {
-    const std::string where = PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
+    const std::string where =
+        Common::PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
     return camera + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
 }
 
 void GigEPort::RequireUnbrokenControl() {
     if (controls && lost == Lost::No) { // else whoever found that has told it
         if (IsLost()) {
-            FailAsLost({"ReadRegister", privilege, false});
+            FailAsLost({"ReadRegister", controlChannelPrivilege, false});
         }
     }
 }
@@ -194,7 +195,8 @@ std::uint32_t GigEPort::ReadOptional(std::uint32_t address) {
 }
 
 GigEPort::Controller GigEPort::ReadController() {
-    return {ReadOptional(privilege), ReadOptional(controllerAddress), ReadOptional(controllerPort)};
+    return {ReadOptional(controlChannelPrivilege), ReadOptional(primaryApplicationAddress),
+            ReadOptional(primaryApplicationPort)};
 }
 
 bool GigEPort::IsLost() {
@@ -257,26 +259,24 @@ void GigEPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
 
 std::uint32_t GigEPort::ReadRegister(std::uint32_t address) {
     const Operation operation{"ReadRegister", address, false};
+    std::uint32_t value = 0;
     if (address % wordSize != 0) {
-        std::array<std::uint8_t, wordSize> bytes{};
-        Read(operation, bytes.data(), bytes.size());
-        return static_cast<std::uint32_t>(FromLittleEndian(bytes));
+        Read(operation, reinterpret_cast<std::uint8_t*>(&value), sizeof value);
+        return value;
     }
-    guint32 value = 0;
     Access(operation,
            [&](GError** error) { return arv_device_read_register(device.get(), address, &value, error) != FALSE; });
     return value;
 }
 
 void GigEPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
-    const auto bytes = ToLittleEndian(value);
-    Write({"WriteRegisterPair", address, true}, bytes.data(), bytes.size());
+    Write({"WriteRegisterPair", address, true}, reinterpret_cast<const std::uint8_t*>(&value), sizeof value);
 }
 
 std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
-    std::array<std::uint8_t, sizeof(std::uint64_t)> bytes{};
-    Read({"ReadRegisterPair", address, false}, bytes.data(), bytes.size());
-    return FromLittleEndian(bytes);
+    std::uint64_t value = 0;
+    Read({"ReadRegisterPair", address, false}, reinterpret_cast<std::uint8_t*>(&value), sizeof value);
+    return value;
 }
 
 unsigned char* GigEPort::ReadBlock(std::uint32_t address, std::uint32_t length) {

@@ -1,7 +1,7 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Text.h"
 #include "Host/Format.h"
-#include "Host/Text.h"
 
 namespace Host {
 
@@ -22,8 +22,8 @@ Json ToJson(const PluginCheck& check) {
 }
 
 std::string Describe(const PluginCheck& check) {
-    std::string text = "path    " + InOneLine(check.path) + "\nloader  " +
-                       (check.loadError.empty() ? "loaded" : InOneLine(check.loadError));
+    std::string text = "path    " + Common::InOneLine(check.path) + "\nloader  " +
+                       (check.loadError.empty() ? "loaded" : Common::InOneLine(check.loadError));
     for (const auto& [name, found] : check.exports) {
         text += "\nexport  " + Pad(name, 14) + (found ? "found" : "missing");
     }

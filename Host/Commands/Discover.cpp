@@ -1,10 +1,10 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Text.h"
 #include "Host/Channel/Datagrams.h"
 #include "Host/Channel/Discovery.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"
-#include "Host/Text.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ namespace Host {
 namespace {
 
 std::string Describe(const FoundCamera& camera, bool served) {
-    const auto column = [](const std::string& text, std::size_t width) { return Pad(Escaped(text) + ' ', width); };
+    const auto column = [](const std::string& text, std::size_t width) { return Pad(Common::Escaped(text) + ' ', width); };
     std::string line = column(camera.address, 17) + column(camera.mac, 19) + column(camera.model, 16) +
                        column(camera.serial, 16) + column(camera.userName, 16) + (served ? "" : "(not served)");
     return line.erase(line.find_last_not_of(' ') + 1);

@@ -1,10 +1,10 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Suggestion.h"
 #include "Host/CommandLine.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Interrupts.h"
 #include "Host/LineReader.h"
-#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <iostream>
@@ -98,7 +98,7 @@ std::vector<std::string> Completions(const Camera& camera, const std::string& be
 int RunLine(Program& program, const std::vector<std::string>& words, bool json) {
     if (const auto names = CommandNames();
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
-        throw UsageError("unknown command \"" + words.front() + '"' + Simulation::Suggestion(words.front(), names));
+        throw UsageError("unknown command \"" + words.front() + '"' + Common::Suggestion(words.front(), names));
     }
     const Request request = ParseShellLine(words);
     if (request.command == nullptr) {

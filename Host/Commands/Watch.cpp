@@ -1,5 +1,6 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Number.h"
 #include "Host/Assignment.h"
 #include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
@@ -7,7 +8,6 @@
 #include "Host/Interrupts.h"
 #include "Host/Settings/UncachedCamera.h"
 
-#include <charconv>
 #include <iostream>
 
 namespace Host {
@@ -140,12 +140,11 @@ std::optional<milliseconds> DurationOf(const Invocation& invocation) {
     if (text.empty()) {
         return std::nullopt;
     }
-    double seconds = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    if (error != std::errc() || end != text.data() + text.size() || !(seconds >= 0) || seconds > 1e9) {
+    const auto seconds = Common::ParseWhole<double>(text);
+    if (!seconds || !(*seconds >= 0) || *seconds > 1e9) {
         throw UsageError("\"" + text + "\" is no number of seconds");
     }
-    return milliseconds(static_cast<std::int64_t>(seconds * 1000));
+    return milliseconds(static_cast<std::int64_t>(*seconds * 1000));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
+#include "Common/Utf8.h"
 #include "Host/Functions/Codes.h"
 #include "Host/Functions/Names.h"
 #include "Host/Functions/Rounding.h"
 #include "Host/Functions/Tables.h"
-#include "Host/Utf8.h"
 
 #include <SDK4/SDK4.h>
 
@@ -32,7 +32,8 @@ void SetDHCP(IGigECamera& camera, SDK4_ENUM_SWITCH on) {
 
 constexpr std::size_t userNameLength = 15; ///< which the camera holds, before the NUL
 void SetUserName(IGigECamera& camera, const char* name) {
-    camera.SetUserDefinedName(CutAtCharacter(name, userNameLength).c_str()); // else the library cuts it at any byte
+    camera.SetUserDefinedName(
+        Common::CutAtCharacter(name, userNameLength).c_str()); // else the library cuts it at any byte
 }
 
 int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the one sensor of either family

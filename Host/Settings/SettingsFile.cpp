@@ -1,10 +1,10 @@
 #include "Host/Settings/SettingsFile.h"
 
+#include "Common/ReplaceFile.h"
+#include "Common/Suggestion.h"
 #include "Host/Describe.h"
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
-#include "Host/Settings/ReplaceFile.h"
-#include "Simulation/Suggestion.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -89,7 +89,7 @@ public:
     [[nodiscard]] const Instance& Find(const std::string& name, const std::string& file) const {
         const auto found = std::find(names.begin(), names.end(), name);
         if (found == names.end()) {
-            Fail(file, "unknown function \"" + name + '"' + Simulation::Suggestion(name, names));
+            Fail(file, "unknown function \"" + name + '"' + Common::Suggestion(name, names));
         }
         return instances[static_cast<std::size_t>(found - names.begin())];
     }
@@ -197,7 +197,7 @@ void WriteSettings(const Settings& settings, const std::string& file) {
         Fail(file, "is no regular file; " + std::string(standardStream) + " stands for standard output");
     }
     try {
-        ReplaceFile(file, text);
+        Common::ReplaceFile(file, text);
     } catch (const std::system_error& error) {
         const std::string why = "cannot be written: " + error.code().message();
         if (IsOfName(error.code())) {

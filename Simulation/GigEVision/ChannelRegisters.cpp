@@ -8,37 +8,37 @@ namespace Simulation::GigEVision {
 namespace {
 
 constexpr std::uint32_t leastHeartbeat = 500;
-constexpr std::string_view writable[] = {"heartbeat", "clockcontrol", "streamport", "streamdestination"};
+constexpr std::string_view writable[] = {"heartbeat", "timestampcontrol", "streamport", "streamdestination"};
 
 } // namespace
 
 ChannelRegisters::ChannelRegisters(RegisterSpace& ofCamera, std::chrono::microseconds start)
     : space(ofCamera),
       powerUp(ofCamera.Save({Role::Channel})),
-      clockStart(start) {}
+      timestampOrigin(start) {}
 
 bool ChannelRegisters::IsWritable(const Register& entry) {
     return std::find(std::begin(writable), std::end(writable), entry.name) != std::end(writable);
 }
 
 void ChannelRegisters::Write(const Register& entry, std::uint32_t value, std::chrono::microseconds time) {
-    if (entry.name == "clockcontrol") {
-        UseClock(value, time); // reads as zero: it is a command
+    if (entry.name == "timestampcontrol") {
+        ControlTimestamp(value, time); // reads as zero: it is a command
     } else {
         space.Set(entry.name, {entry.name == "heartbeat" ? std::max(value, leastHeartbeat) : value});
     }
 }
 
-void ChannelRegisters::UseClock(std::uint32_t order, std::chrono::microseconds time) {
+void ChannelRegisters::ControlTimestamp(std::uint32_t command, std::chrono::microseconds time) {
     const std::uint32_t reset = 1;
     const std::uint32_t latch = 2;
-    if ((order & latch) != 0) {
-        const auto ticks = static_cast<std::uint64_t>((time - clockStart).count());
-        space.Set("clockhigh", {static_cast<std::uint32_t>(ticks >> 32)});
-        space.Set("clocklow", {static_cast<std::uint32_t>(ticks)});
+    if ((command & latch) != 0) {
+        const auto ticks = static_cast<std::uint64_t>((time - timestampOrigin).count());
+        space.Set("timestamphigh", {static_cast<std::uint32_t>(ticks >> 32)});
+        space.Set("timestamplow", {static_cast<std::uint32_t>(ticks)});
     }
-    if ((order & reset) != 0) {
-        clockStart = time;
+    if ((command & reset) != 0) {
+        timestampOrigin = time;
     }
 }
 
@@ -62,7 +62,7 @@ void ChannelRegisters::CloseStream() {
 
 void ChannelRegisters::Restart(std::chrono::microseconds time) {
     space.Load(powerUp);
-    clockStart = time;
+    timestampOrigin = time;
 }
 
 } // namespace Simulation::GigEVision

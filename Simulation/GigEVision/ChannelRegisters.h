@@ -27,11 +27,11 @@ public:
     void Restart(std::chrono::microseconds time);
 
 private:
-    void UseClock(std::uint32_t order, std::chrono::microseconds time);
+    void ControlTimestamp(std::uint32_t command, std::chrono::microseconds time);
 
     RegisterSpace& space;
     const RegisterSpace::Content powerUp;
-    std::chrono::microseconds clockStart;
+    std::chrono::microseconds timestampOrigin;
 };
 
 } // namespace Simulation::GigEVision

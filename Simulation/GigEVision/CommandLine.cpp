@@ -1,12 +1,10 @@
 #include "Simulation/GigEVision/CommandLine.h"
 
+#include "Common/Ipv4.h"
+#include "Common/Number.h"
 #include "Simulation/Cameras.h"
-#include "Simulation/Seed.h"
 
 #include <CLI/CLI.hpp>
-#include <arpa/inet.h>
-
-#include <system_error>
 
 namespace Simulation::GigEVision {
 
@@ -36,15 +34,13 @@ std::string Listed(const std::vector<std::string>& names) {
     return list;
 }
 
-std::uint32_t ParseAddress(const std::string& text) {
-    in_addr parsed{};
-    const bool isAddress = inet_pton(AF_INET, text.c_str(), &parsed) == 1;
-    const std::uint32_t address = ntohl(parsed.s_addr);
-    const std::uint32_t firstGroup = 0xE0000000; // from there on are groups and broadcasts
-    if (!isAddress || address == 0 || address >= firstGroup) {
+std::uint32_t DeviceAddress(const std::string& text) {
+    const auto address = Common::ParseAddress(text);
+    const std::uint32_t firstMulticast = 0xE0000000; // from there on are groups and broadcasts
+    if (!address || *address == 0 || *address >= firstMulticast) {
         throw UsageError("--address: \"" + text + "\" is not the IPv4 address of one device");
     }
-    return address;
+    return *address;
 }
 
 void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& delay, std::uint64_t& reboot) {
@@ -75,30 +71,30 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& d
 
 } // namespace
 
-std::optional<Order> ParseCommandLine(int argc, char** argv) {
+std::optional<Options> ParseCommandLine(int argc, char** argv) {
     CLI::App app("A simulated camera as a GigE Vision device on UDP port 3956, until it is interrupted.", "qdv12sim");
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
     app.footer("Models: " + Listed(ModelNames()) +
                "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
-    Order order;
+    Options options;
     std::string address = "127.0.0.1";
     std::uint64_t delay = 0;
     std::uint64_t reboot = 0;
-    app.add_option("MODEL", order.model, "The camera's model, such as Orvik-710C")->type_name("")->required();
+    app.add_option("MODEL", options.model, "The camera's model, such as Orvik-710C")->type_name("")->required();
     app.add_option("--address", address, "The address of this machine that the camera takes (127.0.0.1)")
         ->type_name("ADDRESS");
-    app.add_option("--seed", order.seed, "Chooses the world around the camera, and what goes wrong when")
-        ->check(SeedFault)
+    app.add_option("--seed", options.seed, "Chooses the world around the camera, and what goes wrong when")
+        ->check(Common::SeedFault)
         ->type_name("N");
-    app.add_option("--state", order.state, "Keeps the camera in a file between two runs")->type_name("FILE");
-    app.add_option("--serial", order.serial, "Its serial number, to tell it from others of its model")
+    app.add_option("--state", options.state, "Keeps the camera in a file between two runs")->type_name("FILE");
+    app.add_option("--serial", options.serial, "Its serial number, to tell it from others of its model")
         ->type_name("TEXT");
-    app.add_option("--mac", order.mac, "Its MAC address, such as 02:00:12:07:07:11")->type_name("MAC");
-    app.add_option("--fault", order.faults, "Plants a fault in the camera, such as ignore:gain")
+    app.add_option("--mac", options.mac, "Its MAC address, such as 02:00:12:07:07:11")->type_name("MAC");
+    app.add_option("--fault", options.faults, "Plants a fault in the camera, such as ignore:gain")
         ->type_name("TEXT")
         ->allow_extra_args(false); // else it would take the model for a fault too
-    app.add_option("--record", order.record, "Writes what is received and sent to a pcap file")->type_name("FILE");
-    AddDisturbances(app, order.disturbances, delay, reboot);
+    app.add_option("--record", options.record, "Writes what is received and sent to a pcap file")->type_name("FILE");
+    AddDisturbances(app, options.disturbances, delay, reboot);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -108,12 +104,12 @@ std::optional<Order> ParseCommandLine(int argc, char** argv) {
         app.exit(error);
         return std::nullopt;
     }
-    order.address = ParseAddress(address);
-    order.disturbances.delay = std::chrono::milliseconds(delay);
+    options.address = DeviceAddress(address);
+    options.disturbances.delay = std::chrono::milliseconds(delay);
     if (reboot != 0) {
-        order.disturbances.rebootAfter = reboot;
+        options.disturbances.rebootAfter = reboot;
     }
-    return order;
+    return options;
 }
 
 } // namespace Simulation::GigEVision

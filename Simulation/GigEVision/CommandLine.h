@@ -1,17 +1,17 @@
 #pragma once
 
+#include "Common/ErrorExit.h"
 #include "Simulation/GigEVision/Disturbances.h"
 
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace Simulation::GigEVision {
 
 /// What the user asks for.
-struct Order {
+struct Options {
     std::string model{};
     std::uint32_t address = 0;
     std::uint64_t seed = 0;
@@ -23,13 +23,10 @@ struct Order {
     std::string record{}; ///< a file for packets; none if empty
 };
 
-/// What is wrong with that, in words.
-struct UsageError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+using Common::UsageError;
 
 /// Reads the arguments of the program. Nothing when only help was asked for, which is printed then.
 /// @throws UsageError
-[[nodiscard]] std::optional<Order> ParseCommandLine(int argc, char** argv);
+[[nodiscard]] std::optional<Options> ParseCommandLine(int argc, char** argv);
 
 } // namespace Simulation::GigEVision

@@ -1,6 +1,6 @@
 #include "Simulation/GigEVision/ControlChannel.h"
 
-#include "Simulation/Addresses.h"
+#include "Common/Bootstrap.h"
 
 namespace Simulation::GigEVision {
 
@@ -11,12 +11,13 @@ constexpr std::uint32_t controlAccess = 2;
 
 } // namespace
 
-bool ControlChannel::MayRead(const Sender& sender, std::uint32_t address, std::size_t length) const {
-    const bool privilegeAlone = address == privilegeAddress && length == sizeof(std::uint32_t);
+bool ControlChannel::MayRead(const Endpoint& sender, std::uint32_t address, std::size_t length) const {
+    const bool privilegeAlone =
+        address == Common::Bootstrap::controlChannelPrivilege && length == sizeof(std::uint32_t);
     return privilegeAlone || !IsHeld() || controller == sender || registers.Privilege() != exclusiveAccess;
 }
 
-Status ControlChannel::SetPrivilege(const Sender& sender, std::uint32_t privilege, Time now) {
+Status ControlChannel::SetPrivilege(const Endpoint& sender, std::uint32_t privilege, Time now) {
     if (IsHeld() && controller != sender) {
         return Status::AccessDenied;
     }
@@ -25,7 +26,7 @@ Status ControlChannel::SetPrivilege(const Sender& sender, std::uint32_t privileg
         return Status::Success;
     }
     controller = sender;
-    lastHeard = now;
+    lastRequest = now;
     registers.ShowControl((privilege & exclusiveAccess) != 0 ? exclusiveAccess : controlAccess, sender.address,
                           sender.port);
     return Status::Success;
@@ -36,9 +37,9 @@ void ControlChannel::Release() {
     registers.ShowControl(0, 0, 0);
 }
 
-void ControlChannel::Heard(const Sender& sender, Time now) {
+void ControlChannel::ResetHeartbeat(const Endpoint& sender, Time now) {
     if (controller == sender) {
-        lastHeard = now;
+        lastRequest = now;
     }
 }
 

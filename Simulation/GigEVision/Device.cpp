@@ -1,8 +1,12 @@
 #include "Simulation/GigEVision/Device.h"
 
+#include "Common/Bootstrap.h"
 #include "Simulation/Addresses.h"
 
 namespace Simulation::GigEVision {
+
+using namespace Common::Gvcp;
+using Common::Bootstrap::controlChannelPrivilege;
 
 namespace {
 
@@ -30,9 +34,9 @@ std::optional<Bytes> Refuse(const Request& request, Status status) {
 
 } // namespace
 
-Device::Device(SimulatedCamera& served, const Network& place, Time now)
+Device::Device(SimulatedCamera& served, const IpConfiguration& current, Time now)
     : camera(served),
-      network(place),
+      ip(current),
       channel(served.Registers(), served.Time()),
       memory(served, channel),
       start(now),
@@ -43,9 +47,9 @@ Device::Device(SimulatedCamera& served, const Network& place, Time now)
 
 void Device::ShowAddress() {
     RegisterSpace& space = camera.Registers();
-    const bool reached = ((space.Get("currentdefaultgateway")[0] ^ network.address) & network.mask) == 0;
-    space.Set("currentipaddress", {network.address});
-    space.Set("currentsubnetmask", {network.mask});
+    const bool reached = ((space.Get("currentdefaultgateway")[0] ^ ip.address) & ip.subnetMask) == 0;
+    space.Set("currentipaddress", {ip.address});
+    space.Set("currentsubnetmask", {ip.subnetMask});
     if (!reached) {
         space.Set("currentdefaultgateway", {0});
     }
@@ -68,36 +72,37 @@ void Device::EndControl() {
 }
 
 void Device::Reboot(Time now) {
-    backAt = now + bootTime;
+    bootEnd = now + bootTime;
     control.Release();
-    lastAnswers.Forget();
+    lastAcknowledges.Forget();
     camera.Restart();
     channel.Restart(camera.Time());
     ShowAddress();
 }
 
-std::optional<Bytes> Device::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now, bool isBusy) {
+std::optional<Bytes> Device::Answer(const Endpoint& from, std::span<const std::uint8_t> datagram, Time now,
+                                    bool isBusy) {
     PassTime(now);
     const auto request = Parse(datagram);
     if (!request || IsStarting(now)) {
         return std::nullopt;
     }
-    control.Heard(from, now);
+    control.ResetHeartbeat(from, now);
     if (request->command == Command::Discovery) { // of those who do not know yet what there is, who may use one id
         return request->wantsAcknowledge ? std::optional(Discover(*request)) : std::nullopt;
     }
-    if (const auto* const last = lastAnswers.Find(from, datagram)) {
+    if (const auto* const last = lastAcknowledges.Find(from, datagram)) {
         return *last;
     }
     auto answer = isBusy ? Refuse(*request, Status::Busy) : CarryOut(from, *request, now);
     if (!request->wantsAcknowledge) {
         answer.reset();
     }
-    lastAnswers.Remember(from, datagram, answer);
+    lastAcknowledges.Remember(from, datagram, answer);
     return answer;
 }
 
-std::optional<Bytes> Device::CarryOut(const Sender& from, const Request& request, Time now) {
+std::optional<Bytes> Device::CarryOut(const Endpoint& from, const Request& request, Time now) {
     switch (request.command) {
     case Command::ReadRegister:
         return ReadRegisters(from, request);
@@ -118,7 +123,7 @@ Bytes Device::Discover(const Request& request) {
     return Acknowledge(request, status, status == Status::Success ? identity : Bytes());
 }
 
-Bytes Device::ReadRegisters(const Sender& from, const Request& request) {
+Bytes Device::ReadRegisters(const Endpoint& from, const Request& request) {
     const auto addresses = request.payload;
     const bool wellFormed = !addresses.empty() && addresses.size() % 4 == 0;
     Status status = wellFormed ? Status::Success : Status::InvalidParameter;
@@ -134,7 +139,7 @@ Bytes Device::ReadRegisters(const Sender& from, const Request& request) {
     return Acknowledge(request, status, values);
 }
 
-Bytes Device::WriteRegisters(const Sender& from, const Request& request, Time now) {
+Bytes Device::WriteRegisters(const Endpoint& from, const Request& request, Time now) {
     const auto pairs = request.payload;
     const bool wellFormed = !pairs.empty() && pairs.size() % 8 == 0;
     Status status = wellFormed ? Status::Success : Status::InvalidParameter;
@@ -147,7 +152,7 @@ Bytes Device::WriteRegisters(const Sender& from, const Request& request, Time no
     return AcknowledgeWrite(request, status, written);
 }
 
-Bytes Device::ReadMemory(const Sender& from, const Request& request) {
+Bytes Device::ReadMemory(const Endpoint& from, const Request& request) {
     if (request.payload.size() != 8) {
         return Acknowledge(request, Status::InvalidParameter);
     }
@@ -170,7 +175,7 @@ Bytes Device::ReadMemory(const Sender& from, const Request& request) {
     return Acknowledge(request, status, payload);
 }
 
-Bytes Device::WriteMemory(const Sender& from, const Request& request, Time now) {
+Bytes Device::WriteMemory(const Endpoint& from, const Request& request, Time now) {
     if (request.payload.size() < 5) {
         return AcknowledgeWrite(request, Status::InvalidParameter, 0);
     }
@@ -180,7 +185,7 @@ Bytes Device::WriteMemory(const Sender& from, const Request& request, Time now) 
     const std::uint32_t address = Get32(request.payload);
     const auto bytes = request.payload.subspan(4);
     Status status = Status::AccessDenied;
-    if (address == privilegeAddress && bytes.size() == 4) {
+    if (address == controlChannelPrivilege && bytes.size() == 4) {
         status = WriteWord(from, address, Get32(bytes), now);
     } else if (control.MayWrite(from)) {
         status = memory.Write(address, bytes);
@@ -188,8 +193,8 @@ Bytes Device::WriteMemory(const Sender& from, const Request& request, Time now) 
     return AcknowledgeWrite(request, status, status == Status::Success ? bytes.size() : 0);
 }
 
-Status Device::WriteWord(const Sender& from, std::uint32_t address, std::uint32_t value, Time now) {
-    if (address == privilegeAddress) {
+Status Device::WriteWord(const Endpoint& from, std::uint32_t address, std::uint32_t value, Time now) {
+    if (address == controlChannelPrivilege) {
         const bool wasHeld = control.IsHeld();
         const Status status = control.SetPrivilege(from, value, now);
         if (wasHeld && !control.IsHeld()) {

@@ -9,6 +9,8 @@
 
 namespace Simulation::GigEVision {
 
+using namespace Common::Gvcp;
+
 namespace {
 
 // The camera holds words in the order of the machine that simulates it; those beyond the bootstrap registers go to the
@@ -48,7 +50,7 @@ Status DeviceMemory::Read(std::uint32_t address, std::span<std::uint8_t> bytes) 
             throw PortError("ReadBlock", address, "no block from the camera");
         }
         std::copy_n(block.get(), bytes.size(), bytes.begin());
-        ExchangeWords(address, bytes);
+        SwapBytes(address, bytes);
     });
 }
 
@@ -61,7 +63,7 @@ Status DeviceMemory::Write(std::uint32_t address, std::span<const std::uint8_t> 
     }
     return Try([&] {
         Bytes block(bytes.begin(), bytes.end());
-        ExchangeWords(address, block);
+        SwapBytes(address, block);
         camera.WriteBlock(address, block.data(), static_cast<std::uint32_t>(block.size()));
         for (std::size_t i = 0; i < bytes.size(); i += wordSize) {
             const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
@@ -115,7 +117,7 @@ bool DeviceMemory::IsProtected(std::uint32_t address, std::size_t length) const 
     return false;
 }
 
-void DeviceMemory::ExchangeWords(std::uint32_t address, std::span<std::uint8_t> bytes) const {
+void DeviceMemory::SwapBytes(std::uint32_t address, std::span<std::uint8_t> bytes) const {
     for (std::size_t i = 0; i < bytes.size() && address < bootstrapEnd; i += wordSize) {
         const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
         if (entry != nullptr && Size(*entry) == wordSize) {

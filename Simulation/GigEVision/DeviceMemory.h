@@ -1,13 +1,15 @@
 #pragma once
 
+#include "Common/Gvcp.h"
 #include "Simulation/GigEVision/ChannelRegisters.h"
-#include "Simulation/GigEVision/Gvcp.h"
 #include "Simulation/SimulatedCamera.h"
 
 #include <cstdint>
 #include <span>
 
 namespace Simulation::GigEVision {
+
+using Common::Gvcp::Status;
 
 /// A camera as its control channel shows it: what may be written, and in what order bytes travel. The camera tells
 /// which addresses there are. Below bootstrapEnd words are big-endian and texts are bytes; all other words are
@@ -29,7 +31,7 @@ private:
     [[nodiscard]] Status CheckAddress(std::uint32_t address, std::size_t length) const;
     [[nodiscard]] bool IsProtected(std::uint32_t address, std::size_t length) const;
     /// Exchanges what the camera and the wire have in different byte order.
-    void ExchangeWords(std::uint32_t address, std::span<std::uint8_t> bytes) const;
+    void SwapBytes(std::uint32_t address, std::span<std::uint8_t> bytes) const;
 
     SimulatedCamera& camera;
     ChannelRegisters& channel;

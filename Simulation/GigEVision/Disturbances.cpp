@@ -16,8 +16,9 @@ bool RandomOccurrence::Occurs(std::mt19937_64& random) {
     return cases++ == next;
 }
 
-std::vector<Sending> DisturbedDevice::Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now) {
-    std::vector<Sending> sendings;
+std::vector<DelayedDatagram> DisturbedDevice::Answer(const Endpoint& from, std::span<const std::uint8_t> datagram,
+                                                     Time now) {
+    std::vector<DelayedDatagram> sendings;
     if (drop.Occurs(random)) {
         return sendings;
     }
@@ -32,14 +33,14 @@ std::vector<Sending> DisturbedDevice::Answer(const Sender& from, std::span<const
     return sendings;
 }
 
-std::optional<Bytes> DisturbedDevice::AnswerAtDevice(const Sender& from, std::span<const std::uint8_t> datagram,
+std::optional<Bytes> DisturbedDevice::AnswerAtDevice(const Endpoint& from, std::span<const std::uint8_t> datagram,
                                                      Time now) {
-    const auto request = Parse(datagram);
+    const auto request = Common::Gvcp::Parse(datagram);
     if (request && disturbances.rebootAfter && requests++ >= *disturbances.rebootAfter) {
         disturbances.rebootAfter.reset(); // once
         device.Reboot(now);
     }
-    const bool isBusy = request && request->command != Command::Discovery && nack.Occurs(random);
+    const bool isBusy = request && request->command != Common::Gvcp::Command::Discovery && nack.Occurs(random);
     return device.Answer(from, datagram, now, isBusy);
 }
 

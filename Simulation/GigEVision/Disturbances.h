@@ -21,7 +21,7 @@ struct Disturbances {
 };
 
 /// A datagram that is to be sent some time later.
-struct Sending {
+struct DelayedDatagram {
     Bytes datagram;
     std::chrono::microseconds delay;
 };
@@ -53,12 +53,13 @@ public:
           nack(onTheWay.nack),
           random(seed) {}
 
-    [[nodiscard]] std::vector<Sending> Answer(const Sender& from, std::span<const std::uint8_t> datagram, Time now);
+    [[nodiscard]] std::vector<DelayedDatagram> Answer(const Endpoint& from, std::span<const std::uint8_t> datagram,
+                                                      Time now);
     void PassTime(Time now) { device.PassTime(now); }
 
 private:
     [[nodiscard]] std::chrono::microseconds Delay();
-    [[nodiscard]] std::optional<Bytes> AnswerAtDevice(const Sender& from, std::span<const std::uint8_t> datagram,
+    [[nodiscard]] std::optional<Bytes> AnswerAtDevice(const Endpoint& from, std::span<const std::uint8_t> datagram,
                                                       Time now);
 
     Device& device;

@@ -1,20 +1,25 @@
 #include "Simulation/GigEVision/Recorder.h"
 
-#include "Simulation/GigEVision/Gvcp.h"
+#include "Common/ErrorExit.h"
+#include "Common/Gvcp.h"
 
 #include <sys/time.h>
 
 #include <cerrno>
 #include <cstring>
+#include <stdexcept>
 
 namespace Simulation::GigEVision {
 
+using namespace Common::Gvcp;
+
 namespace {
 
-constexpr std::uint32_t internetHeaderSize = 20;
-constexpr std::uint32_t userHeaderSize = 8;
-constexpr std::uint32_t userDatagram = 17; // the protocol's number
+constexpr std::uint32_t ipHeaderSize = 20;
+constexpr std::uint32_t udpHeaderSize = 8;
+constexpr std::uint32_t udpProtocol = 17;
 constexpr int largestPacket = 65535;
+constexpr const char* notWritten = "recording cannot be written: ";
 
 /// The sum of the 16-bit words, an odd last byte filled up, with the carries added.
 std::uint32_t Sum(std::span<const std::uint8_t> bytes, std::uint32_t sum = 0) {
@@ -33,13 +38,13 @@ void PutChecksum(Bytes& bytes, std::size_t at, std::uint32_t sum) {
     bytes[at + 1] = static_cast<std::uint8_t>(checksum);
 }
 
-Bytes InternetHeader(const Sender& from, const Sender& to, std::uint32_t length, std::uint16_t number) {
+Bytes IpHeader(const Endpoint& from, const Endpoint& to, std::uint32_t length, std::uint16_t number) {
     Bytes header;
     Put16(header, 0x4500); // version 4, five words, ordinary service
-    Put16(header, internetHeaderSize + length);
+    Put16(header, ipHeaderSize + length);
     Put16(header, number);
     Put16(header, 0x4000); // not to be fragmented
-    Put16(header, 64 << 8 | userDatagram);
+    Put16(header, 64 << 8 | udpProtocol);
     Put16(header, 0); // the checksum
     Put32(header, from.address);
     Put32(header, to.address);
@@ -48,8 +53,8 @@ Bytes InternetHeader(const Sender& from, const Sender& to, std::uint32_t length,
 }
 
 /// The UDP header and what it announces.
-Bytes UserDatagram(const Sender& from, const Sender& to, std::span<const std::uint8_t> payload) {
-    const auto length = userHeaderSize + static_cast<std::uint32_t>(payload.size());
+Bytes UdpDatagram(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload) {
+    const auto length = udpHeaderSize + static_cast<std::uint32_t>(payload.size());
     Bytes datagram;
     Put16(datagram, from.port);
     Put16(datagram, to.port);
@@ -60,7 +65,7 @@ Bytes UserDatagram(const Sender& from, const Sender& to, std::span<const std::ui
     Bytes pseudoHeader;
     Put32(pseudoHeader, from.address);
     Put32(pseudoHeader, to.address);
-    Put16(pseudoHeader, userDatagram);
+    Put16(pseudoHeader, udpProtocol);
     Put16(pseudoHeader, length);
     const std::uint32_t sum = Sum(datagram, Sum(pseudoHeader));
     PutChecksum(datagram, 6, sum == 0xFFFF ? 0 : sum); // a checksum of zero would say that there is none
@@ -73,26 +78,28 @@ Recorder::Recorder(const std::string& path)
     : capture(pcap_open_dead(DLT_RAW, largestPacket), &pcap_close),
       file(pcap_dump_open(capture.get(), path.c_str()), &pcap_dump_close) {
     if (file == nullptr) {
-        throw RecordError("recording cannot be written: " + std::string(pcap_geterr(capture.get())));
+        throw std::runtime_error(notWritten + std::string(pcap_geterr(capture.get())));
     }
-    Flush();
-}
-
-void Recorder::Flush() {
-    if (pcap_dump_flush(file.get()) != 0) { // the disk is full, for one
-        throw RecordError(std::string("recording cannot be written: ") + std::strerror(errno));
+    if (pcap_dump_flush(file.get()) != 0) {
+        throw std::runtime_error(notWritten + std::string(std::strerror(errno)));
     }
 }
 
-void Recorder::Record(const Sender& from, const Sender& to, std::span<const std::uint8_t> datagram) {
-    const Bytes behind = UserDatagram(from, to, datagram);
-    Bytes packet = InternetHeader(from, to, static_cast<std::uint32_t>(behind.size()), ++number);
-    packet.insert(packet.end(), behind.begin(), behind.end());
+void Recorder::Record(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> datagram) {
+    if (file == nullptr) {
+        return;
+    }
+    const Bytes udp = UdpDatagram(from, to, datagram);
+    Bytes packet = IpHeader(from, to, static_cast<std::uint32_t>(udp.size()), ++number);
+    packet.insert(packet.end(), udp.begin(), udp.end());
     pcap_pkthdr header{};
     gettimeofday(&header.ts, nullptr);
     header.caplen = header.len = static_cast<bpf_u_int32>(packet.size());
     pcap_dump(reinterpret_cast<unsigned char*>(file.get()), &header, packet.data());
-    Flush();
+    if (pcap_dump_flush(file.get()) != 0) { // the disk is full, for one
+        Common::PrintError("qdv12sim", notWritten + std::string(std::strerror(errno)) + "; nothing more is recorded");
+        file.reset();
+    }
 }
 
 } // namespace Simulation::GigEVision

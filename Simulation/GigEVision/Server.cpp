@@ -1,7 +1,20 @@
 #include "Simulation/GigEVision/Server.h"
 
+#include "Common/Ipv4.h"
+
+#include <asio/buffer.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/udp.hpp>
+#include <asio/signal_set.hpp>
+#include <asio/steady_timer.hpp>
+
+#include <array>
 #include <csignal>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
 namespace Simulation::GigEVision {
@@ -9,21 +22,55 @@ namespace Simulation::GigEVision {
 namespace {
 
 using asio::ip::udp;
+using Common::Gvcp::port;
 
 constexpr std::chrono::milliseconds tick{50};
 
-udp::endpoint EndpointOf(std::uint32_t address) { return {asio::ip::address_v4(address), port}; }
+udp::endpoint At(std::uint32_t address) { return {asio::ip::address_v4(address), port}; }
 
-Sender SenderOf(const udp::endpoint& endpoint) { return {endpoint.address().to_v4().to_uint(), endpoint.port()}; }
+Endpoint EndpointOf(const udp::endpoint& peer) { return {peer.address().to_v4().to_uint(), peer.port()}; }
 
-} // namespace
+class Server {
+public:
+    Server(DisturbedDevice& served, const IpConfiguration& ip);
 
-Server::Server(DisturbedDevice& served, const Network& place) : device(served) {
-    // Without reuse, so that a second device on the address does not go unnoticed.
-    listeners.push_back({udp::socket(context, EndpointOf(place.address)), {place.address, port}});
+    /// @param record may be null
+    void Run(Recorder* record);
+
+private:
+    struct Listener {
+        udp::socket socket;
+        Endpoint self;
+        udp::endpoint peer{};
+        std::array<std::uint8_t, 65536> buffer{};
+    };
+
+    void ListenForBroadcasts(std::uint32_t address);
+    void Receive(Listener& listener);
+    void Handle(const Listener& listener, std::span<const std::uint8_t> datagram);
+    void Send(const udp::endpoint& to, const Bytes& datagram);
+    void SendLater(const udp::endpoint& to, DelayedDatagram delayed);
+    void Tick();
+
+    asio::io_context context{1};
+    DisturbedDevice& device;
+    Recorder* recorder = nullptr;
+    std::deque<Listener> listeners; ///< the first is on the device's address, and all is sent from there
+    asio::steady_timer timer{context};
+    asio::signal_set signals{context, SIGINT, SIGTERM};
+};
+
+Server::Server(DisturbedDevice& served, const IpConfiguration& ip) : device(served) {
+    try {
+        // Without reuse, so that a second device on the address does not go unnoticed.
+        listeners.push_back({udp::socket(context, At(ip.address)), {ip.address, port}});
+    } catch (const asio::system_error& error) {
+        throw std::runtime_error(Common::PrintAddress(ip.address) + ':' + std::to_string(port) +
+                                 " cannot be used: " + error.code().message());
+    }
     ListenForBroadcasts(0xFFFFFFFF);
-    if (place.mask != 0xFFFFFFFF) {
-        ListenForBroadcasts(place.address | ~place.mask);
+    if (ip.subnetMask != 0xFFFFFFFF) {
+        ListenForBroadcasts(ip.address | ~ip.subnetMask);
     }
 }
 
@@ -31,13 +78,14 @@ void Server::ListenForBroadcasts(std::uint32_t address) {
     udp::socket socket(context, udp::v4());
     socket.set_option(udp::socket::reuse_address(true)); // all devices of a machine hear them
     asio::error_code error;
-    socket.bind(EndpointOf(address), error);
+    socket.bind(At(address), error);
     if (!error) { // an interface need not have broadcasts
         listeners.push_back({std::move(socket), {address, port}});
     }
 }
 
-void Server::Run() {
+void Server::Run(Recorder* record) {
+    recorder = record;
     signals.async_wait([this](const asio::error_code&, int) { context.stop(); });
     for (Listener& listener : listeners) {
         Receive(listener);
@@ -60,34 +108,34 @@ void Server::Receive(Listener& listener) {
     listener.socket.async_receive_from(asio::buffer(listener.buffer), listener.peer,
                                        [this, &listener](const asio::error_code& error, std::size_t size) {
                                            if (!error) { // else a datagram that was sent before did not arrive
-                                               Take(listener, std::span(listener.buffer).first(size));
+                                               Handle(listener, std::span(listener.buffer).first(size));
                                            }
                                            Receive(listener);
                                        });
 }
 
-void Server::Take(const Listener& listener, std::span<const std::uint8_t> datagram) {
-    const Sender from = SenderOf(listener.peer);
+void Server::Handle(const Listener& listener, std::span<const std::uint8_t> datagram) {
+    const Endpoint from = EndpointOf(listener.peer);
     if (recorder != nullptr) {
         recorder->Record(from, listener.self, datagram);
     }
-    const auto request = Parse(datagram);
+    const auto request = Common::Gvcp::Parse(datagram);
     const bool broadcast = &listener != &listeners.front();
-    if (broadcast && (!request || request->command != Command::Discovery)) {
+    if (broadcast && (!request || request->command != Common::Gvcp::Command::Discovery)) {
         return;
     }
-    for (Sending& sending : device.Answer(from, datagram, std::chrono::steady_clock::now())) {
-        if (sending.delay.count() == 0) {
-            Send(listener.peer, sending.datagram);
+    for (DelayedDatagram& answer : device.Answer(from, datagram, std::chrono::steady_clock::now())) {
+        if (answer.delay.count() == 0) {
+            Send(listener.peer, answer.datagram);
         } else {
-            SendLater(listener.peer, std::move(sending));
+            SendLater(listener.peer, std::move(answer));
         }
     }
 }
 
-void Server::SendLater(const udp::endpoint& to, Sending sending) {
-    const auto wait = std::make_shared<asio::steady_timer>(context, sending.delay);
-    wait->async_wait([this, wait, to, datagram = std::move(sending.datagram)](const asio::error_code& error) {
+void Server::SendLater(const udp::endpoint& to, DelayedDatagram delayed) {
+    const auto wait = std::make_shared<asio::steady_timer>(context, delayed.delay);
+    wait->async_wait([this, wait, to, datagram = std::move(delayed.datagram)](const asio::error_code& error) {
         if (!error) {
             Send(to, datagram);
         }
@@ -98,8 +146,15 @@ void Server::Send(const udp::endpoint& to, const Bytes& datagram) {
     asio::error_code error;
     listeners.front().socket.send_to(asio::buffer(datagram), to, 0, error);
     if (!error && recorder != nullptr) {
-        recorder->Record(listeners.front().self, SenderOf(to), datagram);
+        recorder->Record(listeners.front().self, EndpointOf(to), datagram);
     }
+}
+
+} // namespace
+
+void Serve(DisturbedDevice& device, const IpConfiguration& ip, const std::function<Recorder*()>& begin) {
+    Server server(device, ip);
+    server.Run(begin());
 }
 
 } // namespace Simulation::GigEVision

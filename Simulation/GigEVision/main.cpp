@@ -1,13 +1,13 @@
+#include "Common/ErrorExit.h"
+#include "Common/Ipv4.h"
+#include "Common/Suggestion.h"
 #include "Simulation/CameraState.h"
 #include "Simulation/Cameras.h"
 #include "Simulation/GigEVision/CommandLine.h"
-#include "Simulation/GigEVision/Network.h"
 #include "Simulation/GigEVision/Server.h"
 #include "Simulation/Identity.h"
-#include "Simulation/Suggestion.h"
 
 #include <csignal>
-#include <cstdio>
 #include <iostream>
 #include <memory>
 
@@ -15,99 +15,100 @@ namespace Simulation::GigEVision {
 
 namespace {
 
-enum ExitCode { AllWell = 0, WrongUsage = 2, NotServed = 3 };
-
-std::string AddressText(std::uint32_t address) { return asio::ip::address_v4(address).to_string(); }
+/// The mask of the network of this machine that the address belongs to; of none, a mask of that address alone.
+std::uint32_t SubnetMaskOf(std::uint32_t address) {
+    std::uint32_t found = 0;
+    for (const Common::Interface& each : Common::Interfaces()) {
+        if (each.address == address) {
+            return each.subnetMask;
+        }
+        if (((each.address ^ address) & each.subnetMask) == 0) { // all of 127.0.0.0/8 is this machine's, for one
+            found = std::max(found, each.subnetMask);
+        }
+    }
+    return found == 0 ? 0xFFFFFFFF : found;
+}
 
 /// Gives the camera the identity that was asked for, whatever the state file says.
-void Name(RegisterSpace& space, const Order& order) {
+void SetIdentity(RegisterSpace& space, const Options& options) {
     const char* option = "--serial: ";
     try {
-        if (order.serial) {
-            space.Load(SerialNumberRegisters(space, *order.serial));
+        if (options.serial) {
+            space.Load(SerialNumberRegisters(space, *options.serial));
         }
         option = "--mac: ";
-        if (order.mac) {
-            space.Load(MacAddressRegisters(*order.mac));
+        if (options.mac) {
+            space.Load(MacAddressRegisters(*options.mac));
         }
     } catch (const IdentityError& error) {
         throw UsageError(option + std::string(error.what()));
     }
 }
 
-std::unique_ptr<SimulatedCamera> SwitchOn(const Order& order) {
-    auto camera = MakeCamera(order.model, {.seed = order.seed});
+std::unique_ptr<SimulatedCamera> SwitchOn(const Options& options) {
+    auto camera = MakeCamera(options.model, {.seed = options.seed});
     if (!camera) {
-        throw UsageError("unknown model \"" + order.model + '"' + Suggestion(order.model, ModelNames()) +
+        throw UsageError("unknown model \"" + options.model + '"' + Common::Suggestion(options.model, ModelNames()) +
                          " (qdv12sim --help lists them)");
     }
-    if (HasState(order.state)) {
-        LoadState(*camera, order.state);
+    if (HasState(options.state)) {
+        LoadState(*camera, options.state);
     }
-    Name(camera->Registers(), order);
-    for (const std::string& fault : order.faults) {
+    SetIdentity(camera->Registers(), options);
+    for (const std::string& fault : options.faults) {
         camera->InjectFault(fault);
     }
     return camera;
 }
 
 /// Tells those who wait for it that the camera can be reached.
-void Announce(const Order& order, const RegisterSpace& space) {
-    std::cout << order.model << " at " << AddressText(order.address) << ':' << port << ", MAC " << MacAddressOf(space)
-              << ", serial number " << SerialNumberOf(space) << std::endl;
+void Announce(const Options& options, const RegisterSpace& space) {
+    std::cout << options.model << " at " << Common::PrintAddress(options.address) << ':' << Common::Gvcp::port
+              << ", MAC " << MacAddressOf(space) << ", serial number " << SerialNumberOf(space) << std::endl;
 }
 
-void Keep(const Order& order, const SimulatedCamera& camera) {
-    if (!order.state.empty()) {
-        SaveState(camera, order.state);
+void SaveStateOf(const SimulatedCamera& camera, const Options& options) {
+    if (!options.state.empty()) {
+        SaveState(camera, options.state);
     }
 }
 
-void Serve(const Order& order) {
-    const Network network{order.address, MaskOf(order.address)};
-    const auto camera = SwitchOn(order);
-    Device device(*camera, network, std::chrono::steady_clock::now());
-    DisturbedDevice disturbed(device, order.disturbances, order.seed);
-    Server server(disturbed, network);
-    std::optional<Recorder> recorder; // after the server, which may find that another camera has address and file
-    if (!order.record.empty()) {
-        recorder.emplace(order.record);
-        server.RecordTo(*recorder);
-    }
-    Keep(order, *camera); // now, since a file that cannot be written would be known too late at the end
-    Announce(order, camera->Registers());
-    try {
-        server.Run();
-    } catch (const RecordError&) { // the disk is full, for one, which does not end the camera's memory
-        Keep(order, *camera);
-        throw;
-    }
-    Keep(order, *camera);
-}
-
-int PrintError(ExitCode code, const std::string& text) {
-    std::cerr << "qdv12sim: " << text << '\n';
-    return code;
+void ServeCamera(const Options& options) {
+    const IpConfiguration ip{options.address, SubnetMaskOf(options.address)};
+    const auto camera = SwitchOn(options);
+    Device device(*camera, ip, std::chrono::steady_clock::now());
+    DisturbedDevice disturbed(device, options.disturbances, options.seed);
+    std::optional<Recorder> recorder;
+    Serve(disturbed, ip, [&] { // only now, since another camera may have address and files
+        if (!options.record.empty()) {
+            recorder.emplace(options.record);
+        }
+        SaveStateOf(*camera, options); // a file that cannot be written would be known too late at the end
+        Announce(options, camera->Registers());
+        return recorder ? &*recorder : nullptr;
+    });
+    SaveStateOf(*camera, options);
 }
 
 int Run(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN); // who reads the record, or the announcement, may go
-    std::optional<Order> order;
+    const auto end = [](Common::ExitCode code, const std::exception& error) {
+        Common::PrintError("qdv12sim", error.what());
+        return code;
+    };
     try {
-        order = ParseCommandLine(argc, argv);
-        if (order) {
-            Serve(*order);
+        const auto options = ParseCommandLine(argc, argv);
+        if (!options) {
+            return Common::AsWritten("qdv12sim", Common::Success, Common::NotOpened);
         }
-        return AllWell;
+        ServeCamera(*options);
+        return Common::Success;
     } catch (const UsageError& error) {
-        return PrintError(WrongUsage, error.what());
+        return end(Common::WrongUsage, error);
     } catch (const FaultError& error) {
-        return PrintError(WrongUsage, error.what());
-    } catch (const asio::system_error& error) {
-        return PrintError(NotServed, AddressText(order->address) + ':' + std::to_string(port) +
-                                         " cannot be used: " + error.code().message());
-    } catch (const std::exception& error) { // the state, the record
-        return PrintError(NotServed, error.what());
+        return end(Common::WrongUsage, error);
+    } catch (const std::exception& error) { // of the address, the state, the record
+        return end(Common::NotOpened, error);
     }
 }
 

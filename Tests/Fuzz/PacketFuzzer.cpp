@@ -19,13 +19,13 @@ namespace {
 
 using Datagram = std::vector<std::uint8_t>;
 using Simulation::GigEVision::Device;
-using Simulation::GigEVision::Sender;
+using Simulation::GigEVision::Endpoint;
 
 constexpr std::size_t headerSize = 8;
 constexpr std::size_t largestDatagram = 548; // 576 bytes of IPv4 without the headers of IP and UDP
 
 constexpr std::array<const char*, 2> models = {"Orvik-710C", "Cerix-MV7"};
-constexpr std::array<Sender, 3> senders = {{{0x7F000001, 4711}, {0x7F000001, 4712}, {0xFFFFFFFF, 0xFFFF}}};
+constexpr std::array<Endpoint, 3> senders = {{{0x7F000001, 4711}, {0x7F000001, 4712}, {0xFFFFFFFF, 0xFFFF}}};
 // Discovery, address, resending, registers, memory, action; events and answers, which no camera is sent; none at all.
 constexpr std::array<std::uint16_t, 16> commands = {0x0080, 0x0080, 0x0082, 0x0082, 0x0084, 0x0084, 0x0086, 0x0086,
                                                     0x0002, 0x0004, 0x0040, 0x0100, 0x00C0, 0x0083, 0x0089, 0x0000};

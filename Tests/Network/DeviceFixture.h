@@ -18,7 +18,7 @@ namespace Network {
 using namespace std::chrono_literals;
 using Simulation::Bytes;
 using Simulation::GigEVision::Device;
-using Simulation::GigEVision::Sender;
+using Simulation::GigEVision::Endpoint;
 using Simulation::GigEVision::Time;
 
 /// Bytes from their hexadecimal digits; blanks are for the reader.
@@ -46,20 +46,20 @@ inline std::string ToHex(const Bytes& bytes) {
     return text;
 }
 
-constexpr Sender one{0x7F000001, 40001};
-constexpr Sender other{0x7F000001, 40002};
+constexpr Endpoint one{0x7F000001, 40001};
+constexpr Endpoint other{0x7F000001, 40002};
 
 /// An Orvik-710C at 127.0.0.77, and two applications that ask it; time stands still unless a test moves it.
 struct DeviceOnCamera {
     /// What is answered, in hexadecimal digits; nothing if nothing is.
-    std::string Ask(const Sender& from, const std::string& request) {
+    std::string Ask(const Endpoint& from, const std::string& request) {
         const auto answer = device.Answer(from, FromHex(request), start + time);
         return answer ? ToHex(*answer) : "";
     }
     std::string Ask(const std::string& request) { return Ask(one, request); }
 
     /// Takes control for the application that asks: control access, or exclusive access.
-    std::string TakeControl(const Sender& from = one, const std::string& kind = "02") {
+    std::string TakeControl(const Endpoint& from = one, const std::string& kind = "02") {
         return Ask(from, "4201 0082 0008 0001 00000a00 000000" + kind);
     }
 

@@ -8,15 +8,15 @@ namespace Network {
 
 namespace {
 
+using Simulation::GigEVision::DelayedDatagram;
 using Simulation::GigEVision::Disturbances;
 using Simulation::GigEVision::DisturbedDevice;
-using Simulation::GigEVision::Sending;
 
 const std::string readOfGain = "4201 0080 0004 0002 14010000";
 
 class DisturbanceTest : public DeviceTest {
 protected:
-    std::vector<Sending> Send(DisturbedDevice& disturbed, const std::string& request) {
+    std::vector<DelayedDatagram> Send(DisturbedDevice& disturbed, const std::string& request) {
         return disturbed.Answer(one, FromHex(request), start + time);
     }
 

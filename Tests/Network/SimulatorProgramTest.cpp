@@ -145,7 +145,7 @@ TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
     std::filesystem::remove(record);
 }
 
-TEST(SimulatorProgramTest, KeepsTheCameraWhenNothingMoreIsRecorded) {
+TEST(SimulatorProgramTest, GoesOnWhenNothingMoreIsRecorded) {
     const std::string address = OwnAddress();
     const std::string record = TemporaryFile("pipe");
     const std::string state = TemporaryFile("state");
@@ -154,10 +154,13 @@ TEST(SimulatorProgramTest, KeepsTheCameraWhenNothingMoreIsRecorded) {
     Simulator simulator({"Orvik-710C", "--address", address, "--record", record, "--state", state});
     ASSERT_NE(simulator.Read().find("Orvik-710C at "), std::string::npos);
     close(reader);
-    Application(address).Send("4201 0080 0004 0001 14010000");
-    EXPECT_EQ(simulator.End(), 3);
-    EXPECT_TRUE(simulator.Read().ends_with("\nqdv12sim: recording cannot be written: Broken pipe\n"))
-        << simulator.Read();
+    const Application application(address);
+    EXPECT_EQ(application.Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
+    EXPECT_EQ(application.Ask("4201 0080 0004 0002 14010000"), "0000 0081 0004 0002 00000000");
+    simulator.Signal(SIGTERM);
+    EXPECT_EQ(simulator.End(), 0);
+    const std::string said = "qdv12sim: recording cannot be written: Broken pipe; nothing more is recorded\n";
+    EXPECT_EQ(simulator.Read().substr(simulator.Read().find('\n') + 1), said); // once
     EXPECT_TRUE(std::filesystem::remove(state));
     std::filesystem::remove(record);
 }
@@ -190,6 +193,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--address", "127.0.0.300"},
          2,
          "--address: \"127.0.0.300\" is not the IPv4 address of one device"},
+        {{"Orvik\x1b[2J"}, 2, "unknown model \"Orvik\\x1B[2J\""},
         {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not the IPv4 address of one device"},
         {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},

@@ -53,7 +53,7 @@ protected:
 TEST_F(HostShellEnds, WithWhatWasSetInTheStateFile) {
     {
         const Running shell("sh", Shell("set gain=9\\n"), STDOUT_FILENO);
-        for (int looks = 0; looks < 200 && Run("get Orvik-390M gain").out != "gain=9\n"; ++looks) {
+        for (int looks = 0; looks < 200 && !Has(Content(state), "\"gain\": [[9]]"); ++looks) {
             usleep(50000);
         }
     } // killed

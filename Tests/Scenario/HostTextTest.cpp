@@ -1,8 +1,8 @@
 #include "Tests/Scenario/HostProcess.h"
 
+#include "Common/Text.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"
-#include "Host/Text.h"
 
 #include <algorithm>
 
@@ -22,14 +22,14 @@ TEST(HostText, IsEscapedWhereATerminalWouldObey) {
         {"\xed\xa0\x80 \xf4\x90\x80\x80 \xe2\x82", "\\xED\\xA0\\x80 \\xF4\\x90\\x80\\x80 \\xE2\\x82"}, // ... cut off
     };
     for (const auto& [text, escaped] : cases) {
-        EXPECT_EQ(Host::Escaped(text), escaped);
-        EXPECT_EQ(Host::Unescaped(escaped), text);
+        EXPECT_EQ(Common::Escaped(text), escaped);
+        EXPECT_EQ(Common::Unescaped(escaped), text);
     }
-    EXPECT_EQ(Host::Unescaped("\\x1b"), "\x1b");
+    EXPECT_EQ(Common::Unescaped("\\x1b"), "\x1b");
     for (const char* wrong : {"\\", "a\\", "\\q", "\\x", "\\x1", "\\xg0", "\\x1G"}) {
-        EXPECT_EQ(Host::Unescaped(wrong), std::nullopt) << wrong;
+        EXPECT_EQ(Common::Unescaped(wrong), std::nullopt) << wrong;
     }
-    EXPECT_EQ(Host::InOneLine("gain: \\x1B\n\u009B"), "gain: \\x1B\\n\\xC2\\x9B");
+    EXPECT_EQ(Common::InOneLine("gain: \\x1B\n\u009B"), "gain: \\x1B\\n\\xC2\\x9B");
 }
 
 TEST(HostText, OfBytesIsTheirWordsOrTheTextInThem) {
@@ -92,8 +92,8 @@ namespace {
 testing::AssertionResult IsHarmless(const std::string& text) {
     std::string rest = text;
     std::erase(rest, '\n');
-    return Host::InOneLine(rest) == rest ? testing::AssertionSuccess()
-                                         : testing::AssertionFailure() << Host::Escaped(text);
+    return Common::InOneLine(rest) == rest ? testing::AssertionSuccess()
+                                           : testing::AssertionFailure() << Common::Escaped(text);
 }
 
 } // namespace

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "Simulation/Register.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 /// GVCP, the control protocol of the GigE Vision standard: its numbers and its packets.
-namespace Simulation::GigEVision {
+namespace Common::Gvcp {
+
+using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::uint16_t port = 3956;
 constexpr std::size_t headerSize = 8;
@@ -55,7 +56,10 @@ struct Request {
 /// long.
 [[nodiscard]] std::optional<Request> Parse(std::span<const std::uint8_t> datagram);
 
+/// The packet of a request that wants an acknowledge.
+[[nodiscard]] Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload);
+
 /// The acknowledge of a request.
 [[nodiscard]] Bytes Acknowledge(const Request& request, Status status, const Bytes& payload = {});
 
-} // namespace Simulation::GigEVision
+} // namespace Common::Gvcp

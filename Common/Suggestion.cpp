@@ -1,4 +1,4 @@
-#include "Simulation/Suggestion.h"
+#include "Common/Suggestion.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <numeric>
 #include <utility>
 
-namespace Simulation {
+namespace Common {
 
 namespace {
 
@@ -42,4 +42,4 @@ std::string Suggestion(std::string_view unknown, const std::vector<std::string>&
     return nearest == nullptr ? "" : "; did you mean \"" + *nearest + "\"?";
 }
 
-} // namespace Simulation
+} // namespace Common

@@ -12,12 +12,12 @@ namespace Simulation::GigEVision {
 
 /// What the device answered to the last request of each of the senders that it heard last. A sender that missed an
 /// acknowledge repeats its request, which must not be carried out twice.
-class LastAnswers {
+class LastAcknowledges {
 public:
     using Answer = std::optional<Bytes>; ///< nothing for a request that is not acknowledged
 
     /// The answer if this was the sender's last request, or null.
-    [[nodiscard]] const Answer* Find(const Sender& sender, std::span<const std::uint8_t> request) const {
+    [[nodiscard]] const Answer* Find(const Endpoint& sender, std::span<const std::uint8_t> request) const {
         const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
             return entry.sender == sender &&
                    std::equal(request.begin(), request.end(), entry.request.begin(), entry.request.end());
@@ -25,7 +25,7 @@ public:
         return found == entries.end() ? nullptr : &found->answer;
     }
 
-    void Remember(const Sender& sender, std::span<const std::uint8_t> request, Answer answer) {
+    void Remember(const Endpoint& sender, std::span<const std::uint8_t> request, Answer answer) {
         std::erase_if(entries, [&](const Entry& entry) { return entry.sender == sender; });
         entries.push_front({sender, {request.begin(), request.end()}, std::move(answer)});
         if (entries.size() > mostSenders) {
@@ -39,7 +39,7 @@ private:
     static constexpr std::size_t mostSenders = 16;
 
     struct Entry {
-        Sender sender;
+        Endpoint sender;
         Bytes request;
         Answer answer;
     };

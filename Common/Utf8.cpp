@@ -1,6 +1,6 @@
-#include "Host/Utf8.h"
+#include "Common/Utf8.h"
 
-namespace Host {
+namespace Common {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::string CutAtCharacter(const std::string& text, std::size_t bytes) {
     return text.substr(0, Continues(text[end]) ? bytes : end); // a text in another encoding
 }
 
-} // namespace Host
+} // namespace Common

@@ -1,11 +1,23 @@
-#include "Simulation/GigEVision/Gvcp.h"
+#include "Common/Gvcp.h"
 
-namespace Simulation::GigEVision {
+namespace Common::Gvcp {
 
 namespace {
 
 constexpr std::uint8_t key = 0x42;
 constexpr std::uint8_t acknowledgeFlag = 0x01;
+
+/// @param first what requests and acknowledges begin with: the key and flags, or the status
+Bytes Packet(std::uint32_t first, std::uint32_t command, std::uint16_t id, const Bytes& payload) {
+    Bytes bytes;
+    bytes.reserve(headerSize + payload.size());
+    Put16(bytes, first);
+    Put16(bytes, command);
+    Put16(bytes, static_cast<std::uint32_t>(payload.size()));
+    Put16(bytes, id);
+    bytes.insert(bytes.end(), payload.begin(), payload.end());
+    return bytes;
+}
 
 } // namespace
 
@@ -39,15 +51,13 @@ std::optional<Request> Parse(std::span<const std::uint8_t> datagram) {
     return request;
 }
 
-Bytes Acknowledge(const Request& request, Status status, const Bytes& payload) {
-    Bytes bytes;
-    bytes.reserve(headerSize + payload.size());
-    Put16(bytes, static_cast<std::uint16_t>(status));
-    Put16(bytes, static_cast<std::uint32_t>(request.command) + 1); // as the standard numbers acknowledges
-    Put16(bytes, static_cast<std::uint32_t>(payload.size()));
-    Put16(bytes, request.id);
-    bytes.insert(bytes.end(), payload.begin(), payload.end());
-    return bytes;
+Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload) {
+    return Packet(key << 8 | acknowledgeFlag, static_cast<std::uint32_t>(command), id, payload);
 }
 
-} // namespace Simulation::GigEVision
+Bytes Acknowledge(const Request& request, Status status, const Bytes& payload) {
+    const std::uint32_t command = static_cast<std::uint32_t>(request.command) + 1; // as the standard numbers them
+    return Packet(static_cast<std::uint32_t>(status), command, request.id, payload);
+}
+
+} // namespace Common::Gvcp

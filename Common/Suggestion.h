@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-namespace Simulation {
+namespace Common {
 
 /// "; did you mean "exposure"?" for the known name that is nearest to an unknown one, or nothing if none is near.
 [[nodiscard]] std::string Suggestion(std::string_view unknown, const std::vector<std::string>& known);
 
-} // namespace Simulation
+} // namespace Common

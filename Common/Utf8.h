@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace Host {
+namespace Common {
 
 /// A character of UTF-8, of so many bytes; a byte that begins none stands for itself.
 struct Character {
@@ -22,4 +22,4 @@ struct Character {
 /// As much of a text as fits into that many bytes, without a part of a character at its end.
 [[nodiscard]] std::string CutAtCharacter(const std::string& text, std::size_t bytes);
 
-} // namespace Host
+} // namespace Common

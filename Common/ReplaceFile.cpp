@@ -1,4 +1,4 @@
-#include "Host/Settings/ReplaceFile.h"
+#include "Common/ReplaceFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,7 +10,7 @@
 #include <system_error>
 #include <utility>
 
-namespace Host {
+namespace Common {
 
 namespace {
 
@@ -26,7 +26,7 @@ class Replacement {
 public:
     explicit Replacement(const std::filesystem::path& replaced)
         : target(replaced),
-          name((replaced.parent_path() / ".qdv12host-XXXXXX").string()),
+          name((replaced.parent_path() / ".qdv12-XXXXXX").string()),
           descriptor(mkostemp(name.data(), O_CLOEXEC)) {
         Require(descriptor >= 0);
     }
@@ -82,4 +82,4 @@ void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
     replacement.TakePlace();
 }
 
-} // namespace Host
+} // namespace Common

@@ -1,12 +1,12 @@
-#include "Host/Text.h"
+#include "Common/Text.h"
 
-#include "Host/Utf8.h"
+#include "Common/Utf8.h"
 
 #include <algorithm>
 #include <cwchar>
 #include <utility>
 
-namespace Host {
+namespace Common {
 
 namespace {
 
@@ -86,4 +86,4 @@ std::size_t Width(std::string_view text) {
     return width;
 }
 
-} // namespace Host
+} // namespace Common

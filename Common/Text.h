@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace Host {
+namespace Common {
 
 // Texts of a camera, of a file or of a user, as a terminal may be shown them: in one line, and without anything that a
 // terminal takes for a command. UTF-8 is shown as it is.
@@ -24,4 +24,4 @@ namespace Host {
 /// How many columns of a terminal an escaped text takes.
 [[nodiscard]] std::size_t Width(std::string_view text);
 
-} // namespace Host
+} // namespace Common

@@ -1,0 +1,22 @@
+#include "Common/ErrorExit.h"
+
+#include "Common/Text.h"
+
+#include <iostream>
+
+namespace Common {
+
+void PrintError(const std::string& program, const std::string& text) {
+    std::cout.flush(); // keeps the order of results and errors where both go to the same place
+    std::cerr << program + ": " + InOneLine(text) + '\n';
+}
+
+int AsWritten(const std::string& program, int code, int failed) {
+    if (std::cout.flush()) {
+        return code;
+    }
+    PrintError(program, "the results could not be written");
+    return code == Success || code == Differs ? failed : code;
+}
+
+} // namespace Common
