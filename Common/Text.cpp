@@ -1,6 +1,6 @@
 #include "Common/Text.h"
 
-#include "Common/Utf8.h"
+#include "Common/Number.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -14,6 +14,35 @@ constexpr std::pair<char, char> named[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}
 constexpr std::string_view digits = "0123456789ABCDEF";
 
 unsigned char Byte(char character) { return static_cast<unsigned char>(character); }
+
+/// A character of UTF-8, of so many bytes; a byte that begins none stands for itself.
+struct Character {
+    std::size_t length;
+    char32_t code;
+    bool valid;
+};
+
+bool Continues(char character) { return (Byte(character) & 0xC0U) == 0x80; }
+
+/// The first character of a text that is not empty.
+Character FirstCharacter(std::string_view text) {
+    const char32_t lead = Byte(text.front());
+    const Character alone{1, lead, lead < 0x80};
+    const std::size_t length = lead < 0xC2 || lead > 0xF4 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    if (length == 1 || text.size() < length) {
+        return alone;
+    }
+    char32_t code = lead & (0x7FU >> length);
+    for (const char next : text.substr(1, length - 1)) {
+        if (!Continues(next)) {
+            return alone;
+        }
+        code = code << 6 | (Byte(next) & 0x3FU);
+    }
+    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000}; // a longer form than needed is no UTF-8
+    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    return code < least[length] || code > 0x10FFFF || isSurrogate ? alone : Character{length, code, true};
+}
 
 bool IsControl(char32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
 
@@ -39,12 +68,6 @@ std::string Escape(std::string_view text, bool backslashes) {
     return escaped;
 }
 
-/// @return the value of a hexadecimal digit, or npos
-std::size_t DigitOf(char character) {
-    const bool isLower = character >= 'a' && character <= 'f';
-    return digits.find(isLower ? static_cast<char>(character - 'a' + 'A') : character);
-}
-
 } // namespace
 
 std::string Escaped(std::string_view text) { return Escape(text, true); }
@@ -59,14 +82,14 @@ std::optional<std::string> Unescaped(std::string_view text) {
             continue;
         }
         const std::string_view rest = text.substr(i + 1, 3);
+        const auto byte = rest.size() == 3 ? ParseWhole<std::uint8_t>(rest.substr(1), 16) : std::nullopt;
         const auto* const found = std::find_if(std::begin(named), std::end(named),
                                                [&](const auto& each) { return rest.starts_with(each.second); });
         if (found != std::end(named)) {
             plain += found->first;
             i += 1;
-        } else if (rest.size() == 3 && rest[0] == 'x' && DigitOf(rest[1]) != digits.npos &&
-                   DigitOf(rest[2]) != digits.npos) {
-            plain += static_cast<char>(DigitOf(rest[1]) << 4 | DigitOf(rest[2]));
+        } else if (rest.starts_with('x') && byte) {
+            plain += static_cast<char>(*byte);
             i += 3;
         } else {
             return std::nullopt;
@@ -84,6 +107,28 @@ std::size_t Width(std::string_view text) {
         text.remove_prefix(first.length);
     }
     return width;
+}
+
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const Character first = FirstCharacter(text);
+        if (!first.valid) {
+            return false;
+        }
+        text.remove_prefix(first.length);
+    }
+    return true;
+}
+
+std::string CutAtCharacter(const std::string& text, std::size_t bytes) {
+    if (text.size() <= bytes) {
+        return text;
+    }
+    std::size_t end = bytes;
+    while (end > 0 && bytes - end < 4 && Continues(text[end])) {
+        --end;
+    }
+    return text.substr(0, Continues(text[end]) ? bytes : end); // a text in another encoding
 }
 
 } // namespace Common

@@ -24,4 +24,19 @@ namespace Common {
 /// How many columns of a terminal an escaped text takes.
 [[nodiscard]] std::size_t Width(std::string_view text);
 
+/// Whether a text is well-formed UTF-8. A camera holds any bytes as a text.
+[[nodiscard]] bool IsUtf8(std::string_view text);
+
+/// As much of a text as fits into that many bytes, without a part of a character at its end.
+[[nodiscard]] std::string CutAtCharacter(const std::string& text, std::size_t bytes);
+
+/// "one, two": the texts with the separator between them.
+template <typename Texts> [[nodiscard]] std::string Join(const Texts& texts, const std::string& separator = ", ") {
+    std::string all;
+    for (const std::string& text : texts) {
+        all += (all.empty() ? "" : separator) + text;
+    }
+    return all;
+}
+
 } // namespace Common

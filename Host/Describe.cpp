@@ -1,7 +1,7 @@
 #include "Host/Describe.h"
 
 #include "Common/Number.h"
-#include "Common/Utf8.h"
+#include "Common/Text.h"
 #include "Host/ErrorReporting.h"
 
 #include <algorithm>
@@ -128,11 +128,7 @@ std::string DescribeLimits(const Instance& instance, const Limits& limits) {
     if (std::adjacent_find(ranges.begin(), ranges.end(), std::not_equal_to<>()) == ranges.end()) {
         ranges.resize(std::min<std::size_t>(ranges.size(), 1));
     }
-    std::string text;
-    for (const std::string& range : ranges) {
-        text += (text.empty() ? "" : ",") + range;
-    }
-    return text;
+    return Common::Join(ranges, ",");
 }
 
 std::string DescribeState(const Instance& instance, const Reading& reading) {

@@ -3,6 +3,7 @@
 // model, registers from the accesses that a call comes to.
 
 #include "Common/Number.h"
+#include "Common/Text.h"
 #include "Host/Describe.h"
 #include "Host/Errors.h"
 #include "Host/Format.h"
@@ -103,11 +104,7 @@ std::string Models(const std::set<std::string>& having, const std::vector<std::s
     if (having == monochrome) {
         return "monochrome";
     }
-    std::string names;
-    for (const std::string& model : having) {
-        names += (names.empty() ? "" : ", ") + model;
-    }
-    return names;
+    return Common::Join(having);
 }
 
 std::string Cell(std::string text) {

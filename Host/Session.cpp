@@ -1,9 +1,9 @@
 #include "Host/Session.h"
 
+#include "Common/Ipv4.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
 #include "Host/Channel/ChannelErrors.h"
-#include "Host/Channel/Datagrams.h"
 #include "Host/Channel/GigEConnection.h"
 #include "Simulation/Cameras.h"
 

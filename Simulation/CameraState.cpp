@@ -1,14 +1,11 @@
 #include "Simulation/CameraState.h"
 
-#include "Common/ReplaceFile.h"
+#include "Common/File.h"
 #include "Simulation/Identity.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -216,7 +213,7 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
                        {"settings sets", sets}};
 
     try {
-        Common::ReplaceFile(path, Lines(file, 3, "") + '\n');
+        Common::ReplaceFile(path, Formatted(file, 3, "") + '\n');
     } catch (const std::system_error& error) {
         Refuse(path, "it cannot be written (" + error.code().message() + ")");
     }
@@ -228,15 +225,11 @@ bool HasState(const std::filesystem::path& path) {
 }
 
 void LoadState(SimulatedCamera& camera, const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        Refuse(path, std::string("it cannot be read (") + std::strerror(errno) + ")");
-    }
     try {
-        Apply(Json::parse(in), camera);
+        Apply(Json::parse(Common::ReadFile(path)), camera);
     } catch (const Json::exception& error) {
         Refuse(path, std::string("damaged: ") + error.what());
-    } catch (const std::ios_base::failure& error) { // a directory, for one, which could be opened
+    } catch (const std::system_error& error) {
         Refuse(path, "it cannot be read (" + error.code().message() + ")");
     } catch (const std::runtime_error& error) {
         Refuse(path, error.what());

@@ -1,6 +1,7 @@
 #include "Simulation/Faults.h"
 
 #include "Common/Number.h"
+#include "Common/Text.h"
 
 #include <algorithm>
 #include <optional>
@@ -78,11 +79,7 @@ const std::string& SettingOf(const FaultSpec& spec, const RegisterSpace& space) 
 const std::string& ModeOf(const FaultSpec& spec, const RegisterSpace& space, const std::set<std::string>& automatics) {
     const std::string& name = NameOf(spec, space);
     if (!automatics.contains(name)) {
-        std::string known;
-        for (const std::string& mode : automatics) {
-            known += (known.empty() ? "" : ", ") + mode;
-        }
-        Refuse(spec, name + " is no automatic mode; this camera has " + known);
+        Refuse(spec, name + " is no automatic mode; this camera has " + Common::Join(automatics));
     }
     return name;
 }

@@ -1,5 +1,7 @@
 #include "Simulation/Identity.h"
 
+#include "Common/Number.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -49,15 +51,10 @@ RegisterSpace::Content MacAddressRegisters(const std::string& mac) {
     const std::size_t octets = 6;
     std::uint64_t number = 0;
     bool isAddress = mac.size() == 3 * octets - 1;
-    for (std::size_t i = 0; isAddress && i < mac.size(); ++i) {
-        const auto character = static_cast<unsigned char>(mac[i]);
-        if (i % 3 == 2) {
-            isAddress = character == ':';
-        } else {
-            isAddress = std::isxdigit(character) != 0;
-            const int digit = std::isdigit(character) != 0 ? character - '0' : std::toupper(character) - 'A' + 10;
-            number = number << 4 | static_cast<std::uint64_t>(digit);
-        }
+    for (std::size_t i = 0; isAddress && i < mac.size(); i += 3) {
+        const auto octet = Common::ParseWhole<std::uint8_t>(mac.substr(i, 2), 16);
+        isAddress = octet && (i + 2 == mac.size() || mac[i + 2] == ':');
+        number = number << 8 | octet.value_or(0);
     }
     const std::uint64_t groupBit = std::uint64_t{1} << 40;
     if (!isAddress || number == 0 || (number & groupBit) != 0) {

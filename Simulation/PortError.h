@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Common/Number.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -9,9 +11,14 @@ namespace Simulation {
 /// An access that failed.
 class PortError : public std::runtime_error {
 public:
-    PortError(std::string operation, std::uint32_t address, std::string reason);
+    /// @param failed the operation of the port, such as "WriteRegister"
+    PortError(const std::string& failed, std::uint32_t at, const std::string& why)
+        : std::runtime_error(failed + " at " + Common::Hex(at) + " failed: " + why),
+          operation(failed),
+          address(at),
+          reason(why) {}
 
-    std::string operation; ///< of the port, such as "WriteRegister"
+    std::string operation;
     std::uint32_t address;
     std::string reason;
 };
@@ -19,7 +26,8 @@ public:
 /// An access to addresses that the camera does not have. Over a control channel it is answered with status 0x8003.
 class InvalidAddressError final : public PortError {
 public:
-    InvalidAddressError(std::string operation, std::uint32_t address);
+    InvalidAddressError(const std::string& failed, std::uint32_t at)
+        : PortError(failed, at, "the camera has no such address (0x8003)") {}
 };
 
 } // namespace Simulation

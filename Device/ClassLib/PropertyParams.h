@@ -159,6 +159,8 @@ class CompoundParams;
 template <std::size_t N, std::size_t... I, std::size_t... J>
 class CompoundParams<N, std::index_sequence<I...>, std::index_sequence<J...>> {
 public:
+    static constexpr std::size_t count = N;
+
     CompoundParams(const std::string& name, typename Each<const std::string&, I>::Type... subNames)
         : subs{CPropertyParams(name + '.' + subNames)...} {}
 

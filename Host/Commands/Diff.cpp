@@ -1,11 +1,11 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Suggestion.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Simulation/Cameras.h"
-#include "Simulation/Suggestion.h"
 
 #include <filesystem>
 #include <vector>
@@ -37,7 +37,7 @@ Side Take(const Invocation& invocation, Parameter parameter) {
     if (!IsCamera(given)) {
         if (given != standardStream && !std::filesystem::exists(given)) {
             throw UsageError('"' + given + "\" is neither a file nor a camera" +
-                             Simulation::Suggestion(given, Simulation::ModelNames()));
+                             Common::Suggestion(given, Simulation::ModelNames()));
         }
         return {ReadSettings(given, program.IsOpen()), given};
     }

@@ -1,4 +1,4 @@
-#include "Common/Utf8.h"
+#include "Common/Text.h"
 #include "Host/Functions/Codes.h"
 #include "Host/Functions/Names.h"
 #include "Host/Functions/Rounding.h"

@@ -1,6 +1,6 @@
 #include "Host/Settings/SettingsFile.h"
 
-#include "Common/ReplaceFile.h"
+#include "Common/File.h"
 #include "Common/Suggestion.h"
 #include "Host/Describe.h"
 #include "Host/Errors.h"
@@ -8,11 +8,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <sstream>
+#include <system_error>
 
 namespace Host {
 
@@ -25,22 +24,22 @@ constexpr const char* missingMember = "missing";
 [[noreturn]] void Fail(const std::string& file, const std::string& why) { throw UsageError(Quoted(file) + ": " + why); }
 
 std::string Content(const std::string& file) {
-    std::ostringstream content;
+    std::string content;
     if (file == standardStream) {
-        if (!(content << std::cin.rdbuf())) {
-            Fail(file, "is empty");
+        std::ostringstream input;
+        input << std::cin.rdbuf();
+        content = input.str();
+    } else {
+        try {
+            content = Common::ReadFile(file);
+        } catch (const std::system_error& error) {
+            Fail(file, error.code().message());
         }
-        return content.str();
     }
-    std::error_code ignored;
-    if (std::filesystem::is_directory(file, ignored)) {
-        Fail(file, std::strerror(EISDIR));
+    if (content.empty()) {
+        Fail(file, "is empty");
     }
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || !(content << stream.rdbuf())) {
-        Fail(file, stream ? "is empty" : std::strerror(errno));
-    }
-    return content.str();
+    return content;
 }
 
 Json Parse(const std::string& file) {

@@ -2,6 +2,7 @@
 
 #include "Common/Ipv4.h"
 #include "Common/Number.h"
+#include "Common/Text.h"
 #include "Simulation/Cameras.h"
 
 #include <CLI/CLI.hpp>
@@ -26,14 +27,6 @@ CLI::Validator Share() {
             ""};
 }
 
-std::string Listed(const std::vector<std::string>& names) {
-    std::string list;
-    for (const std::string& name : names) {
-        list += (list.empty() ? "" : ", ") + name;
-    }
-    return list;
-}
-
 std::uint32_t DeviceAddress(const std::string& text) {
     const auto address = Common::ParseAddress(text);
     const std::uint32_t firstMulticast = 0xE0000000; // from there on are groups and broadcasts
@@ -43,30 +36,25 @@ std::uint32_t DeviceAddress(const std::string& text) {
     return *address;
 }
 
-void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& delay, std::uint64_t& reboot) {
+void AddDisturbances(CLI::App& app, Disturbances& disturbances) {
     const char* const group = "What goes wrong";
+    const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
+        return app.add_option(name, variable, about)->type_name(value)->group(group);
+    };
     const std::uint64_t longestDelay = 60000;
     const std::uint64_t mostRequests = 1000000000;
-    app.add_option("--drop", disturbances.drop, "Loses this share of the datagrams, in either direction")
-        ->check(Share())
-        ->type_name("P")
-        ->group(group);
-    app.add_option("--duplicate", disturbances.duplicate, "Sends this share of the acknowledges twice")
-        ->check(Share())
-        ->type_name("P")
-        ->group(group);
-    app.add_option("--nack", disturbances.nack, "Refuses this share of the requests as busy")
-        ->check(Share())
-        ->type_name("P")
-        ->group(group);
-    app.add_option("--delay", delay, "Holds each acknowledge back for up to so many milliseconds")
-        ->check(Between(0, longestDelay))
+    add("--drop", disturbances.drop, "P", "Loses this share of the datagrams, in either direction")->check(Share());
+    add("--duplicate", disturbances.duplicate, "P", "Sends this share of the acknowledges twice")->check(Share());
+    add("--nack", disturbances.nack, "P", "Refuses this share of the requests as busy")->check(Share());
+    const auto setDelay = [&](const std::uint64_t& delay) { disturbances.delay = std::chrono::milliseconds(delay); };
+    app.add_option_function<std::uint64_t>("--delay", setDelay,
+                                           "Holds each acknowledge back for up to so many milliseconds")
         ->type_name("MS")
-        ->group(group);
-    app.add_option("--reboot-after", reboot, "Starts the camera anew, once, after so many requests; takes 5 seconds")
-        ->check(Between(1, mostRequests))
-        ->type_name("N")
-        ->group(group);
+        ->group(group)
+        ->check(Between(0, longestDelay));
+    add("--reboot-after", disturbances.rebootAfter, "N",
+        "Starts the camera anew, once, after so many requests; takes 5 seconds")
+        ->check(Between(1, mostRequests));
 }
 
 } // namespace
@@ -74,27 +62,24 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances, std::uint64_t& d
 std::optional<Options> ParseCommandLine(int argc, char** argv) {
     CLI::App app("A simulated camera as a GigE Vision device on UDP port 3956, until it is interrupted.", "qdv12sim");
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
-    app.footer("Models: " + Listed(ModelNames()) +
+    app.footer("Models: " + Common::Join(ModelNames()) +
                "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
     Options options;
     std::string address = "127.0.0.1";
-    std::uint64_t delay = 0;
-    std::uint64_t reboot = 0;
-    app.add_option("MODEL", options.model, "The camera's model, such as Orvik-710C")->type_name("")->required();
-    app.add_option("--address", address, "The address of this machine that the camera takes (127.0.0.1)")
-        ->type_name("ADDRESS");
-    app.add_option("--seed", options.seed, "Chooses the world around the camera, and what goes wrong when")
-        ->check(Common::SeedFault)
-        ->type_name("N");
-    app.add_option("--state", options.state, "Keeps the camera in a file between two runs")->type_name("FILE");
-    app.add_option("--serial", options.serial, "Its serial number, to tell it from others of its model")
-        ->type_name("TEXT");
-    app.add_option("--mac", options.mac, "Its MAC address, such as 02:00:12:07:07:11")->type_name("MAC");
-    app.add_option("--fault", options.faults, "Plants a fault in the camera, such as ignore:gain")
-        ->type_name("TEXT")
+    const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
+        return app.add_option(name, variable, about)->type_name(value);
+    };
+    add("MODEL", options.model, "", "The camera's model, such as Orvik-710C")->required();
+    add("--address", address, "ADDRESS", "The address of this machine that the camera takes (127.0.0.1)");
+    add("--seed", options.seed, "N", "Chooses the world around the camera, and what goes wrong when")
+        ->check(Common::SeedFault);
+    add("--state", options.state, "FILE", "Keeps the camera in a file between two runs");
+    add("--serial", options.serial, "TEXT", "Its serial number, to tell it from others of its model");
+    add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
+    add("--fault", options.faults, "TEXT", "Plants a fault in the camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the model for a fault too
-    app.add_option("--record", options.record, "Writes what is received and sent to a pcap file")->type_name("FILE");
-    AddDisturbances(app, options.disturbances, delay, reboot);
+    add("--record", options.record, "FILE", "Writes what is received and sent to a pcap file");
+    AddDisturbances(app, options.disturbances);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -105,10 +90,6 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         return std::nullopt;
     }
     options.address = DeviceAddress(address);
-    options.disturbances.delay = std::chrono::milliseconds(delay);
-    if (reboot != 0) {
-        options.disturbances.rebootAfter = reboot;
-    }
     return options;
 }
 

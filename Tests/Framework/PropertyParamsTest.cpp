@@ -30,7 +30,7 @@ std::string State(const CPropertyParams& property) {
 
 template <typename Compound> Texts States(Compound& compound) {
     Texts texts;
-    for (std::size_t i = 0; i < Compound::Count; ++i) {
+    for (std::size_t i = 0; i < Compound::count; ++i) {
         texts.push_back(State(*compound.GetSubProperty(i)));
     }
     return texts;

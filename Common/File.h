@@ -1,9 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace Common {
+
+/// @throws std::system_error with the reason
+[[nodiscard]] std::string ReadFile(const std::filesystem::path& file);
 
 /// Replaces a file as a whole or not at all, or makes it, also when others do so at the same time. Its access rights
 /// stay as they are; a link stays a link.

@@ -1,12 +1,14 @@
-#include "Common/ReplaceFile.h"
+#include "Common/File.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -26,23 +28,17 @@ class Replacement {
 public:
     explicit Replacement(const std::filesystem::path& replaced)
         : target(replaced),
-          name((replaced.parent_path() / ".qdv12-XXXXXX").string()),
+          name(replaced.parent_path() / ".qdv12-XXXXXX"),
           descriptor(mkostemp(name.data(), O_CLOEXEC)) {
         Require(descriptor >= 0);
     }
     ~Replacement() {
-        if (descriptor >= 0) {
-            close(descriptor);
-        }
-        if (!name.empty()) {
-            unlink(name.c_str());
-        }
+        close(descriptor);
+        unlink(name.c_str());
     }
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
-    /// Taking its place needs the folder alone; who protects a file against writing means it.
-    void RequireWritable() const { Require(access(target.c_str(), F_OK) != 0 || access(target.c_str(), W_OK) == 0); }
     void Write(std::string_view content) {
         while (!content.empty()) {
             const ssize_t written = write(descriptor, content.data(), content.size());
@@ -62,21 +58,33 @@ public:
         Require(fsync(descriptor) == 0); // some file systems tell only now that there is no room
         Require(close(std::exchange(descriptor, -1)) == 0);
         Require(rename(name.c_str(), target.c_str()) == 0);
-        name.clear();
     }
 
 private:
-    std::filesystem::path target;
+    const std::filesystem::path& target;
     std::string name;
     int descriptor;
 };
 
 } // namespace
 
+std::string ReadFile(const std::filesystem::path& file) {
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(std::fopen(file.c_str(), "rb"), &std::fclose);
+    Require(stream != nullptr);
+    std::string content;
+    std::array<char, 4096> part{};
+    while (const std::size_t size = std::fread(part.data(), 1, part.size(), stream.get())) {
+        content.append(part.data(), size);
+    }
+    Require(std::ferror(stream.get()) == 0);
+    return content;
+}
+
 void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
-    std::error_code ignored;
-    Replacement replacement(std::filesystem::weakly_canonical(std::filesystem::absolute(file), ignored));
-    replacement.RequireWritable();
+    const auto target = std::filesystem::weakly_canonical(std::filesystem::absolute(file));
+    // Taking its place needs the folder alone; who protects a file against writing means it.
+    Require(access(target.c_str(), F_OK) != 0 || access(target.c_str(), W_OK) == 0);
+    Replacement replacement(target);
     replacement.Write(content);
     replacement.SetAccessRights();
     replacement.TakePlace();
