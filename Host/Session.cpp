@@ -51,8 +51,8 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     for (const std::string& name : NamesOf(plugin.Models())) {
         served += (served.empty() ? "" : ", ") + name;
     }
-    throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " + served +
-                    " (--force-model MODEL opens it as one of these)");
+    throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " +
+                    served + " (--force-model MODEL opens it as one of these)");
 }
 
 constexpr std::string_view network = "gige:"; ///< begins what is no model

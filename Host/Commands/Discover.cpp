@@ -13,7 +13,9 @@ namespace Host {
 namespace {
 
 std::string Describe(const FoundCamera& camera, bool served) {
-    const auto column = [](const std::string& text, std::size_t width) { return Pad(Common::Escaped(text) + ' ', width); };
+    const auto column = [](const std::string& text, std::size_t width) {
+        return Pad(Common::Escaped(text) + ' ', width);
+    };
     std::string line = column(camera.address, 17) + column(camera.mac, 19) + column(camera.model, 16) +
                        column(camera.serial, 16) + column(camera.userName, 16) + (served ? "" : "(not served)");
     return line.erase(line.find_last_not_of(' ') + 1);
