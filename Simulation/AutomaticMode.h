@@ -18,7 +18,7 @@ struct AutomaticMode {
     std::function<void(RegisterSpace&)> update = [](RegisterSpace&) {}; ///< of what depends on the controlled register
 };
 
-/// Has the camera run the mode. What a host writes to the controlled register meanwhile, it moves on from there.
+/// Adds the mode to the camera. What a host writes to the controlled register meanwhile, the mode goes on from.
 void AddAutomaticMode(SimulatedCamera& camera, const AutomaticMode& automatic);
 
 } // namespace Simulation

@@ -8,7 +8,7 @@
 
 namespace Simulation {
 
-/// What tells a camera from others on a network.
+/// What identifies a camera on a network.
 struct Identity {
     std::string model;
     std::uint32_t number; ///< of 24 bits, for the MAC address
@@ -19,7 +19,7 @@ struct Identity {
 /// The bootstrap registers of the GigE Vision standard, the same for every camera but for its identity; and the
 /// description that they lead to.
 [[nodiscard]] std::vector<Register> BootstrapRegisters(const Identity& identity);
-/// What the network registers do by themselves.
+/// The behaviour of the network registers.
 void AddBootstrapBehaviour(SimulatedCamera& camera);
 
 } // namespace Simulation

@@ -10,11 +10,10 @@
 
 namespace Simulation {
 
-/// In what world a camera is switched on.
+/// The environment in which a camera is switched on.
 struct Options {
-    /// Decides what no register does: how bright and how coloured the scene is, in what order the temperature's noise
-    /// comes, where defect pixels are found. Never the identity. The same seed and the same accesses give the same
-    /// values; 0 is the plainest world.
+    /// Determines illumination and colour of the scene, noise of measurements, and where defect pixels are detected;
+    /// never the identity. The same seed and the same accesses give the same values; 0 is the nominal environment.
     std::uint64_t seed = 0;
 };
 

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] bool IsStale(const std::string& name) const { return stale.contains(name); }
     /// Whether the automatic mode runs that is on, or that was on and does not stop.
     [[nodiscard]] bool Runs(const std::string& mode, bool on);
-    /// Makes of the words what the faulty register makes of them.
+    /// Applies clamp and offset to what was written.
     void Distort(const Register& entry, Words& words) const;
 
 private:

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-// What tells cameras of one model apart: a serial number, which the bootstrap registers and the camera's own registers
+// What identifies one camera of a model: a serial number, which the bootstrap registers and the camera's own registers
 // hold, and a MAC address.
 namespace Simulation {
 

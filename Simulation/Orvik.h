@@ -27,9 +27,9 @@ struct OrvikModel {
 
 constexpr std::uint32_t smallestArea = 64; ///< width and height that a readout area has at least, in pixels
 
-/// What a time of the camera, base and count, is in microseconds.
+/// A time that the camera holds as base and counter, in microseconds.
 [[nodiscard]] std::uint64_t MicrosecondsOf(const Words& time);
-/// Works out readout time and frame duration.
+/// Updates readout time and frame duration.
 void UpdateTiming(RegisterSpace& space);
 
 [[nodiscard]] std::vector<Register> OrvikRegisters(const OrvikModel& model);

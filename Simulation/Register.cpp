@@ -64,10 +64,10 @@ Value Text(std::size_t length, std::string_view text) {
     return {{{{}, bytes}}};
 }
 
-Value PrefixedText(std::size_t length, std::string_view text) {
+Value PrefixedText(std::size_t size, std::string_view text) {
     Bytes bytes = ToBytes({static_cast<std::uint32_t>(text.size())});
     bytes.insert(bytes.end(), text.begin(), text.end());
-    bytes.resize(length);
+    bytes.resize(size);
     return {{{{}, bytes}}};
 }
 

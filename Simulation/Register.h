@@ -14,13 +14,13 @@ using Words = std::vector<std::uint32_t>;
 [[nodiscard]] Bytes ToBytes(const Words& words);
 [[nodiscard]] Words ToWords(const Bytes& bytes);
 
-/// Who changes a register, and what becomes of it when settings are loaded or the camera starts anew.
+/// Who changes a register, and what becomes of it when settings are loaded or the camera is restarted.
 enum class Role {
     Fixed,       ///< identity: nobody changes it
     Status,      ///< what the camera reports, and its internal state: hosts do not change it
     Setting,     ///< a settings set saves and loads it
     NonVolatile, ///< permanent memory beside the settings sets
-    Volatile,    ///< commands, and what a start forgets
+    Volatile,    ///< commands, and what a restart resets
     Channel,     ///< the control channel's: set by a device on the network, without meaning for any other camera
 };
 
@@ -39,21 +39,21 @@ struct Instance {
 struct Value {
     std::vector<Instance> instances; ///< at least one; their selectors are of one length, and so are their values
     bool swapped = false;            ///< whether the two words of a selector are swapped when they are written alone
-    bool keepsRequest = false;       ///< whether what was requested is kept beside what the camera can do of it for now
+    bool keepsRequest = false;       ///< whether the requested value is kept beside the one that applies
 };
 
 // The kinds, for the rows of a register table.
 [[nodiscard]] Value Word(std::uint32_t value);
 [[nodiscard]] Value Record(const Words& fields);                     ///< several words, no padding
 [[nodiscard]] Value Indexed(const std::vector<Words>& instances);    ///< behind an index word, first is index 0
-[[nodiscard]] Value Text(std::size_t length, std::string_view text); ///< bytes from the first on
-[[nodiscard]] Value PrefixedText(std::size_t length,
-                                 std::string_view text); ///< a word (the text's size), then the text
+[[nodiscard]] Value Text(std::size_t length, std::string_view text); ///< bytes, padded with zeros
+/// A text behind a word with its length, which counts into the size of the register.
+[[nodiscard]] Value PrefixedText(std::size_t size, std::string_view text);
 /// Values behind selectors of any length, each a selector and its value.
 [[nodiscard]] Value Selected(const std::vector<std::pair<Words, Words>>& instances);
 /// Values behind two words, row and column, swapped when they are written alone; row by row from {0, 0} on.
 [[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
-/// The same value, of a setting that is adjusted to others and comes back when they admit it again.
+/// The same, of a setting whose requested value applies as far as other settings allow, and again when they allow it.
 [[nodiscard]] Value KeepingRequest(Value value);
 
 /// What a word of a register admits: a number is moved to the nearest admitted one, a code that is not admitted has the

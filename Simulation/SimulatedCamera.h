@@ -19,24 +19,24 @@ namespace Simulation {
 
 /// A camera that lives in memory: the port that a host hands to the library, with a register space behind it.
 ///
-/// What a host writes passes the camera before it is held: a read-only register, an instance that does not exist and a
-/// code that is not admitted change nothing, a number is moved to the nearest admitted one. Then the camera acts on it.
+/// The camera checks what a host writes: a write to a read-only register or to an instance that does not exist is
+/// ignored, and so is a code that is not admitted; a number is clamped. Then the behaviours of the register run.
 /// An access to addresses that the camera does not have throws InvalidAddressError.
 ///
-/// The camera lives in a time of its own: each port access takes half a millisecond of it, and nothing else does unless
-/// a host lets time pass. So the same accesses always meet the same camera.
+/// The camera has a simulated clock: each port access takes half a millisecond, and nothing else does unless a host
+/// advances the clock. So the same accesses always have the same results.
 class SimulatedCamera final : public SDK4::IControlPort {
 public:
-    /// What the camera does by itself after a register was written: adjust the value, or others that follow from it.
-    /// What a behaviour sets itself calls no further behaviour.
+    /// Runs after a register was written: adjusts the value, or others that follow from it. What a behaviour sets
+    /// triggers no further behaviour.
     using Behaviour = std::function<void(RegisterSpace&, const RegisterSpace::Change&)>;
-    /// What the camera does by itself as time goes by. The step is counted from the first start.
+    /// Runs at each time step, which is counted from power-up.
     using Step = std::function<void(RegisterSpace&, std::uint64_t step)>;
-    /// What the camera works out anew after many registers have changed at once.
+    /// Updates what follows from the settings after many registers have changed at once.
     using Derivation = std::function<void(RegisterSpace&)>;
 
     static constexpr std::chrono::microseconds accessTime{500};
-    static constexpr std::chrono::milliseconds stepTime{32}; ///< between two steps of the camera's own work
+    static constexpr std::chrono::milliseconds stepTime{32}; ///< between two time steps
 
     explicit SimulatedCamera(const std::vector<Register>& registers);
     SimulatedCamera(const SimulatedCamera&) = delete; // its behaviours know it
@@ -44,13 +44,13 @@ public:
 
     // For hosts.
 
-    /// Lets time pass without an access, as it does for a camera while its host waits.
+    /// Advances the clock without an access, as while a host waits.
     void Advance(std::chrono::microseconds time);
 
-    /// Starts the camera anew: what is not in permanent memory is as after being switched on.
+    /// Restarts the camera: what is not in non-volatile memory is reset to its power-up value.
     void Restart();
 
-    /// Has the camera work wrongly from now on, to see whether a host notices. One text is one fault; a register is
+    /// Injects a fault, to see whether a host notices. One text is one fault; a register is
     /// named, or given by its address (0x14010000):
     ///
     /// | Text                | The camera ...                                                                     |
@@ -68,21 +68,21 @@ public:
     /// @throws FaultError for a text that is none of these, or a register or an address that this camera does not have.
     void InjectFault(std::string_view fault) { faults.Inject(fault, space, automatics); }
 
-    /// What the camera holds, for a look past the port.
+    /// The registers, without going through the port.
     [[nodiscard]] RegisterSpace& Registers() { return space; }
     [[nodiscard]] const RegisterSpace& Registers() const { return space; }
 
     // For those who build cameras.
 
-    /// Has the camera act after each write that the named register has taken, in the order in which this was called.
+    /// Adds a behaviour that runs after each accepted write of the named register, in the order of the calls.
     void AfterWrite(const std::string& name, Behaviour behaviour);
-    /// Has the camera act in each step of its time.
+    /// Adds work for each time step.
     void EachStep(Step step) { steps.push_back(std::move(step)); }
-    /// Has the camera work out what follows from the settings, now and after each settings load and start.
+    /// Adds a derivation, which runs now and after each settings load and restart.
     void Derive(Derivation derivation);
-    /// Has the camera refuse to change the register while it acquires images.
+    /// Makes the register read-only during acquisition.
     void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
-    /// Makes the register known as one that switches an automatic mode.
+    /// Declares the register as the switch of an automatic mode.
     void DeclareAutomatic(const std::string& mode);
     /// Whether the automatic mode of that register is on, or goes on although it should not.
     [[nodiscard]] bool Runs(const std::string& mode) { return faults.Runs(mode, space.Get(mode)[0] != 0); }
@@ -105,13 +105,13 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    /// What comes before every access. @throws PortError
+    /// Advances the clock, checks the addresses, applies the faults. @throws PortError
     void BeginAccess(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
     [[nodiscard]] bool IsLocked(const std::string& name) const { return locked.contains(name) && IsAcquiring(); }
-    /// Whether the register takes what was written to it, of which the camera makes what it admits.
+    /// Clamps what was written to the register, or takes it back. Returns whether the write is accepted.
     [[nodiscard]] bool Accept(const RegisterSpace::Change& change);
     void LoadSettings(std::uint32_t number);
 

@@ -14,18 +14,18 @@ enum class Stream : std::uint32_t {
     DefectPixelColumn = 20, ///< and those after it: one for each pair of defect pixels
 };
 
-/// What surrounds a camera and is not written in any of its registers: decided by the seed, the same every time.
+/// The environment of a camera: scene, noise, defects of the sensor. It is determined by the seed.
 class World {
 public:
     explicit World(std::uint64_t seedOfWorld) : seed(seedOfWorld) {}
 
-    /// What does not vary with time: a number from -range to +range. A world of seed 0 has no deviations, so that its
+    /// Constant over time: a number from -range to +range. A world of seed 0 has no deviations, so that its
     /// cameras are those of the tables.
     /// @param index tells apart the streams that begin at @p stream
     [[nodiscard]] std::int32_t Deviation(Stream stream, std::int32_t range, std::uint32_t index = 0) const {
         return seed == 0 ? 0 : Draw(static_cast<std::uint32_t>(stream) + index, 0, range);
     }
-    /// What varies with time: a number from -range to +range, the same for the same time.
+    /// Varies with time: a number from -range to +range, the same for the same time.
     [[nodiscard]] std::int32_t Noise(Stream stream, std::uint64_t time, std::int32_t range) const {
         return Draw(static_cast<std::uint32_t>(stream), time, range);
     }
@@ -41,7 +41,7 @@ private:
         return static_cast<std::int32_t>(Mix(Mix(seed ^ std::uint64_t{stream} << 32) + time) % span) - range;
     }
 
-    /// Any bit of the number decides about any bit of the result.
+    /// A hash: any bit of the number affects any bit of the result.
     static std::uint64_t Mix(std::uint64_t number) {
         number += 0x9E3779B97F4A7C15U;
         number = (number ^ number >> 30) * 0xBF58476D1CE4E5B9U;
