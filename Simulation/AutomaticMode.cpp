@@ -21,7 +21,7 @@ void AddAutomaticMode(SimulatedCamera& camera, const AutomaticMode& automatic) {
     };
     camera.DeclareAutomatic(automatic.mode);
     camera.EachStep([work](RegisterSpace& space, auto) { work(space); });
-    camera.AfterWrite(automatic.controlled, [work](RegisterSpace& space, const auto&) { work(space); });
+    camera.AfterWrite(automatic.controlled, work);
 }
 
 } // namespace Simulation

@@ -99,13 +99,13 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
 }
 
 void AddBootstrapBehaviour(SimulatedCamera& camera) {
-    camera.AfterWrite("packetsize", [](RegisterSpace& space, const auto&) { RoundPacketSize(space); });
-    camera.AfterWrite("currentipconfig", [](RegisterSpace& space, const auto&) {
+    camera.AfterWrite("packetsize", RoundPacketSize);
+    camera.AfterWrite("currentipconfig", [](RegisterSpace& space) {
         const std::uint32_t linkLocal = 4; // the standard has it always on
         space.Set("currentipconfig",
                   {(space.Get("currentipconfig")[0] & space.Get("supportedipconfig")[0]) | linkLocal});
     });
-    camera.AfterWrite("restart", [](RegisterSpace& space, const auto&) { AssignAddress(space); });
+    camera.AfterWrite("restart", AssignAddress);
 }
 
 } // namespace Simulation

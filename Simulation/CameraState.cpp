@@ -5,7 +5,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -19,15 +18,12 @@ using Json = nlohmann::json;
 const char* const format = "simulated camera";
 const char* const serialNumber = "serial number";
 const char* const macAddress = "MAC address";
-const std::string requestPrefix = "asked "; // and the register's name: what was requested of it
+const char* const requestPrefix = "asked "; // and the register's name: what was requested of it
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
 const std::vector<Role> savedRoles = {Role::Status, Role::Setting, Role::NonVolatile, Role::Volatile};
 
-std::string Model(const RegisterSpace& space) {
-    const Bytes bytes = ToBytes(space.Get("modelname"));
-    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
-}
+std::string Model(const RegisterSpace& space) { return space.GetText("modelname"); }
 
 /// Without what only an injected fault can have put there.
 std::vector<Words> WithinLimits(const Register& entry, std::vector<Words> instances) {

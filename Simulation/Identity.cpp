@@ -20,10 +20,7 @@ Words WordsOf(const Value& value) { return ToWords(value.instances.front().value
 
 } // namespace
 
-std::string SerialNumberOf(const RegisterSpace& space) {
-    const Bytes bytes = ToBytes(space.Get("bootstrapserialnumber"));
-    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
-}
+std::string SerialNumberOf(const RegisterSpace& space) { return space.GetText("bootstrapserialnumber"); }
 
 RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial) {
     const std::size_t standard = SizeOf(space, "bootstrapserialnumber");

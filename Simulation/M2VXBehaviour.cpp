@@ -25,8 +25,8 @@ void UpdateExposureTime(RegisterSpace& space) {
 }
 
 void AddExposure(SimulatedCamera& camera) {
-    camera.AfterWrite("exposuremode", [](RegisterSpace& space, const auto&) { UpdateExposureTime(space); });
-    camera.AfterWrite("exposure", [](RegisterSpace& space, const auto&) { UpdateFrameDuration(space); });
+    camera.AfterWrite("exposuremode", UpdateExposureTime);
+    camera.AfterWrite("exposure", UpdateFrameDuration);
     camera.Derive(UpdateFrameDuration);
 }
 
@@ -56,7 +56,7 @@ void AddControlLoop(SimulatedCamera& camera, const ControlLoop& loop, const std:
     camera.EachStep([&camera, loop](RegisterSpace& space, auto) { Iterate(camera, space, loop); });
     camera.Derive([loop](RegisterSpace& space) { space.Set(loop.converging, {1}); });
     for (const char* setting : settings) {
-        camera.AfterWrite(setting, [&camera, loop](RegisterSpace& space, const auto&) {
+        camera.AfterWrite(setting, [&camera, loop](RegisterSpace& space) {
             space.Set(loop.converging, {1});
             Iterate(camera, space, loop);
         });
@@ -72,7 +72,7 @@ std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
 
 void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
     // Switched on, it applies at once the gain that the last image asks for; then it converges step by step.
-    camera.AfterWrite("agc", [&camera, illumination](RegisterSpace& space, const auto&) {
+    camera.AfterWrite("agc", [&camera, illumination](RegisterSpace& space) {
         if (camera.Runs("agc")) {
             space.Set("gain", {GainFor(space, illumination)});
         }
@@ -117,9 +117,8 @@ void DetectDefectPixels(RegisterSpace& space, const World& world) {
 }
 
 void AddDefectPixels(SimulatedCamera& camera, const World& world) {
-    camera.AfterWrite("defectpixel", [](RegisterSpace& space, const auto&) { CountDefectPixels(space); });
-    camera.AfterWrite("autocompensation",
-                      [world](RegisterSpace& space, const auto&) { DetectDefectPixels(space, world); });
+    camera.AfterWrite("defectpixel", CountDefectPixels);
+    camera.AfterWrite("autocompensation", [world](RegisterSpace& space) { DetectDefectPixels(space, world); });
 }
 
 /// What the measure window sees: the scene, and noise.

@@ -79,8 +79,8 @@ void ApplyReadoutArea(RegisterSpace& space) {
 
 void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model) {
     camera.Derive([model](RegisterSpace& space) { UpdateBinning(space, model); });
-    camera.AfterWrite("binning", [model](RegisterSpace& space, const auto&) { UpdateBinning(space, model); });
-    camera.AfterWrite("readoutarea", [](RegisterSpace& space, const auto&) { ApplyReadoutArea(space); });
+    camera.AfterWrite("binning", [model](RegisterSpace& space) { UpdateBinning(space, model); });
+    camera.AfterWrite("readoutarea", ApplyReadoutArea);
     camera.AfterWrite("overlayposition", [](auto& space, const auto& change) { ClipOverlay(space, change.index); });
     camera.AfterWrite("measurewindow", [](auto& space, const auto& change) { ClipMeasureWindow(space, change.index); });
     for (const char* name : {"readoutarea", "binning", "colorcoding"}) {

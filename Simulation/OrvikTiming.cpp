@@ -64,7 +64,7 @@ void AddOrvikTiming(SimulatedCamera& camera) {
     camera.Derive(UpdateTiming);
     for (const char* name :
          {"readouttime", "readoutarea", "binning", "colorcoding", "exposure", "exposuremode", "slowscan"}) {
-        camera.AfterWrite(name, [](RegisterSpace& space, const auto&) { UpdateTiming(space); });
+        camera.AfterWrite(name, UpdateTiming);
     }
     camera.LockWhileAcquiring("slowscan");
 }

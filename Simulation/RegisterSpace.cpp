@@ -118,6 +118,11 @@ Words RegisterSpace::Get(const std::string& name, std::uint32_t index) const {
     return ToWords(Named(name).values.at(index));
 }
 
+std::string RegisterSpace::GetText(const std::string& name) const {
+    const Bytes& bytes = Named(name).values.front();
+    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
+}
+
 void RegisterSpace::Set(const std::string& name, const Words& words, std::uint32_t index) {
     Named(name).values.at(index) = ToBytes(words);
 }

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] std::uint32_t Count(const std::string& name) const;
     /// The words of a register, of one instance of it if it is indexed.
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const;
+    /// The text in a plain register, up to the first zero.
+    [[nodiscard]] std::string GetText(const std::string& name) const;
     void Set(const std::string& name, const Words& words, std::uint32_t index = 0);
     /// What was requested of a register that keeps it.
     [[nodiscard]] const Words& Requested(const std::string& name, std::uint32_t index = 0) const;

@@ -21,12 +21,11 @@ SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
     : space(registers),
       powerUp(space.Save({Role::Volatile})),
       sets(space.Save({Role::Setting})) {
-    AfterWrite("stopacquisition", [](RegisterSpace& own, const auto&) { own.Set("startacquisition", {0}); });
-    AfterWrite("savesettings", [this](RegisterSpace& own, const auto&) {
-        sets.Save(own.Get("savesettings")[0], own.Save({Role::Setting}));
-    });
-    AfterWrite("loadsettings", [this](RegisterSpace& own, const auto&) { LoadSettings(own.Get("loadsettings")[0]); });
-    AfterWrite("restart", [this](RegisterSpace&, const auto&) { Restart(); });
+    AfterWrite("stopacquisition", [](RegisterSpace& own) { own.Set("startacquisition", {0}); });
+    AfterWrite("savesettings",
+               [this](RegisterSpace& own) { sets.Save(own.Get("savesettings")[0], own.Save({Role::Setting})); });
+    AfterWrite("loadsettings", [this](RegisterSpace& own) { LoadSettings(own.Get("loadsettings")[0]); });
+    AfterWrite("restart", [this](RegisterSpace&) { Restart(); });
 }
 
 void SimulatedCamera::Advance(std::chrono::microseconds time) {
@@ -43,23 +42,26 @@ void SimulatedCamera::AfterWrite(const std::string& name, Behaviour behaviour) {
     behaviours.emplace_back(name, std::move(behaviour));
 }
 
-void SimulatedCamera::Derive(Derivation derivation) {
-    derivation(space);
-    derivations.push_back(std::move(derivation));
+void SimulatedCamera::AfterWrite(const std::string& name, Update update) {
+    AfterWrite(name, [update = std::move(update)](RegisterSpace& own, const auto&) { update(own); });
+}
+
+void SimulatedCamera::Derive(Update update) {
+    update(space);
+    updates.push_back(std::move(update));
 }
 
 void SimulatedCamera::DeclareAutomatic(const std::string& mode) {
     automatics.insert(mode);
-    AfterWrite(mode,
-               [this, mode](RegisterSpace&, const auto&) { (void)Runs(mode); }); // so that no short time is missed
+    AfterWrite(mode, [this, mode](RegisterSpace&) { (void)Runs(mode); }); // so that no short time is missed
 }
 
 void SimulatedCamera::LoadSettings(std::uint32_t number) {
     RegisterSpace::Content settings = sets.At(number);
     std::erase_if(settings, [&](const auto& entry) { return faults.IsStale(entry.first) || IsLocked(entry.first); });
     space.Load(settings);
-    for (const Derivation& derivation : derivations) {
-        derivation(space);
+    for (const Update& update : updates) {
+        update(space);
     }
 }
 

@@ -32,8 +32,8 @@ public:
     using Behaviour = std::function<void(RegisterSpace&, const RegisterSpace::Change&)>;
     /// Runs at each time step, which is counted from power-up.
     using Step = std::function<void(RegisterSpace&, std::uint64_t step)>;
-    /// Updates what follows from the settings after many registers have changed at once.
-    using Derivation = std::function<void(RegisterSpace&)>;
+    /// Updates registers that follow from others.
+    using Update = std::function<void(RegisterSpace&)>;
 
     static constexpr std::chrono::microseconds accessTime{500};
     static constexpr std::chrono::milliseconds stepTime{32}; ///< between two time steps
@@ -76,10 +76,11 @@ public:
 
     /// Adds a behaviour that runs after each accepted write of the named register, in the order of the calls.
     void AfterWrite(const std::string& name, Behaviour behaviour);
+    void AfterWrite(const std::string& name, Update update);
     /// Adds work for each time step.
     void EachStep(Step step) { steps.push_back(std::move(step)); }
-    /// Adds a derivation, which runs now and after each settings load and restart.
-    void Derive(Derivation derivation);
+    /// Adds an update that runs now and after each settings load and restart.
+    void Derive(Update update);
     /// Makes the register read-only during acquisition.
     void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
     /// Declares the register as the switch of an automatic mode.
@@ -122,7 +123,7 @@ private:
     std::chrono::microseconds now{0};
     std::vector<std::pair<std::string, Behaviour>> behaviours;
     std::vector<Step> steps;
-    std::vector<Derivation> derivations;
+    std::vector<Update> updates;
     std::set<std::string> automatics;
     std::set<std::string> locked;
     std::vector<char> text; ///< what ReadString handed out last
