@@ -19,7 +19,9 @@ std::string LoggingClass(const Operation& row) {
     if (IsOf("ILookUpTable", row)) {
         return "KLookupTable";
     }
-    return IsOf("IACC", row) ? "KDigitalEnhancement" : "K" + InterfaceOf(row.name).substr(1);
+    const std::string interface = InterfaceOf(row.name); // "IGain2" of KGain too
+    return IsOf("IACC", row) ? "KDigitalEnhancement"
+                             : "K" + interface.substr(1, interface.find_last_not_of("23456789"));
 }
 
 /// Setters of an M2VX control write their values, at info level.
