@@ -15,6 +15,13 @@ namespace Host {
 struct Reading : Outcome {
     Value value;          ///< if it was read, of what has a getter
     std::string lockedBy; ///< "agc=1" while that keeps it from being set, else empty
+
+    /// Whether the camera has the function at all.
+    [[nodiscard]] bool IsImplemented() const {
+        return code != SDK4_ERR_NOT_IMPLEMENTED && code != SDK4_ERR_INVALID_INTERFACE;
+    }
+    /// Whether it has no such value, or none for now.
+    [[nodiscard]] bool IsAbsent() const { return !IsImplemented() || code == SDK4_ERR_DISABLED; }
 };
 
 /// An opened control, seen through the table of its family.

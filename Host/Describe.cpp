@@ -87,6 +87,14 @@ Json TextToJson(const std::string& text) {
     return Common::IsUtf8(text) ? Json(text) : Json{{hexMember, Hexadecimal(text)}};
 }
 
+Json NamesToJson(const std::vector<Instance>& instances) {
+    Json names(Json::List{});
+    for (const Instance& instance : instances) {
+        names.Add(instance.Name());
+    }
+    return names;
+}
+
 Json ToJson(const Instance& instance, const Value& value) {
     if (instance->shape.fields.empty()) {
         return TextToJson(value.text);
@@ -136,10 +144,9 @@ std::string DescribeState(const Instance& instance, const Reading& reading) {
         return reading.reason;
     }
     if (reading.code != 0) {
-        const bool missing = reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE;
-        const char* const what = missing                             ? "not implemented"
-                                 : reading.code == SDK4_ERR_DISABLED ? "not available"
-                                                                     : "not readable";
+        const char* const what = !reading.IsImplemented() ? "not implemented"
+                                 : reading.IsAbsent()     ? "not available"
+                                                          : "not readable";
         return what + std::string(" (") + reading.reason + ")";
     }
     if (!reading.lockedBy.empty()) {

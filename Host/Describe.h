@@ -16,6 +16,9 @@ namespace Host {
 /// A text; one that is not UTF-8, which JSON cannot hold, as an object with its bytes: {"hex": "6e616d65e9"}.
 [[nodiscard]] Json TextToJson(const std::string& text);
 
+/// The names of functions, in a list.
+[[nodiscard]] Json NamesToJson(const std::vector<Instance>& instances);
+
 /// A number, the name of a code, a text as above, or for a record an object with its fields.
 [[nodiscard]] Json ToJson(const Instance& instance, const Value& value);
 

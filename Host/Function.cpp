@@ -15,28 +15,8 @@ bool Lock::IsOpen(const Value& value) const {
     return std::find(open.begin(), open.end(), value.numbers.at(0)) != open.end();
 }
 
-Function& Function::Unit(std::string_view text) {
-    unit = text;
-    return *this;
-}
-
-Function& Function::Hexadecimal() {
-    shape.hexadecimal = true;
-    return *this;
-}
-
-Function& Function::Fields(std::span<const Field> fields) {
-    shape.fields = fields;
-    return *this;
-}
-
 Function& Function::Range(std::int64_t min, std::int64_t max) {
     limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .defaultValue = {}});
-    return *this;
-}
-
-Function& Function::LimitsFrom(LimitsReader reader) {
-    limitsReader = reader;
     return *this;
 }
 
@@ -62,46 +42,6 @@ Function& Function::OneOf(Host::Codes named) {
 }
 
 Function& Function::OnOff() { return OneOf(Named::onOff); }
-
-Function& Function::Named(Host::Codes names) {
-    codes = names;
-    return *this;
-}
-
-Function& Function::Keeps(std::int32_t code) {
-    refusal = Refusal{code, true};
-    return *this;
-}
-
-Function& Function::Rounds(RoundingRule rule) {
-    rounding = rule;
-    return *this;
-}
-
-Function& Function::MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open) {
-    lock = Lock{mode, open, true};
-    return *this;
-}
-
-Function& Function::Needs(std::string_view mode, std::initializer_list<std::int64_t> open) {
-    lock = Lock{mode, open, false};
-    return *this;
-}
-
-Function& Function::Instances(std::uint32_t number) {
-    count = number;
-    return *this;
-}
-
-Function& Function::PublishedAs(std::string_view propertyName) {
-    property = propertyName;
-    return *this;
-}
-
-Function& Function::PresentWith(std::string_view other) {
-    presence = other;
-    return *this;
-}
 
 std::string Instance::Name() const {
     return std::string(function->name) + (function->indexed ? "." + std::to_string(index) : "");

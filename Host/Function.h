@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace Host {
@@ -83,22 +84,34 @@ struct Function {
     std::string_view presence; ///< the function whose reading tells whether the camera has this one, which none reads
 
     // What a row says beyond its name, getter and setter.
-    Function& Unit(std::string_view text);
-    Function& Hexadecimal();
-    Function& Fields(std::span<const Field> fields);     ///< where they are called otherwise than in the record
+    Function& Unit(std::string_view text) { return Set(unit, text); }
+    Function& Hexadecimal() { return Set(shape.hexadecimal, true); }
+    /// Where they are called otherwise than in the record.
+    Function& Fields(std::span<const Field> fields) { return Set(shape.fields, fields); }
     Function& Range(std::int64_t min, std::int64_t max); ///< of every field
-    Function& LimitsFrom(LimitsReader reader);
+    Function& LimitsFrom(LimitsReader reader) { return Set(limitsReader, reader); }
     Function& OneOf(std::int64_t first, std::int64_t last); ///< single values without a gap
     Function& OneOf(Host::Codes named);                     ///< single values, all of which have names
     Function& OnOff();
-    Function& Named(Host::Codes names);                       ///< names of some of its values
-    Function& Keeps(std::int32_t code = SDK4_ERR_OUTOFRANGE); ///< refuses with that code and keeps its value
-    Function& Rounds(RoundingRule rule);
-    Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0});
-    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open = {1});
-    Function& Instances(std::uint32_t number);
-    Function& PublishedAs(std::string_view propertyName);
-    Function& PresentWith(std::string_view other);
+    Function& Named(Host::Codes names) { return Set(codes, names); } ///< names of some of its values
+    /// Refuses with that code and keeps its value.
+    Function& Keeps(std::int32_t code = SDK4_ERR_OUTOFRANGE) { return Set(refusal, Refusal{code, true}); }
+    Function& Rounds(RoundingRule rule) { return Set(rounding, rule); }
+    Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0}) {
+        return Set(lock, Lock{mode, open, true});
+    }
+    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open = {1}) {
+        return Set(lock, Lock{mode, open, false});
+    }
+    Function& Instances(std::uint32_t number) { return Set(count, number); }
+    Function& PublishedAs(std::string_view propertyName) { return Set(property, propertyName); }
+    Function& PresentWith(std::string_view other) { return Set(presence, other); }
+
+private:
+    template <typename Member> Function& Set(Member& member, const std::type_identity_t<Member>& value) {
+        member = value;
+        return *this;
+    }
 };
 
 /// The rows of a family, in dependency order: a function stands behind those that limit or disable it.
@@ -109,6 +122,7 @@ struct Instance {
     const Function* function = nullptr;
     std::uint32_t index = 0;
 
+    bool operator==(const Instance&) const = default;
     const Function* operator->() const { return function; }
     [[nodiscard]] std::string Name() const;
     [[nodiscard]] std::string Print(const Value& value) const {

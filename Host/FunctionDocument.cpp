@@ -59,7 +59,7 @@ bool Enter(Session& session, Line& line) {
     const Camera camera = session.Camera();
     const Instance instance{line.function};
     const Reading reading = camera.Inspect(instance);
-    if (reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE) {
+    if (!reading.IsImplemented()) {
         return false;
     }
     const bool settable = instance->set != nullptr;

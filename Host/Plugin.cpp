@@ -4,6 +4,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace Host {
@@ -89,6 +90,18 @@ void Plugin::Load(const std::string& path) {
         Registry registry(check.models);
         init(static_cast<IModelRegistry*>(&registry));
     }
+}
+
+std::vector<std::string> Plugin::ModelNames() const {
+    std::vector<std::string> names;
+    for (const Model& model : check.models) {
+        names.push_back(model.name);
+    }
+    return names;
+}
+
+bool Plugin::Serves(const std::string& model) const {
+    return std::any_of(check.models.begin(), check.models.end(), [&](const Model& each) { return each.name == model; });
 }
 
 void Plugin::CloseLibrary::operator()(void* handle) const { dlclose(handle); }

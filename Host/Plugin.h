@@ -42,6 +42,8 @@ public:
     explicit Plugin(const std::string& path);
 
     [[nodiscard]] const std::vector<Model>& Models() const { return check.models; }
+    [[nodiscard]] std::vector<std::string> ModelNames() const;
+    [[nodiscard]] bool Serves(const std::string& model) const;
 
     /// Opens a camera.
     /// @param model what the camera calls itself; the control keeps the pointer

@@ -16,23 +16,9 @@ namespace {
 
 constexpr const char* opening = "opening the camera"; ///< stands for the name of a function
 
-std::vector<std::string> NamesOf(const std::vector<Model>& models) {
-    std::vector<std::string> names;
-    names.reserve(models.size());
-    for (const Model& model : models) {
-        names.push_back(model.name);
-    }
-    return names;
-}
-
-bool Serves(const Plugin& plugin, const std::string& model) {
-    const auto known = NamesOf(plugin.Models());
-    return std::find(known.begin(), known.end(), model) != known.end();
-}
-
 void RequireServed(const Plugin& plugin, const std::string& model) {
-    if (!Serves(plugin, model)) {
-        throw OpenError("unknown model \"" + model + '"' + Common::Suggestion(model, NamesOf(plugin.Models())));
+    if (!plugin.Serves(model)) {
+        throw OpenError("unknown model \"" + model + '"' + Common::Suggestion(model, plugin.ModelNames()));
     }
 }
 
@@ -44,11 +30,11 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     } catch (const ChannelError& error) {
         throw OpenError("the model of " + connection.Describe() + " could not be read: " + error.what());
     }
-    if (Serves(plugin, read)) {
+    if (plugin.Serves(read)) {
         return read;
     }
     std::string served;
-    for (const std::string& name : NamesOf(plugin.Models())) {
+    for (const std::string& name : plugin.ModelNames()) {
         served += (served.empty() ? "" : ", ") + name;
     }
     throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " +

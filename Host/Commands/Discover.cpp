@@ -6,8 +6,6 @@
 #include "Host/Describe.h"
 #include "Host/Format.h"
 
-#include <algorithm>
-
 namespace Host {
 
 namespace {
@@ -24,18 +22,17 @@ std::string Describe(const FoundCamera& camera, bool served) {
 } // namespace
 
 int Discover(const Invocation& invocation) {
-    const auto& served = invocation.Program().LoadedPlugin().Models();
+    const Plugin& plugin = invocation.Program().LoadedPlugin();
     const auto found = DiscoverCameras();
     Output output = invocation.Output();
     for (const FoundCamera& camera : found) {
-        const bool known =
-            std::any_of(served.begin(), served.end(), [&](const Model& model) { return model.name == camera.model; });
-        output.Add(Describe(camera, known), Json{{"address", camera.address},
-                                                 {"mac", camera.mac},
-                                                 {"model", TextToJson(camera.model)},
-                                                 {"serial", TextToJson(camera.serial)},
-                                                 {"userName", TextToJson(camera.userName)},
-                                                 {"served", known}});
+        const bool served = plugin.Serves(camera.model);
+        output.Add(Describe(camera, served), Json{{"address", camera.address},
+                                                  {"mac", camera.mac},
+                                                  {"model", TextToJson(camera.model)},
+                                                  {"serial", TextToJson(camera.serial)},
+                                                  {"userName", TextToJson(camera.userName)},
+                                                  {"served", served}});
     }
     const bool unreachable = found.empty() && !HasNetworkInterface();
     output.Line(found.empty() && !unreachable ? "no camera was found" : "");

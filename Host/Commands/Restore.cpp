@@ -95,29 +95,28 @@ void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {
 /// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes put back: agc", of a restore that did not
 /// come to its end.
 std::string DescribeProgress(const Restorer& restorer) {
-    std::size_t restored = 0;
-    std::size_t skipped = 0;
-    std::size_t refused = 0;
-    std::vector<Instance> putBack;
     const auto& results = restorer.Results();
+    const auto count = [&](std::initializer_list<RestoreStatus> statuses) {
+        return std::count_if(results.begin(), results.end(), [&](const RestoreResult& result) {
+            return std::find(statuses.begin(), statuses.end(), result.status) != statuses.end();
+        });
+    };
+    const auto restored = count({RestoreStatus::Done, RestoreStatus::Unchanged, RestoreStatus::Rounded});
+    const auto skipped = count({RestoreStatus::Skipped});
+    const auto refused = count({RestoreStatus::Clamped, RestoreStatus::Refused});
+    std::vector<Instance> putBack;
     for (const RestoreResult& result : results) {
-        const RestoreStatus status = result.status;
-        restored +=
-            status == RestoreStatus::Done || status == RestoreStatus::Unchanged || status == RestoreStatus::Rounded ? 1
-                                                                                                                    : 0;
-        skipped += status == RestoreStatus::Skipped ? 1 : 0;
-        refused += status == RestoreStatus::Clamped || status == RestoreStatus::Refused ? 1 : 0;
-        if (status == RestoreStatus::PutBack) {
+        if (result.status == RestoreStatus::PutBack) {
             putBack.push_back(result.instance);
         }
     }
     std::string text = std::to_string(restored) + " of " + std::to_string(results.size()) + " functions restored";
-    const auto add = [&](std::size_t count, const char* what) {
-        text += count == 0 ? "" : ", " + std::to_string(count) + what;
+    const auto add = [&](std::ptrdiff_t number, const char* what) {
+        text += number == 0 ? "" : ", " + std::to_string(number) + what;
     };
     add(skipped, " skipped");
     add(refused, " refused");
-    add(results.size() - restored - skipped - refused, " not reached");
+    add(std::ssize(results) - restored - skipped - refused, " not reached");
     const auto leftOff = restorer.ModesLeftOff();
     text += putBack.empty() ? "" : "; automatic modes put back: " + NamesOf(putBack);
     text += leftOff.empty() ? "" : "; automatic modes left off: " + NamesOf(leftOff);

@@ -1,24 +1,12 @@
 #include "Host/Commands/Commands.h"
 
-#include "Host/Json.h"
+#include "Host/Describe.h"
 #include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/SettingsFile.h"
 
 #include <iostream>
 
 namespace Host {
-
-namespace {
-
-Json Names(const std::vector<Instance>& instances) {
-    Json names(Json::List{});
-    for (const Instance& instance : instances) {
-        names.Add(instance.Name());
-    }
-    return names;
-}
-
-} // namespace
 
 int Save(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
@@ -33,7 +21,7 @@ int Save(const Invocation& invocation) {
     Output output(invocation.Program().Json(), toStandardOutput ? std::cerr : std::cout);
     output.Set(std::to_string(count) + " functions of " + settings.model + " saved to " +
                    (toStandardOutput ? "standard output" : file),
-               Json{{"file", file}, {"functions", count}, {"missing", Names(settings.missing)}});
+               Json{{"file", file}, {"functions", count}, {"missing", NamesToJson(settings.missing)}});
     output.End();
     return Success;
 }

@@ -35,7 +35,7 @@ TestResult Selftest::Test(const Instance& instance) const {
         return tested;
     }
     // One that is not available now may be so when it is unlocked.
-    if (const Reading reading = reader.TryRead(instance); IsAbsent(reading) && reading.code != SDK4_ERR_DISABLED) {
+    if (const Reading reading = reader.TryRead(instance); !reading.IsImplemented()) {
         tested.leftOut = reading.reason;
         return tested;
     }
@@ -52,27 +52,18 @@ TestResult Selftest::Test(const Instance& instance) const {
 }
 
 std::string Selftest::WhyNot(const Instance& instance) const {
-    if (instance->set == nullptr) {
-        return ""; // reading it does no harm
-    }
-    switch (instance->restore) {
-    case RestorePolicy::Setting:
-    case RestorePolicy::Mode:
-        return "";
-    case RestorePolicy::Output:
-        return outputs ? "" : "an output; --outputs includes it";
-    case RestorePolicy::Network:
-        return "network";
-    case RestorePolicy::Never:
-        break;
-    }
-    return "no setting";
+    const RestorePolicy policy = instance->restore;
+    return instance->set == nullptr                      ? "" // reading it does no harm
+           : policy == RestorePolicy::Never              ? "no setting"
+           : policy == RestorePolicy::Network            ? "network"
+           : policy == RestorePolicy::Output && !outputs ? "an output; --outputs includes it"
+                                                         : "";
 }
 
 void Selftest::TestUnlocked(TestResult& tested) const {
     const Instance& instance = tested.instance;
     const Reading reading = reader.TryRead(instance);
-    if (IsAbsent(reading)) {
+    if (reading.IsAbsent()) {
         tested.leftOut = reading.reason;
         return;
     }

@@ -33,44 +33,17 @@ bool WasSwitchedOff(const RestoreResult& mode) { return mode.before && *mode.bef
 } // namespace
 
 const char* NameOf(RestoreStatus status) {
-    switch (status) {
-    case RestoreStatus::Pending:
-        return "pending";
-    case RestoreStatus::Done:
-        return "ok";
-    case RestoreStatus::Unchanged:
-        return "unchanged";
-    case RestoreStatus::Rounded:
-        return "rounded";
-    case RestoreStatus::Clamped:
-        return "clamped";
-    case RestoreStatus::Refused:
-        return "refused";
-    case RestoreStatus::Skipped:
-        return "skipped";
-    case RestoreStatus::Planned:
-        return "would set";
-    case RestoreStatus::PutBack:
-        return "put back";
-    case RestoreStatus::LeftOff:
-        return "left off";
-    }
-    return "";
+    constexpr const char* names[] = {"pending", "ok",      "unchanged", "rounded",  "clamped",
+                                     "refused", "skipped", "would set", "put back", "left off"};
+    return names[static_cast<std::size_t>(status)];
 }
 
 std::string Restorer::WhyNot(const Instance& instance) const {
-    switch (instance->restore) {
-    case RestorePolicy::Setting:
-    case RestorePolicy::Mode:
-        return "";
-    case RestorePolicy::Output:
-        return options.outputs ? "" : "an output; --outputs includes it";
-    case RestorePolicy::Network:
-        return "network settings are never restored";
-    case RestorePolicy::Never:
-        break;
-    }
-    return "never restored";
+    const RestorePolicy policy = instance->restore;
+    return policy == RestorePolicy::Never                        ? "never restored"
+           : policy == RestorePolicy::Network                    ? "network settings are never restored"
+           : policy == RestorePolicy::Output && !options.outputs ? "an output; --outputs includes it"
+                                                                 : "";
 }
 
 RestoreResult Restorer::Compare(const FunctionValue& setting) const {

@@ -10,7 +10,7 @@
 
 namespace Host {
 
-/// What became of a function that was to be restored.
+/// What became of a function that was to be restored; NameOf has the names in this order.
 enum class RestoreStatus {
     Pending, ///< nothing yet, and nothing any more if the restore was stopped
     Done,

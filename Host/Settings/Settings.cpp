@@ -28,33 +28,21 @@ bool IsMoved(const Settings& first, const Settings& second, const Instance& inst
 
 } // namespace
 
-bool IsSame(const Instance& one, const Instance& other) {
-    return one.function == other.function && one.index == other.index;
-}
-
 const Value* Settings::Find(const Instance& instance) const {
     const auto found = std::find_if(values.begin(), values.end(),
-                                    [&](const FunctionValue& setting) { return IsSame(setting.instance, instance); });
+                                    [&](const FunctionValue& setting) { return setting.instance == instance; });
     return found == values.end() ? nullptr : &found->value;
 }
 
 bool Settings::Misses(const Instance& instance) const {
-    return std::any_of(missing.begin(), missing.end(), [&](const Instance& each) { return IsSame(each, instance); });
+    return std::find(missing.begin(), missing.end(), instance) != missing.end();
 }
 
 bool Settings::Moved(const Instance& instance) const {
     const auto& lock = instance->lock;
-    if (!lock || !lock->moves) {
-        return false;
-    }
-    const auto mode = std::find_if(values.begin(), values.end(),
-                                   [&](const FunctionValue& setting) { return setting.instance->name == lock->mode; });
-    return mode != values.end() && !lock->IsOpen(mode->value);
-}
-
-bool IsAbsent(const Reading& reading) {
-    return reading.code == SDK4_ERR_NOT_IMPLEMENTED || reading.code == SDK4_ERR_INVALID_INTERFACE ||
-           reading.code == SDK4_ERR_DISABLED;
+    return lock && lock->moves && std::any_of(values.begin(), values.end(), [&](const FunctionValue& setting) {
+               return setting.instance->name == lock->mode && !lock->IsOpen(setting.value);
+           });
 }
 
 Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs) {
@@ -64,7 +52,7 @@ Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool o
         if (reading.code == 0) {
             return reading.value;
         }
-        if (!IsAbsent(reading)) {
+        if (!reading.IsAbsent()) {
             unreadable(instance, reading);
             settings.missing.push_back(instance);
         }

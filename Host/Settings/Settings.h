@@ -32,11 +32,6 @@ using Unreadable = std::function<void(const Instance&, const Reading&)>;
 /// @param outputs    whether outputs are read, which may be many
 [[nodiscard]] Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs = true);
 
-[[nodiscard]] bool IsSame(const Instance& one, const Instance& other);
-
-/// Whether a camera has no such value, or none for now.
-[[nodiscard]] bool IsAbsent(const Reading& reading);
-
 /// The functions in words: "gain, overlayshow", once each.
 [[nodiscard]] std::string NamesOf(const std::vector<Instance>& instances);
 

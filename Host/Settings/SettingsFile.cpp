@@ -146,11 +146,7 @@ Json ToJson(const Settings& settings) {
                   {"family", settings.family}, {"serialnumber", settings.serial}, {"date", settings.date},
                   {"values", values}};
     if (!settings.missing.empty()) {
-        Json missing(Json::List{});
-        for (const Instance& instance : settings.missing) {
-            missing.Add(instance.Name());
-        }
-        document.Add(missingMember, missing);
+        document.Add(missingMember, NamesToJson(settings.missing));
     }
     return document;
 }
