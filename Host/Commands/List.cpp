@@ -46,7 +46,7 @@ Found Inspect(const Camera& camera, const Instance& instance) {
 std::string StateOf(const Instance& instance, const Found& found) {
     const Outcome& limits = found.limitsOutcome;
     return limits.code == 0                   ? DescribeState(instance, found.reading)
-           : limits.cause == Cause::NoControl ? "limits " + limits.reason
+           : limits.cause == Cause::NoControl ? "limits need control"
                                               : "limits not readable (" + limits.reason + ")";
 }
 

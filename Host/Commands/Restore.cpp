@@ -19,6 +19,8 @@ namespace {
 /// "7 -> 100", and whatever is not as wanted.
 std::string Describe(const RestoreResult& result) {
     const Instance& instance = result.instance;
+    const std::string reason = result.reason + (result.reason.empty() ? "" : "; ");
+    const std::string now = result.held ? ", the camera now holds " + instance.Print(*result.held) : "";
     switch (result.status) {
     case RestoreStatus::Done:
     case RestoreStatus::Planned:
@@ -30,17 +32,10 @@ std::string Describe(const RestoreResult& result) {
     case RestoreStatus::PutBack:
         return instance.Print(*result.held) + ", as it was before";
     case RestoreStatus::LeftOff:
-        return result.reason + (result.reason.empty() ? "" : "; ") + "it was " + instance.Print(*result.before) +
-               (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
-    case RestoreStatus::Pending:
-    case RestoreStatus::Rounded:
-    case RestoreStatus::Clamped:
-    case RestoreStatus::Refused:
-        break;
+        return reason + "it was " + instance.Print(*result.before) + now;
+    default:
+        return reason + "asked for " + instance.Print(result.saved) + now;
     }
-    const std::string reason = result.reason + (result.reason.empty() ? "" : "; ");
-    return reason + "asked for " + instance.Print(result.saved) +
-           (result.held ? ", the camera now holds " + instance.Print(*result.held) : "");
 }
 
 std::string Line(const RestoreResult& result) {

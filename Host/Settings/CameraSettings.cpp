@@ -10,14 +10,6 @@ namespace Host {
 
 namespace {
 
-/// Reads through a control of its own; what was read counts only if it was one camera all the time.
-Settings Take(Session& session, const Unreadable& unreadable) {
-    const UncachedCamera reader(session);
-    Settings settings = TakeSettings(reader.Camera(), unreadable);
-    session.Connection().RequireUnbroken();
-    return settings;
-}
-
 /// What cannot be read of one camera, by the reason.
 struct Missing {
     std::vector<Instance> withoutAddress;
@@ -41,29 +33,34 @@ struct Missing {
     }
 };
 
-} // namespace
-
-Settings TakeAllSettings(Session& session) {
-    session.Connection().RequireControl();
+/// Reads through a control of its own; what was read counts only if it was one camera all the time.
+/// @param otherwise is told of what cannot be read for another reason than these
+Settings Take(Session& session, const Unreadable& otherwise) {
+    const UncachedCamera reader(session);
     Missing missing;
-    Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
+    Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& reading) {
         if (!missing.Note(instance, reading.cause)) {
-            throw std::runtime_error(instance.Name() + ": " + reading.reason);
+            otherwise(instance, reading);
         }
     });
+    session.Connection().RequireUnbroken();
     missing.Report(session.Connection());
     return settings;
 }
 
-Settings TakeReadableSettings(Session& session) {
-    Missing missing;
-    Settings settings = Take(session, [&](const Instance& instance, const Reading& reading) {
-        if (!missing.Note(instance, reading.cause)) {
-            PrintError(instance.Name() + ": " + reading.reason);
-        }
+} // namespace
+
+Settings TakeAllSettings(Session& session) {
+    session.Connection().RequireControl();
+    return Take(session, [](const Instance& instance, const Reading& reading) {
+        throw std::runtime_error(instance.Name() + ": " + reading.reason);
     });
-    missing.Report(session.Connection());
-    return settings;
+}
+
+Settings TakeReadableSettings(Session& session) {
+    return Take(session, [](const Instance& instance, const Reading& reading) {
+        PrintError(instance.Name() + ": " + reading.reason);
+    });
 }
 
 } // namespace Host
