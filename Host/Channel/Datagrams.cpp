@@ -74,7 +74,7 @@ bool HasNetworkInterface() {
     });
 }
 
-std::string LocalAddressTowards(const std::string& address) { return Socket(address).LocalAddress(); }
+std::string LocalAddressFor(const std::string& address) { return Socket(address).LocalAddress(); }
 
 std::optional<std::string> ReadTextWithoutControl(const std::string& camera, std::uint32_t memory,
                                                   std::uint16_t length) {

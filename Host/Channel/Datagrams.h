@@ -14,7 +14,7 @@ namespace Host {
 
 /// Where this machine sends from what it sends to an address. Sends nothing.
 /// @throws OpenError if there is no way to it
-[[nodiscard]] std::string LocalAddressTowards(const std::string& address);
+[[nodiscard]] std::string LocalAddressFor(const std::string& address);
 
 /// Reads a text from a camera's memory, without touching its control; nothing if the camera does not answer.
 /// @param length a multiple of 4, at most 512

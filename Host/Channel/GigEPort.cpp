@@ -24,7 +24,7 @@ using namespace Common::Bootstrap;
 namespace {
 
 constexpr std::uint32_t wordSize = 4;
-constexpr std::uint64_t largestPiece = 512; ///< that a packet of the control channel surely carries
+constexpr std::uint64_t largestTransfer = 512; ///< that a packet of the control channel surely carries
 
 constexpr int busyAttempts = 6;                    ///< of an access ...
 constexpr std::chrono::milliseconds busyPause{20}; ///< ... and the time between them
@@ -61,7 +61,7 @@ Error Try(const std::function<bool(GError**)>& access) {
 }
 
 ArvDevice* Open(const std::string& address) {
-    const std::string local = LocalAddressTowards(address);
+    const std::string local = LocalAddressFor(address);
     const Address from(g_inet_address_new_from_string(local.c_str()));
     const Address to(g_inet_address_new_from_string(address.c_str()));
     SilenceAravis();
@@ -216,10 +216,10 @@ void GigEPort::RequireAddresses(const Operation& operation, std::uint64_t length
 void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {
     RequireAddresses(operation, length);
     const std::uint64_t end = operation.address + length;
-    std::array<std::uint8_t, largestPiece> piece{};
+    std::array<std::uint8_t, largestTransfer> piece{};
     for (std::uint64_t wanted = operation.address; wanted < end;) {
         const std::uint64_t first = wanted / wordSize * wordSize;
-        const std::uint64_t size = std::min((end - first + wordSize - 1) / wordSize * wordSize, largestPiece);
+        const std::uint64_t size = std::min((end - first + wordSize - 1) / wordSize * wordSize, largestTransfer);
         Access(operation, [&](GError** error) {
             return arv_device_read_memory(device.get(), first, static_cast<guint32>(size), piece.data(), error) !=
                    FALSE;
@@ -236,9 +236,9 @@ void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::
                            std::to_string(length) + " bytes: only whole words can be written, at addresses of words");
     }
     RequireAddresses(operation, length);
-    std::array<std::uint8_t, largestPiece> piece{}; // since Aravis wants to be given what it may write to
+    std::array<std::uint8_t, largestTransfer> piece{}; // since Aravis wants to be given what it may write to
     for (std::uint64_t done = 0; done < length;) {
-        const std::uint64_t size = std::min(length - done, largestPiece);
+        const std::uint64_t size = std::min(length - done, largestTransfer);
         std::copy_n(data + done, size, piece.begin());
         Access(operation, [&](GError** error) {
             return arv_device_write_memory(device.get(), operation.address + done, static_cast<guint32>(size),
