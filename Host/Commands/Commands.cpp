@@ -39,7 +39,7 @@ const std::vector<Command>& Commands() {
                                                                             {first, second},                 Diff, true, NotCompared},
         {"restore",  "Set a camera to saved settings",                      {read, camera, outputs, dryRun}, Restore},
         {"watch",    "Show what changes, until interrupted",                {camera, later, seconds},        Watch},
-        {"selftest", "Test every function that can be set, and put all settings back", {camera, outputs},    RunSelftest},
+        {"selftest", "Test every function that can be set, and put all settings back", {camera, outputs},    Selftest},
         {"shell",    "Run these commands at a prompt, on one camera",       {camera},                        Shell, false},
     };
     // clang-format on

@@ -16,7 +16,7 @@ int Save(const Invocation& invocation);
 int Diff(const Invocation& invocation);
 int Restore(const Invocation& invocation);
 int Watch(const Invocation& invocation);
-int RunSelftest(const Invocation& invocation);
+int Selftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);
 
 } // namespace Host

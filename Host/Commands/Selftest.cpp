@@ -1,4 +1,4 @@
-#include "Host/Selftest/Selftest.h"
+#include "Host/Selftest/ComplianceTest.h"
 
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Commands/Commands.h"
@@ -111,24 +111,24 @@ private:
 };
 
 /// The instances of a row as one.
-void Merge(std::vector<TestResult>& results, TestResult tested) {
-    const Instance instance = tested.instance;
-    for (std::string& failure : tested.failures) {
+void Merge(std::vector<TestResult>& results, TestResult result) {
+    const Instance instance = result.instance;
+    for (std::string& failure : result.failures) {
         failure.insert(0, instance->indexed ? std::to_string(instance.index) + ": " : "");
     }
     if (results.empty() || results.back().instance.function != instance.function) {
-        results.push_back(std::move(tested));
+        results.push_back(std::move(result));
         return;
     }
     TestResult& row = results.back();
-    row.checks += tested.checks;
-    row.failures.insert(row.failures.end(), tested.failures.begin(), tested.failures.end());
+    row.checks += result.checks;
+    row.failures.insert(row.failures.end(), result.failures.begin(), result.failures.end());
 }
 
 std::vector<TestResult> TestAll(Session& session, bool outputs) {
     const UncachedCamera setter(session);
     const UncachedCamera reader(session);
-    const Selftest test(setter.Camera(), reader.Camera(), MakeWait(session), outputs);
+    const ComplianceTest test(setter.Camera(), reader.Camera(), MakeWait(session), outputs);
     test.SwitchOffModes();
     const auto instances = setter.Camera().All();
     Progress progress(instances.size());
@@ -144,30 +144,30 @@ std::vector<TestResult> TestAll(Session& session, bool outputs) {
 }
 
 /// @return nothing for what can only be read, unless that failed
-std::string Describe(const TestResult& tested) {
-    if (tested.instance->set == nullptr && tested.failures.empty()) {
+std::string Describe(const TestResult& result) {
+    if (result.instance->set == nullptr && result.failures.empty()) {
         return "";
     }
     std::string text =
-        Pad(std::string(tested.instance->name), 24) + "  " + Pad(std::to_string(tested.checks), 6) + "  ";
-    text += !tested.leftOut.empty()   ? Dim("left out (" + tested.leftOut + ")")
-            : tested.failures.empty() ? Green("passed")
+        Pad(std::string(result.instance->name), 24) + "  " + Pad(std::to_string(result.checks), 6) + "  ";
+    text += !result.leftOut.empty()   ? Dim("left out (" + result.leftOut + ")")
+            : result.failures.empty() ? Green("passed")
                                       : Red("FAILED");
-    for (const std::string& failure : tested.failures) {
+    for (const std::string& failure : result.failures) {
         text += "\n    " + failure;
     }
     return text;
 }
 
-Json ToJson(const TestResult& tested) {
+Json ToJson(const TestResult& result) {
     Json failures(Json::List{});
-    for (const std::string& failure : tested.failures) {
+    for (const std::string& failure : result.failures) {
         failures.Add(failure);
     }
-    return Json{{"name", tested.instance->name},
-                {"checks", tested.checks},
+    return Json{{"name", result.instance->name},
+                {"checks", result.checks},
                 {"failures", failures},
-                {"leftOut", tested.leftOut.empty() ? Json() : Json(tested.leftOut)}};
+                {"leftOut", result.leftOut.empty() ? Json() : Json(result.leftOut)}};
 }
 
 /// @return how many checks failed
@@ -175,10 +175,10 @@ int Report(const std::vector<TestResult>& results, Output output) {
     int checks = 0;
     int failures = 0;
     output.Line(Pad("FUNCTION", 24) + "  CHECKS  RESULT");
-    for (const TestResult& tested : results) {
-        checks += tested.checks;
-        failures += static_cast<int>(tested.failures.size());
-        output.Add(Describe(tested), ToJson(tested));
+    for (const TestResult& result : results) {
+        checks += result.checks;
+        failures += static_cast<int>(result.failures.size());
+        output.Add(Describe(result), ToJson(result));
     }
     output.Line(std::to_string(checks) + " checks, " + std::to_string(failures) + " failures");
     output.End();
@@ -187,7 +187,7 @@ int Report(const std::vector<TestResult>& results, Output output) {
 
 } // namespace
 
-int RunSelftest(const Invocation& invocation) {
+int Selftest(const Invocation& invocation) {
     Session& session = invocation.Open();
     session.Connection().RequireControl();
     const bool outputs = invocation.Has(Parameter::Outputs);

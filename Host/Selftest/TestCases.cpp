@@ -31,9 +31,9 @@ Value Replaced(Value value, std::size_t field, std::int64_t number) {
 
 std::vector<TestCase> TestCasesOf(const Instance& instance, const Limits& limits, const Refusal& refusal,
                                   const Value& current) {
-    std::vector<TestCase> trials{{"the value it holds", current, true}};
+    std::vector<TestCase> testCases{{"the value it holds", current, true}};
     if (limits.empty()) {
-        return trials;
+        return testCases;
     }
     // Fields may depend on each other, as the edges of an area do: all of them go to the same bound.
     Value least;
@@ -42,27 +42,27 @@ std::vector<TestCase> TestCasesOf(const Instance& instance, const Limits& limits
         least.numbers.push_back(field.min);
         most.numbers.push_back(field.max);
     }
-    trials.push_back({"minimum", least, true});
-    trials.push_back({"maximum", most, true});
+    testCases.push_back({"minimum", least, true});
+    testCases.push_back({"maximum", most, true});
     for (std::size_t i = 0; i < limits.size(); ++i) {
         const Field& field = instance->shape.fields[i];
         const std::string of = *field.name == '\0' ? "" : std::string(" of ") + field.name;
         for (const std::int64_t number : limits[i].admitted) {
-            trials.push_back({"admitted value" + of, Replaced(least, i, number), true});
+            testCases.push_back({"admitted value" + of, Replaced(least, i, number), true});
         }
         // A camera that is to clamp takes -1 for a very large number, unless it knows negative ones.
         const bool isLarge = limits[i].min == 0 && !refusal.keeps;
         if (!isLarge && Fits(field, limits[i].min - 1)) {
-            trials.push_back({"one below the minimum" + of, Replaced(least, i, limits[i].min - 1), false});
+            testCases.push_back({"one below the minimum" + of, Replaced(least, i, limits[i].min - 1), false});
         }
         if (Fits(field, limits[i].max + 1)) {
-            trials.push_back({"one above the maximum" + of, Replaced(most, i, limits[i].max + 1), false});
+            testCases.push_back({"one above the maximum" + of, Replaced(most, i, limits[i].max + 1), false});
         }
         if (const std::int64_t gap = Gap(limits[i]); !limits[i].Admits(gap)) {
-            trials.push_back({"value not admitted" + of, Replaced(least, i, gap), false});
+            testCases.push_back({"value not admitted" + of, Replaced(least, i, gap), false});
         }
     }
-    return trials;
+    return testCases;
 }
 
 Value Clamped(const Limits& limits, Value value) {

@@ -7,7 +7,7 @@
 #include <regex>
 
 #include "Host/Logging.h"
-#include "Host/Selftest/Selftest.h"
+#include "Host/Selftest/ComplianceTest.h"
 #include "Host/Settings/UncachedCamera.h"
 
 #include "Simulation/SimulatedCamera.h"
@@ -168,7 +168,7 @@ TEST_F(HostSelftestEnds, AsUsualWhenItIsToOutliveItsTerminal) {
 TEST(HostSelftest, LeavesALockOutWhoseModeCanNoLongerBeRead) {
     bool isTested = false; // the gain itself, with one above its maximum at the end
     const Outcome run =
-        RunInProcess(Host::RunSelftest, {{Host::Parameter::Camera, {"Sollux G"}}}, [&](const Host::Access& access) {
+        RunInProcess(Host::Selftest, {{Host::Parameter::Camera, {"Sollux G"}}}, [&](const Host::Access& access) {
             isTested = isTested || (access.write && access.address == 0x14010000 && access.data[0] == 0x39);
             if (isTested && access.address == 0x46020000) {
                 throw std::runtime_error("no answer");
@@ -194,8 +194,8 @@ TEST(HostSelftest, HoldsRoundingToWhatIsAnnounced) {
     });
     const Host::UncachedCamera setter(session);
     const Host::UncachedCamera reader(session);
-    const Host::Selftest selftest(setter.Camera(), reader.Camera(), Host::MakeWait(session), false);
-    const auto failures = [&](const char* name) { return selftest.Test(setter.Camera().FindOne(name)).failures; };
+    const Host::ComplianceTest test(setter.Camera(), reader.Camera(), Host::MakeWait(session), false);
+    const auto failures = [&](const char* name) { return test.Test(setter.Camera().FindOne(name)).failures; };
     EXPECT_EQ(failures("exposure"), std::vector<std::string>()); // another count
     EXPECT_EQ(failures("measurewindow.0"),
               std::vector<std::string>{"0,0,64,63: the camera holds 0,0,65,63 instead"}); // within the image

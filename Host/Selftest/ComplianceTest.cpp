@@ -1,4 +1,4 @@
-#include "Host/Selftest/Selftest.h"
+#include "Host/Selftest/ComplianceTest.h"
 
 #include "Host/ErrorReporting.h"
 #include "Host/Settings/Unlock.h"
@@ -20,7 +20,7 @@ bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code ==
 
 } // namespace
 
-void Selftest::SwitchOffModes() const {
+void ComplianceTest::SwitchOffModes() const {
     for (const Instance& instance : setter.All(false)) {
         if (instance->restore == RestorePolicy::Mode && reader.TryRead(instance).code == 0) {
             // What refuses this fails in the mode's own test, too.
@@ -29,29 +29,29 @@ void Selftest::SwitchOffModes() const {
     }
 }
 
-TestResult Selftest::Test(const Instance& instance) const {
-    TestResult tested{instance, 0, {}, WhyNot(instance)};
-    if (!tested.leftOut.empty()) {
-        return tested;
+TestResult ComplianceTest::Test(const Instance& instance) const {
+    TestResult result{instance, 0, {}, WhyNot(instance)};
+    if (!result.leftOut.empty()) {
+        return result;
     }
     // One that is not available now may be so when it is unlocked.
     if (const Reading reading = reader.TryRead(instance); !reading.IsImplemented()) {
-        tested.leftOut = reading.reason;
-        return tested;
+        result.leftOut = reading.reason;
+        return result;
     }
     const Outcome failure = Attempt([&] {
-        WhileUnlocked(setter, instance, [&] { TestUnlocked(tested); });
-        if (tested.leftOut.empty() && tested.failures.empty() && instance->lock && instance->set != nullptr) {
-            TestLock(tested);
+        WhileUnlocked(setter, instance, [&] { TestUnlocked(result); });
+        if (result.leftOut.empty() && result.failures.empty() && instance->lock && instance->set != nullptr) {
+            TestLock(result);
         }
     });
     if (failure.code != 0) {
-        tested.failures.push_back(failure.reason);
+        result.failures.push_back(failure.reason);
     }
-    return tested;
+    return result;
 }
 
-std::string Selftest::WhyNot(const Instance& instance) const {
+std::string ComplianceTest::WhyNot(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return instance->set == nullptr                      ? "" // reading it does no harm
            : policy == RestorePolicy::Never              ? "no setting"
@@ -60,16 +60,16 @@ std::string Selftest::WhyNot(const Instance& instance) const {
                                                          : "";
 }
 
-void Selftest::TestUnlocked(TestResult& tested) const {
-    const Instance& instance = tested.instance;
+void ComplianceTest::TestUnlocked(TestResult& result) const {
+    const Instance& instance = result.instance;
     const Reading reading = reader.TryRead(instance);
     if (reading.IsAbsent()) {
-        tested.leftOut = reading.reason;
+        result.leftOut = reading.reason;
         return;
     }
-    ++tested.checks;
+    ++result.checks;
     if (reading.code != 0) {
-        tested.failures.push_back("reading it: " + reading.reason);
+        result.failures.push_back("reading it: " + reading.reason);
         return;
     }
     if (instance->set == nullptr || reading.value.numbers.empty()) {
@@ -77,57 +77,60 @@ void Selftest::TestUnlocked(TestResult& tested) const {
     }
     const Limits limits = reader.LimitsOf(instance);
     const Refusal refusal = reader.RefusalOf(instance);
-    for (const TestCase& trial : TestCasesOf(instance, limits, refusal, reading.value)) {
-        Try(tested, trial, limits, refusal);
+    for (const TestCase& testCase : TestCasesOf(instance, limits, refusal, reading.value)) {
+        Try(result, testCase, limits, refusal);
     }
     if (limits.empty()) {
-        TryNeighbours(tested, reading.value);
+        TryNeighbours(result, reading.value);
     }
     static_cast<void>(Write(instance, reading.value));
 }
 
-void Selftest::Try(TestResult& tested, const TestCase& trial, const Limits& limits, const Refusal& refusal) const {
-    ++tested.checks;
-    const Instance& instance = tested.instance;
+void ComplianceTest::Try(TestResult& result, const TestCase& testCase, const Limits& limits,
+                         const Refusal& refusal) const {
+    ++result.checks;
+    const Instance& instance = result.instance;
     const Value before = reader.Read(instance);
-    const std::int32_t code = Write(instance, trial.value);
-    const std::int32_t expectedCode = trial.admitted ? 0 : refusal.code;
-    const Value expected = trial.admitted ? trial.value : refusal.keeps ? before : Clamped(limits, trial.value);
+    const std::int32_t code = Write(instance, testCase.value);
+    const std::int32_t expectedCode = testCase.admitted ? 0 : refusal.code;
+    const Value expected = testCase.admitted ? testCase.value
+                           : refusal.keeps   ? before
+                                             : Clamped(limits, testCase.value);
     const Value held = Held(instance, expected);
-    const std::string what = trial.what + " (" + instance.Print(trial.value) + "): ";
+    const std::string what = testCase.what + " (" + instance.Print(testCase.value) + "): ";
     if (code != expectedCode) {
-        tested.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
+        result.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
     }
-    const bool mayDiffer = trial.value != before && setter.RoundsTo(instance, trial.value, held);
+    const bool mayDiffer = testCase.value != before && setter.RoundsTo(instance, testCase.value, held);
     if (held != expected && !mayDiffer) {
-        tested.failures.push_back(what + "the camera holds " + instance.Print(held) + " instead of " +
+        result.failures.push_back(what + "the camera holds " + instance.Print(held) + " instead of " +
                                   instance.Print(expected));
     }
 }
 
-void Selftest::TryNeighbours(TestResult& tested, const Value& current) const {
-    const Instance& instance = tested.instance;
+void ComplianceTest::TryNeighbours(TestResult& result, const Value& current) const {
+    const Instance& instance = result.instance;
     for (std::size_t field = 0; field < current.numbers.size(); ++field) {
-        ++tested.checks;
+        ++result.checks;
         bool taken = false;
         for (const Value& neighbour : Neighbours(instance, current, field)) {
-            taken = TryNeighbour(tested, neighbour, current) || taken;
+            taken = TryNeighbour(result, neighbour, current) || taken;
         }
         if (!taken) {
-            tested.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
+            result.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
                                       (current.numbers.size() == 1 ? "it" : instance->shape.fields[field].name));
         }
     }
 }
 
-bool Selftest::TryNeighbour(TestResult& tested, const Value& neighbour, const Value& current) const {
-    const Instance& instance = tested.instance;
+bool ComplianceTest::TryNeighbour(TestResult& result, const Value& neighbour, const Value& current) const {
+    const Instance& instance = result.instance;
     if (const std::int32_t code = Write(instance, neighbour); code != 0) {
-        tested.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
+        result.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
     }
     const Value held = Held(instance, neighbour);
     if (held != current && held != neighbour && !setter.RoundsTo(instance, neighbour, held)) {
-        tested.failures.push_back(instance.Print(neighbour) + ": the camera holds " + instance.Print(held) +
+        result.failures.push_back(instance.Print(neighbour) + ": the camera holds " + instance.Print(held) +
                                   " instead");
     }
     static_cast<void>(Write(instance, current));
@@ -135,8 +138,8 @@ bool Selftest::TryNeighbour(TestResult& tested, const Value& neighbour, const Va
     return held != current;
 }
 
-void Selftest::TestLock(TestResult& tested) const {
-    const Instance& instance = tested.instance;
+void ComplianceTest::TestLock(TestResult& result) const {
+    const Instance& instance = result.instance;
     const Lock& lock = *instance->lock;
     const Instance mode = setter.FindOne(lock.mode);
     const Reading held = reader.TryRead(mode);
@@ -150,23 +153,23 @@ void Selftest::TestLock(TestResult& tested) const {
     if (closing == numbers.end()) {
         return;
     }
-    ++tested.checks;
+    ++result.checks;
     const Value value = reader.TryRead(instance).value;
     setter.Write(mode, {{*closing}, {}});
     const std::string closed = mode.Name() + "=" + mode.Print({{*closing}, {}});
     if (const std::int32_t code = value.numbers.empty() ? SDK4_ERR_DISABLED : Write(instance, value);
         !IsLockCode(code)) {
-        tested.failures.push_back("under " + closed + ": " + NameOf(code));
+        result.failures.push_back("under " + closed + ": " + NameOf(code));
     }
     wait(modeTime);
     setter.Write(mode, {{lock.open.front()}, {}});
     if (lock.moves) {
-        ++tested.checks;
+        ++result.checks;
         static_cast<void>(Write(instance, value));
         const Value written = reader.Read(instance);
         wait(modeTime);
         if (const Value now = reader.Read(instance); now != written) {
-            tested.failures.push_back("after " + closed + ": the camera still moves it, from " +
+            result.failures.push_back("after " + closed + ": the camera still moves it, from " +
                                       instance.Print(written) + " to " + instance.Print(now));
         }
     }
@@ -174,7 +177,7 @@ void Selftest::TestLock(TestResult& tested) const {
 }
 
 /// @return the code of the refusal, or 0
-std::int32_t Selftest::Write(const Instance& instance, const Value& value) const {
+std::int32_t ComplianceTest::Write(const Instance& instance, const Value& value) const {
     try {
         setter.Write(instance, value);
         return 0;
@@ -184,7 +187,7 @@ std::int32_t Selftest::Write(const Instance& instance, const Value& value) const
 }
 
 /// What the camera holds after a write. @throws std::runtime_error if it cannot be read any more
-Value Selftest::Held(const Instance& instance, const Value& expected) const {
+Value ComplianceTest::Held(const Instance& instance, const Value& expected) const {
     const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
     if (reading.code != 0) {
         throw std::runtime_error("reading it back: " + reading.reason);

@@ -19,12 +19,12 @@ struct TestResult {
 
 /// A compliance run: whether the library and the camera do what the table says of each function. It changes settings;
 /// who runs it puts them back.
-class Selftest {
+class ComplianceTest {
 public:
     /// @param setting sets the functions
     /// @param reading reads them, from the camera each time; nothing else is set through it
     /// @param waiting lets the camera's time pass
-    Selftest(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
+    ComplianceTest(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
         : setter(setting),
           reader(reading),
           wait(std::move(waiting)),
@@ -39,12 +39,12 @@ public:
 
 private:
     [[nodiscard]] std::string WhyNot(const Instance& instance) const;
-    void TestUnlocked(TestResult& tested) const;
-    void Try(TestResult& tested, const TestCase& trial, const Limits& limits, const Refusal& refusal) const;
-    void TryNeighbours(TestResult& tested, const Value& current) const;
+    void TestUnlocked(TestResult& result) const;
+    void Try(TestResult& result, const TestCase& testCase, const Limits& limits, const Refusal& refusal) const;
+    void TryNeighbours(TestResult& result, const Value& current) const;
     /// @return whether the camera then holds another value than before
-    bool TryNeighbour(TestResult& tested, const Value& neighbour, const Value& current) const;
-    void TestLock(TestResult& tested) const;
+    bool TryNeighbour(TestResult& result, const Value& neighbour, const Value& current) const;
+    void TestLock(TestResult& result) const;
     [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
     [[nodiscard]] Value Held(const Instance& instance, const Value& expected) const;
 
