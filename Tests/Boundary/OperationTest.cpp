@@ -41,6 +41,7 @@ protected:
 };
 
 TEST_P(OperationTest, AnswersAtTheStatedCost) {
+    SCOPED_TRACE("mend " + LoggingClass(row) + " or the row in Tests/Operations");
     const Camera cached = Open(row.state, row.state.RememberingIndex());
     EXPECT_EQ(Observe(cached, row.call), (Observed{row.result, row.accesses.first}));
     EXPECT_EQ(Observe(cached, row.call), (Observed{row.result, row.accesses.again})) << "repeated";
