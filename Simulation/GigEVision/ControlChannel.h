@@ -12,7 +12,7 @@ namespace Simulation::GigEVision {
 using Common::Gvcp::Status;
 using Time = std::chrono::steady_clock::time_point;
 
-/// An application, as a datagram of it shows it.
+/// Where a datagram comes from or goes to.
 struct Endpoint {
     std::uint32_t address;
     std::uint16_t port;
