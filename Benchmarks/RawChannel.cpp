@@ -30,7 +30,7 @@ bool IsOfRegister(const Host::Access& access) { return std::string_view(access.o
 void RawChannel::Release::operator()(_ArvDevice* opened) const { g_object_unref(opened); }
 
 RawChannel::RawChannel(const std::string& address) {
-    const Address from(g_inet_address_new_from_string(Host::LocalAddressTowards(address).c_str()));
+    const Address from(g_inet_address_new_from_string(Host::LocalAddressFor(address).c_str()));
     const Address to(g_inet_address_new_from_string(address.c_str()));
     GError* error = nullptr;
     device.reset(arv_gv_device_new(from.get(), to.get(), &error));

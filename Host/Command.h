@@ -18,9 +18,9 @@ enum class Required { Always, OutsideShell, Never };
 
 /// How a command takes a parameter.
 struct Syntax {
-    Parameter parameter;
-    const char* name; ///< "FILE" of an operand, which stands in its place; "--all", or "--seconds N", of an option
-    const char* about;
+    Parameter parameter{};
+    const char* name = ""; ///< "FILE" of an operand, which stands in its place; "--all", or "--seconds N", of an option
+    const char* about = "";
     Required required = Required::Always;
     bool several = false; ///< whether an operand may be given more than once
 };

@@ -18,7 +18,7 @@ std::string TextIn(std::span<const std::uint8_t> bytes) {
     return padded && end - bytes.begin() >= 4 ? std::string(bytes.begin(), end) : std::string();
 }
 
-std::string Quoted(const std::string& text) { return '"' + Common::Escaped(text) + '"'; }
+std::string QuotedText(const std::string& text) { return '"' + Common::Escaped(text) + '"'; }
 
 std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(word) : Common::Hex(word); }
 
@@ -31,14 +31,14 @@ std::string Pad(std::string text, std::size_t width) {
 
 std::string FormatBytes(std::span<const std::uint8_t> bytes) {
     if (const std::string text = TextIn(bytes); !text.empty()) {
-        return Quoted(text);
+        return QuotedText(text);
     }
     std::string words;
     std::size_t at = 0;
     for (; bytes.size() - at >= sizeof(std::uint32_t); at += sizeof(std::uint32_t)) {
         const auto rest = bytes.subspan(at);
         if (const std::string text = at == 4 ? TextIn(rest) : ""; !text.empty()) { // a text behind its leading word
-            return words + Quoted(text);
+            return words + QuotedText(text);
         }
         std::uint32_t word = 0;
         std::memcpy(&word, rest.data(), sizeof word);

@@ -45,7 +45,7 @@ constexpr std::string_view network = "gige:"; ///< begins what is no model
 
 /// @return the address of a camera on the network, empty for a simulated one
 std::string AddressOf(const std::string& camera) {
-    const std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
+    std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
     if (!Common::ParseAddress(address) && (camera.find(':') != std::string::npos || Common::ParseAddress(camera))) {
         throw UsageError('"' + camera +
                          "\" is no camera; a model or gige:ADDRESS is wanted, such as gige:192.168.1.10");

@@ -59,7 +59,7 @@ template <typename Names> std::string Joined(const Names& names) {
     return text;
 }
 
-std::vector<std::string> Lines(const std::string& text) {
+std::vector<std::string> SplitLines(const std::string& text) {
     std::istringstream stream(text);
     std::vector<std::string> lines;
     for (std::string line; std::getline(stream, line);) {
@@ -70,10 +70,10 @@ std::vector<std::string> Lines(const std::string& text) {
 
 /// The lines of one text that are not in the other, each behind a sign.
 std::string Missing(const std::string& sign, const std::string& text, const std::string& other) {
-    std::vector<std::string> known = Lines(other);
+    std::vector<std::string> known = SplitLines(other);
     std::sort(known.begin(), known.end());
     std::string missing;
-    for (const std::string& line : Lines(text)) {
+    for (const std::string& line : SplitLines(text)) {
         if (!std::binary_search(known.begin(), known.end(), line)) {
             missing += sign + line + "\n";
         }

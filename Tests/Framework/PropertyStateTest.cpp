@@ -16,9 +16,9 @@ namespace {
 const std::string longName(200, 'x');
 
 /// A control of a few properties, reached as a host reaches it.
-class Control : public CBaseControlHelper {
+class StateControl : public CBaseControlHelper {
 public:
-    Control() {
+    StateControl() {
         first.SetIndex(0);
         second.SetIndex(1);
         second.SetValue(-7);
@@ -100,7 +100,7 @@ const Question rows[] = {
 TEST(PropertyState, AnswersFromTheNamedPropertyAndRefusesUnknownNames) {
     for (const Question& row : rows) {
         SCOPED_TRACE(row.operation);
-        Control control;
+        StateControl control;
         EXPECT_EQ(row.call(control.State(), row.name), row.result);
         for (const char* const unknown : {"gai", "position.xx", "", static_cast<const char*>(nullptr)}) {
             LogCapture capture(log4cxx::Level::getWarn());
@@ -114,7 +114,7 @@ TEST(PropertyState, AnswersFromTheNamedPropertyAndRefusesUnknownNames) {
 }
 
 TEST(PropertyState, TheFirstOfANameWinsAndAnIndexChooses) {
-    Control control;
+    StateControl control;
     EXPECT_EQ(control.GetPropertyParamsByName("position.x"), &control.first);
     EXPECT_EQ(control.GetPropertyParamsByName(1, "position.x"), &control.second);
     EXPECT_EQ(control.GetPropertyParamsByName(2, "position.x"), nullptr);
@@ -124,7 +124,7 @@ TEST(PropertyState, TheFirstOfANameWinsAndAnIndexChooses) {
 }
 
 TEST(PropertyState, PassesOnWhatThePropertyRefuses) {
-    Control control;
+    StateControl control;
     control.State().SetEnabled("gain", false);
     EXPECT_EQ(CodeOf([&] { (void)control.State().GetUIntValue("gain"); }), "SDK4_ERR_DISABLED");
     EXPECT_EQ(control.State().GetUIntMax("gain"), 9u) << "limits need no access";
@@ -133,7 +133,7 @@ TEST(PropertyState, PassesOnWhatThePropertyRefuses) {
 }
 
 TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
-    Control control;
+    StateControl control;
     LogCapture capture;
     (void)control.State().GetIntMin("position.x");
     EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call", "debug gain", "debug position.x"}));
@@ -146,7 +146,7 @@ TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
 }
 
 TEST(PropertyState, NamesByPositionShareOneBuffer) {
-    Control control;
+    StateControl control;
     const char* const name = control.GetPropertyNameByIndex(4);
     EXPECT_EQ(name, longName);
     EXPECT_EQ(control.GetPropertyNameByIndex(0), name);
@@ -159,7 +159,7 @@ TEST(PropertyState, NamesByPositionShareOneBuffer) {
 }
 
 TEST(PropertyState, OneObserverHearsOfEveryProperty) {
-    Control control;
+    StateControl control;
     Observed observed;
     control.State().AddCallback(Observed::Tell, &observed);
     control.gain.SetValue(7u);
@@ -173,7 +173,7 @@ TEST(PropertyState, OneObserverHearsOfEveryProperty) {
 }
 
 TEST(PropertyState, AnObserverMayCallBackOrThrow) {
-    Control control;
+    StateControl control;
     control.State().AddCallback(
         [](const char* name, const char*, void* context) {
             auto& state = *static_cast<IPropertyState*>(context);

@@ -11,7 +11,7 @@ namespace Test {
 namespace {
 
 const std::string running = "SDK4_ERR_ACQUISITIONRUNNING", unknown = "SDK4_ERR_ERROR";
-unsigned char update[4];
+unsigned char firmware[4];
 
 State Text24(std::uint32_t address, const char* text) { return {{{address, TextBlock(24, text)}}}; }
 
@@ -77,7 +77,7 @@ std::vector<Operation> SettingsOperations() {
         {"IBasicSettings::SetStartupSettings 3",  On(&B::SetStartupSettings, 3), outOfRange, Never()},
         {"IBasicSettings::SetStartupSettings -1", On(&B::SetStartupSettings, -1), outOfRange, Never()},
         {"IBasicSettings::GetOperationMode",      On(&B::GetOperationMode),      "1",        Always("r 52020000")},
-        {"IBasicSettings::SetUpdateFile",         On(&B::SetUpdateFile, update, 4), notImplemented, Never()},
+        {"IBasicSettings::SetUpdateFile",         On(&B::SetUpdateFile, firmware, 4), notImplemented, Never()},
         {"IBasicSettings::SetUpdateFile null",    On(&B::SetUpdateFile, nullptr, 0), notImplemented, Never()},
         {"IBasicSettings::GetUpdateStatus",       On(&B::GetUpdateStatus),       notImplemented, Never()},
         {"IBasicSettings::GetDevice",             On(&B::GetDevice, device),     "4",        Always("wb 50050000=1,2,3; rb 50050000/16")},

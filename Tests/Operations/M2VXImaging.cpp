@@ -8,8 +8,6 @@ namespace Test {
 
 namespace {
 
-constexpr std::uint32_t agc = 0x46020000;
-
 Call Position(int overlay, int x, int y) {
     return On(&M2VX::IOverlay::SetOverlayPosition, overlay, SDK4_KCIRCULARPOSITION{x, y});
 }
@@ -31,7 +29,7 @@ Call Pixel(SDK4_KDEFECTPIXELSELECT select, SDK4_KDEFECTPIXEL pixel) {
 // clang-format off
 std::vector<Operation> SensorOperations() {
     using E = M2VX::IExposure; using G = M2VX::IGain; using A = M2VX::IABC;
-    const State automatic = With(agc, 2);
+    const State automatic = With(0x46020000, 2);
     const std::string allOfAGC = "GetAGC, GetAutomaticLevel, GetAutoGainStopMode";
     const std::string allOfABC = "GetABC, GetABCThreshold, GetABCThreshold 1, GetABCStopMode";
     return {

@@ -121,7 +121,7 @@ TEST_F(HostRestore, NamesTheModesThatAreOffWhenTheCameraIsLost) {
             const Outcome lost = Restore(lose, json);
             EXPECT_EQ(lost.code, 1);
             const std::string done =
-                last == agc ? "0 of 67 functions restored" : "[0-9]+ of 67 functions restored, 4 skipped";
+                last == agc ? "0 of [0-9]+ functions restored" : "[0-9]+ of [0-9]+ functions restored, 4 skipped";
             EXPECT_TRUE(std::regex_match(lost.err,
                                          std::regex("qdv12host: [a-z]+: WriteMem at 0x[0-9A-F]+ failed: it is gone; " +
                                                     done + ", [0-9]+ not reached; automatic modes left off: agc\n")))

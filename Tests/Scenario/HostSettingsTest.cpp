@@ -127,7 +127,7 @@ TEST_F(HostSettings, ThatAreRefusedDoNotStopTheOthers) {
     EXPECT_TRUE(Has(clamped.out, "gain                      clamped     SDK4_ERR_OUTOFRANGE; asked for 600, the camera "
                                  "now holds 511\n"));
     EXPECT_TRUE(Has(clamped.out, "sharpness                 ok          0 -> 9\n"));
-    EXPECT_TRUE(Has(clamped.err, "1 of 65 functions not restored\n")) << clamped.err;
+    EXPECT_TRUE(std::regex_search(clamped.err, std::regex("1 of [0-9]+ functions not restored\n"))) << clamped.err;
 
     const Outcome faulty = Run("restore --fault ignore:gain " + saved + " Orvik-390M");
     EXPECT_EQ(faulty.code, 1);
