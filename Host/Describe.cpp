@@ -5,6 +5,7 @@
 #include "Host/ErrorReporting.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace Host {
 
@@ -35,7 +36,7 @@ std::string Hexadecimal(const std::string& bytes) {
 std::optional<std::string> BytesOf(const std::string& hexadecimal) {
     std::string bytes;
     for (std::size_t i = 0; i < hexadecimal.size(); i += 2) {
-        const std::string digits = hexadecimal.substr(i, 2);
+        const std::string_view digits = std::string_view(hexadecimal).substr(i, 2);
         const auto byte = Common::ParseWhole<std::uint8_t>(digits, 16);
         if (digits.size() != 2 || byte.value_or(0) == 0) {
             return std::nullopt;

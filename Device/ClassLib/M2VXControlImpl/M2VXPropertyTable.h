@@ -2,6 +2,8 @@
 
 #include "M2VXControlImpl/PropertyRows.h"
 
+#include <SDK4/Enums.h>
+
 namespace SDK4::Control {
 
 /// The properties of an M2VX camera: what it can be set to, and what the control knows of it. The rows enter themselves
