@@ -33,7 +33,7 @@ public:
         if (connect(handle, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0) {
             const std::string why = std::strerror(errno);
             close(handle);
-            throw OpenError("there is no way to " + address + ": " + why);
+            throw OpenError("cannot reach " + address + ": " + why);
         }
     }
     ~Socket() { close(handle); }

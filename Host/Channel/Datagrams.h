@@ -13,7 +13,7 @@ namespace Host {
 [[nodiscard]] bool HasNetworkInterface();
 
 /// Where this machine sends from what it sends to an address. Sends nothing.
-/// @throws OpenError if there is no way to it
+/// @throws OpenError if it cannot be reached
 [[nodiscard]] std::string LocalAddressFor(const std::string& address);
 
 /// Reads a text from a camera's memory, without touching its control; nothing if the camera does not answer.

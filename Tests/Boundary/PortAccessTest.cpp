@@ -1,4 +1,4 @@
-// docs/port-accesses.md: what every row of the table of operations costs, measured. The document is written by this
+// docs/generated/port-accesses.md: what every row of the table of operations costs, measured. The document is written by this
 // test when QDV12_RENEW is set, and compared otherwise.
 
 #include "Tests/Boundary/Rows.h"
@@ -231,7 +231,7 @@ TEST_F(PortAccessTest, TheDocumentTellsWhatEveryOperationCosts) {
     document << std::ifstream(QDV12_PORT_ACCESSES).rdbuf();
     if (document.str() != measured) {
         FAIL() << Missing("-", document.str(), measured) << Missing("+", measured, document.str())
-               << "docs/port-accesses.md is out of date. If the change is meant, renew it:\n"
+               << "docs/generated/port-accesses.md is out of date. If the change is meant, renew it:\n"
                   "    cmake --build --preset release --target port-accesses";
     }
 }

@@ -166,7 +166,7 @@ TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {
     EXPECT_EQ(run.code, 3);
     EXPECT_EQ(run.err, "qdv12host: the camera at 192.168.1.77 could not be opened: no answer\n");
     EXPECT_EQ(RunHost("info gige:203.0.113.1").err, // there is loopback alone
-              "qdv12host: there is no way to 203.0.113.1: Network is unreachable\n");
+              "qdv12host: cannot reach 203.0.113.1: Network is unreachable\n");
 }
 
 TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
