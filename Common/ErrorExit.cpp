@@ -11,7 +11,7 @@ void PrintError(const std::string& program, const std::string& text) {
     std::cerr << program + ": " + InOneLine(text) + '\n';
 }
 
-int AsWritten(const std::string& program, int code, int failed) {
+int FlushResults(const std::string& program, int code, int failed) {
     if (std::cout.flush()) {
         return code;
     }

@@ -23,9 +23,10 @@ struct UsageError : std::runtime_error {
 /// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
 void PrintError(const std::string& program, const std::string& text);
 
-/// The exit code of a program whose results could be written; what nobody gets to see is no success: a disk is full,
-/// for one.
-/// @param failed the exit code where they could not
-[[nodiscard]] int AsWritten(const std::string& program, int code, int failed);
+/// Writes what is left of a program's results, at its end. Results that could not be written are no success: a disk is
+/// full, for one.
+/// @param code   the exit code of the program otherwise
+/// @param failed the exit code where they could not be written
+[[nodiscard]] int FlushResults(const std::string& program, int code, int failed);
 
 } // namespace Common

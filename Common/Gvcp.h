@@ -13,6 +13,7 @@ using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::uint16_t port = 3956;
 constexpr std::size_t headerSize = 8;
+constexpr std::uint32_t wordSize = 4;                ///< of a register; memory is read and written in whole words
 constexpr std::size_t largestPayload = 576 - 20 - 8; ///< of a UDP datagram: no packet needs to be fragmented anywhere
 constexpr std::size_t largestMemory = 536;           ///< that one packet reads or writes
 

@@ -31,13 +31,13 @@ std::string PrintAddress(std::uint32_t address) {
     return inet_ntop(AF_INET, &network, text, sizeof text);
 }
 
-std::vector<Interface> Interfaces() {
+std::vector<NetworkInterface> NetworkInterfaces() {
     ifaddrs* first = nullptr;
     if (getifaddrs(&first) != 0) {
         throw std::system_error(errno, std::generic_category(), "the network interfaces cannot be listed");
     }
     const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> list(first, &freeifaddrs);
-    std::vector<Interface> found;
+    std::vector<NetworkInterface> found;
     for (const ifaddrs* entry = first; entry != nullptr; entry = entry->ifa_next) {
         if (entry->ifa_addr != nullptr && entry->ifa_netmask != nullptr && entry->ifa_addr->sa_family == AF_INET) {
             found.push_back({entry->ifa_flags, AddressIn(entry->ifa_addr), AddressIn(entry->ifa_netmask)});

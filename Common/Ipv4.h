@@ -14,13 +14,13 @@ namespace Common {
 [[nodiscard]] std::string PrintAddress(std::uint32_t address);
 
 /// A network interface of this machine that has an IPv4 address.
-struct Interface {
+struct NetworkInterface {
     unsigned int flags; ///< as in net/if.h
     std::uint32_t address;
     std::uint32_t subnetMask;
 };
 
 /// @throws std::system_error
-[[nodiscard]] std::vector<Interface> Interfaces();
+[[nodiscard]] std::vector<NetworkInterface> NetworkInterfaces();
 
 } // namespace Common

@@ -86,12 +86,12 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     auto& simulation = options.camera.simulation;
     add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Common::SeedFault);
     add("--state", simulation.state, "FILE", "Keeps a simulated camera in a file between two runs");
-    add("--fault", simulation.faults, "TEXT", "Plants a fault in a simulated camera, such as ignore:gain")
+    add("--fault", simulation.faults, "TEXT", "Injects a fault into a simulated camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the camera for a fault too
 }
 
 /// @throws UsageError if CAMERA was forgotten, so that a function stands in its place
-void RequireCamera(const Request& request) {
+void RequireCamera(const ParsedCommandLine& request) {
     const auto camera = request.given.find(Parameter::Camera);
     if (camera == request.given.end()) {
         return;
@@ -104,7 +104,7 @@ void RequireCamera(const Request& request) {
 
 /// Takes over what was given for the one command that was named.
 /// @throws UsageError as above
-void TakeGiven(const std::vector<Filled>& commands, Request& request) {
+void TakeGiven(const std::vector<Filled>& commands, ParsedCommandLine& request) {
     for (const Filled& filled : commands) {
         if (!filled.app->parsed()) {
             continue;
@@ -168,13 +168,13 @@ void PrintHelp(const CLI::App& app, const std::string& name) {
     std::cout << found.front()->help(app.get_name());
 }
 
-Request Parse(std::vector<std::string> arguments, bool inShell) {
+ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, simulated ones or on the network.",
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.fallthrough(); // common options may stand behind the command
-    Request request;
+    ParsedCommandLine request;
     bool trace = false;
     app.add_flag("--json", request.options.json, "Print results as JSON");
     if (!inShell) {
@@ -214,7 +214,7 @@ Request Parse(std::vector<std::string> arguments, bool inShell) {
 
 } // namespace
 
-Request ParseCommandLine(std::vector<std::string> arguments) {
+ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
     try {
         return Parse(std::move(arguments), false);
     } catch (const UsageError& error) {
@@ -222,6 +222,6 @@ Request ParseCommandLine(std::vector<std::string> arguments) {
     }
 }
 
-Request ParseShellLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), true); }
+ParsedCommandLine ParseShellLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), true); }
 
 } // namespace Host

@@ -8,7 +8,7 @@
 namespace Host {
 
 /// A command line that was understood.
-struct Request {
+struct ParsedCommandLine {
     const Command* command = nullptr; ///< null when only help was asked for, which is printed then
     Invocation::Given given;
     Options options;
@@ -16,10 +16,10 @@ struct Request {
 
 /// Reads the arguments of the program, and prints its help if they ask for it.
 /// @throws UsageError for what is wrong with them
-[[nodiscard]] Request ParseCommandLine(std::vector<std::string> arguments);
+[[nodiscard]] ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments);
 
 /// Reads a line of a shell: a command without CAMERA, and of the common options --json alone.
 /// @throws UsageError as above
-[[nodiscard]] Request ParseShellLine(std::vector<std::string> arguments);
+[[nodiscard]] ParsedCommandLine ParseShellLine(std::vector<std::string> arguments);
 
 } // namespace Host

@@ -16,7 +16,7 @@ bool Lock::IsOpen(const Value& value) const {
 }
 
 Function& Function::Range(std::int64_t min, std::int64_t max) {
-    limits.assign(shape.fields.size(), {.min = min, .max = max, .admitted = {}, .defaultValue = {}});
+    limits.assign(shape.fields.size(), {.min = min, .max = max});
     return *this;
 }
 

@@ -20,8 +20,8 @@ namespace Host {
 struct FieldLimits {
     std::int64_t min = 0;
     std::int64_t max = 0;
-    std::vector<std::int64_t> admitted;
-    std::optional<std::int64_t> defaultValue; ///< the default, where the family publishes one
+    std::vector<std::int64_t> admitted{};
+    std::optional<std::int64_t> defaultValue{}; ///< the default, where the family publishes one
 
     [[nodiscard]] bool Admits(std::int64_t number) const;
 };

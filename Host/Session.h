@@ -29,7 +29,7 @@ public:
     /// @param camera a model, which is simulated, or gige:ADDRESS
     /// @throws OpenError for a model that the plug-in does not serve; for a camera that cannot be reached; for what
     ///         SimulatedConnection does not admit
-    /// @throws UsageError for what is no camera; for options that do not fit it; for a fault that cannot be planted
+    /// @throws UsageError for what is no camera; for options that do not fit it; for a fault that cannot be injected
     Session(const Plugin& plugin, const std::string& camera, const CameraOptions& options = {});
 
     [[nodiscard]] const std::string& Model() const { return model; }

@@ -11,7 +11,7 @@ namespace Host {
 namespace {
 
 std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const std::string& model, const SimulationOptions& options) {
-    auto camera = Simulation::MakeCamera(model, {.seed = options.seed.value_or(0)});
+    auto camera = Simulation::MakeCamera(model, options.seed.value_or(0));
     if (!camera) {
         throw OpenError("no simulated camera of model \"" + model + "\"");
     }

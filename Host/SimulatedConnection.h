@@ -17,7 +17,7 @@ namespace Host {
 struct SimulationOptions {
     std::optional<std::uint64_t> seed; ///< of the world around the camera; 0 if it is not given
     std::string state{};               ///< a file that holds the camera between two runs; none if empty
-    std::vector<std::string> faults{}; ///< to be planted in the camera
+    std::vector<std::string> faults{}; ///< to be injected into the camera
 };
 
 /// A simulated camera in this process.
@@ -25,7 +25,7 @@ class SimulatedConnection final : public Connection {
 public:
     /// Switches the camera on.
     /// @throws OpenError for a model that nothing simulates; for a state file that is no such file
-    /// @throws UsageError for a fault that cannot be planted
+    /// @throws UsageError for a fault that cannot be injected
     SimulatedConnection(const std::string& model, const SimulationOptions& options);
     ~SimulatedConnection() override;
 

@@ -10,7 +10,7 @@ namespace Host {
 namespace {
 
 /// The prompt and the columns go by characters, which are UTF-8 where nobody says otherwise. Numbers stay as they are.
-void TakeUpLocale() {
+void SetLocale() {
     const char* const locale = std::setlocale(LC_CTYPE, "");
     if (locale == nullptr || std::string_view(locale) == "C") {
         std::setlocale(LC_CTYPE, "C.UTF-8");
@@ -18,9 +18,9 @@ void TakeUpLocale() {
 }
 
 int Run(std::vector<std::string> arguments) {
-    const Request request = ParseCommandLine(std::move(arguments));
+    const ParsedCommandLine request = ParseCommandLine(std::move(arguments));
     if (request.command == nullptr) {
-        return Common::AsWritten("qdv12host", Success, Refused);
+        return Common::FlushResults("qdv12host", Success, Refused);
     }
     ConfigureLogging(request.options.logLevel, request.options.logConfig);
     const int failed = request.command->failed;
@@ -32,7 +32,7 @@ int Run(std::vector<std::string> arguments) {
         return Success;
     };
     const int end = RunAndReport(finish, failed);
-    return Common::AsWritten("qdv12host", end == Success ? code : end, failed);
+    return Common::FlushResults("qdv12host", end == Success ? code : end, failed);
 }
 
 } // namespace
@@ -40,6 +40,6 @@ int Run(std::vector<std::string> arguments) {
 } // namespace Host
 
 int main(int argc, char** argv) {
-    Host::TakeUpLocale();
+    Host::SetLocale();
     return Host::RunAndReport([&] { return Host::Run({argv + 1, argv + argc}); });
 }

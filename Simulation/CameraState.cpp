@@ -18,6 +18,9 @@ using Json = nlohmann::json;
 const char* const format = "simulated camera";
 const char* const serialNumber = "serial number";
 const char* const macAddress = "MAC address";
+const char* const timeMember = "microseconds";
+const char* const registersMember = "registers";
+const char* const setsMember = "settings sets";
 const char* const requestPrefix = "asked "; // and the register's name: what was requested of it
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
@@ -64,7 +67,7 @@ std::string Formatted(const Json& value, int depth, const std::string& indent) {
     throw StateError("camera state " + path.string() + ": " + reason);
 }
 
-/// Throws std::runtime_error with the reason where the file is damaged; whoever calls knows the path.
+/// @throws std::runtime_error with the reason; the caller knows the path
 [[noreturn]] void Damaged(const std::string& reason) { throw std::runtime_error("damaged: " + reason); }
 
 const Json& Member(const Json& object, const std::string& name) {
@@ -180,10 +183,10 @@ RegisterSpace::Content ReadIdentity(const Json& file, const RegisterSpace& space
 void Apply(const Json& file, SimulatedCamera& camera) {
     RegisterSpace& space = camera.Registers();
     CheckHeader(file, space);
-    const auto time = Number(Member(file, "microseconds"), longestTime, "the time");
-    auto content = ReadContent(Member(file, "registers"), space, savedRoles);
+    const auto time = Number(Member(file, timeMember), longestTime, "the time");
+    auto content = ReadContent(Member(file, registersMember), space, savedRoles);
     content.merge(ReadIdentity(file, space));
-    auto sets = ReadSets(Member(file, "settings sets"), space);
+    auto sets = ReadSets(Member(file, setsMember), space);
 
     space.Load(content);
     space.Set("startacquisition", {0});
@@ -204,9 +207,9 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
                        {"model", Model(space)},
                        {serialNumber, SerialNumberOf(space)},
                        {macAddress, MacAddressOf(space)},
-                       {"microseconds", static_cast<std::uint64_t>(camera.Time().count())},
-                       {"registers", ToJson(space, space.Save(savedRoles))},
-                       {"settings sets", sets}};
+                       {timeMember, static_cast<std::uint64_t>(camera.Time().count())},
+                       {registersMember, ToJson(space, space.Save(savedRoles))},
+                       {setsMember, sets}};
 
     try {
         Common::ReplaceFile(path, Formatted(file, 3, "") + '\n');

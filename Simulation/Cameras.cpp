@@ -58,8 +58,8 @@ template <typename Models> auto Find(const Models& models, std::string_view name
 
 } // namespace
 
-std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, const Options& options) {
-    const World world(options.seed);
+std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, std::uint64_t seed) {
+    const World world(seed);
     if (const auto* const orvik = Find(orvikModels, name)) {
         auto camera = Make(BootstrapRegisters(IdentityOf(*orvik)), OrvikRegisters(*orvik));
         AddOrvikBehaviour(*camera, *orvik, world);

@@ -86,9 +86,7 @@ const std::string& ModeOf(const FaultSpec& spec, const RegisterSpace& space, con
 
 std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultSpec& spec, const RegisterSpace& space) {
     if (const Register* const target = Target(spec, space)) {
-        const Instance& instance = target->powerUp.instances.front();
-        const std::uint64_t bytes = instance.selector.size() + instance.value.size();
-        return {target->address, target->address + bytes - 1};
+        return {target->address, std::uint64_t{target->address} + SizeOf(*target) - 1};
     }
     const auto address = static_cast<std::uint32_t>(*Common::ParseNumber(spec.target));
     if (!space.HasAddresses(address, sizeof address)) {

@@ -100,4 +100,9 @@ bool Admit(const std::vector<Limits>& limits, Words& words) {
     return true;
 }
 
+std::size_t SizeOf(const Register& entry) {
+    const Instance& instance = entry.powerUp.instances.front();
+    return instance.selector.size() + instance.value.size();
+}
+
 } // namespace Simulation

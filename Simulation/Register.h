@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -82,5 +83,8 @@ struct Register {
     Value powerUp;
     std::vector<Limits> limits = {}; ///< of each word
 };
+
+/// How many bytes it takes in the address space: its selector, and the value behind that.
+[[nodiscard]] std::size_t SizeOf(const Register& entry);
 
 } // namespace Simulation

@@ -9,15 +9,6 @@
 
 namespace Simulation {
 
-namespace {
-
-std::size_t SizeOf(const Register& entry) {
-    const Instance& instance = entry.powerUp.instances.front();
-    return instance.selector.size() + instance.value.size();
-}
-
-} // namespace
-
 RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
     for (const Register& entry : registers) {
         Cell cell{entry, entry.powerUp.instances.at(0).selector, {}, {}};

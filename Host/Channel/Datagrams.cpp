@@ -68,8 +68,8 @@ private:
 } // namespace
 
 bool HasNetworkInterface() {
-    const auto interfaces = Common::Interfaces();
-    return std::any_of(interfaces.begin(), interfaces.end(), [](const Common::Interface& each) {
+    const auto interfaces = Common::NetworkInterfaces();
+    return std::any_of(interfaces.begin(), interfaces.end(), [](const Common::NetworkInterface& each) {
         return (each.flags & (IFF_UP | IFF_LOOPBACK | IFF_POINTOPOINT)) == IFF_UP;
     });
 }

@@ -25,10 +25,10 @@ public:
     void RequireControl() override {
         port.TryToTakeControl();
         if (!port.HasControl()) {
-            throw OpenError(port.WhoControls());
+            throw OpenError(port.DescribeController());
         }
     }
-    [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.WhoControls() : ""; }
+    [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.DescribeController() : ""; }
     void RequireUnbroken() override {
         try {
             port.RequireUnbrokenControl();

@@ -1,6 +1,7 @@
 #include "Host/Channel/GigEPort.h"
 
 #include "Common/Bootstrap.h"
+#include "Common/Gvcp.h"
 #include "Common/Ipv4.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/ChannelErrors.h"
@@ -20,10 +21,10 @@
 namespace Host {
 
 using namespace Common::Bootstrap;
+using Common::Gvcp::wordSize;
 
 namespace {
 
-constexpr std::uint32_t wordSize = 4;
 constexpr std::uint64_t largestTransfer = 512; ///< that a packet of the control channel surely carries
 
 constexpr int busyAttempts = 6;                    ///< of an access ...
@@ -117,17 +118,15 @@ void GigEPort::TryToTakeControl() {
     }
 }
 
-std::string GigEPort::WhoControls() const {
+std::string GigEPort::DescribeController() const {
     const std::string where =
         Common::PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
     return camera + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
 }
 
 void GigEPort::RequireUnbrokenControl() {
-    if (controls && lost == Lost::No) { // else whoever found that has told it
-        if (IsLost()) {
-            FailAsLost({"ReadRegister", controlChannelPrivilege, false});
-        }
+    if (controls && lost == Lost::No && IsLost()) { // a loss that was found before has been told
+        FailAsLost({"ReadRegister", controlChannelPrivilege, false});
     }
 }
 
@@ -162,19 +161,19 @@ void GigEPort::Access(const Operation& operation, const std::function<bool(GErro
     if (lost != Lost::No) {
         FailAsLost(operation);
     }
-    RequireNoEnd(operation);
+    RequireNotEnding(operation);
     if (operation.writes && !controls) {
         denied = true;
-        throw ControlHeld(operation.name, operation.address, WhoControls());
+        throw ControlHeld(operation.name, operation.address, DescribeController());
     }
     const Error error = Try(access);
-    RequireNoEnd(operation);
+    RequireNotEnding(operation);
     if (error) {
         Fail(operation, *error);
     }
 }
 
-void GigEPort::RequireNoEnd(const Operation& operation) {
+void GigEPort::RequireNotEnding(const Operation& operation) {
     if (DeferredTermination::IsDue()) {
         lost = Lost::Ending;
         FailAsLost(operation);

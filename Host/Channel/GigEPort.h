@@ -43,7 +43,7 @@ public:
     void TryToTakeControl();
     /// While another program has control: "the camera at 192.168.1.10 is controlled by another program at
     /// 192.168.1.2:4711", without its address if the camera does not tell it.
-    [[nodiscard]] std::string WhoControls() const;
+    [[nodiscard]] std::string DescribeController() const;
     /// Whether a write failed for want of control since the last call.
     [[nodiscard]] bool TakeDenied() { return std::exchange(denied, false); }
     /// @throws ChannelLost if control is no longer with this program; once only
@@ -89,7 +89,7 @@ private:
     void Access(const Operation& operation, const std::function<bool(_GError**)>& access);
     [[noreturn]] void Fail(const Operation& operation, const _GError& error);
     /// Ends what runs by an exception, if a signal is to end this program.
-    void RequireNoEnd(const Operation& operation);
+    void RequireNotEnding(const Operation& operation);
     [[noreturn]] void FailAsLost(const Operation& operation) const;
     /// Reads a register that a camera need not have: 0 without it.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);

@@ -100,7 +100,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
         throw UsageError("unknown command \"" + words.front() + '"' + Common::Suggestion(words.front(), names));
     }
-    const Request request = ParseShellLine(words);
+    const ParsedCommandLine request = ParseShellLine(words);
     if (request.command == nullptr) {
         if (words.size() == 1) {
             std::cout << "\nhelp COMMAND says more about a command; quit leaves the shell.\n";

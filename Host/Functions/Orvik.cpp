@@ -15,7 +15,7 @@ namespace {
 bool IsColor(std::string_view model) { return model.find('C') != std::string_view::npos; }
 
 Limits SingleValues(std::vector<std::int64_t> admitted) {
-    return {{.min = admitted.front(), .max = admitted.back(), .admitted = admitted, .defaultValue = {}}};
+    return {{.min = admitted.front(), .max = admitted.back(), .admitted = admitted}};
 }
 
 Limits ColorCodings(IDynamicObject&, std::string_view model) {
@@ -35,17 +35,16 @@ Limits ReadoutAreas(IDynamicObject& control, std::string_view) {
     auto& roa = InterfaceOf<IRoa>(control);
     const SDK4_KAREA min = roa.GetReadoutAreaLimits(SDK4_ROADOMAIN_MIN);
     const SDK4_KAREA max = roa.GetReadoutAreaLimits(SDK4_ROADOMAIN_MAX);
-    return {{.min = min.startx, .max = max.startx, .admitted = {}, .defaultValue = {}},
-            {.min = min.starty, .max = max.starty, .admitted = {}, .defaultValue = {}},
-            {.min = min.endx, .max = max.endx, .admitted = {}, .defaultValue = {}},
-            {.min = min.endy, .max = max.endy, .admitted = {}, .defaultValue = {}}};
+    return {{.min = min.startx, .max = max.startx},
+            {.min = min.starty, .max = max.starty},
+            {.min = min.endx, .max = max.endx},
+            {.min = min.endy, .max = max.endy}};
 }
 
 /// An overlay may stand as far right and down as the readout area reaches.
 Limits OverlayPositions(IDynamicObject& control, std::string_view) {
     const SDK4_KAREA area = InterfaceOf<IRoa>(control).GetReadoutArea();
-    return {{.min = 0, .max = area.endx - area.startx, .admitted = {}, .defaultValue = {}},
-            {.min = 0, .max = area.endy - area.starty, .admitted = {}, .defaultValue = {}}};
+    return {{.min = 0, .max = area.endx - area.startx}, {.min = 0, .max = area.endy - area.starty}};
 }
 
 SDK4_KAREA SmallestArea(IRoa& roa) { return roa.GetReadoutAreaLimits(SDK4_ROADOMAIN_MIN); }

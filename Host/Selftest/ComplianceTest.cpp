@@ -30,7 +30,7 @@ void ComplianceTest::SwitchOffModes() const {
 }
 
 TestResult ComplianceTest::Test(const Instance& instance) const {
-    TestResult result{instance, 0, {}, WhyNot(instance)};
+    TestResult result{instance, 0, {}, ReasonToSkip(instance)};
     if (!result.leftOut.empty()) {
         return result;
     }
@@ -51,7 +51,7 @@ TestResult ComplianceTest::Test(const Instance& instance) const {
     return result;
 }
 
-std::string ComplianceTest::WhyNot(const Instance& instance) const {
+std::string ComplianceTest::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return instance->set == nullptr                      ? "" // reading it does no harm
            : policy == RestorePolicy::Never              ? "no setting"

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] TestResult Test(const Instance& instance) const;
 
 private:
-    [[nodiscard]] std::string WhyNot(const Instance& instance) const;
+    [[nodiscard]] std::string ReasonToSkip(const Instance& instance) const;
     void TestUnlocked(TestResult& result) const;
     void Try(TestResult& result, const TestCase& testCase, const Limits& limits, const Refusal& refusal) const;
     void TryNeighbours(TestResult& result, const Value& current) const;

@@ -38,7 +38,7 @@ const char* NameOf(RestoreStatus status) {
     return names[static_cast<std::size_t>(status)];
 }
 
-std::string Restorer::WhyNot(const Instance& instance) const {
+std::string Restorer::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return policy == RestorePolicy::Never                        ? "never restored"
            : policy == RestorePolicy::Network                    ? "network settings are never restored"
@@ -47,7 +47,8 @@ std::string Restorer::WhyNot(const Instance& instance) const {
 }
 
 RestoreResult Restorer::Compare(const FunctionValue& setting) const {
-    RestoreResult result{setting.instance, RestoreStatus::Planned, setting.value, {}, {}, WhyNot(setting.instance)};
+    RestoreResult result{
+        setting.instance, RestoreStatus::Planned, setting.value, {}, {}, ReasonToSkip(setting.instance)};
     if (!result.reason.empty()) {
         result.status = RestoreStatus::Skipped;
         return result;

@@ -76,7 +76,7 @@ public:
     [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 
 private:
-    [[nodiscard]] std::string WhyNot(const Instance& instance) const;
+    [[nodiscard]] std::string ReasonToSkip(const Instance& instance) const;
     [[nodiscard]] RestoreResult Compare(const FunctionValue& setting) const;
     [[nodiscard]] RestoreResult Set(const FunctionValue& setting) const;
     [[nodiscard]] bool MustStop();

@@ -76,7 +76,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
     add("--state", options.state, "FILE", "Keeps the camera in a file between two runs");
     add("--serial", options.serial, "TEXT", "Its serial number, to tell it from others of its model");
     add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
-    add("--fault", options.faults, "TEXT", "Plants a fault in the camera, such as ignore:gain")
+    add("--fault", options.faults, "TEXT", "Injects a fault into the camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the model for a fault too
     add("--record", options.record, "FILE", "Writes what is received and sent to a pcap file");
     AddDisturbances(app, options.disturbances);

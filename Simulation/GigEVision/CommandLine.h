@@ -18,7 +18,7 @@ struct Options {
     std::string state{}; ///< a file that holds the camera between two runs; none if empty
     std::optional<std::string> serial{};
     std::optional<std::string> mac{};
-    std::vector<std::string> faults{}; ///< to be planted in the camera
+    std::vector<std::string> faults{}; ///< to be injected into the camera
     Disturbances disturbances{};
     std::string record{}; ///< a file for packets; none if empty
 };

@@ -17,22 +17,18 @@ namespace {
 // wire as they are.
 static_assert(std::endian::native == std::endian::little, "vendor registers travel with little-endian words");
 
-constexpr std::uint32_t wordSize = 4;
-
 std::size_t SelectorSize(const Register& entry) { return entry.powerUp.instances.front().selector.size(); }
-
-std::size_t Size(const Register& entry) { return SelectorSize(entry) + entry.powerUp.instances.front().value.size(); }
 
 /// Whether a write of the function's own register is refused. A selector may be written whatever it selects.
 bool IsProtectedIn(const Register& entry, std::size_t offset, std::size_t length) {
-    return offset >= Size(entry) || (IsReadOnly(entry.role) && offset + length > SelectorSize(entry));
+    return offset >= SizeOf(entry) || (IsReadOnly(entry.role) && offset + length > SelectorSize(entry));
 }
 
 template <typename Access> Status Try(const Access& access) {
     try {
         access();
         return Status::Success;
-    } catch (const PortError&) { // a planted fault
+    } catch (const PortError&) { // an injected fault
         return Status::Error;
     }
 }
@@ -120,7 +116,7 @@ bool DeviceMemory::IsProtected(std::uint32_t address, std::size_t length) const 
 void DeviceMemory::SwapBytes(std::uint32_t address, std::span<std::uint8_t> bytes) const {
     for (std::size_t i = 0; i < bytes.size() && address < bootstrapEnd; i += wordSize) {
         const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
-        if (entry != nullptr && Size(*entry) == wordSize) {
+        if (entry != nullptr && SizeOf(*entry) == wordSize) {
             std::reverse(bytes.begin() + static_cast<std::ptrdiff_t>(i),
                          bytes.begin() + static_cast<std::ptrdiff_t>(i + wordSize));
         }

@@ -26,20 +26,20 @@ struct DelayedDatagram {
     std::chrono::microseconds delay;
 };
 
-/// What befalls a share of all cases: of ten with a share of 0.1 one of ten, of the next ten another one, which one is
-/// random. So the share is kept exactly, and a small one never befalls all repetitions of a request.
+/// Something that occurs in a share of all cases: with a share of 0.1 once in the first ten, once in the next ten, in
+/// which of them is random. So the share is kept exactly, and a small one never affects all repetitions of a request.
 class RandomOccurrence {
 public:
     explicit RandomOccurrence(double shareOfCases) : share(shareOfCases) {}
 
-    /// Whether it befalls this case.
+    /// Whether it occurs in this case.
     [[nodiscard]] bool Occurs(std::mt19937_64& random);
 
 private:
     double share;
     std::uint64_t cases = 0;
     std::uint64_t occurrences = 0;
-    std::uint64_t next = 0; ///< the case that the next mishap befalls
+    std::uint64_t next = 0; ///< the case in which it occurs next
 };
 
 /// A device behind all that can go wrong before it. The same seed and the same requests meet the same disturbances.

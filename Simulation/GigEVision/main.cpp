@@ -18,7 +18,7 @@ namespace {
 /// The mask of the network of this machine that the address belongs to; of none, a mask of that address alone.
 std::uint32_t SubnetMaskOf(std::uint32_t address) {
     std::uint32_t found = 0;
-    for (const Common::Interface& each : Common::Interfaces()) {
+    for (const Common::NetworkInterface& each : Common::NetworkInterfaces()) {
         if (each.address == address) {
             return each.subnetMask;
         }
@@ -46,7 +46,7 @@ void SetIdentity(RegisterSpace& space, const Options& options) {
 }
 
 std::unique_ptr<SimulatedCamera> SwitchOn(const Options& options) {
-    auto camera = MakeCamera(options.model, {.seed = options.seed});
+    auto camera = MakeCamera(options.model, options.seed);
     if (!camera) {
         throw UsageError("unknown model \"" + options.model + '"' + Common::Suggestion(options.model, ModelNames()) +
                          " (qdv12sim --help lists them)");
@@ -99,7 +99,7 @@ int Run(int argc, char** argv) {
     try {
         const auto options = ParseCommandLine(argc, argv);
         if (!options) {
-            return Common::AsWritten("qdv12sim", Common::Success, Common::NotOpened);
+            return Common::FlushResults("qdv12sim", Common::Success, Common::NotOpened);
         }
         ServeCamera(*options);
         return Common::Success;

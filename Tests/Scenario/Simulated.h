@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 /// A simulated camera that is driven through its port and looked at past it.
 class Simulated {
 public:
-    explicit Simulated(const char* model, std::uint64_t seed = 0) : camera(Simulation::MakeCamera(model, {seed})) {}
+    explicit Simulated(const char* model, std::uint64_t seed = 0) : camera(Simulation::MakeCamera(model, seed)) {}
 
     void Write(std::uint32_t address, const Words& words) const {
         camera->WriteBlock(address, reinterpret_cast<const unsigned char*>(words.data()),
