@@ -19,6 +19,14 @@ struct Unplugged {
     int reason;
 };
 
+/// A host's registry, which notes the models that it is told of: "model=key", one a line.
+struct Registry final : IModelRegistry {
+    void RegisterModel(const char* modelName, const char* libraryKey) override {
+        models += std::string(modelName) + "=" + libraryKey + "\n";
+    }
+    std::string models;
+};
+
 /// Sets a value through some operation.
 using Setter = std::function<void(IDynamicObject&, int)>;
 
@@ -50,14 +58,14 @@ protected:
     }
 
     /// The accesses that a call costs, and its outcome.
-    struct Observed {
+    struct Observation {
         std::string outcome, accesses;
-        bool operator==(const Observed&) const = default;
-        friend std::ostream& operator<<(std::ostream& stream, const Observed& observed) {
+        bool operator==(const Observation&) const = default;
+        friend std::ostream& operator<<(std::ostream& stream, const Observation& observed) {
             return stream << observed.outcome << " (" << observed.accesses << ")";
         }
     };
-    Observed Observe(const Camera& camera, const Call& call) {
+    Observation Observe(const Camera& camera, const Call& call) {
         port.TakeLog();
         std::string outcome = Outcome(call, *camera.Object());
         return {std::move(outcome), port.TakeLog()};

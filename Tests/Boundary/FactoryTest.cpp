@@ -10,13 +10,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-struct Registry final : IModelRegistry {
-    void RegisterModel(const char* modelName, const char* libraryKey) override {
-        models += std::string(modelName) + "=" + libraryKey + "\n";
-    }
-    std::string models;
-};
-
 const auto info = log4cxx::Level::getInfo();
 
 class Foreign {
@@ -104,28 +97,6 @@ TEST_F(FactoryTest, DebugLinesTellConstructionAndDestruction) {
     EXPECT_EQ(log.TakeTexts(),
               (Texts{"info dtor COrvik2FeatureCtrl", "info Call", "debug delete FeatureList", "debug dtor CFeatureList",
                      "debug delete RegisterList", "debug dtor CRegisterList", "info Call"}));
-}
-
-TEST_F(FactoryTest, ShowsTheNetworkWhenOpenedAtDebug) {
-    port.Set(0x0024, 0xC0A8010A);
-    port.Set(0x066C, 0xC0A80101);
-    port.Set(0x0934, 0xABCD0001);
-    for (const bool invalidAddress : {false, true}) {
-        LogCapture log;
-        port.FailAt(invalidAddress ? 10 : 0, [] { throw Unplugged{1}; });
-        Camera camera(plugin, "Orvik-520C", &port);
-        EXPECT_EQ(port.TakeLog(), "r 0010; r 0014; r 0024; r 0034; r 0044; r 064C; r 065C; r 066C; r 0934; r 0954");
-        Texts dump = log.TakeTexts();
-        std::erase_if(dump,
-                      [](const std::string& text) { return text.find(": ") == std::string::npos || text[0] == 'i'; });
-        EXPECT_EQ(dump, (Texts{"debug SupportedIPConfig   : 0x1", "debug CurrentIPConfig     : 0x1",
-                               "debug CurrentIPAddress    : 192.168.1.10", "debug CurrentSubNetMask   : 0.0.0.1",
-                               "debug CurrentGateway      : 0.0.0.1", "debug PersistentIPAddress : 0.0.0.1",
-                               "debug PersistentSubNetMask: 0.0.0.1", "debug PersistentGateway   : 192.168.1.1",
-                               "debug GVCP Capability     : 0xabcd0001",
-                               invalidAddress ? "debug GVCP Configuration  : Invalid Address"
-                                              : "debug GVCP Configuration  : 0x1"}));
-    }
 }
 
 TEST_F(FactoryTest, AConstructorThatFailsReachesTheHost) {

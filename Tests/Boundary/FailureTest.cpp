@@ -27,7 +27,7 @@ protected:
     };
 
     Camera OpenAs(const Opening& opening);
-    std::vector<Observed> Answers(const Camera& camera);
+    std::vector<Observation> Answers(const Camera& camera);
     Texts Held(int index);
     Untroubled Watch(const Opening& opening);
     void ExpectHarmless(const Opening& opening, std::span<const Failure> failures, const Untroubled& untroubled);
@@ -35,7 +35,7 @@ protected:
 
     const Operation& row = GetParam();
     const std::vector<const Operation*> getters = CachedGetters(row.state.IsM2VX());
-    ::Test::Observed observed;
+    Observed observed;
 };
 
 Camera FailureTest::OpenAs(const Opening& opening) {
@@ -45,15 +45,15 @@ Camera FailureTest::OpenAs(const Opening& opening) {
         Answers(camera);
     }
     if (row.state.IsM2VX()) {
-        camera.As<IPropertyState>().AddCallback(::Test::Observed::Tell, &observed);
+        camera.As<IPropertyState>().AddCallback(Observed::Notify, &observed);
     }
     observed.Take();
     return camera;
 }
 
 /// What the getters answer, and at which cost.
-std::vector<CameraTest::Observed> FailureTest::Answers(const Camera& camera) {
-    std::vector<Observed> answers;
+std::vector<CameraTest::Observation> FailureTest::Answers(const Camera& camera) {
+    std::vector<Observation> answers;
     answers.reserve(getters.size());
     for (const Operation* getter : getters) {
         answers.push_back(Observe(camera, getter->call));
@@ -93,7 +93,7 @@ void FailureTest::ExpectNoTrace(const Camera& camera, const Failure& failure, co
 void FailureTest::ExpectHarmless(const Opening& opening, std::span<const Failure> failures,
                                  const Untroubled& untroubled) {
     const Camera camera = OpenAs(opening);
-    const std::vector<Observed> before = opening.filled ? Answers(camera) : std::vector<Observed>{};
+    const std::vector<Observation> before = opening.filled ? Answers(camera) : std::vector<Observation>{};
     for (const Failure& failure : failures) {
         SCOPED_TRACE(failure);
         ExpectNoTrace(camera, failure, untroubled);

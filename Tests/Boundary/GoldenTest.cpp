@@ -131,10 +131,6 @@ Lines Exports() {
     return lines;
 }
 
-struct Registry final : IModelRegistry {
-    void RegisterModel(const char*, const char*) override {}
-};
-
 /// The file without its comments.
 Lines Golden() {
     Lines lines;

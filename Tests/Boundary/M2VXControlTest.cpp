@@ -61,22 +61,8 @@ TEST_F(M2VXControlTest, RemembersWhatTheCameraMadeOfAValueOutOfRange) {
             }
         });
         EXPECT_EQ(OutcomeOf(set, camera), outOfRange);
-        EXPECT_EQ(Observe(camera, Row(get).call), (Observed{remembered, ""}));
+        EXPECT_EQ(Observe(camera, Row(get).call), (Observation{remembered, ""}));
     }
-}
-
-TEST_F(M2VXControlTest, AFailedAccessLeavesWhatIsRemembered) {
-    const Camera camera = Open(OnM2VX(), 3);
-    for (const auto& [set, nth] : {std::pair{"IGain::SetGain", 1u},
-                                   {"IGain::SetGain above", 1u},
-                                   {"IGain::SetGain above", 2u},
-                                   {"IGain::SetAGC 1", 1u}}) {
-        port.FailAt(nth, Unplug);
-        EXPECT_THROW(OutcomeOf(set, camera), Unplugged) << set;
-        EXPECT_EQ(Observe(camera, Row("IGain::GetGain").call), (Observed{"1", ""})) << set;
-        EXPECT_EQ(OutcomeOf("IGain::GetAGC", camera), "0") << set;
-    }
-    EXPECT_EQ(OutcomeOf("IGain::SetGain", camera), done) << "still manual";
 }
 
 TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
@@ -100,7 +86,7 @@ TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
         for (const int index : {0, 3}) {
             const Camera camera = Open(state, index);
             LogCapture log(log4cxx::Level::getWarn());
-            EXPECT_EQ(Observe(camera, Row(name).call), (Observed{disabled, Row(name).accesses.first})) << name;
+            EXPECT_EQ(Observe(camera, Row(name).call), (Observation{disabled, Row(name).accesses.first})) << name;
             EXPECT_EQ(log.TakeTexts(), Texts{"warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"}) << name;
         }
     }
@@ -119,7 +105,7 @@ TEST_F(M2VXControlTest, ADisabledPropertyIsReadFromTheCameraOnly) {
     const Camera camera = Open(state, 3);
     LogCapture log(log4cxx::Level::getWarn());
     EXPECT_EQ(OutcomeOf("IDigitalEnhancement::SetBrightness", camera), disabled);
-    EXPECT_EQ(Observe(camera, Row("IDigitalEnhancement::GetBrightness").call), (Observed{disabled, ""}));
+    EXPECT_EQ(Observe(camera, Row("IDigitalEnhancement::GetBrightness").call), (Observation{disabled, ""}));
     EXPECT_EQ(log.TakeTexts(), Texts(2, "warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"));
     camera.As<IDigitalEnhancement>().SetHistogramEqualization(0);
     EXPECT_EQ(OutcomeOf("IDigitalEnhancement::GetBrightness", camera), "1") << "the refused store kept the old value";

@@ -100,7 +100,7 @@ TEST_F(M2VXOpeningTest, TheLowNibbleOfTheIndexDecides) {
     }
     for (const int index : {3, 15, 0x13, 0x102 + 1, -1}) {
         const Camera camera = Open(OnM2VX(), index);
-        EXPECT_EQ(Observe(camera, Row("IGain::GetGain").call), (Observed{"1", ""})) << index;
+        EXPECT_EQ(Observe(camera, Row("IGain::GetGain").call), (Observation{"1", ""})) << index;
         EXPECT_GT(CostOfOpening({}, index).size(), bootstrap.size()) << index;
     }
 }
@@ -165,18 +165,6 @@ TEST_F(M2VXOpeningTest, AModeThatNoSetterAdmitsDisablesNothing) {
             const Camera camera = Open(OnM2VX(With(mode, value)), 3);
             EXPECT_EQ(camera.As<IPropertyState>().GetEnabled(dependant), enabled) << dependant << " under " << value;
         }
-    }
-}
-
-TEST_F(M2VXOpeningTest, AnyFailureOfTheLastNetworkRegisterIsPassedOver) {
-    Prepare(port, OnM2VX());
-    for (const auto& failure : {std::function<void()>(Unplug), std::function<void()>([] { throw 42; }),
-                                std::function<void()>([] { throw SDK4::X4Error(SDK4_ERR_ERROR); })}) {
-        LogCapture log(log4cxx::Level::getWarn());
-        port.FailAt(10, failure);
-        const Camera camera(plugin, "Cerix7-MV", &port);
-        EXPECT_NE(camera.Object(), nullptr);
-        EXPECT_EQ(log.TakeTexts(), Texts{"warn GVCP Configuration  : Invalid Address"});
     }
 }
 

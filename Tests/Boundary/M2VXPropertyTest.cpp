@@ -222,8 +222,8 @@ TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
         {On(&M2VX::IExposure::SetExposureMode, 4), {}},
     };
     // clang-format on
-    ::Test::Observed observed;
-    properties.AddCallback(::Test::Observed::Tell, &observed);
+    Observed observed;
+    properties.AddCallback(Observed::Notify, &observed);
     int number = 0;
     for (const auto& [call, told] : steps) {
         Outcome(call, *camera.Object());
@@ -233,19 +233,19 @@ TEST_F(M2VXPropertyTest, TheObserverHearsOfEveryChangeInThisOrder) {
 
 TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
     struct Curious {
-        static void Tell(const char* name, const char* /*attribute*/, void* context) {
+        static void Notify(const char* name, const char* /*attribute*/, void* context) {
             auto& self = *static_cast<Curious*>(context);
             self.seen.push_back(std::string(name) + Row("IPropertyState::GetUIntValue").call(self.object) + " " +
                                 Row("IGain::GetGain").call(self.object));
             Row("IDigitalEnhancement::SetSharpness").call(self.object); // tells once more, one level deeper
             if (self.seen.size() == 3) {
-                Part<IPropertyState>(self.object).RemoveCallback(Tell);
+                Part<IPropertyState>(self.object).RemoveCallback(Notify);
             }
         }
         IDynamicObject& object;
         Texts seen{};
     } curious{*camera.Object()};
-    properties.AddCallback(Curious::Tell, &curious);
+    properties.AddCallback(Curious::Notify, &curious);
     camera.As<M2VX::IGain>().SetGain(7);
     EXPECT_EQ(curious.seen, (Texts{"gain7 7", "sharpness7 7"}));
     OutcomeOf("ISignalAnalysis::SetMeasureWindow", camera);
@@ -257,7 +257,7 @@ TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
 
 TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
     struct Overruling {
-        static void Tell(const char* name, const char* attribute, void* context) {
+        static void Notify(const char* name, const char* attribute, void* context) {
             auto& self = *static_cast<Overruling*>(context);
             if (std::string(name) + attribute == "agcvalue") {
                 std::exchange(self.overrule, [](IDynamicObject&) { return done; })(self.object);
@@ -267,14 +267,14 @@ TEST_F(M2VXPropertyTest, AnObserverMayOverruleAMode) {
         Call overrule;
     };
     Overruling disabling{*camera.Object(), On(&IPropertyState::SetEnabled, "agc", false)};
-    properties.AddCallback(Overruling::Tell, &disabling);
+    properties.AddCallback(Overruling::Notify, &disabling);
     EXPECT_EQ(OutcomeOf("IGain::SetAGC 1", camera), done);
     EXPECT_FALSE(properties.GetEnabled("agc") || properties.GetEnabled("gain"));
 
     properties.SetEnabled("agc", true);
     Overruling setting{*camera.Object(), Row("IGain::SetAGC").call};
-    properties.AddCallback(Overruling::Tell, &setting);
-    EXPECT_EQ(Observe(camera, Row("IGain::SetAGC 2").call), (Observed{done, "w 46020000=2; w 46020000=0"}));
+    properties.AddCallback(Overruling::Notify, &setting);
+    EXPECT_EQ(Observe(camera, Row("IGain::SetAGC 2").call), (Observation{done, "w 46020000=2; w 46020000=0"}));
     EXPECT_EQ(properties.GetUIntValue("agc"), 0u);
     EXPECT_TRUE(properties.GetEnabled("gain"));
     EXPECT_FALSE(properties.GetEnabled("automaticlevel"));

@@ -43,11 +43,11 @@ protected:
 TEST_P(OperationTest, AnswersAtTheStatedCost) {
     SCOPED_TRACE("mend " + LoggingClass(row) + " or the row in Tests/Operations");
     const Camera cached = Open(row.state, row.state.RememberingIndex());
-    EXPECT_EQ(Observe(cached, row.call), (Observed{row.result, row.accesses.first}));
-    EXPECT_EQ(Observe(cached, row.call), (Observed{row.result, row.accesses.again})) << "repeated";
+    EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.first}));
+    EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.again})) << "repeated";
     const Camera uncached = Open(row.state, row.state.ReadingIndex());
-    EXPECT_EQ(Observe(uncached, row.call), (Observed{row.result, row.accesses.firstUncached})) << "not remembering";
-    EXPECT_EQ(Observe(uncached, row.call), (Observed{row.result, row.accesses.againUncached}))
+    EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.firstUncached})) << "not remembering";
+    EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.againUncached}))
         << "not remembering, repeated";
 }
 

@@ -122,7 +122,7 @@ PortAccessTest::Cost PortAccessTest::CostOf(const Operation& row) {
         OnNewCamera([&] {
             const Camera camera = Open(row.state, index);
             for (int repetition = 0; repetition < 2; ++repetition) {
-                Observed observed = Observe(camera, row.call);
+                Observation observed = Observe(camera, row.call);
                 cost.accesses.push_back(std::move(observed.accesses));
                 cost.outcome = std::move(observed.outcome);
             }

@@ -211,7 +211,7 @@ TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
     }
 }
 
-TEST_F(DeviceTest, AnswersAnErrorWhereAFaultWasPlanted) {
+TEST_F(DeviceTest, AnswersAnErrorWhereAFaultWasInjected) {
     TakeControl();
     camera->InjectFault("fail:gain");
     camera->InjectFault("null:measurewindow");

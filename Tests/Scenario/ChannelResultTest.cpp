@@ -8,17 +8,10 @@ namespace Scenario {
 
 namespace {
 
-std::string Replaced(std::string text, const std::string& part, const std::string& by) {
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + by.size())) {
-        text.replace(at, part.size(), by);
-    }
-    return text;
-}
-
 /// What a result says whichever way the camera was reached: without what goes by the clock, and as if every camera
 /// stood where those in a process do.
 std::string Comparable(std::string text, const std::string& address = "192.168.1.10") {
-    text = Replaced(std::move(text), address, "192.168.1.10");
+    text = std::regex_replace(text, std::regex(address), "192.168.1.10");
     text = std::regex_replace(text, std::regex("  \"date\": [^\n]*\n"), "");
     text = std::regex_replace(text, std::regex("(\"name\": \"temperature\",[^}]*\"value\": )[0-9]+"), "$1 moved");
     return std::regex_replace(text, std::regex("(^|\n)temperature[^\n]*"), "");
@@ -45,12 +38,11 @@ std::string Difference(const std::string& one, const std::string& other) {
 void ExpectSame(const std::string& model, const std::string& address, const std::vector<std::string>& commands,
                 const std::vector<std::string>& disturbances = {}) {
     const NetworkCamera camera(model, address, disturbances);
-    const std::string unique = Replaced(address, ".", "-");
-    const std::string state = TemporaryFile(unique + ".state");
-    const std::string settings = TemporaryFile(unique + ".json");
+    const std::string state = TemporaryFile(address + ".state");
+    const std::string settings = TemporaryFile(address + ".json");
     for (const std::string& command : commands) {
         SCOPED_TRACE(command + " of " + model);
-        const std::string filled = Replaced(command, "FILE", settings);
+        const std::string filled = std::regex_replace(command, std::regex("FILE"), settings);
         const Outcome here = RunHost(Replaced(filled, "CAMERA", model) + " --state " + state);
         const std::string savedHere = Comparable(Content(settings));
         const Outcome there = camera.Run(filled);

@@ -1,6 +1,7 @@
 #include "Tests/Scenario/OperationsOn.h"
 
 #include "Host/Functions/Tables.h"
+#include "Simulation/Cameras.h"
 #include "Tests/Operations/Published.h"
 
 #include <set>
@@ -20,10 +21,10 @@ std::string RefusalIn(const std::string& outcome) { return outcome.starts_with("
 
 } // namespace
 
-class EveryOperation : public testing::TestWithParam<const char*> {};
+class EveryOperation : public testing::TestWithParam<std::string> {};
 
 TEST_P(EveryOperation, FindsItsRegistersInTheSimulatedCamera) {
-    const std::string model = GetParam();
+    const std::string& model = GetParam();
     for (const ::Test::Operation* row : OperationsOf(model)) {
         for (const int index : {row->state.RememberingIndex(), row->state.ReadingIndex()}) {
             SCOPED_TRACE(row->name + " with index " + std::to_string(index));
@@ -53,9 +54,6 @@ TEST(EveryInterface, HasARowInTheHost) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, EveryOperation,
-                         testing::Values("Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M",
-                                         "Orvik-390C", "Orvik-520M", "Orvik-520C", "Orvik-530M", "Orvik-530C",
-                                         "Cerix7-MV", "Cerix-MV7", "Sollux G"));
+INSTANTIATE_TEST_SUITE_P(Models, EveryOperation, testing::ValuesIn(Simulation::ModelNames()));
 
 } // namespace Scenario

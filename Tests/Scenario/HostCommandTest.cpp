@@ -156,16 +156,14 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
          "qdv12host: opening \"Cerix-MV7\" failed: ReadRegister at 0x00000934 failed: no answer from the camera\n"},
     });
     for (const char* arguments :
-         {"", "list", "frobnicate", "--log loud models", "models --plugin", "get", "get Orvik-710C",
-          "models --config /nowhere", "models --config /etc/passwd", "models --plugin ''", "models --index x",
-          "get Orvik-710C '1\n2'", "'1\n2'", "models --index '1\n2'", "get Orvik-710C gain --fault '1\n2'"}) {
+         {"", "list", "frobnicate", "--log loud models", "models --plugin", "get", "models --config /nowhere",
+          "models --config /etc/passwd", "models --plugin ''", "models --index x", "get Orvik-710C '1\n2'", "'1\n2'",
+          "models --index '1\n2'", "get Orvik-710C gain --fault '1\n2'"}) {
         const Outcome run = RunHost(arguments);
         EXPECT_EQ(run.code, 2) << arguments;
         EXPECT_EQ(Lines(run.err).size(), 1) << run.err;
         EXPECT_TRUE(run.err.starts_with("qdv12host: ")) << run.err;
     }
-    EXPECT_EQ(RunHost("--help").code, 0);
-    EXPECT_TRUE(Has(RunHost("set --help").out, "qdv12host set [OPTIONS] CAMERA NAME=VALUE..."));
 }
 
 TEST(HostCommand, ResultsThatCannotBeWrittenAreNoSuccess) {

@@ -11,6 +11,7 @@
 namespace Scenario {
 
 using Test::Content;
+using Test::Replaced;
 using Test::Running;
 using Test::TemporaryFile;
 

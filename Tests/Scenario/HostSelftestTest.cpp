@@ -1,16 +1,15 @@
 #include "Tests/Scenario/InProcess.h"
 #include "Tests/Scenario/SettingsFixture.h"
 
+#include "Host/Logging.h"
+#include "Host/Selftest/ComplianceTest.h"
+#include "Host/Settings/UncachedCamera.h"
+#include "Simulation/Cameras.h"
+
 #include <pty.h>
 
 #include <array>
 #include <regex>
-
-#include "Host/Logging.h"
-#include "Host/Selftest/ComplianceTest.h"
-#include "Host/Settings/UncachedCamera.h"
-
-#include "Simulation/SimulatedCamera.h"
 
 namespace Scenario {
 
@@ -35,10 +34,8 @@ protected:
 } // namespace
 
 TEST(HostSelftest, PassesOnEveryModel) {
-    for (const std::string model :
-         {"Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M", "Orvik-390C", "Orvik-520M",
-          "Orvik-520C", "Orvik-530M", "Orvik-530C", "Cerix7-MV", "Cerix-MV7", "'Sollux G'"}) {
-        const Outcome run = RunHost("selftest --outputs " + model);
+    for (const std::string& model : Simulation::ModelNames()) {
+        const Outcome run = RunHost("selftest --outputs '" + model + "'");
         EXPECT_EQ(run.code, 0) << model;
         EXPECT_EQ(run.err, "") << model;
         EXPECT_TRUE(run.out.ends_with(" checks, 0 failures\n")) << run.out;

@@ -51,5 +51,3 @@ template <typename Call> std::size_t CostOf(Host::Session& session, const Call& 
 }
 
 } // namespace Scenario
-
-// The records, compared word by word.

@@ -22,10 +22,4 @@ protected:
     std::string input = TemporaryFile("input");
 };
 
-inline std::string Replaced(std::string text, const std::string& part, const std::string& by) {
-    const std::size_t at = text.find(part);
-    EXPECT_NE(at, std::string::npos) << part << " is not in\n" << text;
-    return at == std::string::npos ? text : text.replace(at, part.size(), by);
-}
-
 } // namespace Scenario

@@ -21,6 +21,7 @@ using Simulation::MakeCamera;
 using Simulation::Role;
 using Simulation::Words;
 using Test::Content;
+using Test::Replaced;
 
 class CameraState : public testing::Test {
 protected:
@@ -50,16 +51,8 @@ protected:
     const std::filesystem::path file = folder / "camera.json";
 };
 
-std::string Replaced(std::string text, const std::string& old, const std::string& fresh) {
-    const auto at = text.find(old);
-    EXPECT_NE(at, std::string::npos) << old;
-    return at == std::string::npos ? text : text.replace(at, old.size(), fresh);
-}
-
 TEST_F(CameraState, IsKeptWholeForEveryModel) {
-    for (const char* model :
-         {"Orvik-31200M", "Orvik-31200C", "Orvik-710M", "Orvik-710C", "Orvik-390M", "Orvik-390C", "Orvik-520M",
-          "Orvik-520C", "Orvik-530M", "Orvik-530C", "Cerix7-MV", "Cerix-MV7", "Sollux G"}) {
+    for (const std::string& model : Simulation::ModelNames()) {
         const auto camera = MakeCamera(model);
         camera->WriteRegister(0x14010000, 11);
         camera->WriteRegister(0x51030000, 2);

@@ -11,9 +11,9 @@ namespace Test {
 
 using Texts = std::vector<std::string>;
 
-/// An observer of properties that notes what it is told, "gain value". Register it with Tell and its own address.
+/// An observer of properties that notes what it is told, "gain value". Register it with Notify and its own address.
 struct Observed {
-    static void Tell(const char* name, const char* attribute, void* context) {
+    static void Notify(const char* name, const char* attribute, void* context) {
         static_cast<Observed*>(context)->events.push_back(std::string(name) + " " + attribute);
     }
 
