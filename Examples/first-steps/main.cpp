@@ -10,9 +10,12 @@
 #include <dlfcn.h>
 #include <log4cxx/logger.h>
 
+#include <cstdint>
+#include <cstdio>
 #include <exception>
 #include <memory>
 #include <stdexcept>
+#include <string>
 
 namespace {
 
