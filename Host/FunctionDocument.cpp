@@ -1,6 +1,6 @@
-// Prints docs/generated/functions.md: which model has which camera function, what it admits, which register is behind it. Nothing
-// of it is written down here: the functions come from the host's table, limits and presence from the control of each
-// model, registers from the accesses that a call comes to.
+// Prints docs/generated/functions.md: which model has which camera function, what it admits, which register is behind
+// it. Nothing of it is written down here: the functions come from the host's table, limits and presence from the
+// control of each model, registers from the accesses that a call comes to.
 
 #include "Common/Number.h"
 #include "Common/Text.h"

@@ -1,5 +1,5 @@
-// docs/generated/port-accesses.md: what every row of the table of operations costs, measured. The document is written by this
-// test when QDV12_RENEW is set, and compared otherwise.
+// docs/generated/port-accesses.md: what every row of the table of operations costs, measured. The document is written
+// by this test when QDV12_RENEW is set, and compared otherwise.
 
 #include "Tests/Boundary/Rows.h"
 
