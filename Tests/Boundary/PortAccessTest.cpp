@@ -59,21 +59,12 @@ template <typename Names> std::string Joined(const Names& names) {
     return text;
 }
 
-std::vector<std::string> SplitLines(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 /// The lines of one text that are not in the other, each behind a sign.
 std::string Missing(const std::string& sign, const std::string& text, const std::string& other) {
-    std::vector<std::string> known = SplitLines(other);
+    std::vector<std::string> known = Split(other, "\n");
     std::sort(known.begin(), known.end());
     std::string missing;
-    for (const std::string& line : SplitLines(text)) {
+    for (const std::string& line : Split(text, "\n")) {
         if (!std::binary_search(known.begin(), known.end(), line)) {
             missing += sign + line + "\n";
         }

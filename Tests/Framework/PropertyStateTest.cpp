@@ -16,9 +16,9 @@ const std::string longName(200, 'x');
 const std::string endless(100000, 'x');
 
 /// A control of a few properties, reached as a host reaches it.
-class StateControl : public CBaseControlHelper {
+class TestControl : public CBaseControlHelper {
 public:
-    StateControl() {
+    TestControl() {
         first.SetIndex(0);
         second.SetIndex(1);
         second.SetValue(-7);
@@ -100,7 +100,7 @@ const Question rows[] = {
 TEST(PropertyState, AnswersFromTheNamedPropertyAndRefusesUnknownNames) {
     for (const Question& row : rows) {
         SCOPED_TRACE(row.operation);
-        StateControl control;
+        TestControl control;
         EXPECT_EQ(row.call(control.State(), row.name), row.result);
         for (const char* const unknown :
              {"gai", "Gain", "gain ", "position.xx", "", "\xFF", endless.c_str(), static_cast<const char*>(nullptr)}) {
@@ -115,7 +115,7 @@ TEST(PropertyState, AnswersFromTheNamedPropertyAndRefusesUnknownNames) {
 }
 
 TEST(PropertyState, TheFirstOfANameWinsAndAnIndexChooses) {
-    StateControl control;
+    TestControl control;
     EXPECT_EQ(control.GetPropertyParamsByName("position.x"), &control.first);
     EXPECT_EQ(control.GetPropertyParamsByName(1, "position.x"), &control.second);
     EXPECT_EQ(control.GetPropertyParamsByName(2, "position.x"), nullptr);
@@ -125,7 +125,7 @@ TEST(PropertyState, TheFirstOfANameWinsAndAnIndexChooses) {
 }
 
 TEST(PropertyState, PassesOnWhatThePropertyRefuses) {
-    StateControl control;
+    TestControl control;
     control.State().SetEnabled("gain", false);
     EXPECT_EQ(CodeOf([&] { (void)control.State().GetUIntValue("gain"); }), "SDK4_ERR_DISABLED");
     EXPECT_EQ(control.State().GetUIntMax("gain"), 9u) << "limits need no access";
@@ -134,7 +134,7 @@ TEST(PropertyState, PassesOnWhatThePropertyRefuses) {
 }
 
 TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
-    StateControl control;
+    TestControl control;
     LogCapture capture;
     (void)control.State().GetIntMin("position.x");
     EXPECT_EQ(capture.TakeTexts(), (Texts{"debug Call", "debug Call", "debug gain", "debug position.x"}));
@@ -147,7 +147,7 @@ TEST(PropertyState, LogsEveryEntryOnTheWayOfALookupByNameAlone) {
 }
 
 TEST(PropertyState, NamesByPositionShareOneBuffer) {
-    StateControl control;
+    TestControl control;
     const char* const name = control.GetPropertyNameByIndex(4);
     EXPECT_EQ(name, longName);
     EXPECT_EQ(control.GetPropertyNameByIndex(0), name);

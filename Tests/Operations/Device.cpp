@@ -12,8 +12,6 @@ namespace {
 Accesses MemoryRead(const std::string& address) { return Cached("R " + address + "/4").AskingModel(); }
 Accesses MemoryWrite(const std::string& written) { return Always("W " + written).AskingModel(); }
 
-unsigned char update[4];
-
 } // namespace
 
 // clang-format off
@@ -72,7 +70,7 @@ std::vector<Operation> DeviceOperations() {
         {"IBasicSettings::GetStartupSettings",  On(&B::GetStartupSettings),    "1",  Always("R 51040000/4")},
         {"IBasicSettings::SetStartupSettings",  On(&B::SetStartupSettings, 2), done, Always("W 51040000=2")},
         {"IBasicSettings::GetOperationMode",    On(&B::GetOperationMode),      "1",  Always("R 52020000/4")},
-        {"IBasicSettings::SetUpdateFile",       On(&B::SetUpdateFile, update, 4), notImplemented, Never()},
+        {"IBasicSettings::SetUpdateFile",       On(&B::SetUpdateFile, firmware, 4), notImplemented, Never()},
         {"IBasicSettings::GetUpdateStatus",     On(&B::GetUpdateStatus),       notImplemented, Never()},
         {"IBasicSettings::GetDevice",           On(&B::GetDevice, device),     notImplemented, Never()},
         {"IBasicSettings::SetDevice",           On(&B::SetDevice, device, 4),  notImplemented, Never()},

@@ -11,7 +11,6 @@ namespace Test {
 namespace {
 
 const std::string running = "SDK4_ERR_ACQUISITIONRUNNING", unknown = "SDK4_ERR_ERROR";
-unsigned char firmware[4];
 
 State Text24(std::uint32_t address, const char* text) { return {{{address, TextBlock(24, text)}}}; }
 

@@ -156,6 +156,9 @@ std::vector<Operation> DeviceOperations();
 std::vector<Operation> M2VXImagingOperations();
 std::vector<Operation> M2VXDeviceOperations();
 
+/// A firmware for SetUpdateFile, which no camera takes.
+inline unsigned char firmware[4];
+
 /// A state of an M2VX camera; rows of several groups as rows of that family.
 State OnM2VX(State state = {});
 std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups);

@@ -38,8 +38,10 @@ std::string Difference(const std::string& one, const std::string& other) {
 void ExpectSame(const std::string& model, const std::string& address, const std::vector<std::string>& commands,
                 const std::vector<std::string>& disturbances = {}) {
     const NetworkCamera camera(model, address, disturbances);
-    const std::string state = TemporaryFile(address + ".state");
-    const std::string settings = TemporaryFile(address + ".json");
+    // No address, which Comparable would replace in messages that name the files.
+    const std::string unique = std::regex_replace(address, std::regex("[.]"), "");
+    const std::string state = TemporaryFile(unique + ".state");
+    const std::string settings = TemporaryFile(unique + ".json");
     for (const std::string& command : commands) {
         SCOPED_TRACE(command + " of " + model);
         const std::string filled = std::regex_replace(command, std::regex("FILE"), settings);

@@ -65,7 +65,7 @@ TEST(HostCommandLine, KnowsHelpAsACommand) {
     EXPECT_EQ(unknown.err, "qdv12host: unknown command \"sett\"; did you mean \"set\"? (qdv12host --help says more)\n");
 }
 
-TEST(HostCommandLine, RemarksStandBehindCommandsOfAShell) {
+TEST(HostCommandLine, CommentsStandBehindCommandsOfAShell) {
     const std::string script = TemporaryFile("script");
     std::ofstream(script) << "# all\n  # more\nset gain=3 # as on line 2\nset username='# 1' #it's\nset username=#2\n"
                           << "get gain#\nhelp get # it\n";

@@ -203,7 +203,7 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
 
 TEST_F(HostSettings, AreDrivenFromAShell) {
     Write(input, "set gain=5\nsave " + saved + "\nset gain=9 agc=1 agc=off gain=9\ndiff " + saved +
-                     "\n# a remark\nget gian\nrestre\n'\nrestore --dry-run " + saved + "\nrestore \"" + saved +
+                     "\n# a comment\nget gian\nrestre\n'\nrestore --dry-run " + saved + "\nrestore \"" + saved +
                      "\"\nget gain --json\nget agc\nquit\nset gain=11\n");
     const Outcome run = RunHost("shell Orvik-390M --state " + state, QDV12_HOST, input);
     EXPECT_EQ(run.code, 1); // of the comparison, the first that did not end well
