@@ -91,32 +91,32 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
 }
 
 /// @throws UsageError if CAMERA was forgotten, so that a function stands in its place
-void RequireCamera(const ParsedCommandLine& request) {
-    const auto camera = request.given.find(Parameter::Camera);
-    if (camera == request.given.end()) {
+void RequireCamera(const ParsedCommandLine& line) {
+    const auto camera = line.given.find(Parameter::Camera);
+    if (camera == line.given.end()) {
         return;
     }
     const std::string& text = camera->second.front();
     if (IsFunction(text) || text.find('=') != std::string::npos) {
-        throw UsageError("CAMERA is required before \"" + text + '"' + UsageOf(*request.command, false));
+        throw UsageError("CAMERA is required before \"" + text + '"' + UsageOf(*line.command, false));
     }
 }
 
 /// Takes over what was given for the one command that was named.
 /// @throws UsageError as above
-void TakeGiven(const std::vector<Filled>& commands, ParsedCommandLine& request) {
+void TakeGiven(const std::vector<Filled>& commands, ParsedCommandLine& line) {
     for (const Filled& filled : commands) {
         if (!filled.app->parsed()) {
             continue;
         }
-        request.command = filled.command;
+        line.command = filled.command;
         for (const auto& [parameter, option] : filled.options) {
             if (option->count() != 0) {
-                request.given[parameter] = option->results();
+                line.given[parameter] = option->results();
             }
         }
     }
-    RequireCamera(request);
+    RequireCamera(line);
 }
 
 std::vector<std::string> OptionNames(const CLI::App& app) {
@@ -174,12 +174,12 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.fallthrough(); // common options may stand behind the command
-    ParsedCommandLine request;
+    ParsedCommandLine line;
     bool trace = false;
-    app.add_flag("--json", request.options.json, "Print results as JSON");
+    app.add_flag("--json", line.options.json, "Print results as JSON");
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
-        AddCommonOptions(app, request.options, trace);
+        AddCommonOptions(app, line.options, trace);
         app.footer("Exit codes: 0 all well; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
     }
     std::vector<Filled> commands;
@@ -197,19 +197,19 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) {
             app.exit(error);
-            return request;
+            return line;
         }
-        TakeGiven(commands, request);
-        throw UsageError(Describe(app, error, request.command == nullptr ? "" : UsageOf(*request.command, inShell)));
+        TakeGiven(commands, line);
+        throw UsageError(Describe(app, error, line.command == nullptr ? "" : UsageOf(*line.command, inShell)));
     }
-    TakeGiven(commands, request);
+    TakeGiven(commands, line);
     if (help->parsed()) {
         PrintHelp(app, helped);
     }
     if (trace) {
-        request.options.camera.accesses = PrintAccess;
+        line.options.camera.accesses = PrintAccess;
     }
-    return request;
+    return line;
 }
 
 } // namespace

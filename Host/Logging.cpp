@@ -50,7 +50,7 @@ void ConfigureLogging(const std::string& level, const std::string& configuration
         if (!std::filesystem::is_regular_file(configuration)) {
             throw UsageError("no such log4cxx configuration: " + configuration);
         }
-        log4cxx::helpers::LogLog::setQuietMode(true); // else its remarks stand on standard error, several lines of them
+        log4cxx::helpers::LogLog::setQuietMode(true); // else it prints several lines on standard error
         log4cxx::PropertyConfigurator::configure(configuration);
     }
     if (configuration.empty() || !level.empty()) {

@@ -18,14 +18,14 @@ void SetLocale() {
 }
 
 int Run(std::vector<std::string> arguments) {
-    const ParsedCommandLine request = ParseCommandLine(std::move(arguments));
-    if (request.command == nullptr) {
+    const ParsedCommandLine line = ParseCommandLine(std::move(arguments));
+    if (line.command == nullptr) {
         return Common::FlushResults("qdv12host", Success, Refused);
     }
-    ConfigureLogging(request.options.logLevel, request.options.logConfig);
-    const int failed = request.command->failed;
-    Program program(request.options);
-    const int code = RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, failed);
+    ConfigureLogging(line.options.logLevel, line.options.logConfig);
+    const int failed = line.command->failed;
+    Program program(line.options);
+    const int code = RunAndReport([&] { return line.command->run(Invocation(program, line.given)); }, failed);
     program.ReportController();
     const auto finish = [&]() -> int {
         program.Finish();

@@ -10,7 +10,7 @@ namespace Host {
 /// (0x8007)".
 [[nodiscard]] std::string Reason(const _GError& error);
 
-/// Drops what Aravis and GLib remark on standard error beside the errors that they return.
+/// Drops what Aravis and GLib print on standard error beside the errors that they return.
 void SilenceAravis();
 
 } // namespace Host

@@ -6,8 +6,8 @@
 namespace Host {
 
 /// While one lives, a signal that would end this program does so only when this object ends, so that the control of a
-/// camera is given back before; whoever dies with it holds it until the heartbeat times out. A second one ends the
-/// program at once. Who handles signals meanwhile (Interrupts) handles them instead.
+/// camera is given back before; of a program that dies with it, it is held until the heartbeat times out. A second one
+/// ends the program at once. Who handles signals meanwhile (Interrupts) handles them instead.
 class DeferredTermination {
 public:
     DeferredTermination();

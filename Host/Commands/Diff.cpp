@@ -67,7 +67,7 @@ Json ToJson(const Difference& difference) {
 bool ReportUncompared(const Side& side, const Side& other) {
     const auto missing = Uncompared(side.settings, other.settings);
     if (!missing.empty() && !side.file.empty()) { // of a camera it was told when it was read
-        PrintError(Quoted(side.file) + " does not hold these, which are not compared: " + NamesOf(missing));
+        PrintError(DescribeFile(side.file) + " does not hold these, which are not compared: " + NamesOf(missing));
     }
     return missing.empty();
 }

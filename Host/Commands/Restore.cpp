@@ -56,7 +56,7 @@ public:
         const Function* const skipped = result.status == RestoreStatus::Skipped ? result.instance.function : nullptr;
         if (skipped == nullptr || skipped != lastSkipped) {
             output.Line(Line(result));
-            std::cout.flush(); // whoever reads it waits for it
+            std::cout.flush(); // a reader waits for each result
         }
         lastSkipped = skipped;
     }
@@ -154,11 +154,12 @@ int Restore(const Invocation& invocation) {
     const bool dryRun = invocation.Has(Parameter::DryRun);
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
     if (saved.values.empty()) {
-        throw UsageError(Quoted(file) + " holds no values to restore");
+        throw UsageError(DescribeFile(file) + " holds no values to restore");
     }
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
-        throw UsageError(Quoted(file) + " holds settings of model " + saved.model + ", this is " + session.Model());
+        throw UsageError(DescribeFile(file) + " holds settings of model " + saved.model + ", this is " +
+                         session.Model());
     }
     Output output = invocation.Output();
     Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs), .report = Printer(output)};

@@ -72,7 +72,7 @@ public:
             const auto file = std::filesystem::temp_directory_path() /
                               ("qdv12host-" + before.model + "-" + std::to_string(getpid()) + ".json");
             WriteSettings(before, file.string());
-            return notPutBack + std::string("; ") + Quoted(file.string()) + " holds them for restore";
+            return notPutBack + std::string("; ") + DescribeFile(file.string()) + " holds them for restore";
         } catch (const std::exception& error) {
             return notPutBack + std::string(", nor kept: ") + error.what();
         }

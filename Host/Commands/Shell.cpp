@@ -20,7 +20,7 @@ bool IsBlank(char character) { return character == ' ' || character == '\t' || c
 
 bool IsQuote(char character) { return character == '"' || character == '\''; }
 
-/// Splits a line at blanks; what stands in quotes stays together, and a remark begins with # where a word could.
+/// Splits a line at blanks; what stands in quotes stays together, and a comment begins with # where a word could.
 std::vector<std::string> WordsOf(const std::string& line) {
     std::vector<std::string> words;
     bool inWord = false;
@@ -100,16 +100,16 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
         throw UsageError("unknown command \"" + words.front() + '"' + Common::Suggestion(words.front(), names));
     }
-    const ParsedCommandLine request = ParseShellLine(words);
-    if (request.command == nullptr) {
+    const ParsedCommandLine line = ParseShellLine(words);
+    if (line.command == nullptr) {
         if (words.size() == 1) {
             std::cout << "\nhelp COMMAND says more about a command; quit leaves the shell.\n";
         }
         return Success;
     }
-    program.SetJson(json || request.options.json);
+    program.SetJson(json || line.options.json);
     const int code =
-        RunAndReport([&] { return request.command->run(Invocation(program, request.given)); }, request.command->failed);
+        RunAndReport([&] { return line.command->run(Invocation(program, line.given)); }, line.command->failed);
     program.ReportController();
     program.SaveState(); // whatever ends the shell, its state file holds what was set
     return code;

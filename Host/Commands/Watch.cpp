@@ -42,7 +42,7 @@ public:
             std::cout << Pad(std::to_string(time / 1000) + "." + fraction + " s", 12) << Pad(source, 10)
                       << Pad(what, 24) << text;
         }
-        std::cout << std::endl; // whoever reads it waits for it
+        std::cout << std::endl; // a reader waits for each change
     }
 
 private:

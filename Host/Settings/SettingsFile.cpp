@@ -21,7 +21,9 @@ constexpr const char* format = "qdv12host settings";
 constexpr std::int64_t formatVersion = 1;
 constexpr const char* missingMember = "missing";
 
-[[noreturn]] void Fail(const std::string& file, const std::string& why) { throw UsageError(Quoted(file) + ": " + why); }
+[[noreturn]] void Fail(const std::string& file, const std::string& why) {
+    throw UsageError(DescribeFile(file) + ": " + why);
+}
 
 std::string Content(const std::string& file) {
     std::string content;
@@ -159,7 +161,9 @@ bool IsOfName(const std::error_code& code) {
 
 } // namespace
 
-std::string Quoted(const std::string& file) { return file == standardStream ? "standard input" : '"' + file + '"'; }
+std::string DescribeFile(const std::string& file) {
+    return file == standardStream ? "standard input" : '"' + file + '"';
+}
 
 Settings ReadSettings(const std::string& file, bool inShell) {
     if (file == standardStream && inShell) {
@@ -198,7 +202,7 @@ void WriteSettings(const Settings& settings, const std::string& file) {
         if (IsOfName(error.code())) {
             Fail(file, why);
         }
-        throw std::runtime_error(Quoted(file) + ": " + why);
+        throw std::runtime_error(DescribeFile(file) + ": " + why);
     }
 }
 

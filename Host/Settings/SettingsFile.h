@@ -10,7 +10,7 @@ namespace Host {
 constexpr const char* standardStream = "-";
 
 /// A file that was read, for messages: its name in quotes, or standard input.
-[[nodiscard]] std::string Quoted(const std::string& file);
+[[nodiscard]] std::string DescribeFile(const std::string& file);
 
 /// Writes settings as JSON. A file that is there is replaced as a whole or not at all.
 /// @throws UsageError for a file that cannot be there; std::runtime_error for one that could not be written
