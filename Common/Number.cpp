@@ -20,7 +20,7 @@ std::optional<std::int64_t> ParseNumber(std::string_view text) {
     return magnitude ? std::optional(isNegative ? -std::int64_t{*magnitude} : std::int64_t{*magnitude}) : std::nullopt;
 }
 
-std::string SeedFault(const std::string& text) {
+std::string CheckSeed(const std::string& text) {
     return ParseUnsigned<std::uint64_t>(text) ? "" : '"' + text + "\" is no seed; a number of 0 or more is wanted";
 }
 

@@ -22,7 +22,7 @@ template <typename Number, typename... Form>
 [[nodiscard]] std::optional<std::int64_t> ParseNumber(std::string_view text);
 
 /// What is wrong with a seed that a user gave, for the parsers of command lines; empty for a number of 64 bits.
-[[nodiscard]] std::string SeedFault(const std::string& text);
+[[nodiscard]] std::string CheckSeed(const std::string& text);
 
 /// "0x" and eight digits.
 [[nodiscard]] std::string Hex(std::uint32_t value);

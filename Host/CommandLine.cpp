@@ -27,7 +27,7 @@ bool IsRequired(const Syntax& syntax, bool inShell) {
 }
 
 /// What is wrong with the value of an option: nothing may be meant, and no other option.
-std::string ValueFault(const std::string& text) {
+std::string CheckValue(const std::string& text) {
     const bool isOption = text.size() > 1 && text[0] == '-' && (text[1] < '0' || text[1] > '9');
     return text.empty() || isOption ? "a value is required" : "";
 }
@@ -39,7 +39,7 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
         return blank == std::string::npos ? app.add_flag(name, syntax.about)
                                           : app.add_option(name.substr(0, blank), syntax.about)
                                                 ->type_name(name.substr(blank + 1))
-                                                ->check(ValueFault);
+                                                ->check(CheckValue);
     }
     CLI::Option* const option =
         app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));
@@ -71,7 +71,7 @@ std::string UsageOf(const Command& command, bool inShell) {
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
-        return app.add_option(name, variable, about)->type_name(value)->check(ValueFault);
+        return app.add_option(name, variable, about)->type_name(value)->check(CheckValue);
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N",
@@ -84,7 +84,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     add("--force-model", options.camera.forcedModel, "MODEL",
         "Drives a camera on the network as that model, whatever it calls itself");
     auto& simulation = options.camera.simulation;
-    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Common::SeedFault);
+    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Common::CheckSeed);
     add("--state", simulation.state, "FILE", "Keeps a simulated camera in a file between two runs");
     add("--fault", simulation.faults, "TEXT", "Injects a fault into a simulated camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the camera for a fault too

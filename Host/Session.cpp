@@ -33,12 +33,8 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     if (plugin.Serves(read)) {
         return read;
     }
-    std::string served;
-    for (const std::string& name : plugin.ModelNames()) {
-        served += (served.empty() ? "" : ", ") + name;
-    }
     throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " +
-                    served + " (--force-model MODEL opens it as one of these)");
+                    Common::Join(plugin.ModelNames()) + " (--force-model MODEL opens it as one of these)");
 }
 
 constexpr std::string_view network = "gige:"; ///< begins what is no model

@@ -22,8 +22,8 @@ std::string Now() {
 }
 
 /// Whether an automatic mode moves the function in either settings.
-bool IsMoved(const Settings& first, const Settings& second, const Instance& instance) {
-    return first.Moved(instance) || second.Moved(instance);
+bool IsMovedInEither(const Settings& first, const Settings& second, const Instance& instance) {
+    return first.IsMoved(instance) || second.IsMoved(instance);
 }
 
 } // namespace
@@ -34,11 +34,11 @@ const Value* Settings::Find(const Instance& instance) const {
     return found == values.end() ? nullptr : &found->value;
 }
 
-bool Settings::Misses(const Instance& instance) const {
+bool Settings::IsMissing(const Instance& instance) const {
     return std::find(missing.begin(), missing.end(), instance) != missing.end();
 }
 
-bool Settings::Moved(const Instance& instance) const {
+bool Settings::IsMoved(const Instance& instance) const {
     const auto& lock = instance->lock;
     return lock && lock->moves && std::any_of(values.begin(), values.end(), [&](const FunctionValue& setting) {
                return setting.instance->name == lock->mode && !lock->IsOpen(setting.value);
@@ -91,7 +91,7 @@ std::vector<Difference> Compare(const Settings& first, const Settings& second) {
             const Value* const other = second.Find(instance);
             const bool equal = one == nullptr || other == nullptr ? one == other : *one == *other;
             const bool comparable =
-                !IsMoved(first, second, instance) && !first.Misses(instance) && !second.Misses(instance);
+                !IsMovedInEither(first, second, instance) && !first.IsMissing(instance) && !second.IsMissing(instance);
             if (!equal && comparable) {
                 differences.push_back({instance, one, other});
             }
@@ -103,7 +103,7 @@ std::vector<Difference> Compare(const Settings& first, const Settings& second) {
 std::vector<Instance> Uncompared(const Settings& first, const Settings& second) {
     std::vector<Instance> missing = first.missing;
     std::erase_if(missing, [&](const Instance& instance) {
-        return second.Find(instance) == nullptr || IsMoved(first, second, instance);
+        return second.Find(instance) == nullptr || IsMovedInEither(first, second, instance);
     });
     return missing;
 }

@@ -18,9 +18,9 @@ struct Settings {
     std::vector<Instance> missing{};   ///< what the camera may have, but could not be read
 
     [[nodiscard]] const Value* Find(const Instance& instance) const;
-    [[nodiscard]] bool Misses(const Instance& instance) const;
+    [[nodiscard]] bool IsMissing(const Instance& instance) const;
     /// Whether an automatic mode, on in these settings, moves the function.
-    [[nodiscard]] bool Moved(const Instance& instance) const;
+    [[nodiscard]] bool IsMoved(const Instance& instance) const;
 };
 
 /// What to do about a function that cannot be read.

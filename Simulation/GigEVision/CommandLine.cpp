@@ -72,7 +72,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
     add("MODEL", options.model, "", "The camera's model, such as Orvik-710C")->required();
     add("--address", address, "ADDRESS", "The address of this machine that the camera takes (127.0.0.1)");
     add("--seed", options.seed, "N", "Chooses the world around the camera, and what goes wrong when")
-        ->check(Common::SeedFault);
+        ->check(Common::CheckSeed);
     add("--state", options.state, "FILE", "Keeps the camera in a file between two runs");
     add("--serial", options.serial, "TEXT", "Its serial number, to tell it from others of its model");
     add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
