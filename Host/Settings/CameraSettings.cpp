@@ -38,11 +38,16 @@ struct Missing {
 Settings Take(Session& session, const Unreadable& otherwise) {
     const UncachedCamera reader(session);
     Missing missing;
+    std::vector<Instance> unread;
     Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& reading) {
+        if (reading.cause != Cause::NoSuchAddress) {
+            unread.push_back(instance);
+        }
         if (!missing.Note(instance, reading.cause)) {
             otherwise(instance, reading);
         }
     });
+    settings.unread = std::move(unread);
     session.Connection().RequireUnbroken();
     missing.Report(session.Connection());
     return settings;

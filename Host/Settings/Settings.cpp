@@ -103,7 +103,8 @@ std::vector<Difference> Compare(const Settings& first, const Settings& second) {
 std::vector<Instance> Uncompared(const Settings& first, const Settings& second) {
     std::vector<Instance> missing = first.missing;
     std::erase_if(missing, [&](const Instance& instance) {
-        return second.Find(instance) == nullptr || IsMovedInEither(first, second, instance);
+        const bool isUnread = std::find(second.unread.begin(), second.unread.end(), instance) != second.unread.end();
+        return (second.Find(instance) == nullptr && !isUnread) || IsMovedInEither(first, second, instance);
     });
     return missing;
 }

@@ -16,6 +16,7 @@ struct Settings {
     std::string date;                  ///< when they were taken
     std::vector<FunctionValue> values; ///< in the order of the table
     std::vector<Instance> missing{};   ///< what the camera may have, but could not be read
+    std::vector<Instance> unread{};    ///< of these, what an open camera has an address for
 
     [[nodiscard]] const Value* Find(const Instance& instance) const;
     [[nodiscard]] bool IsMissing(const Instance& instance) const;
@@ -46,7 +47,7 @@ struct Difference {
 /// what is missing in either.
 [[nodiscard]] std::vector<Difference> Compare(const Settings& first, const Settings& second);
 
-/// What is missing in the first, and has a value in the second that it could have been compared with.
+/// What is missing in the first, and has or may have a value in the second that it could have been compared with.
 [[nodiscard]] std::vector<Instance> Uncompared(const Settings& first, const Settings& second);
 
 } // namespace Host
