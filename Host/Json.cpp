@@ -3,7 +3,9 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <limits>
 #include <set>
 #include <stdexcept>
 
@@ -74,6 +76,10 @@ Json FromDocument(const OrderedJson& document) {
     }
     if (document.is_string()) {
         return document.get<std::string>();
+    }
+    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    if (document.is_number_unsigned() && document.get<std::uint64_t>() > largest) {
+        throw std::runtime_error("the number " + document.dump() + " is too large");
     }
     if (document.is_number_integer()) {
         return document.get<std::int64_t>();
