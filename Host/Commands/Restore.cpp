@@ -10,6 +10,7 @@
 #include "Host/Style.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 
 namespace Host {
@@ -152,6 +153,10 @@ int Report(const Restorer& restorer) {
 int Restore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
+    if (IsCamera(file) && !std::filesystem::exists(file)) {
+        throw UsageError('"' + file + "\" is no file, but a camera; the file comes first: restore FILE" +
+                         (invocation.Program().IsOpen() ? "" : " CAMERA"));
+    }
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
     if (saved.values.empty()) {
         throw UsageError(DescribeFile(file) + " holds no values to restore");

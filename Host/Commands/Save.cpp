@@ -1,5 +1,6 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Text.h"
 #include "Host/Describe.h"
 #include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/SettingsFile.h"
@@ -20,7 +21,7 @@ int Save(const Invocation& invocation) {
     const auto count = static_cast<std::int64_t>(settings.values.size());
     Output output(invocation.Program().Json(), toStandardOutput ? std::cerr : std::cout);
     output.Set(std::to_string(count) + " functions of " + settings.model + " saved to " +
-                   (toStandardOutput ? "standard output" : file),
+                   (toStandardOutput ? "standard output" : Common::InOneLine(file)),
                Json{{"file", file}, {"functions", count}, {"missing", NamesToJson(settings.missing)}});
     output.End();
     return Success;
