@@ -131,4 +131,9 @@ std::string CutAtCharacter(const std::string& text, std::size_t bytes) {
     return text.substr(0, Continues(text[end]) ? bytes : end); // a text in another encoding
 }
 
+std::string CheckValue(const std::string& text) {
+    const bool isOption = text.size() > 1 && text[0] == '-' && (text[1] < '0' || text[1] > '9');
+    return text.empty() || isOption ? "a value is required" : "";
+}
+
 } // namespace Common

@@ -30,6 +30,10 @@ namespace Common {
 /// As much of a text as fits into that many bytes, without a part of a character at its end.
 [[nodiscard]] std::string CutAtCharacter(const std::string& text, std::size_t bytes);
 
+/// What is wrong with the value of an option, for the parsers of command lines: nothing may be meant, and no other
+/// option.
+[[nodiscard]] std::string CheckValue(const std::string& text);
+
 /// "one, two": the texts with the separator between them.
 template <typename Texts> [[nodiscard]] std::string Join(const Texts& texts, const std::string& separator = ", ") {
     std::string all;

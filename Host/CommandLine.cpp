@@ -2,6 +2,7 @@
 
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
+#include "Common/Text.h"
 #include "Host/Functions/Tables.h"
 #include "Host/Trace.h"
 
@@ -26,12 +27,6 @@ bool IsRequired(const Syntax& syntax, bool inShell) {
     return syntax.required == Required::Always || (syntax.required == Required::OutsideShell && !inShell);
 }
 
-/// What is wrong with the value of an option: nothing may be meant, and no other option.
-std::string CheckValue(const std::string& text) {
-    const bool isOption = text.size() > 1 && text[0] == '-' && (text[1] < '0' || text[1] > '9');
-    return text.empty() || isOption ? "a value is required" : "";
-}
-
 CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
     const std::string name = syntax.name;
     if (!IsOperand(syntax)) {
@@ -39,7 +34,7 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
         return blank == std::string::npos ? app.add_flag(name, syntax.about)
                                           : app.add_option(name.substr(0, blank), syntax.about)
                                                 ->type_name(name.substr(blank + 1))
-                                                ->check(CheckValue);
+                                                ->check(Common::CheckValue);
     }
     CLI::Option* const option =
         app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));
@@ -71,7 +66,7 @@ std::string UsageOf(const Command& command, bool inShell) {
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
-        return app.add_option(name, variable, about)->type_name(value)->check(CheckValue);
+        return app.add_option(name, variable, about)->type_name(value)->check(Common::CheckValue);
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N",

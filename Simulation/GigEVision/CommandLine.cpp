@@ -73,12 +73,14 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
     add("--address", address, "ADDRESS", "The address of this machine that the camera takes (127.0.0.1)");
     add("--seed", options.seed, "N", "Chooses the world around the camera, and what goes wrong when")
         ->check(Common::CheckSeed);
-    add("--state", options.state, "FILE", "Keeps the camera in a file between two runs");
+    add("--state", options.state, "FILE", "Keeps the camera in a file between two runs")->check(Common::CheckValue);
     add("--serial", options.serial, "TEXT", "Its serial number, to tell it from others of its model");
     add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
     add("--fault", options.faults, "TEXT", "Injects a fault into the camera, such as ignore:gain")
+        ->check(Common::CheckValue)
         ->allow_extra_args(false); // else it would take the model for a fault too
-    add("--record", options.record, "FILE", "Writes what is received and sent to a pcap file");
+    add("--record", options.record, "FILE", "Writes what is received and sent to a pcap file")
+        ->check(Common::CheckValue);
     AddDisturbances(app, options.disturbances);
     try {
         app.parse(argc, argv);
