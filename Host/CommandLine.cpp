@@ -31,7 +31,7 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
     const std::string name = syntax.name;
     if (!IsOperand(syntax)) {
         const std::size_t blank = name.find(' ');
-        return blank == std::string::npos ? app.add_flag(name, syntax.about)
+        return blank == std::string::npos ? app.add_flag(name, syntax.about)->disable_flag_override()
                                           : app.add_option(name.substr(0, blank), syntax.about)
                                                 ->type_name(name.substr(blank + 1))
                                                 ->check(Common::CheckValue);
@@ -71,7 +71,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N",
         "Camera index; with 2, the default, every value is read from the camera each time");
-    app.add_flag("--trace", trace, "Show each port access on standard error");
+    app.add_flag("--trace", trace, "Show each port access on standard error")->disable_flag_override();
     add("--log", options.logLevel, "LEVEL", "What log4cxx writes to standard error")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
@@ -130,11 +130,24 @@ std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name)
     return "unknown command \"" + name + '"' + Common::Suggestion(name, names);
 }
 
+/// What is wrong with how often an option, or a value of it, was given.
+/// @param said what the parser says of it, which begins with the name of the option, of a flag without its dashes
+std::string DescribeMismatch(const std::string& said) {
+    const std::string name = said.substr(0, said.find_first_of(": "));
+    if (said.ends_with("flag override")) {
+        return "--" + name + " takes no value";
+    }
+    return name + (said.ends_with("missing") ? ": a value is required" : " is given twice");
+}
+
 /// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
 /// @param usage of the command, for one that lacks an operand
 std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::string& usage) {
     const auto unknown = app.remaining(true);
     const auto parsed = app.get_subcommands();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        return DescribeMismatch(error.what());
+    }
     if (unknown.empty()) {
         const bool lacks = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
         return lacks && parsed.empty() ? "COMMAND is required" : error.what() + (lacks ? usage : "");
@@ -171,7 +184,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     app.fallthrough(); // common options may stand behind the command
     ParsedCommandLine line;
     bool trace = false;
-    app.add_flag("--json", line.options.json, "Print results as JSON");
+    app.add_flag("--json", line.options.json, "Print results as JSON")->disable_flag_override();
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, line.options, trace);

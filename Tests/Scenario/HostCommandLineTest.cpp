@@ -39,6 +39,9 @@ TEST(HostCommandLine, TellsWhatIsMissing) {
         {"info Orvik-710C --state ''", "qdv12host: --state: a value is required"},
         {"info Orvik-710C --fault --trace", "qdv12host: --fault: a value is required"},
         {"watch Orvik-710C --seconds --json", "qdv12host: --seconds: a value is required"},
+        {"info Orvik-710C --state", "qdv12host: --state: a value is required"},
+        {"info Orvik-710C --seed 1 --seed 2", "qdv12host: --seed is given twice"},
+        {"selftest Orvik-710C --outputs=no", "qdv12host: --outputs takes no value"},
     };
     for (const auto& [arguments, said] : cases) {
         const Outcome run = RunHost(arguments);
