@@ -8,6 +8,7 @@
 #include "Simulation/Cameras.h"
 
 #include <filesystem>
+#include <system_error>
 #include <vector>
 
 namespace Host {
@@ -35,7 +36,9 @@ Side Take(const Invocation& invocation, Parameter parameter) {
         return TakeFrom(program.Open(given));
     }
     if (!IsCamera(given)) {
-        if (given != standardStream && !std::filesystem::exists(given)) {
+        std::error_code ignored; // what is there, but cannot be looked at, says why when it is read
+        if (given != standardStream &&
+            std::filesystem::status(given, ignored).type() == std::filesystem::file_type::not_found) {
             throw UsageError('"' + given + "\" is neither a file nor a camera" +
                              Common::Suggestion(given, Simulation::ModelNames()));
         }

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <system_error>
 
 namespace Host {
 
@@ -153,7 +154,7 @@ int Report(const Restorer& restorer) {
 int Restore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
-    if (IsCamera(file) && !std::filesystem::exists(file)) {
+    if (std::error_code ignored; IsCamera(file) && !std::filesystem::exists(file, ignored)) {
         throw UsageError('"' + file + "\" is no file, but a camera; the file comes first: restore FILE" +
                          (invocation.Program().IsOpen() ? "" : " CAMERA"));
     }
