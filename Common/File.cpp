@@ -16,6 +16,8 @@ namespace Common {
 
 namespace {
 
+constexpr std::size_t largestFile = 64 * 1024 * 1024; ///< /dev/zero has no end
+
 /// @throws std::system_error unless a call of the system succeeded
 void Require(bool succeeded) {
     if (!succeeded) {
@@ -75,6 +77,9 @@ std::string ReadFile(const std::filesystem::path& file) {
     std::array<char, 4096> part{};
     while (const std::size_t size = std::fread(part.data(), 1, part.size(), stream.get())) {
         content.append(part.data(), size);
+        if (content.size() > largestFile) {
+            throw std::system_error(EFBIG, std::generic_category());
+        }
     }
     Require(std::ferror(stream.get()) == 0);
     return content;

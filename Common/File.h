@@ -6,7 +6,7 @@
 
 namespace Common {
 
-/// @throws std::system_error with the reason
+/// @throws std::system_error with the reason; EFBIG for more than 64 MiB
 [[nodiscard]] std::string ReadFile(const std::filesystem::path& file);
 
 /// Replaces a file as a whole or not at all, or makes it, also when others do so at the same time. Its access rights

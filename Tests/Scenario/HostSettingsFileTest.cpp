@@ -195,6 +195,7 @@ TEST_F(HostSettings, ThatCannotBeWrittenAreToldAndReplaceNothing) {
     const Outcome nowhere = Run("save Orvik-390M " + other + "/file");
     EXPECT_EQ(nowhere.code, 2);
     EXPECT_EQ(nowhere.err, "qdv12host: \"" + other + "/file\": cannot be written: No such file or directory\n");
+    EXPECT_EQ(Run("restore /dev/zero Orvik-390M").err, "qdv12host: \"/dev/zero\": File too large\n");
     EXPECT_TRUE(Has(Run("save Orvik-390M /dev/null").err, "is no regular file; - stands for standard output\n"));
 }
 
