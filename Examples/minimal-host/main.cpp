@@ -20,7 +20,7 @@ int main() {
     auto* const create = reinterpret_cast<CreateObject*>(dlsym(library, "CreateObject"));
 
     BytePort port;
-    auto* const camera = static_cast<IDynamicObject*>(create("Orvik-710M", &port, 0));
+    auto* const camera = static_cast<IDynamicObject*>(create("Orvik-710M", &port, 2));
     if (camera == nullptr) {
         std::fprintf(stderr, "the plug-in does not serve this model\n");
         return 1;

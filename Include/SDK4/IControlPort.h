@@ -7,31 +7,34 @@
 namespace SDK4 {
 
 /// The host's register port: every access to a camera goes through it. The host implements it, owns it and keeps it
-/// alive as long as a control that was created with it; the library never copies or deletes it.
+/// until Release of the control has returned; the library never copies or deletes it.
 ///
 /// Addresses are those of the GigE Vision control channel, 32 bits. The slot order is fixed. The library checks no
-/// result but a null block; an exception that the port throws passes through the library unchanged.
+/// result except a null block. A port reports a failed access by an exception of any type, which passes through the
+/// library unchanged.
 ///
-/// On a control channel each operation uses one kind of access of the GigE Vision standard:
+/// On a control channel each operation is one kind of access of the GigE Vision standard:
 ///
-/// | Operations                          | Access            | What is moved                                     |
+/// | Operations                          | Access            | What is transferred                               |
 /// |-------------------------------------|-------------------|---------------------------------------------------|
 /// | ReadRegister, WriteRegister         | READREG, WRITEREG | a value, in the host's byte order at this port    |
 /// | ReadRegisterPair, WriteRegisterPair | READMEM, WRITEMEM | two little-endian words, the first word first     |
-/// | ReadBlock, WriteBlock               | READMEM, WRITEMEM | the bytes as the camera holds them, not exchanged |
+/// | ReadBlock, WriteBlock               | READMEM, WRITEMEM | the bytes as the camera holds them, not swapped   |
 /// | ReadMem, WriteMem                   | READMEM, WRITEMEM | the same                                          |
 /// | ReadString, WriteString             | READMEM, WRITEMEM | the same                                          |
 ///
-/// The library takes the words of a block in the byte order of its machine: vendor registers hold little-endian words.
-/// Bootstrap registers hold big-endian ones; the library reads them by READREG, or as text. Memory access moves whole
-/// words, at addresses that are multiples of 4, at most 536 bytes in a packet: a port splits what is longer. What the
-/// library asks for by itself is aligned so, unless the port itself reported another length for a text.
-/// IGigEVisionPort passes on the host's own addresses and lengths.
+/// The library interprets the words of a block in the byte order of its machine: vendor registers hold little-endian
+/// words. Bootstrap registers hold big-endian words; the library reads them by READREG, or as text.
 ///
-/// A write just before a read of the same address may select what is read, an instance of an indexed register: no other
+/// Memory access transfers whole words, at addresses that are multiples of 4, at most 536 bytes in a packet; the port
+/// splits longer accesses. The accesses of the library itself are aligned so, unless the port reported another length
+/// for a text. IGigEVisionPort passes on the addresses and lengths that the host gives it.
+///
+/// A write may select what the next read of the same address returns (an instance of an indexed register). No other
 /// access to that address may come between the two.
 ///
-/// The reference host and the simulated cameras keep to this. It was never tried on a camera.
+/// The port of the reference host and the simulated cameras follow these rules. They were never tested with a real
+/// camera.
 class SDK4_PUBLIC IControlPort {
 public:
     /// Writes one word.
@@ -55,9 +58,9 @@ public:
     virtual void WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) = 0;
 
     /// Reads a text register of @p length bytes.
-    /// @return a buffer that the port owns, with all @p length bytes and a NUL at the latest behind them: the text may
-    ///         stand behind a leading word, so a port must not stop at the first NUL. Null when there is no text. How
-    ///         long it stays valid is the port's business.
+    /// @return a buffer that the port owns, with all @p length bytes and a NUL behind them. A text may follow a leading
+    ///         word, so the port must not stop at the first NUL. Null when there is no text. Some operations return the
+    ///         buffer to their caller, so it must stay valid until the next access.
     virtual char* ReadString(std::uint32_t address, std::uint32_t length) = 0;
 
     /// Writes a text: @p length bytes, padded with zeros.

@@ -1,24 +1,28 @@
 #pragma once
 
 /// @file
-/// Everything a host needs to drive a camera.
+/// Includes every header that a host needs to control a camera.
 ///
-/// The library is loaded at run time and exports two plain functions:
+/// The host loads the library at run time. The library exports two functions with C linkage:
 ///
 ///     void  InitLibrary(void* registry);                                        // an IModelRegistry, or null
 ///     void* CreateObject(const char* model, void* port, std::int32_t index);    // an IDynamicObject, or null
 ///
-/// InitLibrary tells the registry which models the library serves. CreateObject builds the control of one opened camera
-/// over an SDK4::IControlPort; it answers null for a model that it does not serve (a null name is one). The model name
-/// is what the camera calls itself, letter by letter: the model name of its discovery acknowledge, which is bootstrap
-/// register 0x0068 of the GigE Vision standard, 32 bytes up to the first NUL. The text must live as long as the
-/// control. A null port is refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik
-/// model by the first access. What fails while a camera is read (M2VX, or Orvik with debug logging) reaches the host
-/// from CreateObject, and there is nothing to give back then. The host casts the result to IDynamicObject*, reaches
-/// every other interface from it with dynamic_cast, and gives it back with Release. The slot order of every interface
-/// is fixed: operations are never moved, removed or inserted.
+/// InitLibrary registers the models that the library serves with the IModelRegistry of the host. CreateObject builds
+/// the control of one opened camera over an SDK4::IControlPort. Pass pointers to exactly these types: a class with
+/// several bases must be cast first.
 ///
-/// Rules of every interface, told here once:
+/// The model name is the one that the camera reports: the model name of its discovery acknowledge, which is bootstrap
+/// register 0x0068 of the GigE Vision standard, 32 bytes up to the first NUL. It is compared exactly. The text must
+/// stay valid until Release. CreateObject returns null for a model that the library does not serve, and for a null
+/// name. A null port is refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik model
+/// by the first access. CreateObject reads an M2VX camera, and an Orvik camera if debug logging is on. An exception of
+/// such an access leaves CreateObject, and there is nothing to release.
+///
+/// The host casts the result to IDynamicObject*, reaches every other interface from it with dynamic_cast, and destroys
+/// it with Release. The slot order of every interface is fixed: operations are never moved, removed or inserted.
+///
+/// Rules of every interface:
 ///
 /// - **Errors.** Every refusal is an SDK4::X4Error with one SDK4_ERR code. An exception of the port passes through
 ///   unchanged and the object stays usable.
@@ -33,23 +37,26 @@
 ///
 ///   The Orvik family checks in the order of the table, so a lock is reported before a bad value; a value out of range
 ///   is reported *after* the clamped write. A bad index or a null pointer is SDK4_ERR_INVALID_PARAMETER before
-///   everything else. Reading is never refused for a lock. The M2VX family reports a value that is not admitted as
-///   SDK4_ERR_OUTOFRANGE, and differs otherwise where an operation says so. It alone also reports
-///   SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a property that does not exist), and SDK4_ERR_CANTGETFEATURE when the
-///   port delivers no block for a record (overlay position, style and size, measure window, defect pixel, device
-///   register), also when that is read back after a value out of range was written.
-/// - **Caching.** The Orvik family remembers what it read or wrote until something that may change it is written; a
-///   camera index of exactly 2 switches the caches off. The M2VX family looks at the low four bits of the index: 0 to 2
-///   reads the camera on every call, more reads it once when it is opened: "remembers" below. Values noted "read
-///   afresh" are fetched from the camera by the next read, and so is all that is noted as read afresh after them. The
-///   pages of the families tell the traps.
-/// - **Disabled settings.** A mode of an M2VX camera disables what it does not use, and so may the host
-///   (IPropertyState). A control that remembers then refuses to read it too, with SDK4_ERR_DISABLED, except gain and
-///   exposure; one that reads through reads it, and counts everything as enabled until a mode is set through it.
+///   everything else. Reading is never refused for a lock.
+///
+///   The M2VX family reports a value that is not admitted as SDK4_ERR_OUTOFRANGE, and differs otherwise where an
+///   operation says so. Three codes are reported by this family only: SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a
+///   property that does not exist), and SDK4_ERR_CANTGETFEATURE. The last means that the port returned no block for a
+///   record (overlay position, style and size, measure window, defect pixel, device register), in a getter or when a
+///   setter reads the record back after a value out of range.
+/// - **Caching.** An Orvik control remembers what it read or wrote until something that may change it is written; a
+///   camera index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0 to
+///   2 it reads through: every call reads the camera. With 3 to 15 it remembers: the camera is read once, when it is
+///   opened. Values noted "read afresh" are read from the camera by the next getter, and so are the values that are
+///   noted as read afresh after them. The pages of the families list what a cache does not notice.
+/// - **Disabled settings.** A mode of an M2VX camera disables the settings that it does not use, and the host can
+///   disable settings (IPropertyState). A control that remembers refuses to read a disabled setting too, with
+///   SDK4_ERR_DISABLED, except gain and exposure. A control that reads through reads it, and counts every setting as
+///   enabled until a mode is set through it.
 /// - **Threads.** One thread at a time per object. The library starts none and takes no locks; callbacks and port
 ///   accesses happen inside the call that causes them.
-/// - **Texts** are valid until the next call on any object of the library: they lie in buffers that all objects share.
-///   Do not ask for texts from two threads at once, even of different objects.
+/// - **Texts** are valid until the next call on any object of the library, because all objects share the buffers. Do
+///   not ask for texts from two threads at once, even of different objects.
 /// - **Registers** are given by their address in the camera or, in IGigECamera, by that of the bootstrap register of
 ///   the GigE Vision standard. "Not checked" means that the value goes to the camera as it is.
 
