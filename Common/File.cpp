@@ -16,7 +16,7 @@ namespace Common {
 
 namespace {
 
-constexpr std::size_t largestFile = 64 * 1024 * 1024; ///< /dev/zero has no end
+constexpr std::size_t largestFile = std::size_t{64} * 1024 * 1024; ///< /dev/zero has no end
 
 /// @throws std::system_error unless a call of the system succeeded
 void Require(bool succeeded) {

@@ -30,8 +30,9 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
             result.held = reading.value;
             result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
         } else if (result.failure.code == 0 && !reading.IsAbsent()) {
-            result.failure = reading;
-            result.failure.reason = "accepted, but what the camera now holds could not be read: " + reading.reason;
+            result.failure = {reading.code,
+                              "accepted, but what the camera now holds could not be read: " + reading.reason,
+                              reading.cause};
         }
     }
     return result;
