@@ -12,85 +12,86 @@ namespace Simulation {
 namespace {
 
 /// "kind:register" or "kind:register=number", taken apart.
-struct FaultSpec {
+struct FaultRequest {
     std::string text;
     std::string kind;
     std::string target;
     std::optional<std::int64_t> number;
 };
 
-[[noreturn]] void Refuse(const FaultSpec& spec, const std::string& reason) {
-    throw FaultError("fault \"" + spec.text + "\": " + reason);
+[[noreturn]] void Refuse(const FaultRequest& request, const std::string& reason) {
+    throw FaultError("fault \"" + request.text + "\": " + reason);
 }
 
-FaultSpec Parse(std::string_view text) {
-    FaultSpec spec{std::string(text), {}, {}, {}};
-    const auto colon = spec.text.find(':');
-    const auto equals = spec.text.find('=', colon == std::string::npos ? 0 : colon);
-    spec.kind = spec.text.substr(0, colon);
+FaultRequest Parse(std::string_view text) {
+    FaultRequest request{std::string(text), {}, {}, {}};
+    const auto colon = request.text.find(':');
+    const auto equals = request.text.find('=', colon == std::string::npos ? 0 : colon);
+    request.kind = request.text.substr(0, colon);
     if (colon != std::string::npos) {
-        spec.target = spec.text.substr(colon + 1, equals == std::string::npos ? equals : equals - colon - 1);
+        request.target = request.text.substr(colon + 1, equals == std::string::npos ? equals : equals - colon - 1);
     }
     if (equals != std::string::npos) {
-        spec.number = Common::ParseNumber(std::string_view(spec.text).substr(equals + 1));
-        if (!spec.number) {
-            Refuse(spec, "what stands behind = is not a number");
+        request.number = Common::ParseNumber(std::string_view(request.text).substr(equals + 1));
+        if (!request.number) {
+            Refuse(request, "what stands behind = is not a number");
         }
     }
-    return spec;
+    return request;
 }
 
-std::int64_t NumberOf(const FaultSpec& spec) {
-    if (!spec.number) {
-        Refuse(spec, spec.kind + " needs a number, as in \"" + spec.kind + ":" +
-                         (spec.target.empty() ? "gain" : spec.target) + "=1\"");
+std::int64_t NumberOf(const FaultRequest& request) {
+    if (!request.number) {
+        Refuse(request, request.kind + " needs a number, as in \"" + request.kind + ":" +
+                            (request.target.empty() ? "gain" : request.target) + "=1\"");
     }
-    return *spec.number;
+    return *request.number;
 }
 
-/// The register that the spec names, or whose address it gives; null for an address that no register has.
-const Register* Target(const FaultSpec& spec, const RegisterSpace& space) {
-    if (const Register* const named = space.Find(spec.target)) {
+/// The register that the request names, or whose address it gives; null for an address that no register has.
+const Register* Target(const FaultRequest& request, const RegisterSpace& space) {
+    if (const Register* const named = space.Find(request.target)) {
         return named;
     }
-    const auto number = Common::ParseNumber(spec.target);
+    const auto number = Common::ParseNumber(request.target);
     if (!number || *number < 0) {
-        Refuse(spec, "this camera has no register \"" + spec.target + "\"");
+        Refuse(request, "this camera has no register \"" + request.target + "\"");
     }
     return space.At(static_cast<std::uint32_t>(*number));
 }
 
-const std::string& NameOf(const FaultSpec& spec, const RegisterSpace& space) {
-    const Register* const target = Target(spec, space);
+const std::string& NameOf(const FaultRequest& request, const RegisterSpace& space) {
+    const Register* const target = Target(request, space);
     if (target == nullptr) {
-        Refuse(spec, "no register of this camera begins at " + spec.target);
+        Refuse(request, "no register of this camera begins at " + request.target);
     }
     return target->name;
 }
 
-const std::string& SettingOf(const FaultSpec& spec, const RegisterSpace& space) {
-    const std::string& name = NameOf(spec, space);
+const std::string& SettingOf(const FaultRequest& request, const RegisterSpace& space) {
+    const std::string& name = NameOf(request, space);
     if (space.Find(name)->role != Role::Setting) {
-        Refuse(spec, "no settings set holds " + name);
+        Refuse(request, "no settings set holds " + name);
     }
     return name;
 }
 
-const std::string& ModeOf(const FaultSpec& spec, const RegisterSpace& space, const std::set<std::string>& automatics) {
-    const std::string& name = NameOf(spec, space);
+const std::string& ModeOf(const FaultRequest& request, const RegisterSpace& space,
+                          const std::set<std::string>& automatics) {
+    const std::string& name = NameOf(request, space);
     if (!automatics.contains(name)) {
-        Refuse(spec, name + " is no automatic mode; this camera has " + Common::Join(automatics));
+        Refuse(request, name + " is no automatic mode; this camera has " + Common::Join(automatics));
     }
     return name;
 }
 
-std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultSpec& spec, const RegisterSpace& space) {
-    if (const Register* const target = Target(spec, space)) {
+std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultRequest& request, const RegisterSpace& space) {
+    if (const Register* const target = Target(request, space)) {
         return {target->address, std::uint64_t{target->address} + SizeOf(*target) - 1};
     }
-    const auto address = static_cast<std::uint32_t>(*Common::ParseNumber(spec.target));
+    const auto address = static_cast<std::uint32_t>(*Common::ParseNumber(request.target));
     if (!space.HasAddresses(address, sizeof address)) {
-        Refuse(spec, "this camera has no address " + spec.target);
+        Refuse(request, "this camera has no address " + request.target);
     }
     return {address, std::uint64_t{address} + sizeof address - 1};
 }
@@ -98,28 +99,28 @@ std::pair<std::uint64_t, std::uint64_t> ExtentOf(const FaultSpec& spec, const Re
 } // namespace
 
 void Faults::Inject(std::string_view text, const RegisterSpace& space, const std::set<std::string>& automatics) {
-    const FaultSpec spec = Parse(text);
-    if (spec.number && spec.kind != "clamp" && spec.kind != "offset") {
-        Refuse(spec, "only clamp and offset take a number");
+    const FaultRequest request = Parse(text);
+    if (request.number && request.kind != "clamp" && request.kind != "offset") {
+        Refuse(request, "only clamp and offset take a number");
     }
-    if (spec.kind == "fail" || spec.kind == "failread" || spec.kind == "failwrite") {
-        const auto [first, last] = ExtentOf(spec, space);
-        failing.push_back({first, last, spec.kind != "failwrite", spec.kind != "failread"});
-    } else if (spec.kind == "null") {
-        nullBlocks.insert(static_cast<std::uint32_t>(ExtentOf(spec, space).first));
-    } else if (spec.kind == "ignore") {
-        ignored.insert(NameOf(spec, space));
-    } else if (spec.kind == "stale") {
-        stale.insert(SettingOf(spec, space));
-    } else if (spec.kind == "endless") {
-        endless[ModeOf(spec, space, automatics)] = false;
-    } else if (spec.kind == "clamp") {
-        highest[NameOf(spec, space)] = NumberOf(spec);
-    } else if (spec.kind == "offset") {
-        offset[NameOf(spec, space)] = NumberOf(spec);
+    if (request.kind == "fail" || request.kind == "failread" || request.kind == "failwrite") {
+        const auto [first, last] = ExtentOf(request, space);
+        failing.push_back({first, last, request.kind != "failwrite", request.kind != "failread"});
+    } else if (request.kind == "null") {
+        nullBlocks.insert(static_cast<std::uint32_t>(ExtentOf(request, space).first));
+    } else if (request.kind == "ignore") {
+        ignored.insert(NameOf(request, space));
+    } else if (request.kind == "stale") {
+        stale.insert(SettingOf(request, space));
+    } else if (request.kind == "endless") {
+        endless[ModeOf(request, space, automatics)] = false;
+    } else if (request.kind == "clamp") {
+        highest[NameOf(request, space)] = NumberOf(request);
+    } else if (request.kind == "offset") {
+        offset[NameOf(request, space)] = NumberOf(request);
     } else {
-        Refuse(spec, "there is no kind \"" + spec.kind +
-                         "\", but clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
+        Refuse(request, "there is no kind \"" + request.kind +
+                            "\", but clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
     }
 }
 
