@@ -14,7 +14,7 @@ FunctionValue ParseAssignment(const Camera& camera, const std::string& text) {
     }
     if (instance->trigger) {
         if (equals != std::string::npos) {
-            throw UsageError("\"" + name + "\" takes no value: its name alone sets it off");
+            throw UsageError("\"" + name + "\" takes no value: set it by its name alone");
         }
         return {instance, {}};
     }

@@ -77,11 +77,12 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->type_name("LEVEL");
     add("--config", options.logConfig, "FILE", "A configuration file for log4cxx");
     add("--force-model", options.camera.forcedModel, "MODEL",
-        "Drives a camera on the network as that model, whatever it calls itself");
+        "Control a camera on the network as that model, whatever it reports");
     auto& simulation = options.camera.simulation;
-    add("--seed", simulation.seed, "N", "Chooses the world around a simulated camera")->check(Common::CheckSeed);
-    add("--state", simulation.state, "FILE", "Keeps a simulated camera in a file between two runs");
-    add("--fault", simulation.faults, "TEXT", "Injects a fault into a simulated camera, such as ignore:gain")
+    add("--seed", simulation.seed, "N", "Select the environment of a simulated camera: light, noise, defect pixels")
+        ->check(Common::CheckSeed);
+    add("--state", simulation.state, "FILE", "Keep a simulated camera in a file between runs");
+    add("--fault", simulation.faults, "TEXT", "Inject a fault into a simulated camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the camera for a fault too
 }
 
@@ -177,7 +178,7 @@ void PrintHelp(const CLI::App& app, const std::string& name) {
 }
 
 ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
-    CLI::App app("Drives cameras through the plug-in libqdv12ctrl.so, simulated ones or on the network.",
+    CLI::App app("Controls cameras, simulated or on the network, through the plug-in libqdv12ctrl.so.",
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
@@ -188,7 +189,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, line.options, trace);
-        app.footer("Exit codes: 0 all well; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
+        app.footer("Exit codes: 0 success; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
     }
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
@@ -197,7 +198,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
         }
     }
     std::string helped;
-    CLI::App* const help = app.add_subcommand("help", "Say more about a command");
+    CLI::App* const help = app.add_subcommand("help", "Show the help of a command");
     help->add_option("COMMAND", helped, "A command; without it, all are listed")->type_name("");
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them

@@ -37,23 +37,21 @@ std::uint32_t DeviceAddress(const std::string& text) {
 }
 
 void AddDisturbances(CLI::App& app, Disturbances& disturbances) {
-    const char* const group = "What goes wrong";
+    const char* const group = "Disturbances";
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
         return app.add_option(name, variable, about)->type_name(value)->group(group);
     };
     const std::uint64_t longestDelay = 60000;
     const std::uint64_t mostRequests = 1000000000;
-    add("--drop", disturbances.drop, "P", "Loses this share of the datagrams, in either direction")->check(Share());
-    add("--duplicate", disturbances.duplicate, "P", "Sends this share of the acknowledges twice")->check(Share());
-    add("--nack", disturbances.nack, "P", "Refuses this share of the requests as busy")->check(Share());
+    add("--drop", disturbances.drop, "P", "Drop this share of the datagrams, in both directions")->check(Share());
+    add("--duplicate", disturbances.duplicate, "P", "Send this share of the acknowledges twice")->check(Share());
+    add("--nack", disturbances.nack, "P", "Refuse this share of the requests as busy")->check(Share());
     const auto setDelay = [&](const std::uint64_t& delay) { disturbances.delay = std::chrono::milliseconds(delay); };
-    app.add_option_function<std::uint64_t>("--delay", setDelay,
-                                           "Holds each acknowledge back for up to so many milliseconds")
+    app.add_option_function<std::uint64_t>("--delay", setDelay, "Delay each acknowledge by up to MS milliseconds")
         ->type_name("MS")
         ->group(group)
         ->check(Between(0, longestDelay));
-    add("--reboot-after", disturbances.rebootAfter, "N",
-        "Starts the camera anew, once, after so many requests; takes 5 seconds")
+    add("--reboot-after", disturbances.rebootAfter, "N", "Restart the camera once, after N requests; takes 5 seconds")
         ->check(Between(1, mostRequests));
 }
 
@@ -70,17 +68,16 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         return app.add_option(name, variable, about)->type_name(value);
     };
     add("MODEL", options.model, "", "The camera's model, such as Orvik-710C")->required();
-    add("--address", address, "ADDRESS", "The address of this machine that the camera takes (127.0.0.1)");
-    add("--seed", options.seed, "N", "Chooses the world around the camera, and what goes wrong when")
+    add("--address", address, "ADDRESS", "The address of this machine that the camera uses (127.0.0.1)");
+    add("--seed", options.seed, "N", "Select the environment of the camera, and when it is disturbed")
         ->check(Common::CheckSeed);
-    add("--state", options.state, "FILE", "Keeps the camera in a file between two runs")->check(Common::CheckValue);
-    add("--serial", options.serial, "TEXT", "Its serial number, to tell it from others of its model");
+    add("--state", options.state, "FILE", "Keep the camera in a file between runs")->check(Common::CheckValue);
+    add("--serial", options.serial, "TEXT", "Its serial number");
     add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
-    add("--fault", options.faults, "TEXT", "Injects a fault into the camera, such as ignore:gain")
+    add("--fault", options.faults, "TEXT", "Inject a fault into the camera, such as ignore:gain")
         ->check(Common::CheckValue)
         ->allow_extra_args(false); // else it would take the model for a fault too
-    add("--record", options.record, "FILE", "Writes what is received and sent to a pcap file")
-        ->check(Common::CheckValue);
+    add("--record", options.record, "FILE", "Record both directions to a pcap file")->check(Common::CheckValue);
     AddDisturbances(app, options.disturbances);
     try {
         app.parse(argc, argv);

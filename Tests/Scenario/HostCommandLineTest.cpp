@@ -73,7 +73,7 @@ TEST(HostCommandLine, CommentsStandBehindCommandsOfAShell) {
     std::ofstream(script) << "# all\n  # more\nset gain=3 # as on line 2\nset username='# 1' #it's\nset username=#2\n"
                           << "get gain#\nhelp get # it\n";
     const Outcome run = RunHost("shell Cerix-MV7", QDV12_HOST, script);
-    EXPECT_TRUE(run.out.starts_with("gain=3\nusername=# 1\nusername=#2\nPrint what functions hold\nUsage: get "))
+    EXPECT_TRUE(run.out.starts_with("gain=3\nusername=# 1\nusername=#2\nPrint the values of functions\nUsage: get "))
         << run.out;
     EXPECT_EQ(run.err, "qdv12host: unknown function \"gain#\"; did you mean \"gain\"?\n");
     std::filesystem::remove(script);

@@ -134,7 +134,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" can only be written\n"},
         {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" can only be read\n"},
         {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is required\n"},
-        {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: its name alone sets it off\n"},
+        {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: set it by its name alone\n"},
         {"lst Orvik-710C", 2, "",
          "qdv12host: unknown command \"lst\"; did you mean \"list\"? (qdv12host --help says more)\n"},
         {"selftest Orvik-710C --output --jsn", 2, "",
