@@ -14,13 +14,13 @@ namespace SDK4::Control {
 /// SDK4_ERR_OUTOFRANGE on M2VX.
 class SDK4_PUBLIC IBasicSettings {
 public:
-    /// Restarts the camera: writes 0 to register 0x51010000. What a control remembers stays as it was, and so does
-    /// whether acquisition runs; open the camera again.
+    /// Restarts the camera: writes 0 to register 0x51010000. Cached values stay as they were, and so does whether
+    /// acquisition runs; open the camera again.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
     virtual void Restart() = 0;
 
     /// Makes settings set 0, 1 or 2 current. Register 0x51020000. Orvik: every setting but the pattern generator is
-    /// read afresh afterwards. M2VX: what a control remembers stays as it was; open the camera again.
+    /// read afresh afterwards. M2VX: cached values stay as they were; open the camera again.
     /// @throws SDK4_ERR_ACQUISITIONRUNNING (M2VX) while acquisition runs; nothing is written.
     virtual void LoadSettings(int set) = 0;
 

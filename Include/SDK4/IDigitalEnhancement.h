@@ -14,12 +14,12 @@ namespace SDK4::Control {
 /// | sharpness  | 0 to 255  | 0 to 255   |
 ///
 /// A value outside is reported with SDK4_ERR_OUTOFRANGE after a write: Orvik writes the nearest limit; M2VX writes the
-/// value as it is and remembers what the camera made of it.
+/// value as it is and caches what the camera made of it.
 ///
 /// Orvik: while automatic contrast control is on, writing brightness and contrast is locked (SDK4_ERR_CANTSETFEATURE,
 /// nothing is written); IACC tells when reads of them go to the camera.
 /// M2VX: histogram equalisation 1 and 2 disable both; a write then reaches the camera and throws SDK4_ERR_DISABLED, and
-/// so does the read of a remembered value.
+/// so does the read of a cached value.
 class SDK4_PUBLIC IDigitalEnhancement {
 public:
     /// Brightness in steps of the camera. Register 0x18010000.

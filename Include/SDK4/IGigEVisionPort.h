@@ -7,7 +7,7 @@ namespace SDK4::Control {
 /// Raw access to the camera's registers and memory, straight through the host's port. Orvik only.
 ///
 /// The caches know nothing of it: after writing a register that another interface serves, that interface may go on
-/// returning the value that it remembers.
+/// returning the cached value.
 class SDK4_PUBLIC IGigEVisionPort {
 public:
     /// Reads one 32-bit word.

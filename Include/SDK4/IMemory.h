@@ -48,7 +48,7 @@ public:
 
     /// Automatic motion detection. Register 0x16080000.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
-    /// @throws SDK4_ERR_DISABLED (M2VX) from a control that remembers, while the recursive filter is off.
+    /// @throws SDK4_ERR_DISABLED (M2VX) from a cached control, while the recursive filter is off.
     virtual SDK4_ENUM_SWITCH GetAutoMotionDetection() = 0;
 
     /// Switches automatic motion detection.

@@ -26,8 +26,7 @@ public:
     /// The default, unsigned side.
     virtual std::uint32_t GetUIntDefault(const char* name) = 0;
 
-    /// The value as the control knows it, unsigned side. A control that reads through knows what its setters left, else
-    /// 0.
+    /// The value as the control knows it, unsigned side. An uncached control knows what its setters left, else 0.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED when the camera lacks the property.
     /// @throws SDK4_ERR_DISABLED when it is disabled and the camera does not move it on its own.
     virtual std::uint32_t GetUIntValue(const char* name) = 0;
@@ -48,8 +47,8 @@ public:
     /// Whether the property can be changed now. False for an unknown name.
     virtual bool GetEnabled(const char* name) = 0;
     /// Enables or disables the property in this control; the camera is not told. Most setters then refuse with
-    /// SDK4_ERR_DISABLED, before the write where they say so, else after it; so do the getters of a control that
-    /// remembers. A mode that is set may enable it again.
+    /// SDK4_ERR_DISABLED, before the write where they say so, else after it; so do the getters of a cached control. A
+    /// mode that is set may enable it again.
     virtual void SetEnabled(const char* name, bool enabled) = 0;
 
     /// Whether the camera has the property. False for an unknown name.

@@ -9,7 +9,7 @@ namespace SDK4::Control {
 /// Pixel coding and image size.
 class SDK4_PUBLIC ISignalFormat {
 public:
-    /// How a pixel is coded. M2VX: a control that remembers always answers 6. Register 0x28020000.
+    /// How a pixel is coded. M2VX: a cached control always answers 6. Register 0x28020000.
     virtual SDK4_ENUM_COLORCODING GetColorCoding() = 0;
 
     /// Sets how a pixel is coded: 0, 6 or 14 on every model, also 52, 110, 111 or 153 on a colour model (a "C" in its

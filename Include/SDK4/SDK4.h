@@ -44,14 +44,14 @@
 ///   property that does not exist), and SDK4_ERR_CANTGETFEATURE. The last means that the port returned no block for a
 ///   record (overlay position, style and size, measure window, defect pixel, device register), in a getter or when a
 ///   setter reads the record back after a value out of range.
-/// - **Caching.** An Orvik control remembers what it read or wrote until something that may change it is written; a
-///   camera index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0 to
-///   2 it reads through: every call reads the camera. With 3 to 15 it remembers: the camera is read once, when it is
-///   opened. Values noted "read afresh" are read from the camera by the next getter, and so are the values that are
-///   noted as read afresh after them. The pages of the families list what a cache does not notice.
+/// - **Caching.** An Orvik control caches what it read or wrote until something that may change it is written; a camera
+///   index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0 to 2 it is
+///   uncached: every call reads the camera. With 3 to 15 it is cached: the camera is read once, when it is opened.
+///   Values noted "read afresh" are read from the camera by the next getter, and so are the values that are noted as
+///   read afresh after them. The pages of the families list what a cache does not notice.
 /// - **Disabled settings.** A mode of an M2VX camera disables the settings that it does not use, and the host can
-///   disable settings (IPropertyState). A control that remembers refuses to read a disabled setting too, with
-///   SDK4_ERR_DISABLED, except gain and exposure. A control that reads through reads it, and counts every setting as
+///   disable settings (IPropertyState). A cached control refuses to read a disabled setting too, with
+///   SDK4_ERR_DISABLED, except gain and exposure. An uncached control reads it, and counts every setting as
 ///   enabled until a mode is set through it.
 /// - **Threads.** One thread at a time per object. The library starts none and takes no locks; callbacks and port
 ///   accesses happen inside the call that causes them.

@@ -13,7 +13,7 @@ namespace SDK4::Control::M2VX {
 /// | 2      | enabled             | enabled       |
 ///
 /// The setters of both do not ask first: on a disabled property they reach the camera and then throw
-/// SDK4_ERR_DISABLED, and the property keeps its value. A control that remembers refuses their getters, too.
+/// SDK4_ERR_DISABLED, and the property keeps its value. A cached control refuses their getters, too.
 class SDK4_PUBLIC IABC {
 public:
     /// Automatic brightness control: 0 is off. Register 0x47040000.

@@ -10,7 +10,7 @@ namespace SDK4::Control::M2VX {
 /// a scalar, after the write where it is a part of the entry.
 class SDK4_PUBLIC IDefectPixel {
 public:
-    /// One entry of the table: column and line in pixels, and how it is replaced. A control that remembers has read the
+    /// One entry of the table: column and line in pixels, and how it is replaced. A cached control has read the
     /// pairs in use; of the others it knows what it set, else zeros. Register 0x0B020000.
     /// @throws SDK4_ERR_CANTGETFEATURE for a pair above 127 or a position above 1, before any access.
     virtual SDK4_KDEFECTPIXEL GetDefectPixel(SDK4_KDEFECTPIXELSELECT select) = 0;
@@ -21,7 +21,7 @@ public:
     ///         it made of it.
     virtual void SetDefectPixel(SDK4_KDEFECTPIXELSELECT select, SDK4_KDEFECTPIXEL pixel) = 0;
 
-    /// Lets the camera look for defect pixels and fill the table. Register 0x0B030000. A control that remembers
+    /// Lets the camera look for defect pixels and fill the table. Register 0x0B030000. A cached control
     /// settings keeps the old table: open it anew.
     virtual void SetDefectPixelAutoCompensation() = 0;
 

@@ -21,7 +21,7 @@ public:
 
     /// Sets the exposure time, 1 to 2000.
     /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the value, and "exposure" holds what it made of it.
-    /// @throws SDK4_ERR_DISABLED after mode 1, 2 or 4 was set or, by a control that remembers, found at opening;
+    /// @throws SDK4_ERR_DISABLED after mode 1, 2 or 4 was set or, by a cached control, found at opening;
     /// nothing
     ///         is written.
     virtual void SetExposure(unsigned int exposure) = 0;

@@ -13,7 +13,7 @@ namespace SDK4::Control::M2VX {
 /// | 1, automatic | disabled | disabled         | enabled            |
 /// | 2, automatic | disabled | enabled          | enabled            |
 ///
-/// A setter of a disabled property throws SDK4_ERR_DISABLED and writes nothing. A control that remembers refuses the
+/// A setter of a disabled property throws SDK4_ERR_DISABLED and writes nothing. A cached control refuses the
 /// getters of "automaticlevel" and "autogainstopmode", too.
 class SDK4_PUBLIC IGain {
 public:

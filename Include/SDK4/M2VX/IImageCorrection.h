@@ -6,7 +6,7 @@
 namespace SDK4::Control::M2VX {
 
 /// Shading correction and the blanking outside a circle. Each mode, 0 is off, switches the properties that it needs on
-/// or off; the setter of one that is off throws SDK4_ERR_DISABLED and writes nothing. A control that remembers refuses
+/// or off; the setter of one that is off throws SDK4_ERR_DISABLED and writes nothing. A cached control refuses
 /// its getter, too.
 class SDK4_PUBLIC IImageCorrection {
 public:

@@ -8,7 +8,7 @@ namespace SDK4::Control::M2VX {
 /// the channel. Any other channel throws SDK4_ERR_INVALID_PARAMETER before any access.
 class SDK4_PUBLIC IMotorControl {
 public:
-    /// The word of a channel. A control that remembers settings answers with the word read when it was opened, also
+    /// The word of a channel. A cached control answers with the word read when it was opened, also
     /// after SetMotorControl: a motor moves on its own, so what was written is not kept.
     virtual unsigned int GetMotorControl(unsigned int channel) = 0;
 
