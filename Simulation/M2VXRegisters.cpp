@@ -38,6 +38,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"acquisitionmode",          0x00088130, Volatile,    Word(0)},
         {"startacquisition",         0x00088134, Volatile,    Word(0),                {Codes({1})}},
         {"stopacquisition",          0x00088138, Volatile,    Word(0)},
+        {"acquisitionframerate",     0x00088140, Volatile,    Word(0)},               // mHz; for GenICam; 0: the frame duration's
 
         {"exposuremode",             0x0A020000, Setting,     Word(1),                {Codes(1, 4)}}, // free running
         {"exposure",                 0x0A030000, Setting,     KeepingRequest(Word(33)), {Range(1, 2000)}},

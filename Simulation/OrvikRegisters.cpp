@@ -43,8 +43,10 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     // clang-format off
     return {
         // name                address     role         kind and power-up value  and what each word admits
+        {"acquisitionmode",    0x00088130, Volatile,    Word(0),                {Codes(0, 1)}}, // for GenICam: continuous, single frame
         {"startacquisition",   0x00088134, Volatile,    Word(0),                {Codes({1})}},
         {"stopacquisition",    0x00088138, Volatile,    Word(0)},
+        {"acquisitionframerate", 0x00088140, Volatile,  Word(0)},               // mHz; for GenICam; 0: the frame duration's
 
         {"exposuremode",       0x0A020000, Setting,     Word(1),                {Codes(1, 4)}}, // free running
         {"exposure",           0x0A030000, Setting,     Record({0, 20000}),     {Range(0, 7)}}, // base, counter
