@@ -77,7 +77,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"persistentdefaultgateway",   0x066C, NonVolatile, Word(0)},
         {"messagechannels",            0x0900, Fixed,       Word(0)},
         {"streamchannels",             0x0904, Fixed,       Word(1)},
-        {"gvcpcapability",             0x0934, Fixed,       Word(0xC0000003)},          // names, memory writes, several at once
+        {"gvcpcapability",             0x0934, Fixed,       Word(0xC0000007)},          // names, resends, memory writes, several at once
         {"heartbeat",                  0x0938, Channel,     Word(3000)},                // milliseconds
         {"tickfrequencyhigh",          0x093C, Fixed,       Word(0)},
         {"tickfrequencylow",           0x0940, Fixed,       Word(1000000)},             // the camera counts microseconds

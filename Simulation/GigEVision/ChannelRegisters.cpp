@@ -33,7 +33,7 @@ void ChannelRegisters::ControlTimestamp(std::uint32_t command, std::chrono::micr
     const std::uint32_t reset = 1;
     const std::uint32_t latch = 2;
     if ((command & latch) != 0) {
-        const auto ticks = static_cast<std::uint64_t>((time - timestampOrigin).count());
+        const auto ticks = TimestampAt(time);
         space.Set("timestamphigh", {static_cast<std::uint32_t>(ticks >> 32)});
         space.Set("timestamplow", {static_cast<std::uint32_t>(ticks)});
     }
@@ -55,6 +55,11 @@ void ChannelRegisters::ShowControl(std::uint32_t privilege, std::uint32_t applic
     space.Set("applicationport", {applicationPort});
 }
 
+void ChannelRegisters::ShowStreamSource(std::uint16_t port) {
+    streamSource = port;
+    space.Set("streamsourceport", {port});
+}
+
 void ChannelRegisters::CloseStream() {
     space.Set("streamport", {0});
     space.Set("streamdestination", {0});
@@ -62,6 +67,7 @@ void ChannelRegisters::CloseStream() {
 
 void ChannelRegisters::Restart(std::chrono::microseconds time) {
     space.Load(powerUp);
+    ShowStreamSource(streamSource);
     timestampOrigin = time;
 }
 

@@ -36,7 +36,7 @@ std::uint32_t DeviceAddress(const std::string& text) {
     return *address;
 }
 
-void AddDisturbances(CLI::App& app, Disturbances& disturbances) {
+void AddDisturbances(CLI::App& app, Disturbances& disturbances, StreamOptions& stream) {
     const char* const group = "Disturbances";
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
         return app.add_option(name, variable, about)->type_name(value)->group(group);
@@ -46,13 +46,33 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances) {
     add("--drop", disturbances.drop, "P", "Drop this share of the datagrams, in both directions")->check(Share());
     add("--duplicate", disturbances.duplicate, "P", "Send this share of the acknowledges twice")->check(Share());
     add("--nack", disturbances.nack, "P", "Refuse this share of the requests as busy")->check(Share());
-    const auto setDelay = [&](const std::uint64_t& delay) { disturbances.delay = std::chrono::milliseconds(delay); };
-    app.add_option_function<std::uint64_t>("--delay", setDelay, "Delay each acknowledge by up to MS milliseconds")
-        ->type_name("MS")
-        ->group(group)
-        ->check(Between(0, longestDelay));
+    const auto addDelay = [&](const char* name, std::chrono::milliseconds& variable, const char* about) {
+        const auto set = [&variable](const std::uint64_t& delay) { variable = std::chrono::milliseconds(delay); };
+        app.add_option_function<std::uint64_t>(name, set, about)
+            ->type_name("MS")
+            ->group(group)
+            ->check(Between(0, longestDelay));
+    };
+    addDelay("--delay", disturbances.delay, "Delay each acknowledge by up to MS milliseconds");
+    add("--stream-drop", stream.drop, "P", "Drop this share of the stream's packets")->check(Share());
+    addDelay("--stream-delay", stream.delay, "Delay each packet of the stream by up to MS milliseconds");
     add("--reboot-after", disturbances.rebootAfter, "N", "Restart the camera once, after N requests; takes 5 seconds")
         ->check(Between(1, mostRequests));
+}
+
+void AddStream(CLI::App& app, Options& options) {
+    const char* const group = "Stream";
+    const std::uint64_t fastestLink = 1000000;
+    app.add_option("--link", options.stream.megabytesPerSecond,
+                   "Speed of the link in megabytes per second (500); 0: as fast as this machine can")
+        ->type_name("MB/S")
+        ->group(group)
+        ->check(Between(0, fastestLink));
+    app.add_flag("--unpaced", options.unpaced, "Send frames one after the other, whatever the frame duration")
+        ->group(group);
+    app.add_flag("--any-destination", options.anyDestination,
+                 "Send the stream where the controller says, not only to the controller's own address")
+        ->group(group);
 }
 
 } // namespace
@@ -78,7 +98,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         ->check(Common::CheckValue)
         ->allow_extra_args(false); // else it would take the model for a fault too
     add("--record", options.record, "FILE", "Record both directions to a pcap file")->check(Common::CheckValue);
-    AddDisturbances(app, options.disturbances);
+    AddStream(app, options);
+    AddDisturbances(app, options.disturbances, options.stream);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -89,6 +110,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         return std::nullopt;
     }
     options.address = DeviceAddress(address);
+    options.stream.seed = options.seed;
     return options;
 }
 

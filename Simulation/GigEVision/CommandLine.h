@@ -2,6 +2,7 @@
 
 #include "Common/ErrorExit.h"
 #include "Simulation/GigEVision/Disturbances.h"
+#include "Simulation/GigEVision/StreamSender.h"
 
 #include <cstdint>
 #include <optional>
@@ -20,7 +21,10 @@ struct Options {
     std::optional<std::string> mac{};
     std::vector<std::string> faults{}; ///< to be injected into the camera
     Disturbances disturbances{};
-    std::string record{}; ///< a file for packets; none if empty
+    StreamOptions stream{};
+    bool unpaced = false;        ///< frames follow each other without regard to the frame duration
+    bool anyDestination = false; ///< the stream may go elsewhere than to the controller
+    std::string record{};        ///< a file for packets; none if empty
 };
 
 using Common::UsageError;

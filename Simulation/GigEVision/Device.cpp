@@ -24,7 +24,7 @@ std::optional<Bytes> Refuse(const Request& request, Status status) {
     case Command::WriteRegister:
     case Command::WriteMemory:
         return AcknowledgeWrite(request, status, 0);
-    case Command::PacketResend: // there is no stream to resend
+    case Command::PacketResend:
     case Command::Action:
         return std::nullopt;
     default:
@@ -38,7 +38,8 @@ Device::Device(SimulatedCamera& served, const IpConfiguration& current, Time now
     : camera(served),
       ip(current),
       channel(served.Registers(), served.Time()),
-      memory(served, channel),
+      stream(served, channel),
+      memory(served, channel, stream),
       start(now),
       cameraStart(served.Time()) {
     ShowAddress();
@@ -63,6 +64,11 @@ void Device::PassTime(Time now) {
     if (control.IsExpired(now)) {
         EndControl();
     }
+}
+
+std::optional<Time> Device::StreamDue() const {
+    const auto due = stream.Due();
+    return due ? std::optional(start + (*due - cameraStart)) : std::nullopt;
 }
 
 void Device::EndControl() {
@@ -90,6 +96,10 @@ std::optional<Bytes> Device::Answer(const Endpoint& from, std::span<const std::u
     control.ResetHeartbeat(from, now);
     if (request->command == Command::Discovery) { // of those who do not know yet what there is, who may use one id
         return request->wantsAcknowledge ? std::optional(Discover(*request)) : std::nullopt;
+    }
+    if (request->command == Command::PacketResend) { // of the receiver's, whose requests are not acknowledged
+        stream.RequestResend(from, request->payload);
+        return std::nullopt;
     }
     if (const auto* const last = lastAcknowledges.Find(from, datagram)) {
         return *last;
@@ -188,7 +198,7 @@ Bytes Device::WriteMemory(const Endpoint& from, const Request& request, Time now
     if (address == controlChannelPrivilege && bytes.size() == 4) {
         status = WriteWord(from, address, Get32(bytes), now);
     } else if (control.MayWrite(from)) {
-        status = memory.Write(address, bytes);
+        status = memory.Write(address, bytes, from.address);
     }
     return AcknowledgeWrite(request, status, status == Status::Success ? bytes.size() : 0);
 }
@@ -202,7 +212,7 @@ Status Device::WriteWord(const Endpoint& from, std::uint32_t address, std::uint3
         }
         return status;
     }
-    return control.MayWrite(from) ? memory.WriteWord(address, value) : Status::AccessDenied;
+    return control.MayWrite(from) ? memory.WriteWord(address, value, from.address) : Status::AccessDenied;
 }
 
 } // namespace Simulation::GigEVision

@@ -5,6 +5,7 @@
 #include "Simulation/GigEVision/ControlChannel.h"
 #include "Simulation/GigEVision/DeviceMemory.h"
 #include "Simulation/GigEVision/LastAcknowledges.h"
+#include "Simulation/GigEVision/StreamChannel.h"
 #include "Simulation/SimulatedCamera.h"
 
 #include <chrono>
@@ -41,6 +42,12 @@ public:
     /// What goes on without requests: the camera's own work, and the heartbeat time-out.
     void PassTime(Time now);
 
+    [[nodiscard]] StreamChannel& Stream() { return stream; }
+    /// When the stream has a block to send; nothing until something is requested of the device.
+    [[nodiscard]] std::optional<Time> StreamDue() const;
+    /// Shows from which port the stream comes.
+    void SetStreamSource(std::uint16_t port) { channel.ShowStreamSource(port); }
+
     /// Has the camera lose power: it answers nothing for bootTime, and has then what a start leaves it.
     void Reboot(Time now);
 
@@ -60,6 +67,7 @@ private:
     const IpConfiguration ip;
     ChannelRegisters channel;
     ControlChannel control{channel};
+    StreamChannel stream;
     DeviceMemory memory;
     LastAcknowledges lastAcknowledges;
     const Time start;

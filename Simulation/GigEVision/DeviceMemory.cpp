@@ -50,23 +50,40 @@ Status DeviceMemory::Read(std::uint32_t address, std::span<std::uint8_t> bytes) 
     });
 }
 
-Status DeviceMemory::Write(std::uint32_t address, std::span<const std::uint8_t> bytes) {
+template <typename Visit>
+void DeviceMemory::ForEachWord(std::uint32_t address, std::span<const std::uint8_t> bytes, const Visit& visit) const {
+    for (std::size_t i = 0; i < bytes.size() && address + i < bootstrapEnd; i += wordSize) {
+        const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
+        if (entry != nullptr) {
+            visit(*entry, Get32(bytes.subspan(i)));
+        }
+    }
+}
+
+Status DeviceMemory::Write(std::uint32_t address, std::span<const std::uint8_t> bytes, std::uint32_t writer) {
     if (const Status status = CheckAddress(address, bytes.size()); status != Status::Success) {
         return status;
     }
     if (IsProtected(address, bytes.size())) {
         return Status::WriteProtected;
     }
+    bool isAdmitted = true;
+    ForEachWord(address, bytes, [&](const Register& entry, std::uint32_t word) {
+        isAdmitted = isAdmitted && stream.Admits(entry, word, writer);
+    });
+    if (!isAdmitted) {
+        return Status::InvalidParameter;
+    }
     return Try([&] {
+        ForEachWord(address, bytes, [&](const auto& entry, auto word) { stream.BeforeWrite(entry, word); });
         Bytes block(bytes.begin(), bytes.end());
         SwapBytes(address, block);
         camera.WriteBlock(address, block.data(), static_cast<std::uint32_t>(block.size()));
-        for (std::size_t i = 0; i < bytes.size(); i += wordSize) {
-            const Register* const entry = camera.Registers().At(address + static_cast<std::uint32_t>(i));
-            if (entry != nullptr && entry->role == Role::Channel) {
-                channel.Write(*entry, Get32(bytes.subspan(i)), camera.Time());
+        ForEachWord(address, bytes, [&](const Register& entry, std::uint32_t word) {
+            if (entry.role == Role::Channel) {
+                channel.Write(entry, word, camera.Time());
             }
-        }
+        });
     });
 }
 
@@ -80,13 +97,13 @@ Status DeviceMemory::ReadWord(std::uint32_t address, std::uint32_t& value) {
     return status;
 }
 
-Status DeviceMemory::WriteWord(std::uint32_t address, std::uint32_t value) {
+Status DeviceMemory::WriteWord(std::uint32_t address, std::uint32_t value, std::uint32_t writer) {
     Bytes bytes;
     Put32(bytes, value);
     if (address >= bootstrapEnd) {
         std::reverse(bytes.begin(), bytes.end());
     }
-    return Write(address, bytes);
+    return Write(address, bytes, writer);
 }
 
 Status DeviceMemory::CheckAddress(std::uint32_t address, std::size_t length) const {

@@ -56,6 +56,7 @@ public:
     [[nodiscard]] std::vector<DelayedDatagram> Answer(const Endpoint& from, std::span<const std::uint8_t> datagram,
                                                       Time now);
     void PassTime(Time now) { device.PassTime(now); }
+    [[nodiscard]] Device& Undisturbed() { return device; }
 
 private:
     [[nodiscard]] std::chrono::microseconds Delay();

@@ -5,6 +5,7 @@
 
 #include <sys/time.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <stdexcept>
@@ -52,15 +53,19 @@ Bytes IpHeader(const Endpoint& from, const Endpoint& to, std::uint32_t length, s
     return header;
 }
 
-/// The UDP header and what it announces.
-Bytes UdpDatagram(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload) {
-    const auto length = udpHeaderSize + static_cast<std::uint32_t>(payload.size());
+/// The UDP header and what it announces, or the beginning of that.
+/// @param size of the whole payload
+Bytes UdpDatagram(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload, std::size_t size) {
+    const auto length = udpHeaderSize + static_cast<std::uint32_t>(size);
     Bytes datagram;
     Put16(datagram, from.port);
     Put16(datagram, to.port);
     Put16(datagram, length);
     Put16(datagram, 0); // the checksum
     datagram.insert(datagram.end(), payload.begin(), payload.end());
+    if (payload.size() != size) {
+        return datagram; // with a checksum of zero, which says that there is none
+    }
 
     Bytes pseudoHeader;
     Put32(pseudoHeader, from.address);
@@ -86,15 +91,31 @@ Recorder::Recorder(const std::string& path)
 }
 
 void Recorder::Record(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> datagram) {
+    Write(from, to, datagram, datagram.size());
+}
+
+void Recorder::RecordStream(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> head,
+                            std::span<const std::uint8_t> data) {
+    const std::size_t mostBytes = 64;
+    Bytes payload(head.begin(), head.end());
+    payload.insert(payload.end(), data.begin(),
+                   data.begin() + static_cast<std::ptrdiff_t>(std::min(data.size(), mostBytes - head.size())));
+    Write(from, to, payload, head.size() + data.size());
+}
+
+void Recorder::Write(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload,
+                     std::size_t length) {
+    const std::lock_guard lock(mutex);
     if (file == nullptr) {
         return;
     }
-    const Bytes udp = UdpDatagram(from, to, datagram);
-    Bytes packet = IpHeader(from, to, static_cast<std::uint32_t>(udp.size()), ++number);
+    const Bytes udp = UdpDatagram(from, to, payload, length);
+    Bytes packet = IpHeader(from, to, static_cast<std::uint32_t>(udpHeaderSize + length), ++number);
     packet.insert(packet.end(), udp.begin(), udp.end());
     pcap_pkthdr header{};
     gettimeofday(&header.ts, nullptr);
-    header.caplen = header.len = static_cast<bpf_u_int32>(packet.size());
+    header.caplen = static_cast<bpf_u_int32>(packet.size());
+    header.len = static_cast<bpf_u_int32>(ipHeaderSize + udpHeaderSize + length);
     pcap_dump(reinterpret_cast<unsigned char*>(file.get()), &header, packet.data());
     if (pcap_dump_flush(file.get()) != 0) { // the disk is full, for one
         Common::PrintError("qdv12sim", notWritten + std::string(std::strerror(errno)) + "; nothing more is recorded");

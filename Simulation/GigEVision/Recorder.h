@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <string>
 
@@ -19,8 +20,16 @@ public:
     explicit Recorder(const std::string& path);
 
     void Record(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> datagram);
+    /// Records a packet of a stream, in two parts, but of its data so much only as makes 64 bytes with the first part:
+    /// a stream would fill the disk.
+    void RecordStream(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> head,
+                      std::span<const std::uint8_t> data);
 
 private:
+    /// @param length of the datagram, of which the payload may be the beginning
+    void Write(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload, std::size_t length);
+
+    std::mutex mutex; ///< control and stream are recorded by two threads
     std::unique_ptr<pcap_t, decltype(&pcap_close)> capture;
     std::unique_ptr<pcap_dumper_t, decltype(&pcap_dump_close)> file;
     std::uint16_t number = 0; ///< of the packet

@@ -25,6 +25,7 @@ using asio::ip::udp;
 using Common::Gvcp::port;
 
 constexpr std::chrono::milliseconds tick{50};
+constexpr int controlBuffer = 4 << 20; // a receiver that misses packets may ask for them more than once
 
 udp::endpoint At(std::uint32_t address) { return {asio::ip::address_v4(address), port}; }
 
@@ -35,7 +36,7 @@ public:
     Server(DisturbedDevice& served, const IpConfiguration& ip);
 
     /// @param record may be null
-    void Run(Recorder* record);
+    void Run(const StreamOptions& stream, Recorder* record);
 
 private:
     struct Listener {
@@ -54,6 +55,8 @@ private:
 
     asio::io_context context{1};
     DisturbedDevice& device;
+    std::mutex mutex; ///< of the device
+    std::optional<StreamSender> sender;
     Recorder* recorder = nullptr;
     std::deque<Listener> listeners; ///< the first is on the device's address, and all is sent from there
     asio::steady_timer timer{context};
@@ -64,6 +67,7 @@ Server::Server(DisturbedDevice& served, const IpConfiguration& ip) : device(serv
     try {
         // Without reuse, so that a second device on the address does not go unnoticed.
         listeners.push_back({udp::socket(context, At(ip.address)), {ip.address, port}});
+        listeners.back().socket.set_option(udp::socket::receive_buffer_size(controlBuffer));
     } catch (const asio::system_error& error) {
         throw std::runtime_error(Common::PrintAddress(ip.address) + ':' + std::to_string(port) +
                                  " cannot be used: " + error.code().message());
@@ -84,8 +88,9 @@ void Server::ListenForBroadcasts(std::uint32_t address) {
     }
 }
 
-void Server::Run(Recorder* record) {
+void Server::Run(const StreamOptions& stream, Recorder* record) {
     recorder = record;
+    sender.emplace(device.Undisturbed(), mutex, listeners.front().self.address, stream, record);
     signals.async_wait([this](const asio::error_code&, int) { context.stop(); });
     for (Listener& listener : listeners) {
         Receive(listener);
@@ -95,7 +100,10 @@ void Server::Run(Recorder* record) {
 }
 
 void Server::Tick() {
-    device.PassTime(std::chrono::steady_clock::now());
+    {
+        const std::lock_guard lock(mutex);
+        device.PassTime(std::chrono::steady_clock::now());
+    }
     timer.expires_after(tick);
     timer.async_wait([this](const asio::error_code& error) {
         if (!error) {
@@ -124,7 +132,13 @@ void Server::Handle(const Listener& listener, std::span<const std::uint8_t> data
     if (broadcast && (!request || request->command != Common::Gvcp::Command::Discovery)) {
         return;
     }
-    for (DelayedDatagram& answer : device.Answer(from, datagram, std::chrono::steady_clock::now())) {
+    std::vector<DelayedDatagram> answers;
+    {
+        const std::lock_guard lock(mutex);
+        answers = device.Answer(from, datagram, std::chrono::steady_clock::now());
+    }
+    sender->Wake();
+    for (DelayedDatagram& answer : answers) {
         if (answer.delay.count() == 0) {
             Send(listener.peer, answer.datagram);
         } else {
@@ -152,9 +166,10 @@ void Server::Send(const udp::endpoint& to, const Bytes& datagram) {
 
 } // namespace
 
-void Serve(DisturbedDevice& device, const IpConfiguration& ip, const std::function<Recorder*()>& begin) {
+void Serve(DisturbedDevice& device, const IpConfiguration& ip, const StreamOptions& stream,
+           const std::function<Recorder*()>& begin) {
     Server server(device, ip);
-    server.Run(begin());
+    server.Run(stream, begin());
 }
 
 } // namespace Simulation::GigEVision

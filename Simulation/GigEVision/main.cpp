@@ -77,9 +77,15 @@ void ServeCamera(const Options& options) {
     const IpConfiguration ip{options.address, SubnetMaskOf(options.address)};
     const auto camera = SwitchOn(options);
     Device device(*camera, ip, std::chrono::steady_clock::now());
+    if (options.unpaced) {
+        device.Stream().Frames().IgnoreFrameDuration();
+    }
+    if (options.anyDestination) {
+        device.Stream().AllowAnyDestination();
+    }
     DisturbedDevice disturbed(device, options.disturbances, options.seed);
     std::optional<Recorder> recorder;
-    Serve(disturbed, ip, [&] { // only now, since another camera may have address and files
+    Serve(disturbed, ip, options.stream, [&] { // only now, since another camera may have address and files
         if (!options.record.empty()) {
             recorder.emplace(options.record);
         }
