@@ -7,6 +7,7 @@
 
 #include "Simulation/Cameras.h"
 #include "Simulation/GigEVision/Device.h"
+#include "Simulation/GigEVision/SentBlocks.h"
 
 #include <array>
 #include <chrono>
@@ -34,6 +35,9 @@ constexpr std::array<std::uint32_t, 32> addresses = {
     0x0934,     0x0938,     0x0938,     0x0940,     0x0944,     0x0A00,     0x0A00,     0x0A00,
     0x0D04,     0x00010000, 0x00088134, 0x00088138, 0x0A030000, 0x14010000, 0x17020000, 0x1E030000,
     0x28050008, 0x28090000, 0x51010000, 0x51020000, 0x53020000, 0x64010000, 0xE0010000, 0xFFFFFFFC};
+// Of the stream: port, packet size, delay, destination, source; acquisition mode and frame rate, exposure mode.
+constexpr std::array<std::uint32_t, 8> streamAddresses = {0x0D00, 0x0D04,     0x0D08,     0x0D18,
+                                                          0x0D1C, 0x00088130, 0x00088140, 0x0A020000};
 constexpr std::array<std::uint32_t, 16> values = {0,   1,   2,   3,   4,      8,          16,         500,
                                                   512, 536, 540, 544, 0x1000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
 
@@ -53,6 +57,9 @@ std::uint32_t Raw(Input& input, unsigned int bytes) {
 
 std::uint32_t PayloadWord(Input& input) {
     const std::uint8_t kind = input.Byte();
+    if (kind >= 0x60 && kind < 0x70) {
+        return streamAddresses[kind % streamAddresses.size()];
+    }
     if (kind < 0x80) {
         return addresses[kind % addresses.size()] + (kind < 0x70 ? 0 : input.Byte());
     }
@@ -112,6 +119,28 @@ void CheckAnswer(std::span<const std::uint8_t> request, std::span<const std::uin
     Require(Half(answer, 0) == 0 || Half(answer, 0) >= 0x8000, "a status is success or a failure");
 }
 
+/// What the stream makes of it.
+void PlayStream(Simulation::GigEVision::StreamChannel& stream, Simulation::GigEVision::SentBlocks& sent) {
+    namespace Gvsp = Simulation::GigEVision::Gvsp;
+    if (const auto due = stream.TakeBlock()) {
+        Require(due->id != 0, "there is no block 0");
+        Require(due->target.receiver.port != 0, "a stream has a receiver");
+        Require(due->exposed.settings.pixelFormat != 0, "a frame has a format");
+        Simulation::Picture::Frame frame = sent.TakeFrame();
+        frame.bytes.resize(5000);
+        sent.Add(Gvsp::Block(due->id, due->timestamp, due->target.packetSize, std::move(frame)));
+    }
+    for (const auto& request : stream.TakeResends()) {
+        std::size_t packets = 0;
+        sent.Resend(request, [&](const Gvsp::Packet& packet) {
+            Require(packet.Size() >= headerSize, "a packet has a header");
+            ++packets;
+        });
+        Require(packets <= 7, "no more is sent again than a block has");
+    }
+    (void)stream.TakeTestPacket();
+}
+
 } // namespace
 
 std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
@@ -119,6 +148,7 @@ std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
     const auto camera = Simulation::MakeCamera(input.One(models));
     Simulation::GigEVision::Time now{};
     Device device(*camera, {0x7F000001, 0xFF000000}, now);
+    Simulation::GigEVision::SentBlocks sent;
     std::size_t played = 0;
     Datagram datagram;
     for (; !input.AtEnd(); ++played) {
@@ -137,6 +167,7 @@ std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
         if (const auto answer = device.Answer(senders[kind % senders.size()], received, now)) {
             CheckAnswer(received, *answer);
         }
+        PlayStream(device.Stream(), sent);
     }
     now += Device::bootTime;
     const Datagram discovery = {0x42, 0x01, 0, 2, 0, 0, 0x12, 0x34};
