@@ -6,19 +6,18 @@
 
 namespace Simulation {
 
-/// The word, moved half of the way to the target, and by one at least.
+/// The word, moved halfway to the target, by at least 1.
 [[nodiscard]] std::uint32_t Approach(std::uint32_t word, std::uint32_t target);
 
-/// An automatic mode: while its register is not 0, the camera moves the controlled register towards a target, half of
-/// the way in each step of its time.
+/// An automatic mode: while its register is not 0, each time step moves the controlled register halfway to the target.
 struct AutomaticMode {
     const char* mode;
     const char* controlled;
     std::function<Words(const RegisterSpace&)> target;
-    std::function<void(RegisterSpace&)> update = [](RegisterSpace&) {}; ///< of what depends on the controlled register
+    std::function<void(RegisterSpace&)> update = [](RegisterSpace&) {}; ///< updates the dependent registers
 };
 
-/// Adds the mode to the camera. What a host writes to the controlled register meanwhile, the mode goes on from.
+/// Adds the mode to the camera. If a host writes the controlled register meanwhile, the mode continues from that value.
 void AddAutomaticMode(SimulatedCamera& camera, const AutomaticMode& automatic);
 
 } // namespace Simulation

@@ -15,7 +15,7 @@ constexpr std::uint32_t IPAddress(std::uint32_t a, std::uint32_t b, std::uint32_
     return a << 24 | b << 16 | c << 8 | d;
 }
 
-/// The size is a multiple of 4 within the camera's limits; of the flags above it, the test packet's is a command.
+/// Rounds the size to a multiple of 4 within the limits. The flag that fires a test packet is a command and reads as 0.
 void RoundPacketSize(RegisterSpace& space) {
     const std::uint32_t written = space.Get("packetsize")[0];
     const std::uint32_t settableFlags = 0x60000000; // do not fragment, byte order of pixels
@@ -23,7 +23,7 @@ void RoundPacketSize(RegisterSpace& space) {
     space.Set("packetsize", {(written & settableFlags) | size});
 }
 
-/// A camera that starts uses the persistent address if that is enabled and there is one, and is given one otherwise.
+/// At its start a camera uses the persistent address, if enabled and set, or else the assigned one.
 void AssignAddress(RegisterSpace& space) {
     const std::uint32_t persistent = 1;
     const bool isPersistent =
@@ -34,10 +34,9 @@ void AssignAddress(RegisterSpace& space) {
     }
 }
 
-/// The size of as many whole words.
 std::size_t RoundedToWords(std::size_t bytes) { return (bytes + 3) / 4 * 4; }
 
-/// Where in the camera's memory the description is found, as the standard has it: in hexadecimal without prefix.
+/// The URL of the description in the camera's memory. The standard wants hexadecimal numbers without prefix.
 std::string LocalUrl(const std::string& file, std::size_t length) {
     char location[32];
     std::snprintf(location, sizeof location, ";%X;%zX", descriptionAddress, length);
@@ -48,7 +47,7 @@ std::string LocalUrl(const std::string& file, std::size_t length) {
 
 std::vector<Register> BootstrapRegisters(const Identity& identity) {
     using enum Role;
-    std::string file = identity.model; // an address has no blanks
+    std::string file = identity.model; // a URL has no blanks
     std::replace(file.begin(), file.end(), ' ', '-');
     using namespace Common::Bootstrap;
     // clang-format off
@@ -77,10 +76,10 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"persistentdefaultgateway",   0x066C, NonVolatile, Word(0)},
         {"messagechannels",            0x0900, Fixed,       Word(0)},
         {"streamchannels",             0x0904, Fixed,       Word(1)},
-        {"gvcpcapability",             0x0934, Fixed,       Word(0xC0000007)},          // names, resends, memory writes, several at once
+        {"gvcpcapability",             0x0934, Fixed,       Word(0xC0000007)},          // name, serial number, packet resend, memory write, concatenation
         {"heartbeat",                  0x0938, Channel,     Word(3000)},                // milliseconds
         {"tickfrequencyhigh",          0x093C, Fixed,       Word(0)},
-        {"tickfrequencylow",           0x0940, Fixed,       Word(1000000)},             // the camera counts microseconds
+        {"tickfrequencylow",           0x0940, Fixed,       Word(1000000)},             // microseconds
         {"timestampcontrol",               0x0944, Channel,     Word(0)},
         {"timestamphigh",                  0x0948, Channel,     Word(0)},
         {"timestamplow",                   0x094C, Channel,     Word(0)},
@@ -101,7 +100,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
 void AddBootstrapBehaviour(SimulatedCamera& camera) {
     camera.AfterWrite("packetsize", RoundPacketSize);
     camera.AfterWrite("currentipconfig", [](RegisterSpace& space) {
-        const std::uint32_t linkLocal = 4; // the standard has it always on
+        const std::uint32_t linkLocal = 4; // always on, by the standard
         space.Set("currentipconfig",
                   {(space.Get("currentipconfig")[0] & space.Get("supportedipconfig")[0]) | linkLocal});
     });

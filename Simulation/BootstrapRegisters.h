@@ -8,16 +8,16 @@
 
 namespace Simulation {
 
-/// What identifies a camera on a network.
+/// The identity of a camera on a network.
 struct Identity {
     std::string model;
-    std::uint32_t number; ///< of 24 bits, for the MAC address
+    std::uint32_t number; ///< 24 bits of the MAC address
     std::string serial;
-    std::string description; ///< in GenICam's language
+    std::string description; ///< GenICam XML
 };
 
-/// The bootstrap registers of the GigE Vision standard, the same for every camera but for its identity; and the
-/// description that they lead to.
+/// The bootstrap registers of the GigE Vision standard, which differ between cameras only in the identity, and the
+/// description that they refer to.
 [[nodiscard]] std::vector<Register> BootstrapRegisters(const Identity& identity);
 /// The behaviour of the network registers.
 void AddBootstrapBehaviour(SimulatedCamera& camera);

@@ -21,14 +21,14 @@ const char* const macAddress = "MAC address";
 const char* const timeMember = "microseconds";
 const char* const registersMember = "registers";
 const char* const setsMember = "settings sets";
-const char* const requestPrefix = "asked "; // and the register's name: what was requested of it
+const char* const requestPrefix = "asked "; // before the register's name: its requested value
 constexpr int version = 1;
 constexpr std::uint64_t longestTime = 1000000000000000; // microseconds, some thirty years
 const std::vector<Role> savedRoles = {Role::Status, Role::Setting, Role::NonVolatile, Role::Volatile};
 
 std::string Model(const RegisterSpace& space) { return space.GetText("modelname"); }
 
-/// Without what only an injected fault can have put there.
+/// Replaces values that only an injected fault can have set by the power-up value.
 std::vector<Words> WithinLimits(const Register& entry, std::vector<Words> instances) {
     for (std::size_t i = 0; i < instances.size(); ++i) {
         if (!Admit(entry.limits, instances[i])) {
@@ -50,7 +50,7 @@ Json ToJson(const RegisterSpace& space, const RegisterSpace::Content& content) {
     return registers;
 }
 
-/// A line per register and per settings set, for those who look into the file.
+/// One line per register and per settings set, to keep the file readable.
 std::string Formatted(const Json& value, int depth, const std::string& indent) {
     if (depth == 0 || value.empty() || !value.is_object()) {
         return value.dump();
@@ -80,7 +80,7 @@ const Json& Member(const Json& object, const std::string& name) {
 
 std::uint64_t Number(const Json& value, std::uint64_t highest, const std::string& where) {
     if (!value.is_number_unsigned() || value.get<std::uint64_t>() > highest) {
-        Damaged(where + " holds " + value.dump());
+        Damaged("invalid value " + value.dump() + " of " + where);
     }
     return value.get<std::uint64_t>();
 }
@@ -88,7 +88,7 @@ std::uint64_t Number(const Json& value, std::uint64_t highest, const std::string
 Words ReadWords(const Json& value, const Register& entry, std::size_t instance) {
     const Words powerUp = ToWords(entry.powerUp.instances[instance].value);
     if (!value.is_array() || value.size() != powerUp.size()) {
-        Damaged("register " + entry.name + " has not the words that it should have");
+        Damaged("wrong number of words of register " + entry.name);
     }
     Words words;
     for (const Json& word : value) {
@@ -96,16 +96,16 @@ Words ReadWords(const Json& value, const Register& entry, std::size_t instance) 
             Number(word, std::numeric_limits<std::uint32_t>::max(), "register " + entry.name)));
     }
     Words admitted = words;
-    // A command that was never given is held as what nobody could write.
+    // The power-up value of a command may lie outside the limits.
     if (words != powerUp && (!Admit(entry.limits, admitted) || admitted != words)) {
-        Damaged("register " + entry.name + " holds " + value.dump() + ", which it does not admit");
+        Damaged("invalid value " + value.dump() + " of register " + entry.name);
     }
     return words;
 }
 
 std::vector<Words> ReadInstances(const Json& stored, const Register& entry) {
     if (!stored.is_array() || stored.size() != entry.powerUp.instances.size()) {
-        Damaged("register " + entry.name + " has not the instances that it should have");
+        Damaged("wrong number of instances of register " + entry.name);
     }
     std::vector<Words> instances;
     for (std::size_t i = 0; i < stored.size(); ++i) {
@@ -114,7 +114,7 @@ std::vector<Words> ReadInstances(const Json& stored, const Register& entry) {
     return instances;
 }
 
-/// The content, which must be of exactly the registers of the model with these roles.
+/// Reads the registers with these roles. None may be missing, and no others are allowed.
 RegisterSpace::Content ReadContent(const Json& registers, const RegisterSpace& space, const std::vector<Role>& roles) {
     RegisterSpace::Content content = space.Save(roles);
     std::size_t members = content.size();
@@ -127,19 +127,19 @@ RegisterSpace::Content ReadContent(const Json& registers, const RegisterSpace& s
         }
     }
     if (registers.size() != members) {
-        Damaged("beside the registers of the model there are others");
+        Damaged("unknown registers");
     }
     return content;
 }
 
 SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
     if (!value.is_object()) {
-        Damaged("the settings sets are none");
+        Damaged(std::string("\"") + setsMember + "\" is not an object");
     }
     SettingsSets::Saved sets;
     for (const auto& [name, settings] : value.items()) {
         if (name != "1" && name != "2") {
-            Damaged("there is no settings set " + name);
+            Damaged("unknown settings set \"" + name + '"');
         }
         sets[name == "1" ? 1 : 2] = ReadContent(settings, space, {Role::Setting});
     }
@@ -148,24 +148,23 @@ SettingsSets::Saved ReadSets(const Json& value, const RegisterSpace& space) {
 
 void CheckHeader(const Json& file, const RegisterSpace& space) {
     if (!file.is_object() || file.value("format", Json()) != format) {
-        throw std::runtime_error("this is not the memory of a simulated camera");
+        throw std::runtime_error("not a camera state file");
     }
     if (Member(file, "version") != version) {
-        throw std::runtime_error("it has format version " + Member(file, "version").dump() + ", known is " +
+        throw std::runtime_error("unknown format version " + Member(file, "version").dump() + ", expected " +
                                  std::to_string(version));
     }
     if (Member(file, "model") != Model(space)) {
-        throw std::runtime_error("it belongs to a camera of model " + Member(file, "model").dump() + ", not " +
-                                 Model(space));
+        throw std::runtime_error("wrong model " + Member(file, "model").dump() + ", expected \"" + Model(space) + '"');
     }
 }
 
-/// The serial number, and the MAC address unless the file is of a version of the program that wrote none.
+/// Reads the serial number and the MAC address. Files of older versions lack the MAC address.
 RegisterSpace::Content ReadIdentity(const Json& file, const RegisterSpace& space) {
     const auto text = [&](const char* name) {
         const Json& value = Member(file, name);
         if (!value.is_string()) {
-            Damaged(std::string("\"") + name + "\" is no text");
+            Damaged(std::string("\"") + name + "\" is not a string");
         }
         return value.get<std::string>();
     };
@@ -214,7 +213,7 @@ void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path)
     try {
         Common::ReplaceFile(path, Formatted(file, 3, "") + '\n');
     } catch (const std::system_error& error) {
-        Refuse(path, "it cannot be written (" + error.code().message() + ")");
+        Refuse(path, "cannot be written: " + error.code().message());
     }
 }
 
@@ -229,7 +228,7 @@ void LoadState(SimulatedCamera& camera, const std::filesystem::path& path) {
     } catch (const Json::exception& error) {
         Refuse(path, std::string("damaged: ") + error.what());
     } catch (const std::system_error& error) {
-        Refuse(path, "it cannot be read (" + error.code().message() + ")");
+        Refuse(path, "cannot be read: " + error.code().message());
     } catch (const std::runtime_error& error) {
         Refuse(path, error.what());
     }

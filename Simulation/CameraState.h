@@ -7,26 +7,24 @@
 
 namespace Simulation {
 
-/// A camera's memory that cannot be read or written; the text names the file and says why.
+/// A state file that cannot be read or written. The text names the file and the reason.
 class StateError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Writes what the camera holds to a file, for the next run of the program: permanent memory (settings sets, start-up
-/// set, user-defined name, persistent addresses, defect pixels), serial number and MAC address, all other registers as
-/// they are, and the camera's time. The file is replaced as a whole or not at all. Injected faults do not go into it.
+/// Saves the camera to a file: permanent memory (settings sets, start-up set, user-defined name, persistent addresses,
+/// defect pixels), serial number and MAC address, all other registers, and the camera's time. The file is replaced as a
+/// whole or not at all. Injected faults are not saved.
 /// @throws StateError
 void SaveState(const SimulatedCamera& camera, const std::filesystem::path& path);
 
-/// Whether there is a file to load. What cannot be looked at is taken for one, so that loading it tells why.
+/// Whether there is a file to load. True also if the path cannot be accessed, so that LoadState reports the reason.
 [[nodiscard]] bool HasState(const std::filesystem::path& path);
 
-/// Has the camera go on where the file says that it was, as the one that it was; only images are no longer acquired, as
-/// nobody is connected between two runs. Everything in the file is checked first, so that a camera is changed as a
-/// whole or not at all.
-/// @throws StateError for a file that is not there or cannot be read, is no such file or a damaged one, or belongs to
-///        another format version or another model
+/// Restores the camera from a file, with acquisition stopped. The file is checked first, so that the camera is changed
+/// as a whole or not at all.
+/// @throws StateError if the file is missing, unreadable, damaged, or of another format version or model
 void LoadState(SimulatedCamera& camera, const std::filesystem::path& path);
 
 } // namespace Simulation

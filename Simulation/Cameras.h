@@ -10,13 +10,12 @@
 
 namespace Simulation {
 
-/// A simulated camera as it is after being switched on, or null when no model of that name is simulated.
+/// A simulated camera, just switched on, or null for an unknown model.
 /// @param seed determines illumination and colour of the scene, noise of measurements, and where defect pixels are
-///             detected; never the identity. The same seed and the same accesses give the same values; 0 is the nominal
+///             detected; never the identity. The same seed and the same accesses give the same values. 0 is the nominal
 ///             environment.
 [[nodiscard]] std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, std::uint64_t seed = 0);
 
-/// The models that are simulated.
 [[nodiscard]] std::vector<std::string> ModelNames();
 
 } // namespace Simulation

@@ -10,7 +10,7 @@ namespace Simulation {
 
 namespace {
 
-/// The text with each placeholder replaced by its value.
+/// Replaces each placeholder by its value.
 std::string Fill(std::string text, const std::vector<std::pair<std::string, std::string>>& values) {
     for (const auto& [placeholder, value] : values) {
         const std::size_t at = text.find(placeholder);
@@ -19,7 +19,7 @@ std::string Fill(std::string text, const std::vector<std::pair<std::string, std:
     return text;
 }
 
-/// A model as a type may be called: letters, digits and underscores.
+/// The model's name as a type name: letters, digits and underscores.
 std::string TypeName(std::string model) {
     const auto isOther = [](char character) { return character == ' ' || character == '-'; };
     std::replace_if(model.begin(), model.end(), isOther, '_');

@@ -8,11 +8,11 @@
 
 namespace Simulation {
 
-/// Where the camera's memory holds its description.
+/// The address of the description in the camera's memory.
 constexpr std::uint32_t descriptionAddress = 0x00010000;
 
-/// The camera's GenICam description: tells generic programs of Width, Height, Gain and ExposureTime (microseconds), and
-/// of the registers behind them. Made from the file of the family in the folder Descriptions.
+/// The camera's GenICam description: Width, Height, Gain and ExposureTime (microseconds) with their registers. Made
+/// from the family's file in the folder Descriptions.
 [[nodiscard]] std::string Description(const OrvikModel& model);
 [[nodiscard]] std::string Description(const M2VXModel& model);
 

@@ -11,7 +11,7 @@ namespace Simulation {
 
 namespace {
 
-/// "kind:register" or "kind:register=number", taken apart.
+/// A parsed "kind:register" or "kind:register=number".
 struct FaultRequest {
     std::string text;
     std::string kind;
@@ -34,7 +34,7 @@ FaultRequest Parse(std::string_view text) {
     if (equals != std::string::npos) {
         request.number = Common::ParseNumber(std::string_view(request.text).substr(equals + 1));
         if (!request.number) {
-            Refuse(request, "what stands behind = is not a number");
+            Refuse(request, "the value after = is not a number");
         }
     }
     return request;
@@ -48,7 +48,7 @@ std::int64_t NumberOf(const FaultRequest& request) {
     return *request.number;
 }
 
-/// The register that the request names, or whose address it gives; null for an address that no register has.
+/// The register of that name or address, or null for an address where no register begins.
 const Register* Target(const FaultRequest& request, const RegisterSpace& space) {
     if (const Register* const named = space.Find(request.target)) {
         return named;
@@ -71,7 +71,7 @@ const std::string& NameOf(const FaultRequest& request, const RegisterSpace& spac
 const std::string& SettingOf(const FaultRequest& request, const RegisterSpace& space) {
     const std::string& name = NameOf(request, space);
     if (space.Find(name)->role != Role::Setting) {
-        Refuse(request, "no settings set holds " + name);
+        Refuse(request, "settings sets do not contain " + name);
     }
     return name;
 }
@@ -80,7 +80,7 @@ const std::string& ModeOf(const FaultRequest& request, const RegisterSpace& spac
                           const std::set<std::string>& automatics) {
     const std::string& name = NameOf(request, space);
     if (!automatics.contains(name)) {
-        Refuse(request, name + " is no automatic mode; this camera has " + Common::Join(automatics));
+        Refuse(request, name + " is not an automatic mode, expected " + Common::Join(automatics));
     }
     return name;
 }
@@ -119,8 +119,8 @@ void Faults::Inject(std::string_view text, const RegisterSpace& space, const std
     } else if (request.kind == "offset") {
         offset[NameOf(request, space)] = NumberOf(request);
     } else {
-        Refuse(request, "there is no kind \"" + request.kind +
-                            "\", but clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
+        Refuse(request, "unknown kind \"" + request.kind +
+                            "\", expected clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
     }
 }
 

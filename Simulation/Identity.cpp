@@ -10,7 +10,7 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::size_t prefixSize = sizeof(std::uint32_t); ///< of the camera's own register
+constexpr std::size_t prefixSize = sizeof(std::uint32_t); ///< of the vendor register
 
 std::size_t SizeOf(const RegisterSpace& space, const char* name) {
     return space.Find(name)->powerUp.instances.front().value.size();
@@ -25,7 +25,7 @@ std::string SerialNumberOf(const RegisterSpace& space) { return space.GetText("b
 RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial) {
     const std::size_t standard = SizeOf(space, "bootstrapserialnumber");
     const std::size_t own = SizeOf(space, "serialnumber");
-    const std::size_t longest = std::min(standard - 1, own - prefixSize); // the standard wants a zero at the end
+    const std::size_t longest = std::min(standard - 1, own - prefixSize); // the standard requires a trailing zero
     const bool isVisible = std::all_of(serial.begin(), serial.end(), [](unsigned char c) { return std::isgraph(c); });
     if (serial.empty() || serial.size() > longest || !isVisible) {
         throw IdentityError("invalid serial number \"" + serial + "\", expected 1 to " + std::to_string(longest) +
@@ -55,7 +55,7 @@ RegisterSpace::Content MacAddressRegisters(const std::string& mac) {
     }
     const std::uint64_t groupBit = std::uint64_t{1} << 40;
     if (!isAddress || number == 0 || (number & groupBit) != 0) {
-        throw IdentityError("invalid MAC address \"" + mac + "\", expected that of one device, such as " +
+        throw IdentityError("invalid MAC address \"" + mac + "\", expected a unicast address such as " +
                             "02:00:12:07:07:10");
     }
     return {{"machigh", {{{static_cast<std::uint32_t>(number >> 32)}}}},

@@ -5,25 +5,24 @@
 #include <stdexcept>
 #include <string>
 
-// What identifies one camera of a model: a serial number, which the bootstrap registers and the camera's own registers
-// hold, and a MAC address.
+// The identity of one camera of a model: a serial number, held by a bootstrap and a vendor register, and a MAC address.
 namespace Simulation {
 
-/// A serial number or a MAC address that the camera cannot have; the text says what it may be.
+/// An invalid serial number or MAC address. The text says what is valid.
 class IdentityError : public std::invalid_argument {
 public:
     using std::invalid_argument::invalid_argument;
 };
 
 [[nodiscard]] std::string SerialNumberOf(const RegisterSpace& space);
-/// What the registers hold that tell the serial number.
-/// @param serial visible ASCII characters, as many as both registers have room for
+/// The content of the serial number registers.
+/// @param serial visible ASCII characters that fit into both registers
 /// @throws IdentityError
 [[nodiscard]] RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial);
 
 /// Such as "02:00:12:07:07:10".
 [[nodiscard]] std::string MacAddressOf(const RegisterSpace& space);
-/// What the registers hold that tell the MAC address.
+/// The content of the MAC address registers.
 /// @throws IdentityError
 [[nodiscard]] RegisterSpace::Content MacAddressRegisters(const std::string& mac);
 

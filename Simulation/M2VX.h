@@ -10,7 +10,7 @@
 
 namespace Simulation {
 
-/// What tells the models of the M2VX family apart.
+/// The differences between the models of the M2VX family.
 struct M2VXModel {
     std::string name;
     std::uint32_t number; ///< function-model identifier, part of the serial number

@@ -11,13 +11,13 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::uint32_t frameTime = 33; // milliseconds; so long is exposed unless the exposure time is the host's
+constexpr std::uint32_t frameTime = 33; // milliseconds
 
 void UpdateFrameDuration(RegisterSpace& space) {
     space.Set("frameduration", {std::max(33333U, 1000 * space.Get("exposure")[0])});
 }
 
-/// Outside of mode reset-restart a frame is exposed as long as it lasts.
+/// Only mode reset-restart has a settable exposure time. Otherwise it is the frame time.
 void UpdateExposureTime(RegisterSpace& space) {
     const bool isSettable = space.Get("exposuremode")[0] == SDK4_EXPOSUREMODE_RESETRESTART;
     space.Set("exposure", isSettable ? space.Requested("exposure") : Words{frameTime});
@@ -30,8 +30,8 @@ void AddExposure(SimulatedCamera& camera) {
     camera.Derive(UpdateFrameDuration);
 }
 
-/// An automatic mode of this family is a control loop that runs until it has converged; with its stop mode on it then
-/// holds the value, whatever the scene does, until one of its settings is written.
+/// An automatic mode of this family. With its stop mode on, it holds the value after it has converged, until one of its
+/// settings is written.
 struct ControlLoop {
     const char* mode;
     const char* stopMode;
@@ -63,7 +63,7 @@ void AddControlLoop(SimulatedCamera& camera, const ControlLoop& loop, const std:
     }
 }
 
-/// The sensor is linear: the gain that gives a level follows from illumination and exposure time.
+/// The sensor is linear: the gain for a level follows from illumination and exposure time.
 std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
     const std::uint32_t levelOfModeOne = 40;
     const std::uint32_t level = space.Get("agc")[0] == 2 ? space.Get("automaticlevel")[0] : levelOfModeOne;
@@ -71,7 +71,7 @@ std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
 }
 
 void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
-    // Switched on, it applies at once the gain that the last image asks for; then it converges step by step.
+    // Switching it on applies the gain that the last image requires. Then it converges step by step.
     camera.AfterWrite("agc", [&camera, illumination](RegisterSpace& space) {
         if (camera.Runs("agc")) {
             space.Set("gain", {GainFor(space, illumination)});
@@ -84,7 +84,7 @@ void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
                     }},
                    {"agc", "automaticlevel", "gain"});
 
-    // The level lies between the thresholds while it is controlled, and where the scene has it otherwise.
+    // The controlled level lies between the thresholds. Otherwise it follows from the scene.
     const std::uint32_t free = 301 * illumination / 100;
     camera.Registers().Set("abcxrlevel", {free});
     AddControlLoop(camera,
@@ -95,7 +95,7 @@ void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
                    {"abc", "abcthreshold"});
 }
 
-/// The pairs up to the last one that replaces a pixel.
+/// Counts the pairs up to the last one that replaces a pixel.
 void CountDefectPixels(RegisterSpace& space) {
     std::uint32_t entries = space.Count("defectpixel");
     while (entries > 0 && space.Get("defectpixel", entries - 1)[2] == 0) {
@@ -104,7 +104,7 @@ void CountDefectPixels(RegisterSpace& space) {
     space.Set("defectpixelcount", {(entries + 1) / 2});
 }
 
-/// The detection finds one pair more than there was.
+/// Each detection finds one more pair.
 void DetectDefectPixels(RegisterSpace& space, const World& world) {
     const std::uint32_t used = space.Get("defectpixelcount")[0];
     if (2 * used < space.Count("defectpixel")) {
@@ -121,7 +121,7 @@ void AddDefectPixels(SimulatedCamera& camera, const World& world) {
     camera.AfterWrite("autocompensation", [world](RegisterSpace& space) { DetectDefectPixels(space, world); });
 }
 
-/// What the measure window sees: the scene, and noise.
+/// The measure window measures the scene, with noise.
 void AddMeasuring(SimulatedCamera& camera, const World& world) {
     camera.EachStep([world](RegisterSpace& space, std::uint64_t step) {
         const auto noise = static_cast<std::uint32_t>(world.Noise(Stream::MeasureNoise, step, 1));

@@ -6,10 +6,10 @@ namespace Simulation {
 
 namespace {
 
-/// The table of defect pixels: 128 pairs, the first two of which are in use.
+/// The table of defect pixels: 128 pairs, the first two in use.
 Value DefectPixels() {
     std::vector<Words> entries(256, Words{0, 0, 0});
-    entries[0] = {12, 700, 1}; // column, line, how it is replaced
+    entries[0] = {12, 700, 1}; // column, line, replacement
     entries[1] = {13, 700, 1};
     entries[2] = {512, 44, 2};
     entries[3] = {512, 45, 2};
@@ -130,7 +130,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
         {"ccdcontrol",               0x6F010000, Volatile,    Word(0)},
         {"com",                      0x6F020000, Volatile,    Word(0)},
 
-        // Internal state, which no host reaches.
+        // Internal state, inaccessible to hosts.
         {"gain searched",            0xE0020000, Status,      Word(1)},
         {"level searched",           0xE0030000, Status,      Word(1)},
         {"motor target",             0xE0040000, Status,      Indexed(std::vector<Words>(256, Words{0, 0}))},

@@ -10,7 +10,7 @@
 
 namespace Simulation {
 
-/// What tells the models of the Orvik family apart.
+/// The differences between the models of the Orvik family.
 struct OrvikModel {
     std::string name;
     std::uint32_t number; ///< part of the function-model identifier
@@ -21,13 +21,13 @@ struct OrvikModel {
     bool histogram; ///< can equalise histograms
 };
 
-/// Of 24 bits: the number, and what the model has.
+/// 24 bits: the number and the capabilities of the model.
 [[nodiscard]] std::uint32_t FunctionModelId(const OrvikModel& model);
 [[nodiscard]] std::string SerialNumber(const OrvikModel& model);
 
-constexpr std::uint32_t smallestArea = 64; ///< width and height that a readout area has at least, in pixels
+constexpr std::uint32_t smallestArea = 64; ///< minimum width and height of a readout area, in pixels
 
-/// A time that the camera holds as base and counter, in microseconds.
+/// Converts a time, held as base and counter, to microseconds.
 [[nodiscard]] std::uint64_t MicrosecondsOf(const Words& time);
 /// Updates readout time and frame duration.
 void UpdateTiming(RegisterSpace& space);

@@ -8,8 +8,8 @@ namespace Simulation {
 
 namespace {
 
-// The level of an image is the illumination, times the exposure time over 20 ms, times the gain factor, 1 at gain 0 and
-// 5 at gain 511. The nominal scene gives 100; "autoexposurelevel" is the target of the automatic modes.
+// The level of an image is the illumination, times the exposure time over 20 ms, times the gain factor, which is 1 at
+// gain 0 and 5 at gain 511. The nominal level is 100. "autoexposurelevel" is the target of the automatic modes.
 constexpr std::uint64_t nominalExposure = 20000; // microseconds
 constexpr std::uint64_t longestAutomaticExposure = 1000000;
 constexpr std::uint64_t unityGain = 256;
@@ -33,7 +33,7 @@ Words GainFor(const RegisterSpace& space, std::uint64_t illumination) {
     return {static_cast<std::uint32_t>(std::min<std::uint64_t>(gain, 511))};
 }
 
-/// The balance that makes white white under the selected light source, in this scene.
+/// The white balance for the selected light source and this scene.
 Words WhiteBalanceFor(const RegisterSpace& space, const World& world) {
     const Words balances[] = {{128, 128, 128}, {104, 128, 176}, {120, 128, 148}, {140, 128, 112}};
     Words balance = balances[space.Get("lightsource")[0]];

@@ -1,8 +1,7 @@
-// Readout area, binning, and what must lie within the image: all of it in binned pixels.
+// Readout area, binning, and the positions within the image, all in binned pixels.
 //
-// What does not fit at the moment is not forgotten. The registers keep what was requested, the readout area in pixels
-// of the sensor, and hold as much of it as the image admits: a change of binning or area that is taken back leaves
-// nothing changed.
+// Each register keeps its requested value, the readout area in sensor pixels, and holds the part of it that fits the
+// image. So undoing a change of binning or area restores all values.
 
 #include "Simulation/Orvik.h"
 
@@ -14,7 +13,7 @@ namespace Simulation {
 
 namespace {
 
-/// The area within its limits, and not smaller than the smallest.
+/// Clamps the area to its limits and to the minimum size.
 Words ClampArea(const RegisterSpace& space, Words area) {
     const Words min = space.Get("readoutarealimits", SDK4_ROADOMAIN_MIN);
     const Words max = space.Get("readoutarealimits", SDK4_ROADOMAIN_MAX);

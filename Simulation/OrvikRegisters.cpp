@@ -21,7 +21,7 @@ std::string SerialNumber(const OrvikModel& model) { return model.name.substr(mod
 
 std::vector<Register> OrvikRegisters(const OrvikModel& model) {
     using enum Role;
-    // What a model lacks is there to be read, and ignores what is written to it.
+    // Registers of functions that a model lacks can be read, and ignore writes.
     const auto color = model.color ? Setting : Fixed;
     const auto mono = model.color ? Fixed : Setting;
     const auto memory = model.memory ? Setting : Fixed;
@@ -89,7 +89,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"colorcoding",        0x28020000, Setting,     Word(coding),           {Codes(codings)}},
         {"imagesize",          0x28030000, Status,      Record({model.width, model.height})},
         {"frameduration",      0x28040000, Status,      Word(0)},
-        {"readoutarea",        0x28050000, Setting,     KeepingRequest(Record(whole))}, // requested in pixels of the sensor
+        {"readoutarea",        0x28050000, Setting,     KeepingRequest(Record(whole))}, // requested in sensor pixels
         {"readoutarealimits",  0x28090000, Status,      Indexed({whole, whole, whole})}, // minimum, maximum, active
 
         {"aet",                0x46010000, Setting,     Word(0),                {Codes(0, 2)}},
@@ -121,7 +121,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"iopolarity",         0x660F0000, Setting,     Indexed({{0}, {0}, {0}, {0}, {0}, {0}}), {onOff}},
         {"iodelay",            0x66110000, Setting,     Indexed({{0}, {0}, {0}, {0}, {0}, {0}})},
 
-        // Internal state, which no host reaches.
+        // Internal state, inaccessible to hosts.
         {"warmth",             0xE0050000, Status,      Word(0)},               // tenths of a degree
     };
     // clang-format on

@@ -1,4 +1,4 @@
-// Readout time and frame duration follow from what is read out, how long it is exposed and how many bytes are sent.
+// Readout time and frame duration follow from image size, exposure time and transmitted bytes.
 
 #include "Simulation/Orvik.h"
 

@@ -23,7 +23,7 @@ public:
     std::string reason;
 };
 
-/// An access to addresses that the camera does not have. Over a control channel it is answered with status 0x8003.
+/// An access to addresses that the camera does not have. On a control channel, the camera answers status 0x8003.
 class InvalidAddressError final : public PortError {
 public:
     InvalidAddressError(const std::string& failed, std::uint32_t at)

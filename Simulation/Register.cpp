@@ -6,7 +6,7 @@
 
 namespace Simulation {
 
-// Words lie in memory in the host's byte order: that is how the port hands them on.
+// Words are in the host's byte order, as the port passes them.
 Bytes ToBytes(const Words& words) {
     Bytes bytes(words.size() * sizeof(std::uint32_t));
     if (!bytes.empty()) {

@@ -15,64 +15,62 @@ using Words = std::vector<std::uint32_t>;
 [[nodiscard]] Bytes ToBytes(const Words& words);
 [[nodiscard]] Words ToWords(const Bytes& bytes);
 
-/// Who changes a register, and what becomes of it when settings are loaded or the camera is restarted.
+/// Who changes a register, and how loading settings and restarting the camera affect it.
 enum class Role {
-    Fixed,       ///< identity: nobody changes it
-    Status,      ///< what the camera reports, and its internal state: hosts do not change it
-    Setting,     ///< a settings set saves and loads it
-    NonVolatile, ///< permanent memory beside the settings sets
-    Volatile,    ///< commands, and what a restart resets
-    Channel,     ///< the control channel's: set by a device on the network, without meaning for any other camera
+    Fixed,       ///< never changes
+    Status,      ///< reports and internal state, read-only for hosts
+    Setting,     ///< saved and loaded with settings sets
+    NonVolatile, ///< in permanent memory, outside the settings sets
+    Volatile,    ///< commands and other values that a restart resets
+    Channel,     ///< belongs to the control channel; used only by a device on the network
 };
 
-/// Whether the camera ignores what a host writes.
+/// Whether the camera ignores writes by hosts.
 [[nodiscard]] constexpr bool IsReadOnly(Role role) {
     return role == Role::Fixed || role == Role::Status || role == Role::Channel;
 }
 
-/// One of the values behind an address, and the selector that leads to it.
+/// One of the values at an address, and its selector.
 struct Instance {
     Bytes selector; ///< empty for a plain register
     Bytes value;
 };
 
-/// The kind of a register and what it holds when the camera is switched on.
+/// The kind of a register and its power-up value.
 struct Value {
-    std::vector<Instance> instances; ///< at least one; their selectors are of one length, and so are their values
-    bool swapped = false;            ///< whether the two words of a selector are swapped when they are written alone
-    bool keepsRequest = false;       ///< whether the requested value is kept beside the one that applies
+    std::vector<Instance> instances; ///< at least one; all selectors have one length, and so have all values
+    bool swapped = false;            ///< whether a write of the selector alone has its two words swapped
+    bool keepsRequest = false;       ///< whether the requested value is kept beside the current one
 };
 
 // The kinds, for the rows of a register table.
 [[nodiscard]] Value Word(std::uint32_t value);
 [[nodiscard]] Value Record(const Words& fields);                     ///< several words, no padding
-[[nodiscard]] Value Indexed(const std::vector<Words>& instances);    ///< behind an index word, first is index 0
+[[nodiscard]] Value Indexed(const std::vector<Words>& instances);    ///< selected by an index word, from 0 on
 [[nodiscard]] Value Text(std::size_t length, std::string_view text); ///< bytes, padded with zeros
-/// A text behind a word with its length, which counts into the size of the register.
+/// A word with the length of the text, then the text. The size includes the length word.
 [[nodiscard]] Value PrefixedText(std::size_t size, std::string_view text);
-/// Values behind selectors of any length, each a selector and its value.
+/// Pairs of a selector, of any length, and its value.
 [[nodiscard]] Value Selected(const std::vector<std::pair<Words, Words>>& instances);
-/// Values behind two words, row and column, swapped when they are written alone; row by row from {0, 0} on.
+/// Values selected by two words, row and column, which are swapped when written alone. Row by row from {0, 0} on.
 [[nodiscard]] Value Table(std::uint32_t columns, const std::vector<Words>& entries);
-/// The same, of a setting whose requested value applies as far as other settings allow, and again when they allow it.
+/// A setting that keeps its requested value. The value applies as far as other settings allow.
 [[nodiscard]] Value KeepingRequest(Value value);
 
-/// What a word of a register admits: a number is moved to the nearest admitted one, a code that is not admitted has the
-/// whole write rejected.
+/// The valid values of a word. A number out of range is clamped. An invalid code has the whole write rejected.
 struct Limits {
-    std::int64_t lowest = 0; ///< a negative one makes the word a signed one
+    std::int64_t lowest = 0; ///< if negative, the word is signed
     std::int64_t highest = 0xFFFFFFFF;
-    Words codes; ///< not empty: these alone are admitted
+    Words codes; ///< if not empty, the only valid values
 };
 
 [[nodiscard]] Limits Range(std::int64_t lowest, std::int64_t highest);
 [[nodiscard]] Limits Codes(std::uint32_t first, std::uint32_t last);
 [[nodiscard]] Limits Codes(const Words& codes);
 
-/// The word as the number that it stands for.
+/// Converts a word to the signed or unsigned number that it represents.
 [[nodiscard]] std::int64_t Number(std::uint32_t word, const Limits& limits);
-/// Moves each word to the nearest admitted number. False if one is a code that is not admitted. Words beyond the limits
-/// given admit everything.
+/// Clamps each word. False if one is an invalid code. Words without limits accept all values.
 [[nodiscard]] bool Admit(const std::vector<Limits>& limits, Words& words);
 
 /// One row of a camera's register table.
@@ -84,7 +82,7 @@ struct Register {
     std::vector<Limits> limits = {}; ///< of each word
 };
 
-/// How many bytes it takes in the address space: its selector, and the value behind that.
+/// The size in bytes in the address space: selector and value.
 [[nodiscard]] std::size_t SizeOf(const Register& entry);
 
 } // namespace Simulation

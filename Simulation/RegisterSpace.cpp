@@ -140,7 +140,7 @@ std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::
     std::vector<const Register*> touched;
     auto next = cells.upper_bound(address);
     if (next != cells.begin()) {
-        --next; // the only one that begins before the access and may reach into it: registers do not overlap
+        --next; // it begins before the access and may overlap it
     }
     for (; next != cells.end() && next->first < std::uint64_t{address} + length; ++next) {
         const Register& entry = next->second.entry;

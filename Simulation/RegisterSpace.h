@@ -10,87 +10,87 @@
 
 namespace Simulation {
 
-/// What a camera holds. The port reaches it by address, the camera's own behaviour by a register's name.
+/// The registers of a camera. The port accesses them by address, the camera's own behaviour by name.
 ///
-/// Every access of the port is a read or a write of some bytes at an address; whether they came as a word, a pair, a
-/// block, a text or memory makes no difference. A camera has these addresses, and no other ones:
+/// Every port access reads or writes bytes at an address, whether as a word, pair, block, text or memory. A camera has
+/// these addresses only:
 ///
-/// | Addresses             | What is there                                                                    |
+/// | Addresses             | Content                                                                          |
 /// |-----------------------|----------------------------------------------------------------------------------|
-/// | 0x00000000-0x000000F7 | the bootstrap registers of a discovery, and zeros where the standard reserves    |
-/// | 0x000000F8-0x00FFFFFF | registers; what lies between them the camera does not have                       |
-/// | 0xGGFF0000-0xGGFFFFFF | the camera's function GGFF: its register, and zeros behind it                    |
-/// | 0xE0000000-0xFFFFFFFF | nothing for the port: the camera's internal state                                     |
+/// | 0x00000000-0x000000F7 | bootstrap registers of a discovery; zeros where the standard reserves addresses  |
+/// | 0x000000F8-0x00FFFFFF | registers; the camera does not have the addresses between them                   |
+/// | 0xGGFF0000-0xGGFFFFFF | function GGFF of the camera: its register, followed by zeros                     |
+/// | 0xE0000000-0xFFFFFFFF | internal state, inaccessible to the port                                         |
 ///
-/// Where no register is, zeros are read and nothing can be written. An indexed register is a selector and a value: a
-/// write of the selector alone chooses an instance, a longer write sets the instance that it names, if there is one, a
-/// write of the value or of a part of it the chosen one, and a read gives the chosen selector back, followed by its
-/// value. Some registers take a selector of two words with its halves swapped when it is written alone.
+/// Addresses without a register read as zero and ignore writes. An indexed register is a selector and a value. A write
+/// of the selector alone selects an instance. A longer write sets the instance that it names, if it exists. A write of
+/// the value, or part of it, sets the selected instance. A read returns the selector, then the selected value. Some
+/// registers expect a selector of two words swapped when it is written alone.
 class RegisterSpace {
 public:
     explicit RegisterSpace(const std::vector<Register>& registers);
     RegisterSpace(const RegisterSpace&) = delete;
     RegisterSpace& operator=(const RegisterSpace&) = delete;
 
-    /// A register whose value a write has reached.
+    /// A register whose value was written.
     struct Change {
         const Register& entry;
-        std::uint32_t index; ///< which instance
-        Words before;        ///< what it held until then
+        std::uint32_t index; ///< the instance
+        Words before;        ///< the previous value
     };
 
-    /// Whether the port reaches all of these addresses; a length of 0 is that of one.
+    /// Whether the port can access all of these addresses. A length of 0 counts as 1.
     [[nodiscard]] bool HasAddresses(std::uint32_t address, std::size_t length) const;
     void Read(std::uint32_t address, std::span<std::uint8_t> bytes) const;
-    /// Writes without asking what the registers admit, and says which of them it reached.
+    /// Writes without checking limits. Returns the registers whose value was written.
     std::vector<Change> Write(std::uint32_t address, std::span<const std::uint8_t> bytes);
 
-    /// How many instances of a register there are.
+    /// The number of instances.
     [[nodiscard]] std::uint32_t Count(const std::string& name) const;
-    /// The words of a register, of one instance of it if it is indexed.
+    /// The words of a register, or of one instance of an indexed register.
     [[nodiscard]] Words Get(const std::string& name, std::uint32_t index = 0) const;
     /// The text in a plain register, up to the first zero.
     [[nodiscard]] std::string GetText(const std::string& name) const;
     void Set(const std::string& name, const Words& words, std::uint32_t index = 0);
-    /// What was requested of a register that keeps it.
+    /// The requested value, of a register that keeps it.
     [[nodiscard]] const Words& Requested(const std::string& name, std::uint32_t index = 0) const;
     void SetRequested(const std::string& name, const Words& words, std::uint32_t index = 0);
 
-    /// The table's row of that name, or null.
+    /// The register of that name, or null.
     [[nodiscard]] const Register* Find(const std::string& name) const;
-    /// The register that lies at the address, or null if none begins there.
+    /// The register that begins at the address, or null.
     [[nodiscard]] const Register* At(std::uint32_t address) const;
-    /// The registers that an access of that many bytes touches.
+    /// The registers that an access of these bytes touches.
     [[nodiscard]] std::vector<const Register*> Touched(std::uint32_t address, std::size_t length) const;
 
-    /// The words of each instance of a register.
+    /// The content of one register.
     struct State {
         std::vector<Words> values;
-        std::vector<Words> requests = {}; ///< empty for a register that keeps none
+        std::vector<Words> requests = {}; ///< empty for a register that keeps no requests
 
         bool operator==(const State&) const = default;
     };
-    /// What registers hold, by name.
+    /// The content of registers, by name.
     using Content = std::map<std::string, State>;
-    /// What all registers of the roles hold.
+    /// The content of all registers with these roles.
     [[nodiscard]] Content Save(const std::vector<Role>& roles) const;
     void Load(const Content& content);
 
 private:
-    /// A register and what it holds.
+    /// A register and its content.
     struct Cell {
         Register entry;
-        Bytes selector;              ///< the chosen one; empty for a plain register
+        Bytes selector;              ///< of the selected instance; empty for a plain register
         std::vector<Bytes> values;   ///< of each instance
-        std::vector<Words> requests; ///< the same, if they are kept
+        std::vector<Words> requests; ///< of each instance, if they are kept
     };
 
     [[nodiscard]] Cell& Named(const std::string& name) const;
-    /// Which instance is chosen: the number of instances if there is none of that selector.
+    /// The index of the selected instance, or the number of instances if no instance has the selector.
     [[nodiscard]] static std::size_t ChosenInstance(const Cell& cell);
-    /// A register as it is read: the chosen selector, then the value behind it, zeros if there is none.
+    /// The bytes that a read returns: the selector, then the selected value, or zeros if there is none.
     [[nodiscard]] static Bytes BlockOf(const Cell& cell);
-    /// Writes the register from the offset on.
+    /// Writes to the register, from the offset on.
     static void Write(Cell& cell, std::size_t offset, std::span<const std::uint8_t> bytes,
                       std::vector<Change>& changes);
 

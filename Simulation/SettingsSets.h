@@ -8,8 +8,8 @@
 
 namespace Simulation {
 
-/// The settings sets in a camera's permanent memory. A set that was never saved holds the factory's settings; so does
-/// set 0, which cannot be saved to.
+/// The settings sets in a camera's permanent memory. Set 0, which cannot be saved, and sets that were never saved hold
+/// the factory settings.
 class SettingsSets {
 public:
     using Saved = std::map<std::uint32_t, RegisterSpace::Content>; ///< by number

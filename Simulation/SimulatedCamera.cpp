@@ -53,7 +53,7 @@ void SimulatedCamera::Derive(Update update) {
 
 void SimulatedCamera::DeclareAutomatic(const std::string& mode) {
     automatics.insert(mode);
-    AfterWrite(mode, [this, mode](RegisterSpace&) { (void)Runs(mode); }); // so that no short time is missed
+    AfterWrite(mode, [this, mode](RegisterSpace&) { (void)Runs(mode); }); // "endless" must notice even a short run
 }
 
 void SimulatedCamera::LoadSettings(std::uint32_t number) {
@@ -66,7 +66,7 @@ void SimulatedCamera::LoadSettings(std::uint32_t number) {
 }
 
 void SimulatedCamera::Restart() {
-    space.Load(powerUp); // which ends the acquisition, too
+    space.Load(powerUp); // also ends the acquisition
     LoadSettings(space.Get("startupsettings")[0]);
 }
 
@@ -141,7 +141,7 @@ unsigned char* SimulatedCamera::ReadBlock(std::uint32_t address, std::uint32_t l
     if (faults.ReturnsNull(address)) {
         return nullptr;
     }
-    // From malloc: the caller frees it, as the port demands.
+    // From malloc: the caller frees it.
     std::unique_ptr<unsigned char, decltype(&std::free)> block(static_cast<unsigned char*>(std::malloc(length)),
                                                                &std::free);
     if (block != nullptr) {

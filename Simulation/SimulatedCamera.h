@@ -17,75 +17,74 @@
 
 namespace Simulation {
 
-/// A camera that lives in memory: the port that a host hands to the library, with a register space behind it.
+/// A simulated camera: a port with a register space behind it.
 ///
-/// The camera checks what a host writes: a write to a read-only register or to an instance that does not exist is
-/// ignored, and so is a code that is not admitted; a number is clamped. Then the behaviours of the register run.
-/// An access to addresses that the camera does not have throws InvalidAddressError.
+/// The camera ignores writes to read-only registers, writes to instances that do not exist, and invalid codes. It
+/// clamps numbers. Then the behaviours of the register run. An access to addresses that the camera does not have throws
+/// InvalidAddressError.
 ///
-/// The camera has a simulated clock: each port access takes half a millisecond, and nothing else does unless a host
-/// advances the clock. So the same accesses always have the same results.
+/// The clock is simulated: it advances by half a millisecond per port access, and when a host advances it. So the same
+/// accesses always have the same results.
 class SimulatedCamera final : public SDK4::IControlPort {
 public:
-    /// Runs after a register was written: adjusts the value, or others that follow from it. What a behaviour sets
-    /// triggers no further behaviour.
+    /// Runs after a write: adjusts the value, or others that follow from it. What a behaviour sets triggers no further
+    /// behaviour.
     using Behaviour = std::function<void(RegisterSpace&, const RegisterSpace::Change&)>;
-    /// Runs at each time step, which is counted from power-up.
+    /// Runs at each time step. Steps are counted from power-up.
     using Step = std::function<void(RegisterSpace&, std::uint64_t step)>;
     /// Updates registers that follow from others.
     using Update = std::function<void(RegisterSpace&)>;
 
     static constexpr std::chrono::microseconds accessTime{500};
-    static constexpr std::chrono::milliseconds stepTime{32}; ///< between two time steps
+    static constexpr std::chrono::milliseconds stepTime{32};
 
     explicit SimulatedCamera(const std::vector<Register>& registers);
-    SimulatedCamera(const SimulatedCamera&) = delete; // its behaviours know it
+    SimulatedCamera(const SimulatedCamera&) = delete; // its behaviours refer to it
     SimulatedCamera& operator=(const SimulatedCamera&) = delete;
 
     // For hosts.
 
-    /// Advances the clock without an access, as while a host waits.
+    /// Advances the clock without an access.
     void Advance(std::chrono::microseconds time);
 
-    /// Restarts the camera: what is not in non-volatile memory is reset to its power-up value.
+    /// Restarts the camera: resets all registers except non-volatile ones to their power-up values.
     void Restart();
 
-    /// Injects a fault, to see whether a host notices. One text is one fault; a register is
-    /// named, or given by its address (0x14010000):
+    /// Injects a fault. The register is given by its name or its address (0x14010000):
     ///
     /// | Text                | The camera ...                                                                     |
     /// |---------------------|------------------------------------------------------------------------------------|
-    /// | ignore:gain         | ignores what is written to the register; a command is not carried out              |
-    /// | clamp:exposure=1000 | holds 1000 when more is written (each word of the register)                        |
-    /// | offset:gain=1       | holds more than was written (each word), past the limit too; may be negative       |
-    /// | fail:0x14010000     | does not answer: accesses that touch the register throw PortError; an address that |
-    /// |                     | no register begins at stands for the four bytes there                              |
+    /// | ignore:gain         | ignores writes to the register; does not execute a command                         |
+    /// | clamp:exposure=1000 | limits each written word to 1000                                                   |
+    /// | offset:gain=1       | adds 1 to each written word, even past its limit; may be negative                  |
+    /// | fail:0x14010000     | throws PortError on accesses that touch the register, or the four bytes at the     |
+    /// |                     | address if no register begins there                                                |
     /// | failread:, failwrite: | the same for one direction                                                       |
-    /// | null:measurewindow  | answers the read of a block that begins there with nothing                         |
+    /// | null:measurewindow  | returns null when a block is read there                                            |
     /// | endless:agc         | does not stop the automatic mode once it was on                                    |
-    /// | stale:gain          | leaves the register as it is when a settings set is loaded                         |
+    /// | stale:gain          | does not load the register from settings sets                                      |
     ///
-    /// @throws FaultError for a text that is none of these, or a register or an address that this camera does not have.
+    /// @throws FaultError for an invalid text, or a register or address that this camera does not have
     void InjectFault(std::string_view fault) { faults.Inject(fault, space, automatics); }
 
     /// The registers, without going through the port.
     [[nodiscard]] RegisterSpace& Registers() { return space; }
     [[nodiscard]] const RegisterSpace& Registers() const { return space; }
 
-    // For those who build cameras.
+    // For models of cameras.
 
-    /// Adds a behaviour that runs after each accepted write of the named register, in the order of the calls.
+    /// Adds a behaviour that runs after each accepted write of the register. Behaviours run in the order added.
     void AfterWrite(const std::string& name, Behaviour behaviour);
     void AfterWrite(const std::string& name, Update update);
     /// Adds work for each time step.
     void EachStep(Step step) { steps.push_back(std::move(step)); }
-    /// Adds an update that runs now and after each settings load and restart.
+    /// Adds an update that runs now, and after each settings load and restart.
     void Derive(Update update);
     /// Makes the register read-only during acquisition.
     void LockWhileAcquiring(const std::string& name) { locked.insert(name); }
-    /// Declares the register as the switch of an automatic mode.
+    /// Declares that the register switches an automatic mode.
     void DeclareAutomatic(const std::string& mode);
-    /// Whether the automatic mode of that register is on, or goes on although it should not.
+    /// Whether the automatic mode runs: it is on, or a fault keeps it running.
     [[nodiscard]] bool Runs(const std::string& mode) { return faults.Runs(mode, space.Get(mode)[0] != 0); }
 
     [[nodiscard]] SettingsSets& Sets() { return sets; }
@@ -106,13 +105,13 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    /// Advances the clock, checks the addresses, applies the faults. @throws PortError
+    /// Advances the clock, checks the addresses, applies faults. @throws PortError
     void BeginAccess(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
     [[nodiscard]] bool IsLocked(const std::string& name) const { return locked.contains(name) && IsAcquiring(); }
-    /// Clamps what was written to the register, or takes it back. Returns whether the write is accepted.
+    /// Clamps the written value, or restores the previous one. Returns whether the write is accepted.
     [[nodiscard]] bool Accept(const RegisterSpace::Change& change);
     void LoadSettings(std::uint32_t number);
 
@@ -126,7 +125,7 @@ private:
     std::vector<Update> updates;
     std::set<std::string> automatics;
     std::set<std::string> locked;
-    std::vector<char> text; ///< what ReadString handed out last
+    std::vector<char> text; ///< the last result of ReadString
 };
 
 } // namespace Simulation

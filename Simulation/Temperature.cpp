@@ -4,7 +4,7 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::uint32_t selfHeating = 60;   // of acquisition, in tenths of a degree
+constexpr std::uint32_t selfHeating = 60;   // during acquisition, in tenths of a degree
 constexpr std::uint64_t driftInterval = 16; // steps
 constexpr std::uint64_t measureInterval = 32;
 

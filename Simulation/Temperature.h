@@ -5,8 +5,8 @@
 
 namespace Simulation {
 
-/// Has the camera's "temperature" drift: it warms up while images are acquired and cools down afterwards, a tenth of a
-/// degree in half a second, and the measurement is noisy. "warmth" is the temperature without noise, in tenths.
+/// Adds drift of the register "temperature": the camera warms up during acquisition and cools down afterwards, by a
+/// tenth of a degree in half a second. The measurement is noisy; "warmth" is the temperature without noise, in tenths.
 void AddTemperature(SimulatedCamera& camera, const World& world);
 
 } // namespace Simulation

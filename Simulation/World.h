@@ -4,33 +4,32 @@
 
 namespace Simulation {
 
-/// The streams of random numbers that a world draws from. The numbers are part of what a seed means.
+/// The streams of random numbers. A change of these values changes the environment of every seed.
 enum class Stream : std::uint32_t {
-    Illumination = 1, ///< of the scene
+    Illumination = 1,
     StartTemperature = 2,
     TemperatureNoise = 3,
     MeasureNoise = 4,
-    WhitePoint = 10,        ///< and the two after it: red, green, blue
-    DefectPixelColumn = 20, ///< and those after it: one for each pair of defect pixels
+    WhitePoint = 10,        ///< and 11, 12: red, green, blue
+    DefectPixelColumn = 20, ///< and following: one for each pair of defect pixels
 };
 
-/// The environment of a camera: scene, noise, defects of the sensor. It is determined by the seed.
+/// The environment of a camera, determined by the seed: scene, noise, defects of the sensor.
 class World {
 public:
     explicit World(std::uint64_t seedOfWorld) : seed(seedOfWorld) {}
 
-    /// Constant over time: a number from -range to +range. A world of seed 0 has no deviations, so that its
-    /// cameras are those of the tables.
-    /// @param index tells apart the streams that begin at @p stream
+    /// A number from -range to +range, constant over time. With seed 0 it is 0: the cameras are those of the tables.
+    /// @param index is added to @p stream
     [[nodiscard]] std::int32_t Deviation(Stream stream, std::int32_t range, std::uint32_t index = 0) const {
         return seed == 0 ? 0 : Draw(static_cast<std::uint32_t>(stream) + index, 0, range);
     }
-    /// Varies with time: a number from -range to +range, the same for the same time.
+    /// A number from -range to +range, determined by the time.
     [[nodiscard]] std::int32_t Noise(Stream stream, std::uint64_t time, std::int32_t range) const {
         return Draw(static_cast<std::uint32_t>(stream), time, range);
     }
 
-    /// Of the scene, in percent of the nominal one.
+    /// Illumination of the scene, in percent of the nominal one.
     [[nodiscard]] std::uint32_t Illumination() const {
         return static_cast<std::uint32_t>(100 + Deviation(Stream::Illumination, 30));
     }

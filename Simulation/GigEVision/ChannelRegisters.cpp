@@ -23,7 +23,7 @@ bool ChannelRegisters::IsWritable(const Register& entry) {
 
 void ChannelRegisters::Write(const Register& entry, std::uint32_t value, std::chrono::microseconds time) {
     if (entry.name == "timestampcontrol") {
-        ControlTimestamp(value, time); // reads as zero: it is a command
+        ControlTimestamp(value, time); // a command: reads as 0
     } else {
         space.Set(entry.name, {entry.name == "heartbeat" ? std::max(value, leastHeartbeat) : value});
     }

@@ -7,15 +7,16 @@
 
 namespace Simulation::GigEVision {
 
-/// The bootstrap registers of role Channel, one word each, which belong to the protocol and not to the camera behind
-/// it: heartbeat, clock, who is in control, where the stream goes. A start forgets what was written to them.
+/// The bootstrap registers of role Channel, one word each. They belong to the protocol, not to the camera: heartbeat,
+/// clock, controller, stream destination. A restart resets them.
 class ChannelRegisters {
 public:
-    /// @param start the time of the camera at which its clock begins
+    /// @param start the camera's time when the timestamp is 0
     ChannelRegisters(RegisterSpace& ofCamera, std::chrono::microseconds start);
 
     [[nodiscard]] static bool IsWritable(const Register& entry);
-    /// What an application writes; the clock, if it is the clock's, is set or read at that time of the camera.
+    /// Writes a register for an application.
+    /// @param time the camera's time, to reset or latch the timestamp
     void Write(const Register& entry, std::uint32_t value, std::chrono::microseconds time);
 
     /// Ticks of the clock, which counts microseconds, at that time of the camera.
@@ -24,11 +25,11 @@ public:
     }
     [[nodiscard]] std::chrono::milliseconds Heartbeat() const;
     [[nodiscard]] std::uint32_t Privilege() const;
-    /// Shows who controls the device and how; all zero for nobody.
+    /// Sets the registers that report the controller. All are zero if there is none.
     void ShowControl(std::uint32_t privilege, std::uint32_t applicationAddress, std::uint16_t applicationPort);
-    /// Shows from which port the stream comes.
+    /// Sets the source port of the stream.
     void ShowStreamSource(std::uint16_t port);
-    /// Closes the stream channel, as the end of a control channel does.
+    /// Closes the stream channel.
     void CloseStream();
     void Restart(std::chrono::microseconds time);
 

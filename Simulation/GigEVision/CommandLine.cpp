@@ -2,6 +2,7 @@
 
 #include "Common/Ipv4.h"
 #include "Common/Number.h"
+#include "Common/Suggestion.h"
 #include "Common/Text.h"
 #include "Simulation/Cameras.h"
 
@@ -11,12 +12,12 @@ namespace Simulation::GigEVision {
 
 namespace {
 
-/// Whole numbers, without a description of its own.
+/// A range without a description in the help.
 CLI::Validator Between(std::uint64_t lowest, std::uint64_t highest) {
     return CLI::Range(lowest, highest).description("");
 }
 
-/// A share, checked: CLI11's own range lets pass what is not a number.
+/// CLI::Range would accept NaN.
 CLI::Validator Share() {
     return {[](const std::string& text) {
                 double share = -1;
@@ -29,9 +30,9 @@ CLI::Validator Share() {
 
 std::uint32_t DeviceAddress(const std::string& text) {
     const auto address = Common::ParseAddress(text);
-    const std::uint32_t firstMulticast = 0xE0000000; // from there on are groups and broadcasts
+    const std::uint32_t firstMulticast = 0xE0000000;
     if (!address || *address == 0 || *address >= firstMulticast) {
-        throw UsageError("--address: \"" + text + "\" is not the IPv4 address of one device");
+        throw UsageError("--address: \"" + text + "\" is not a unicast IPv4 address");
     }
     return *address;
 }
@@ -45,7 +46,7 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances, StreamOptions& s
     const std::uint64_t mostRequests = 1000000000;
     add("--drop", disturbances.drop, "P", "Drop this share of the datagrams, in both directions")->check(Share());
     add("--duplicate", disturbances.duplicate, "P", "Send this share of the acknowledges twice")->check(Share());
-    add("--nack", disturbances.nack, "P", "Refuse this share of the requests as busy")->check(Share());
+    add("--nack", disturbances.nack, "P", "Answer this share of the requests with status busy")->check(Share());
     const auto addDelay = [&](const char* name, std::chrono::milliseconds& variable, const char* about) {
         const auto set = [&variable](const std::uint64_t& delay) { variable = std::chrono::milliseconds(delay); };
         app.add_option_function<std::uint64_t>(name, set, about)
@@ -75,36 +76,57 @@ void AddStream(CLI::App& app, Options& options) {
         ->group(group);
 }
 
+std::string Describe(const CLI::App& app, const CLI::ParseError& error) {
+    const std::string text = error.what();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        return text.substr(0, text.find(':')) +
+               (text.ends_with("missing") ? ": a value is required" : " is given twice");
+    }
+    const auto unknown = app.remaining();
+    if (unknown.empty()) {
+        return text;
+    }
+    if (!unknown.front().starts_with('-')) {
+        return '"' + unknown.front() + "\" was not expected";
+    }
+    std::vector<std::string> names;
+    for (const CLI::Option* option : app.get_options([](const CLI::Option* each) { return each->nonpositional(); })) {
+        names.push_back(option->get_name());
+    }
+    return "unknown option \"" + unknown.front() + '"' + Common::Suggestion(unknown.front(), names);
+}
+
 } // namespace
 
 std::optional<Options> ParseCommandLine(int argc, char** argv) {
-    CLI::App app("A simulated camera as a GigE Vision device on UDP port 3956, until it is interrupted.", "qdv12sim");
+    CLI::App app("Simulates a camera as a GigE Vision device on UDP port 3956 until interrupted.", "qdv12sim");
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
     app.footer("Models: " + Common::Join(ModelNames()) +
-               "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address, or a file, cannot be used.");
+               "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address or a file cannot be used.");
     Options options;
     std::string address = "127.0.0.1";
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
         return app.add_option(name, variable, about)->type_name(value);
     };
     add("MODEL", options.model, "", "The camera's model, such as Orvik-710C")->required();
-    add("--address", address, "ADDRESS", "The address of this machine that the camera uses (127.0.0.1)");
-    add("--seed", options.seed, "N", "Select the environment of the camera, and when it is disturbed")
+    add("--address", address, "ADDRESS", "The camera's address, one of this machine (127.0.0.1)");
+    add("--seed", options.seed, "N", "Select the camera's environment and the sequence of disturbances")
         ->check(Common::CheckSeed);
     add("--state", options.state, "FILE", "Keep the camera in a file between runs")->check(Common::CheckValue);
-    add("--serial", options.serial, "TEXT", "Its serial number");
-    add("--mac", options.mac, "MAC", "Its MAC address, such as 02:00:12:07:07:11");
+    add("--serial", options.serial, "TEXT", "The camera's serial number");
+    add("--mac", options.mac, "MAC", "The camera's MAC address, such as 02:00:12:07:07:11");
     add("--fault", options.faults, "TEXT", "Inject a fault into the camera, such as ignore:gain")
         ->check(Common::CheckValue)
-        ->allow_extra_args(false); // else it would take the model for a fault too
-    add("--record", options.record, "FILE", "Record both directions to a pcap file")->check(Common::CheckValue);
+        ->allow_extra_args(false); // else it would take the model as another fault
+    add("--record", options.record, "FILE", "Record the datagrams of both directions to a pcap file")
+        ->check(Common::CheckValue);
     AddStream(app, options);
     AddDisturbances(app, options.disturbances, options.stream);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
-            throw UsageError(error.what() + std::string(" (qdv12sim --help says more)"));
+            throw UsageError(Describe(app, error) + " (qdv12sim --help says more)");
         }
         app.exit(error);
         return std::nullopt;

@@ -11,25 +11,24 @@
 
 namespace Simulation::GigEVision {
 
-/// What the user asks for.
 struct Options {
     std::string model{};
     std::uint32_t address = 0;
     std::uint64_t seed = 0;
-    std::string state{}; ///< a file that holds the camera between two runs; none if empty
+    std::string state{}; ///< file that keeps the camera between runs; none if empty
     std::optional<std::string> serial{};
     std::optional<std::string> mac{};
-    std::vector<std::string> faults{}; ///< to be injected into the camera
+    std::vector<std::string> faults{};
     Disturbances disturbances{};
     StreamOptions stream{};
-    bool unpaced = false;        ///< frames follow each other without regard to the frame duration
-    bool anyDestination = false; ///< the stream may go elsewhere than to the controller
-    std::string record{};        ///< a file for packets; none if empty
+    bool unpaced = false;        ///< ignore the frame duration
+    bool anyDestination = false; ///< stream to other addresses than the controller's
+    std::string record{};        ///< pcap file; none if empty
 };
 
 using Common::UsageError;
 
-/// Reads the arguments of the program. Nothing when only help was asked for, which is printed then.
+/// Parses the arguments. With --help or --version, prints and returns nothing.
 /// @throws UsageError
 [[nodiscard]] std::optional<Options> ParseCommandLine(int argc, char** argv);
 

@@ -12,7 +12,7 @@ namespace Simulation::GigEVision {
 using Common::Gvcp::Status;
 using Time = std::chrono::steady_clock::time_point;
 
-/// Where a datagram comes from or goes to.
+/// The source or destination of a datagram.
 struct Endpoint {
     std::uint32_t address;
     std::uint16_t port;
@@ -20,21 +20,20 @@ struct Endpoint {
     bool operator==(const Endpoint&) const = default;
 };
 
-/// Which application controls the device, and what others may do meanwhile. Control that is not renewed ends with the
-/// heartbeat time-out.
+/// Which application controls the device, and what others may do meanwhile. Control ends with the heartbeat timeout.
 class ControlChannel {
 public:
     explicit ControlChannel(ChannelRegisters& ofDevice) : registers(ofDevice) {}
 
-    /// Under control of one application all may read, under its exclusive control nothing but who has it.
+    /// With control access, every application may read. With exclusive access, others may read only the privilege.
     [[nodiscard]] bool MayRead(const Endpoint& sender, std::uint32_t address, std::size_t length) const;
     [[nodiscard]] bool MayWrite(const Endpoint& sender) const { return controller == sender; }
-    /// What a write of the control channel privilege does: takes control, changes its kind, or gives it back.
+    /// Handles a write of the control channel privilege: takes control, changes its kind, or releases it.
     [[nodiscard]] Status SetPrivilege(const Endpoint& sender, std::uint32_t privilege, Time now);
     void Release();
 
     [[nodiscard]] bool IsHeld() const { return controller.has_value(); }
-    /// Any valid request of the controller shows that it is alive.
+    /// To be called for every valid request.
     void ResetHeartbeat(const Endpoint& sender, Time now);
     [[nodiscard]] bool IsExpired(Time now) const { return IsHeld() && now - lastRequest > registers.Heartbeat(); }
 

@@ -10,7 +10,7 @@ using Common::Bootstrap::controlChannelPrivilege;
 
 namespace {
 
-/// The acknowledge of a write: how far it went.
+/// @param index the number of registers or bytes written
 Bytes AcknowledgeWrite(const Request& request, Status status, std::size_t index) {
     Bytes payload;
     Put16(payload, 0); // reserved
@@ -18,7 +18,7 @@ Bytes AcknowledgeWrite(const Request& request, Status status, std::size_t index)
     return Acknowledge(request, status, payload);
 }
 
-/// The acknowledge of a request of which nothing was carried out; nothing for one that has none.
+/// The acknowledge of a refused request, or nothing if it has none.
 std::optional<Bytes> Refuse(const Request& request, Status status) {
     switch (request.command) {
     case Command::WriteRegister:
@@ -94,7 +94,7 @@ std::optional<Bytes> Device::Answer(const Endpoint& from, std::span<const std::u
         return std::nullopt;
     }
     control.ResetHeartbeat(from, now);
-    if (request->command == Command::Discovery) { // of those who do not know yet what there is, who may use one id
+    if (request->command == Command::Discovery) { // never repeated: an application may reuse the id
         return request->wantsAcknowledge ? std::optional(Discover(*request)) : std::nullopt;
     }
     if (request->command == Command::PacketResend) { // of the receiver's, whose requests are not acknowledged
@@ -137,7 +137,7 @@ Bytes Device::ReadRegisters(const Endpoint& from, const Request& request) {
     const auto addresses = request.payload;
     const bool wellFormed = !addresses.empty() && addresses.size() % 4 == 0;
     Status status = wellFormed ? Status::Success : Status::InvalidParameter;
-    Bytes values; // as far as they could be read
+    Bytes values; // up to the first failure
     for (std::size_t i = 0; i < addresses.size() && status == Status::Success; i += 4) {
         const std::uint32_t address = Get32(addresses.subspan(i));
         std::uint32_t value = 0;

@@ -15,40 +15,39 @@
 
 namespace Simulation::GigEVision {
 
-/// Where in the network a device is.
 struct IpConfiguration {
     std::uint32_t address;
     std::uint32_t subnetMask;
 };
 
-/// A simulated camera as a GigE Vision device: what it answers to a datagram, without a socket and without a clock.
+/// A simulated camera as a GigE Vision device. It answers datagrams, without socket or clock.
 ///
-/// The camera's time goes on with the time that is passed in, and with accesses if these take it further. The camera
-/// shows the address at which it is as its current one, also after a restart.
+/// The camera's time follows the time passed in, and may run ahead of it through accesses. The current IP configuration
+/// in the camera's registers is the device's, also after a restart.
 class Device {
 public:
     static constexpr std::chrono::seconds bootTime{5};
 
-    /// @param served must outlive the device and be given to no other one
+    /// @param served must outlive the device, and must not be given to another device
     Device(SimulatedCamera& served, const IpConfiguration& current, Time now);
-    Device(const Device&) = delete; // the camera's behaviours know it
+    Device(const Device&) = delete; // the camera's behaviours refer to it
     Device& operator=(const Device&) = delete;
 
-    /// The acknowledge, at most largestPayload bytes; nothing when none is due.
-    /// @param isBusy whether the device has no time for it: it refuses what is neither a discovery nor repeated
+    /// The acknowledge, at most largestPayload bytes, or nothing if none is due.
+    /// @param isBusy refuses the request as busy, unless it is a discovery or a repetition
     [[nodiscard]] std::optional<Bytes> Answer(const Endpoint& from, std::span<const std::uint8_t> datagram, Time now,
                                               bool isBusy = false);
 
-    /// What goes on without requests: the camera's own work, and the heartbeat time-out.
+    /// Advances the camera's time and checks the heartbeat timeout.
     void PassTime(Time now);
 
     [[nodiscard]] StreamChannel& Stream() { return stream; }
-    /// When the stream has a block to send; nothing until something is requested of the device.
+    /// When the stream has a block to send. Nothing: not before the next request.
     [[nodiscard]] std::optional<Time> StreamDue() const;
-    /// Shows from which port the stream comes.
+    /// Sets the source port of the stream.
     void SetStreamSource(std::uint16_t port) { channel.ShowStreamSource(port); }
 
-    /// Has the camera lose power: it answers nothing for bootTime, and has then what a start leaves it.
+    /// Simulates a power cycle: restarts the camera, which does not answer for bootTime.
     void Reboot(Time now);
 
 private:
@@ -72,7 +71,7 @@ private:
     LastAcknowledges lastAcknowledges;
     const Time start;
     const std::chrono::microseconds cameraStart;
-    Time bootEnd{}; ///< the camera answers nothing before
+    Time bootEnd{}; ///< the camera does not answer before
 };
 
 } // namespace Simulation::GigEVision

@@ -13,13 +13,12 @@ using namespace Common::Gvcp;
 
 namespace {
 
-// The camera holds words in the order of the machine that simulates it; those beyond the bootstrap registers go to the
-// wire as they are.
-static_assert(std::endian::native == std::endian::little, "vendor registers travel with little-endian words");
+// The camera holds words in the host's byte order. Vendor registers are sent unchanged.
+static_assert(std::endian::native == std::endian::little, "vendor registers are little-endian on the wire");
 
 std::size_t SelectorSize(const Register& entry) { return entry.powerUp.instances.front().selector.size(); }
 
-/// Whether a write of the function's own register is refused. A selector may be written whatever it selects.
+/// Whether a write to the function's register is refused. Selectors are always writable.
 bool IsProtectedIn(const Register& entry, std::size_t offset, std::size_t length) {
     return offset >= SizeOf(entry) || (IsReadOnly(entry.role) && offset + length > SelectorSize(entry));
 }

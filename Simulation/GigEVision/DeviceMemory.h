@@ -12,9 +12,9 @@ namespace Simulation::GigEVision {
 
 using Common::Gvcp::Status;
 
-/// A camera as its control channel shows it: what may be written, and in what order bytes travel. The camera tells
-/// which addresses there are. Below bootstrapEnd words are big-endian and texts are bytes; all other words are
-/// little-endian. Lengths are multiples of 4 up to largestMemory.
+/// A camera's memory as seen on the control channel: adds write protection and byte order. Below bootstrapEnd, words
+/// are big-endian and texts are bytes. All other words are little-endian. Lengths are multiples of 4 up to
+/// largestMemory.
 class DeviceMemory {
 public:
     DeviceMemory(SimulatedCamera& shown, ChannelRegisters& ofChannel, StreamChannel& ofStream)
@@ -22,13 +22,13 @@ public:
           channel(ofChannel),
           stream(ofStream) {}
 
-    /// Reads as many bytes as there is room for.
+    /// Fills the bytes.
     [[nodiscard]] Status Read(std::uint32_t address, std::span<std::uint8_t> bytes);
-    /// Writes all or nothing. The privilege is not to be written here.
+    /// Writes all or nothing. Must not be used for the privilege.
     /// @param writer the address of the application that writes
     [[nodiscard]] Status Write(std::uint32_t address, std::span<const std::uint8_t> bytes, std::uint32_t writer);
 
-    // Single registers, whose value is the same number whatever the byte order in memory.
+    // Single registers, as numbers, independent of the byte order in memory.
     [[nodiscard]] Status ReadWord(std::uint32_t address, std::uint32_t& value);
     [[nodiscard]] Status WriteWord(std::uint32_t address, std::uint32_t value, std::uint32_t writer);
 
@@ -38,7 +38,7 @@ private:
     /// Calls @p visit with each bootstrap register that the bytes are written to, and its word.
     template <typename Visit>
     void ForEachWord(std::uint32_t address, std::span<const std::uint8_t> bytes, const Visit& visit) const;
-    /// Exchanges what the camera and the wire have in different byte order.
+    /// Swaps the words whose byte order differs between camera and wire.
     void SwapBytes(std::uint32_t address, std::span<std::uint8_t> bytes) const;
 
     SimulatedCamera& camera;

@@ -8,7 +8,7 @@ bool RandomOccurrence::Occurs(std::mt19937_64& random) {
     if (share <= 0) {
         return false;
     }
-    if (cases == 0 || next < cases) { // the place of the next one, within its part of the cases
+    if (cases == 0 || next < cases) {
         const double place = static_cast<double>(occurrences++) + std::uniform_real_distribution<>()(random);
         const double never = 1e18;
         next = std::max(cases, static_cast<std::uint64_t>(std::min(place / share, never)));

@@ -11,38 +11,38 @@
 
 namespace Simulation::GigEVision {
 
-/// How badly a network and a device behave; shares lie between 0 and 1.
+/// Disturbances of network and device. Shares are between 0 and 1.
 struct Disturbances {
-    double drop = 0;                            ///< share of the datagrams, in either direction, that get lost
-    double duplicate = 0;                       ///< share of the acknowledges that arrive twice
+    double drop = 0;                            ///< share of the datagrams lost, in either direction
+    double duplicate = 0;                       ///< share of the acknowledges sent twice
     double nack = 0;                            ///< share of the requests that the device refuses as busy
-    std::chrono::milliseconds delay{0};         ///< the longest time for which an acknowledge is held back
-    std::optional<std::uint64_t> rebootAfter{}; ///< requests; the next one finds the device starting anew
+    std::chrono::milliseconds delay{0};         ///< the longest delay of an acknowledge
+    std::optional<std::uint64_t> rebootAfter{}; ///< requests; the next request restarts the device
 };
 
-/// A datagram that is to be sent some time later.
+/// A datagram to be sent after a delay.
 struct DelayedDatagram {
     Bytes datagram;
     std::chrono::microseconds delay;
 };
 
-/// Something that occurs in a share of all cases: with a share of 0.1 once in the first ten, once in the next ten, in
-/// which of them is random. So the share is kept exactly, and a small one never affects all repetitions of a request.
+/// An event that occurs in a share of all cases. With a share of 0.1, it occurs once in each ten cases, at random. So
+/// the share is exact, and a small share never affects all repetitions of a request.
 class RandomOccurrence {
 public:
     explicit RandomOccurrence(double shareOfCases) : share(shareOfCases) {}
 
-    /// Whether it occurs in this case.
+    /// Whether the event occurs in this case.
     [[nodiscard]] bool Occurs(std::mt19937_64& random);
 
 private:
     double share;
     std::uint64_t cases = 0;
     std::uint64_t occurrences = 0;
-    std::uint64_t next = 0; ///< the case in which it occurs next
+    std::uint64_t next = 0; ///< the next case in which it occurs
 };
 
-/// A device behind all that can go wrong before it. The same seed and the same requests meet the same disturbances.
+/// A device with disturbances. The same seed and the same requests give the same disturbances.
 class DisturbedDevice {
 public:
     DisturbedDevice(Device& reached, const Disturbances& onTheWay, std::uint64_t seed)

@@ -10,13 +10,13 @@
 
 namespace Simulation::GigEVision {
 
-/// What the device answered to the last request of each of the senders that it heard last. A sender that missed an
-/// acknowledge repeats its request, which must not be carried out twice.
+/// The answers to the last request of each recent sender. A sender that missed an acknowledge repeats its request,
+/// which must not be executed twice.
 class LastAcknowledges {
 public:
     using Answer = std::optional<Bytes>; ///< nothing for a request that is not acknowledged
 
-    /// The answer if this was the sender's last request, or null.
+    /// The answer, or null if this was not the sender's last request.
     [[nodiscard]] const Answer* Find(const Endpoint& sender, std::span<const std::uint8_t> request) const {
         const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
             return entry.sender == sender &&
@@ -44,7 +44,7 @@ private:
         Answer answer;
     };
 
-    std::deque<Entry> entries; ///< the sender heard last comes first
+    std::deque<Entry> entries; ///< the latest first
 };
 
 } // namespace Simulation::GigEVision

@@ -22,7 +22,7 @@ constexpr std::uint32_t udpProtocol = 17;
 constexpr int largestPacket = 65535;
 constexpr const char* notWritten = "recording cannot be written: ";
 
-/// The sum of the 16-bit words, an odd last byte filled up, with the carries added.
+/// The one's complement sum of the 16-bit words. An odd last byte is padded with zero.
 std::uint32_t Sum(std::span<const std::uint8_t> bytes, std::uint32_t sum = 0) {
     for (std::size_t i = 0; i < bytes.size(); i += 2) {
         sum += std::uint32_t{bytes[i]} << 8 | (i + 1 < bytes.size() ? bytes[i + 1] : 0U);
@@ -41,10 +41,10 @@ void PutChecksum(Bytes& bytes, std::size_t at, std::uint32_t sum) {
 
 Bytes IpHeader(const Endpoint& from, const Endpoint& to, std::uint32_t length, std::uint16_t number) {
     Bytes header;
-    Put16(header, 0x4500); // version 4, five words, ordinary service
+    Put16(header, 0x4500); // version 4, five words, default service
     Put16(header, ipHeaderSize + length);
     Put16(header, number);
-    Put16(header, 0x4000); // not to be fragmented
+    Put16(header, 0x4000); // do not fragment
     Put16(header, 64 << 8 | udpProtocol);
     Put16(header, 0); // the checksum
     Put32(header, from.address);
@@ -53,8 +53,8 @@ Bytes IpHeader(const Endpoint& from, const Endpoint& to, std::uint32_t length, s
     return header;
 }
 
-/// The UDP header and what it announces, or the beginning of that.
-/// @param size of the whole payload
+/// @param payload all of it, or its beginning
+/// @param size    of the whole payload
 Bytes UdpDatagram(const Endpoint& from, const Endpoint& to, std::span<const std::uint8_t> payload, std::size_t size) {
     const auto length = udpHeaderSize + static_cast<std::uint32_t>(size);
     Bytes datagram;
@@ -73,7 +73,7 @@ Bytes UdpDatagram(const Endpoint& from, const Endpoint& to, std::span<const std:
     Put16(pseudoHeader, udpProtocol);
     Put16(pseudoHeader, length);
     const std::uint32_t sum = Sum(datagram, Sum(pseudoHeader));
-    PutChecksum(datagram, 6, sum == 0xFFFF ? 0 : sum); // a checksum of zero would say that there is none
+    PutChecksum(datagram, 6, sum == 0xFFFF ? 0 : sum); // a checksum of zero would mean none
     return datagram;
 }
 
@@ -117,8 +117,8 @@ void Recorder::Write(const Endpoint& from, const Endpoint& to, std::span<const s
     header.caplen = static_cast<bpf_u_int32>(packet.size());
     header.len = static_cast<bpf_u_int32>(ipHeaderSize + udpHeaderSize + length);
     pcap_dump(reinterpret_cast<unsigned char*>(file.get()), &header, packet.data());
-    if (pcap_dump_flush(file.get()) != 0) { // the disk is full, for one
-        Common::PrintError("qdv12sim", notWritten + std::string(std::strerror(errno)) + "; nothing more is recorded");
+    if (pcap_dump_flush(file.get()) != 0) { // such as disk full
+        Common::PrintError("qdv12sim", notWritten + std::string(std::strerror(errno)) + "; recording stopped");
         file.reset();
     }
 }

@@ -12,8 +12,8 @@
 
 namespace Simulation::GigEVision {
 
-/// Writes datagrams to a pcap file, as packets of IPv4 without a link layer. Each is in the file at once. From the
-/// first on that cannot be written, which it says on standard error, it records nothing more.
+/// Writes datagrams to a pcap file, as IPv4 packets without a link layer. Each is flushed at once. After the first
+/// write error, which it reports on standard error, it stops recording.
 class Recorder {
 public:
     /// @throws std::runtime_error if the file cannot be written
@@ -32,7 +32,7 @@ private:
     std::mutex mutex; ///< control and stream are recorded by two threads
     std::unique_ptr<pcap_t, decltype(&pcap_close)> capture;
     std::unique_ptr<pcap_dumper_t, decltype(&pcap_dump_close)> file;
-    std::uint16_t number = 0; ///< of the packet
+    std::uint16_t number = 0; ///< of the last packet
 };
 
 } // namespace Simulation::GigEVision

@@ -58,14 +58,14 @@ private:
     std::mutex mutex; ///< of the device
     std::optional<StreamSender> sender;
     Recorder* recorder = nullptr;
-    std::deque<Listener> listeners; ///< the first is on the device's address, and all is sent from there
+    std::deque<Listener> listeners; ///< the first is on the device's address and sends all datagrams
     asio::steady_timer timer{context};
     asio::signal_set signals{context, SIGINT, SIGTERM};
 };
 
 Server::Server(DisturbedDevice& served, const IpConfiguration& ip) : device(served) {
     try {
-        // Without reuse, so that a second device on the address does not go unnoticed.
+        // Without address reuse, so that binding fails for a second device on the address.
         listeners.push_back({udp::socket(context, At(ip.address)), {ip.address, port}});
         listeners.back().socket.set_option(udp::socket::receive_buffer_size(controlBuffer));
     } catch (const asio::system_error& error) {
@@ -80,10 +80,10 @@ Server::Server(DisturbedDevice& served, const IpConfiguration& ip) : device(serv
 
 void Server::ListenForBroadcasts(std::uint32_t address) {
     udp::socket socket(context, udp::v4());
-    socket.set_option(udp::socket::reuse_address(true)); // all devices of a machine hear them
+    socket.set_option(udp::socket::reuse_address(true)); // shared by all devices of the machine
     asio::error_code error;
     socket.bind(At(address), error);
-    if (!error) { // an interface need not have broadcasts
+    if (!error) { // some interfaces have no broadcasts
         listeners.push_back({std::move(socket), {address, port}});
     }
 }
@@ -115,7 +115,7 @@ void Server::Tick() {
 void Server::Receive(Listener& listener) {
     listener.socket.async_receive_from(asio::buffer(listener.buffer), listener.peer,
                                        [this, &listener](const asio::error_code& error, std::size_t size) {
-                                           if (!error) { // else a datagram that was sent before did not arrive
+                                           if (!error) { // else an earlier datagram was not delivered
                                                Handle(listener, std::span(listener.buffer).first(size));
                                            }
                                            Receive(listener);

@@ -8,10 +8,10 @@
 
 namespace Simulation::GigEVision {
 
-/// Puts a device on the network until SIGINT or SIGTERM: on its address, and on the broadcast addresses, where
-/// discoveries arrive. Its stream is sent by a thread of its own.
-/// @param begin is called once the address is this device's; its result, if any, records what is received and sent
-/// @throws std::runtime_error if the address is not this machine's, or is in use
+/// Serves a device on the network until SIGINT or SIGTERM: on its address, and for discoveries on the broadcast
+/// addresses. A thread of its own sends the stream.
+/// @param begin is called once the address is bound; its result, which may be null, records the traffic
+/// @throws std::runtime_error if the address does not belong to this machine, or is in use
 void Serve(DisturbedDevice& device, const IpConfiguration& ip, const StreamOptions& stream,
            const std::function<Recorder*()>& begin);
 

@@ -15,21 +15,21 @@ namespace Simulation::GigEVision {
 
 namespace {
 
-/// The mask of the network of this machine that the address belongs to; of none, a mask of that address alone.
+/// The mask of this machine's subnet that contains the address, or a mask of that address alone.
 std::uint32_t SubnetMaskOf(std::uint32_t address) {
     std::uint32_t found = 0;
     for (const Common::NetworkInterface& each : Common::NetworkInterfaces()) {
         if (each.address == address) {
             return each.subnetMask;
         }
-        if (((each.address ^ address) & each.subnetMask) == 0) { // all of 127.0.0.0/8 is this machine's, for one
+        if (((each.address ^ address) & each.subnetMask) == 0) { // such as 127.0.0.2, which no interface lists
             found = std::max(found, each.subnetMask);
         }
     }
     return found == 0 ? 0xFFFFFFFF : found;
 }
 
-/// Gives the camera the identity that was asked for, whatever the state file says.
+/// Applies --serial and --mac, which override the state file.
 void SetIdentity(RegisterSpace& space, const Options& options) {
     const char* option = "--serial: ";
     try {
@@ -61,7 +61,7 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Options& options) {
     return camera;
 }
 
-/// Tells those who wait for it that the camera can be reached.
+/// Prints that the camera is ready. Scripts wait for this line.
 void Announce(const Options& options, const RegisterSpace& space) {
     std::cout << options.model << " at " << Common::PrintAddress(options.address) << ':' << Common::Gvcp::port
               << ", MAC " << MacAddressOf(space) << ", serial number " << SerialNumberOf(space) << std::endl;
@@ -85,11 +85,11 @@ void ServeCamera(const Options& options) {
     }
     DisturbedDevice disturbed(device, options.disturbances, options.seed);
     std::optional<Recorder> recorder;
-    Serve(disturbed, ip, options.stream, [&] { // only now, since another camera may have address and files
+    Serve(disturbed, ip, options.stream, [&] { // files only once the address is bound: another instance may use them
         if (!options.record.empty()) {
             recorder.emplace(options.record);
         }
-        SaveStateOf(*camera, options); // a file that cannot be written would be known too late at the end
+        SaveStateOf(*camera, options); // reports an unwritable file now rather than at the end
         Announce(options, camera->Registers());
         return recorder ? &*recorder : nullptr;
     });
@@ -97,7 +97,7 @@ void ServeCamera(const Options& options) {
 }
 
 int Run(int argc, char** argv) {
-    std::signal(SIGPIPE, SIG_IGN); // who reads the record, or the announcement, may go
+    std::signal(SIGPIPE, SIG_IGN); // a reader of the recording or of the output may exit
     const auto end = [](Common::ExitCode code, const std::exception& error) {
         Common::PrintError("qdv12sim", error.what());
         return code;
@@ -113,7 +113,7 @@ int Run(int argc, char** argv) {
         return end(Common::WrongUsage, error);
     } catch (const FaultError& error) {
         return end(Common::WrongUsage, error);
-    } catch (const std::exception& error) { // of the address, the state, the record
+    } catch (const std::exception& error) { // address, state file, recording
         return end(Common::NotOpened, error);
     }
 }

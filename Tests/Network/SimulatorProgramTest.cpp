@@ -159,7 +159,7 @@ TEST(SimulatorProgramTest, GoesOnWhenNothingMoreIsRecorded) {
     EXPECT_EQ(application.Ask("4201 0080 0004 0002 14010000"), "0000 0081 0004 0002 00000000");
     simulator.Signal(SIGTERM);
     EXPECT_EQ(simulator.End(), 0);
-    const std::string said = "qdv12sim: recording cannot be written: Broken pipe; nothing more is recorded\n";
+    const std::string said = "qdv12sim: recording cannot be written: Broken pipe; recording stopped\n";
     EXPECT_EQ(simulator.Read().substr(simulator.Read().find('\n') + 1), said); // once
     EXPECT_TRUE(std::filesystem::remove(state));
     std::filesystem::remove(record);
@@ -186,15 +186,16 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
     const std::string more = " (qdv12sim --help says more)";
     const std::string serial = "--serial: invalid serial number ";
     const std::string mac = "--mac: invalid MAC address ";
-    const std::string device = ", expected that of one device, such as 02:00:12:07:07:10";
+    const std::string device = ", expected a unicast address such as 02:00:12:07:07:10";
     const Row rows[] = {
         {{}, 2, "MODEL is required" + more},
         {{"orvik710m"}, 2, "unknown model \"orvik710m\"; did you mean \"Orvik-710M\"? (qdv12sim --help lists them)"},
-        {{"Orvik-710C", "--address", "127.0.0.300"},
-         2,
-         "--address: \"127.0.0.300\" is not the IPv4 address of one device"},
+        {{"Orvik-710C", "--address", "127.0.0.300"}, 2, "--address: \"127.0.0.300\" is not a unicast IPv4 address"},
         {{"Orvik\x1b[2J"}, 2, "unknown model \"Orvik\\x1B[2J\""},
-        {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not the IPv4 address of one device"},
+        {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not a unicast IPv4 address"},
+        {{"Orvik-710C", "--sede", "7"}, 2, "unknown option \"--sede\"; did you mean \"--seed\"?" + more},
+        {{"Orvik-710C", "Sollux G"}, 2, "\"Sollux G\" was not expected" + more},
+        {{"Orvik-710C", "--seed", "1", "--seed", "2"}, 2, "--seed is given twice" + more},
         {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--duplicate", "nan"}, 2, "--duplicate: \"nan\" is not a share between 0 and 1" + more},
@@ -225,9 +226,9 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--mac", "03:00:12:07:07:10"}, 2, mac + "\"03:00:12:07:07:10\"" + device}, // a group
         {{"Orvik-710C", "--address", OwnAddress(), "--state", "/dev/null/state"},
          3,
-         "camera state /dev/null/state: it cannot be written (Not a directory)"},
+         "camera state /dev/null/state: cannot be written: Not a directory"},
         {{"Orvik-710C", "--state", "/dev/null"}, 3, "camera state /dev/null: damaged: "},
-        {{"Orvik-710C", "--state", "/"}, 3, "camera state /: it cannot be read (Is a directory)"},
+        {{"Orvik-710C", "--state", "/"}, 3, "camera state /: cannot be read: Is a directory"},
     };
     for (const Row& row : rows) {
         Simulator simulator(row.arguments);

@@ -147,7 +147,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
         {"set Orvik-710C exposure=5", 2, "", "qdv12host: invalid value \"5\" for exposure (base:counter)\n"},
         {"set Orvik-710C exposure=1:2:3", 2, "", "qdv12host: invalid value \"1:2:3\" for exposure (base:counter)\n"},
         {"get Orvik-710C gain --fault nonsense:gain", 2, "",
-         "qdv12host: fault \"nonsense:gain\": there is no kind \"nonsense\", but clamp, endless, fail, failread, "
+         "qdv12host: fault \"nonsense:gain\": unknown kind \"nonsense\", expected clamp, endless, fail, failread, "
          "failwrite, ignore, null, offset, stale\n"},
         {"get Orvik-710 gain", 3, "", "qdv12host: unknown model \"Orvik-710\"; did you mean \"Orvik-710M\"?\n"},
         {"get Orvik-710C gain --fault fail:gain", 1, "",
@@ -346,16 +346,15 @@ TEST(HostCommand, AStateFileKeepsTheCameraBetweenRuns) {
 
     const Outcome other = RunHost("get Orvik-710M gain" + state);
     EXPECT_EQ(other.code, 3);
-    EXPECT_TRUE(Has(other.err, "it belongs to a camera of model \"Orvik-710C\""));
+    EXPECT_TRUE(Has(other.err, "wrong model \"Orvik-710C\""));
     std::ofstream(file) << "{";
     EXPECT_EQ(RunHost("get Orvik-710C gain" + state).code, 3);
     const Outcome unreadable = RunHost("get Orvik-710C gain --state /");
     EXPECT_EQ(unreadable.code, 3);
-    EXPECT_EQ(unreadable.err, "qdv12host: camera state /: it cannot be read (Is a directory)\n");
+    EXPECT_EQ(unreadable.err, "qdv12host: camera state /: cannot be read: Is a directory\n");
     const Outcome unwritable = RunHost("get Orvik-710C gain --state /nowhere/state");
     EXPECT_EQ(unwritable.code, 1);
-    EXPECT_EQ(unwritable.err,
-              "qdv12host: camera state /nowhere/state: it cannot be written (No such file or directory)\n");
+    EXPECT_EQ(unwritable.err, "qdv12host: camera state /nowhere/state: cannot be written: No such file or directory\n");
     std::filesystem::remove(file);
 }
 

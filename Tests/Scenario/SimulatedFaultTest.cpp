@@ -187,10 +187,10 @@ TEST(InjectedFault, IsRefusedWithAReasonWhenItIsNotUnderstood) {
     EXPECT_EQ(reason("null:0x00000650"),   "fault \"null:0x00000650\": this camera has no address 0x00000650");
     EXPECT_EQ(reason("clamp:gain"),        "fault \"clamp:gain\": clamp needs a number, as in \"clamp:gain=1\"");
     EXPECT_EQ(reason("ignore:gain=1"),     "fault \"ignore:gain=1\": only clamp and offset take a number");
-    EXPECT_EQ(reason("clamp:gain=ten"),    "fault \"clamp:gain=ten\": what stands behind = is not a number");
-    EXPECT_EQ(reason("endless:gain"),      "fault \"endless:gain\": gain is no automatic mode; this camera has acc, aet, agc, awb");
-    EXPECT_EQ(reason("stale:temperature"), "fault \"stale:temperature\": no settings set holds temperature");
-    EXPECT_EQ(reason("break:gain"),        "fault \"break:gain\": there is no kind \"break\", but clamp, endless, fail, failread, "
+    EXPECT_EQ(reason("clamp:gain=ten"),    "fault \"clamp:gain=ten\": the value after = is not a number");
+    EXPECT_EQ(reason("endless:gain"),      "fault \"endless:gain\": gain is not an automatic mode, expected acc, aet, agc, awb");
+    EXPECT_EQ(reason("stale:temperature"), "fault \"stale:temperature\": settings sets do not contain temperature");
+    EXPECT_EQ(reason("break:gain"),        "fault \"break:gain\": unknown kind \"break\", expected clamp, endless, fail, failread, "
                                            "failwrite, ignore, null, offset, stale");
     // clang-format on
 }

@@ -107,13 +107,13 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
     const auto has = [](const std::string& text, const char* part) {
         return text.find(part) != std::string::npos ? testing::AssertionSuccess() : testing::AssertionFailure() << text;
     };
-    EXPECT_TRUE(has(Refusal(good, "Orvik-710C"), "model \"Orvik-710M\", not Orvik-710C"));
+    EXPECT_TRUE(has(Refusal(good, "Orvik-710C"), "model \"Orvik-710M\", expected \"Orvik-710C\""));
     EXPECT_TRUE(has(Refusal(Replaced(good, "710M-0042", "")), "damaged: invalid serial number \"\""));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"710M-0042\"", "[1]")), "damaged: \"serial number\" is no text"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"710M-0042\"", "[1]")), "damaged: \"serial number\" is not a string"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "02:00", "03:00")), "damaged: invalid MAC address \"03:00"));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"version\": 1", "\"version\": 2")), "format version 2, known is 1"));
-    EXPECT_TRUE(has(Refusal("{}"), "not the memory of a simulated camera"));
-    EXPECT_TRUE(has(Refusal("[1]"), "not the memory of a simulated camera"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"version\": 1", "\"version\": 2")), "format version 2, expected 1"));
+    EXPECT_TRUE(has(Refusal("{}"), "not a camera state file"));
+    EXPECT_TRUE(has(Refusal("[1]"), "not a camera state file"));
     EXPECT_TRUE(has(Refusal(""), "damaged"));
     EXPECT_TRUE(has(Refusal(good.substr(0, good.size() / 2)), "damaged"));
     for (const char* gain :
@@ -121,11 +121,11 @@ TEST_F(CameraState, IsRefusedWholeWhenItIsDamagedOrAnothers) {
         EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\": [[0]]", "\"gain\": " + std::string(gain))), "register gain"))
             << gain;
     }
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"agc\": [[0]]", "\"agc\": [[3]]")), "register agc holds [3]"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"agc\": [[0]]", "\"agc\": [[3]]")), "invalid value [3] of register agc"));
     EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\"")), "\"gain\" is missing"));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\": 1, \"gain\"")), "there are others"));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"microseconds\": ", "\"microseconds\": -")), "the time holds -"));
-    EXPECT_TRUE(has(Refusal(Replaced(good, "\"1\": {", "\"3\": {")), "no settings set 3"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"gain\"", "\"gian\": 1, \"gain\"")), "damaged: unknown registers"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"microseconds\": ", "\"microseconds\": -")), "of the time"));
+    EXPECT_TRUE(has(Refusal(Replaced(good, "\"1\": {", "\"3\": {")), "unknown settings set \"3\""));
 }
 
 TEST_F(CameraState, ThatCannotBeReadOrWrittenSaysWhy) {
@@ -135,7 +135,7 @@ TEST_F(CameraState, ThatCannotBeReadOrWrittenSaysWhy) {
             access(*camera, path);
             return "";
         } catch (const Simulation::StateError& error) {
-            const std::string about = "camera state " + path.string() + ": it cannot be ";
+            const std::string about = "camera state " + path.string() + ": cannot be ";
             return std::string(error.what()).substr(about.size());
         }
     };
@@ -144,10 +144,10 @@ TEST_F(CameraState, ThatCannotBeReadOrWrittenSaysWhy) {
     EXPECT_FALSE(Simulation::HasState(file));
     EXPECT_FALSE(Simulation::HasState(""));
     EXPECT_TRUE(Simulation::HasState(loop));
-    EXPECT_EQ(why(Simulation::LoadState, file), "read (No such file or directory)");
-    EXPECT_EQ(why(Simulation::LoadState, folder), "read (Is a directory)");
-    EXPECT_EQ(why(Simulation::LoadState, loop), "read (Too many levels of symbolic links)");
-    EXPECT_EQ(why(Simulation::SaveState, folder / "none" / "camera"), "written (No such file or directory)");
+    EXPECT_EQ(why(Simulation::LoadState, file), "read: No such file or directory");
+    EXPECT_EQ(why(Simulation::LoadState, folder), "read: Is a directory");
+    EXPECT_EQ(why(Simulation::LoadState, loop), "read: Too many levels of symbolic links");
+    EXPECT_EQ(why(Simulation::SaveState, folder / "none" / "camera"), "written: No such file or directory");
 }
 
 TEST_F(CameraState, StaysAsItWasWhenItCannotBeWritten) {
