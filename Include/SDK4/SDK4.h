@@ -43,7 +43,7 @@
 ///   operation says so. Three codes are reported by this family only: SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a
 ///   property that does not exist), and SDK4_ERR_CANTGETFEATURE. The last means that the port returned no block for a
 ///   record (overlay position, style and size, measure window, defect pixel, device register), in a getter or when a
-///   setter reads the record back after a value out of range.
+///   setter reads the record back after a value out of range; or that a defect pixel of that number does not exist.
 /// - **Caching.** An Orvik control caches what it read or wrote until something that may change it is written; a camera
 ///   index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0 to 2 it is
 ///   uncached: every call reads the camera. With 3 to 15 it is cached: the camera is read once, when it is opened.
