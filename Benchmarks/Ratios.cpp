@@ -33,7 +33,7 @@ void AddOrvik(Table& table, const Workbench& bench) {
     table.Add({"IRoa::SetReadoutArea, limits cached",              peerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); });
     table.Add({"IRoa::SetReadoutArea, dependants valid, too",      peerWrite, 1},    [&] { roa.SetReadoutArea(Workbench::area); },
               [&] { bench.ReadEverything(bench.orvik); });
-    table.Add({"IBasicSettings::LoadSettings, 63 registers valid", peerWrite, 20},   [&] { settings.LoadSettings(1); },
+    table.Add({"IBasicSettings::LoadSettings, all registers valid", peerWrite, 20},  [&] { settings.LoadSettings(1); },
               [&] { bench.ReadEverything(bench.orvikLoading); });
     table.Add({"IBasicSettings::LoadSettings, all stale"},      [&] { settings.LoadSettings(1); });
     table.Add({"IGain::GetGain, reading the camera"},           [&] { gainReading.GetGain(); });
@@ -47,9 +47,9 @@ void AddM2VX(Table& table, const Workbench& bench) {
     auto& overlay = bench.m2vx.As<M2VX::IOverlay>();
     auto& gainReading = bench.m2vxReading.As<M2VX::IGain>();
 
-    table.Add({"M2VX::IGain::GetGain, cached",                                   peerRead, 0.05}, [&] { gain.GetGain(); });
-    table.Add({"IPropertyState::GetUIntValue, the last name, 849th of 1104",     peerRead, 3},    [&] { properties.GetUIntValue("motorcontrol"); });
-    table.Add({"IPropertyState::IsEnumerated, a name that none of the 1104 has", peerRead, 3},    [&] { properties.IsEnumerated("motorcontrox"); });
+    table.Add({"M2VX::IGain::GetGain, cached",                  peerRead, 0.05}, [&] { gain.GetGain(); });
+    table.Add({"IPropertyState::GetUIntValue, the last name",   peerRead, 3},    [&] { properties.GetUIntValue("motorcontrol"); });
+    table.Add({"IPropertyState::IsEnumerated, an unknown name", peerRead, 3},    [&] { properties.IsEnumerated("motorcontrox"); });
     table.Add({"M2VX::IGain::GetGain, reading the camera"},   [&] { gainReading.GetGain(); });
     table.Add({"M2VX::IGain::SetGain"},                       [&] { gain.SetGain(100); });
     table.Add({"M2VX::IOverlay::GetOverlayPosition, cached"}, [&] { overlay.GetOverlayPosition(1); });
@@ -57,7 +57,7 @@ void AddM2VX(Table& table, const Workbench& bench) {
 
 void AddOpening(Table& table, Workbench& bench) {
     table.Add({"opening and releasing an Orvik camera"}, [&] { Test::Camera(bench.plugin, Workbench::orvikModel, &bench.orvikPort, 0); });
-    table.Add({"opening and releasing an M2VX camera that remembers"}, [&] { Test::Camera(bench.plugin, Workbench::m2vxModel, &bench.m2vxPort, 3); });
+    table.Add({"opening and releasing an M2VX camera, cached"}, [&] { Test::Camera(bench.plugin, Workbench::m2vxModel, &bench.m2vxPort, 3); });
 }
 // clang-format on
 
