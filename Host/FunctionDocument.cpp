@@ -158,10 +158,15 @@ void Print(const std::string& name, const Family& family) {
 int main() {
     ConfigureLogging("off", "");
     std::cout
-        << "# Models and functions\n\nMade by `cmake --build --preset release --target functions` from the simulated\n"
-           "cameras: names and limits as `qdv12host list` shows them, the register that a call reaches last. A "
-           "function\n"
-           "that no model of a family has is refused with `SDK4_ERR_NOT_IMPLEMENTED`.\n";
+        << "# Models and functions\n\nWritten by `cmake --build --preset release --target functions`, with the simulated "
+           "cameras.\n\n"
+           "- Function: the name in `qdv12host`. `iomode.0-5` has the instances 0 to 5.\n"
+           "- Interface: in the namespace `SDK4::Control`.\n"
+           "- Limits: as `qdv12host list` prints them, fields in order. If none are given, the value is not checked.\n"
+           "- Register: the last one that a call accesses.\n"
+           "- Models: `colour` and `monochrome` are the models that end with C and M. A model that lacks the function "
+           "refuses it\n"
+           "  with `SDK4_ERR_NOT_IMPLEMENTED`.\n";
     const Plugin plugin(DefaultPlugin());
     std::map<std::string, Family> families;
     for (const Model& model : plugin.Models()) {

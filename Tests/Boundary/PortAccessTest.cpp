@@ -15,8 +15,8 @@ namespace {
 
 const char* const introduction = R"(# Port accesses
 
-What every operation costs, in accesses to the host's port. This document is written by a test that measures the library
-on a port which writes down what it is asked; the test fails when a line is no longer true. Renew it with
+The accesses to the host's port that each operation makes. A test records them and compares them with this document. To
+write the document again:
 
     cmake --build --preset release --target port-accesses
 
@@ -28,14 +28,14 @@ on a port which writes down what it is asked; the test fails when a line is no l
 | `rb 17020000/12` | `ReadBlock` of 12 bytes | `wb 17020000=0,1,2` | `WriteBlock` |
 | `rs 0200/512` | `ReadString` | `ws 00E8/16=name` | `WriteString` |
 
-Addresses are hexadecimal, values are decimal words. What stands behind an operation's name is special about the call or
-about the state of the camera ("above": a value above the range), and, in brackets, how the call is refused.
+Addresses are hexadecimal, values are decimal words. The words after the name of an operation describe the arguments or
+the state of the camera ("above": a value above the range). The code in brackets is the error of the call.
 
-*Remembering* is a control that keeps what it can (Orvik: camera index 0, M2VX: 3); *reading* is one that asks the
-camera (Orvik: 2, M2VX: 0). "Again" is the same call repeated at once. "-" is no access, "same" is what the column to
-the left says. The last column names the getters of a remembering control that notice the call: those of Orvik read the
-camera the next time, those of M2VX answer differently; "all but" stands for all that answered before the call, without
-those named.
+- "Cached" and "Uncached" are two controls (camera index: Orvik 0 and 2, M2VX 3 and 0).
+- "Again" is the same call, repeated at once.
+- "-" is no access, "same" repeats the cell to the left.
+- "Noticed by" lists the getters of the cached control that the call affects. Those of Orvik read the camera the next
+  time, those of M2VX return another value. "All but" is followed by the getters that are not affected.
 )";
 
 std::string Code(const std::string& text) { return "`" + text + "`"; }
@@ -106,7 +106,7 @@ std::string PortAccessTest::Noticing(const Operation& row) {
     return "all but " + Joined(untouched) + (beyond.empty() ? "" : "; besides " + Joined(beyond));
 }
 
-/// What a row's call costs: remembering, again, reading, again.
+/// What a row's call costs: cached, again, uncached, again.
 PortAccessTest::Cost PortAccessTest::CostOf(const Operation& row) {
     Cost cost;
     for (const int index : {row.state.RememberingIndex(), row.state.ReadingIndex()}) {
@@ -141,7 +141,7 @@ std::string PortAccessTest::Interface(const std::string& name, const std::vector
     std::string text = "\n### " + name + "\n";
     if (!table.empty()) {
         text +=
-            "\n| Operation | Remembering | Again | Reading | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
+            "\n| Operation | Cached | Again | Uncached | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
     }
     if (!withoutAccess.empty()) {
         text += "\nWithout access: " + Joined(withoutAccess) + ".\n";
@@ -202,8 +202,9 @@ std::string PortAccessTest::Family(bool ofM2VX) {
 
 std::string PortAccessTest::Document() {
     return std::string(introduction) +
-           "\n## Opening\n\nLogging is off. With the logger at debug level an Orvik camera reads the ten network "
-           "registers too, only to log them.\n\n| Family | Index | Accesses | by register, in the order of the first "
+           "\n## Opening\n\nLogging is off. With the logger at debug level the ten network registers of an Orvik camera "
+           "are read too, for the log.\nThe M2VX camera has one pair of defect pixels in use; with index 3 each pair "
+           "adds four accesses.\n\n| Family | Index | Accesses | By register, in the order of the first access "
            "|\n|---|---|---|---|\n" +
            Opening("Orvik", {}) + Opening("M2VX", OnM2VX()) + "\n## Orvik\n" + Family(false) + "\n## M2VX\n" +
            Family(true);
