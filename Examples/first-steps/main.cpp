@@ -96,7 +96,7 @@ void CacheAndLoad(IDynamicObject& camera, const BytePort& port) {
     const auto getSharpness = [&] { return enhancement.GetSharpness(); };
     Show("GetSharpness()", port, getSharpness);
     Show("GetSharpness()", port, getSharpness);
-    // The camera replaces its settings: what the control remembers of them is stale, and read when it is asked for.
+    // The camera replaces its settings, so the control discards its cached values and reads them when needed.
     Do("LoadSettings(1)", [&] { dynamic_cast<IBasicSettings&>(camera).LoadSettings(1); });
     Show("GetSharpness()", port, getSharpness);
 }
@@ -137,12 +137,12 @@ void Run() {
 
     // A port outlives its camera, and a camera goes before the library does.
     BytePort orvikPort;
-    const Camera orvik = Open(create, "Orvik-710M", orvikPort, 0); // of this family, 0 remembers
+    const Camera orvik = Open(create, "Orvik-710M", orvikPort, 0); // index 0: cached in this family
     RefuseAndRecover(*orvik);
     CacheAndLoad(*orvik, orvikPort);
 
     BytePort m2vxPort;
-    const Camera m2vx = Open(create, "Cerix-MV7", m2vxPort, 0); // of this one, 0 asks the camera every time
+    const Camera m2vx = Open(create, "Cerix-MV7", m2vxPort, 0); // index 0: uncached in this family
     FollowProperties(*m2vx, m2vxPort);
 }
 
