@@ -158,7 +158,8 @@ void Print(const std::string& name, const Family& family) {
 int main() {
     ConfigureLogging("off", "");
     std::cout
-        << "# Models and functions\n\nWritten by `cmake --build --preset release --target functions`, with the simulated "
+        << "# Models and functions\n\nWritten by `cmake --build --preset release --target functions`, with the "
+           "simulated "
            "cameras.\n\n"
            "- Function: the name in `qdv12host`. `iomode.0-5` has the instances 0 to 5.\n"
            "- Interface: in the namespace `SDK4::Control`.\n"

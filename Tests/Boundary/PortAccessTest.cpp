@@ -140,8 +140,7 @@ std::string PortAccessTest::Interface(const std::string& name, const std::vector
     }
     std::string text = "\n### " + name + "\n";
     if (!table.empty()) {
-        text +=
-            "\n| Operation | Cached | Again | Uncached | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
+        text += "\n| Operation | Cached | Again | Uncached | Again | Noticed by |\n|---|---|---|---|---|---|\n" + table;
     }
     if (!withoutAccess.empty()) {
         text += "\nWithout access: " + Joined(withoutAccess) + ".\n";
@@ -202,7 +201,8 @@ std::string PortAccessTest::Family(bool ofM2VX) {
 
 std::string PortAccessTest::Document() {
     return std::string(introduction) +
-           "\n## Opening\n\nLogging is off. With the logger at debug level the ten network registers of an Orvik camera "
+           "\n## Opening\n\nLogging is off. With the logger at debug level the ten network registers of an Orvik "
+           "camera "
            "are read too, for the log.\nThe M2VX camera has one pair of defect pixels in use; with index 3 each pair "
            "adds four accesses.\n\n| Family | Index | Accesses | By register, in the order of the first access "
            "|\n|---|---|---|---|\n" +
