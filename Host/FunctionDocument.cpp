@@ -159,8 +159,7 @@ int main() {
     ConfigureLogging("off", "");
     std::cout
         << "# Models and functions\n\nWritten by `cmake --build --preset release --target functions`, with the "
-           "simulated "
-           "cameras.\n\n"
+           "simulated cameras.\n\n"
            "- Function: the name in `qdv12host`. `iomode.0-5` has the instances 0 to 5.\n"
            "- Interface: in the namespace `SDK4::Control`.\n"
            "- Limits: as `qdv12host list` prints them, fields in order. If none are given, the value is not checked.\n"
