@@ -203,8 +203,8 @@ std::string PortAccessTest::Document() {
     return std::string(introduction) +
            "\n## Opening\n\nLogging is off. With the logger at debug level the ten network registers of an Orvik "
            "camera are read too, for the log.\nThe M2VX camera has one pair of defect pixels in use; with index 3 "
-           "each pair adds four accesses.\n\n| Family | Index | Accesses | By register, in the order of the first access "
-           "|\n|---|---|---|---|\n" +
+           "each pair adds four accesses.\n\n| Family | Index | Accesses | By register, in the order of the first "
+           "access |\n|---|---|---|---|\n" +
            Opening("Orvik", {}) + Opening("M2VX", OnM2VX()) + "\n## Orvik\n" + Family(false) + "\n## M2VX\n" +
            Family(true);
 }
