@@ -21,7 +21,7 @@ std::optional<std::int64_t> ParseNumber(std::string_view text) {
 }
 
 std::string CheckSeed(const std::string& text) {
-    return ParseUnsigned<std::uint64_t>(text) ? "" : '"' + text + "\" is no seed; a number of 0 or more is wanted";
+    return ParseUnsigned<std::uint64_t>(text) ? "" : "invalid seed \"" + text + "\": must be a number of 0 or more";
 }
 
 std::string Hex(std::uint32_t value) {

@@ -10,11 +10,11 @@ FunctionValue ParseAssignment(const Camera& camera, const std::string& text) {
     const std::string name = text.substr(0, equals);
     const Instance instance = camera.FindOne(name);
     if (instance->set == nullptr) {
-        throw UsageError("\"" + name + "\" can only be read");
+        throw UsageError("\"" + name + "\" is read-only");
     }
     if (instance->trigger) {
         if (equals != std::string::npos) {
-            throw UsageError("\"" + name + "\" takes no value: set it by its name alone");
+            throw UsageError("\"" + name + "\" takes no value: give the name only");
         }
         return {instance, {}};
     }

@@ -62,7 +62,7 @@ Camera::Camera(IDynamicObject& opened, std::string modelName)
     family = identity == nullptr ? "" : identity->GetClassID();
     functions = TableOf(family);
     if (functions == nullptr) {
-        throw OpenError("the functions of a control \"" + family + "\" are not known");
+        throw OpenError("unknown camera family \"" + family + '"');
     }
 }
 
@@ -94,8 +94,8 @@ std::vector<Instance> Camera::Find(std::string_view name) const {
     }
     const auto index = Common::ParseWhole<std::uint32_t>(name.substr(row.size() + 1));
     if (!found->indexed || !index || *index >= found->count) {
-        throw UsageError("unknown function \"" + std::string(name) + "\": there is " + std::string(row) +
-                         (found->indexed ? ".0 to ." + std::to_string(found->count - 1) : ", without a number"));
+        throw UsageError("unknown function \"" + std::string(name) + "\": " + std::string(row) +
+                         (found->indexed ? " has indices 0 to " + std::to_string(found->count - 1) : " takes no index"));
     }
     return {{&*found, *index}};
 }
@@ -103,7 +103,7 @@ std::vector<Instance> Camera::Find(std::string_view name) const {
 Instance Camera::FindOne(std::string_view name) const {
     const auto found = Find(name);
     if (found.size() > 1) {
-        throw UsageError("\"" + std::string(name) + "\" is several: " + found.front().Name() + " to " +
+        throw UsageError("\"" + std::string(name) + "\" requires an index: " + found.front().Name() + " to " +
                          found.back().Name());
     }
     return found.front();

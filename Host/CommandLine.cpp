@@ -70,18 +70,18 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N",
-        "Camera index; with 2, the default, every value is read from the camera each time");
+        "Camera index; with 2, the default, every value is read from the camera");
     app.add_flag("--trace", trace, "Show each port access on standard error")->disable_flag_override();
-    add("--log", options.logLevel, "LEVEL", "What log4cxx writes to standard error")
+    add("--log", options.logLevel, "LEVEL", "Log level on standard error")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
     add("--config", options.logConfig, "FILE", "A configuration file for log4cxx");
     add("--force-model", options.camera.forcedModel, "MODEL",
-        "Control a camera on the network as that model, whatever it reports");
+        "Treat a camera on the network as this model, whatever it reports");
     auto& simulation = options.camera.simulation;
     add("--seed", simulation.seed, "N", "Select the environment of a simulated camera: light, noise, defect pixels")
         ->check(Common::CheckSeed);
-    add("--state", simulation.state, "FILE", "Keep a simulated camera in a file between runs");
+    add("--state", simulation.state, "FILE", "File that keeps the state of a simulated camera between runs");
     add("--fault", simulation.faults, "TEXT", "Inject a fault into a simulated camera, such as ignore:gain")
         ->allow_extra_args(false); // else it would take the camera for a fault too
 }
@@ -160,7 +160,7 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
         names.insert(names.end(), more.begin(), more.end());
         return "unknown option" + quoted + Common::Suggestion(unknown.front(), names);
     }
-    return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : quoted.substr(1) + " was not expected";
+    return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : "unexpected argument" + quoted;
 }
 
 /// Prints what --help prints, of a command or of them all.
@@ -199,7 +199,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     }
     std::string helped;
     CLI::App* const help = app.add_subcommand("help", "Show the help of a command");
-    help->add_option("COMMAND", helped, "A command; without it, all are listed")->type_name("");
+    help->add_option("COMMAND", helped, "A command; without it, all commands are listed")->type_name("");
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
         app.parse(std::move(arguments));
@@ -227,7 +227,7 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
     try {
         return Parse(std::move(arguments), false);
     } catch (const UsageError& error) {
-        throw UsageError(error.what() + std::string(" (qdv12host --help says more)"));
+        throw UsageError(error.what() + std::string(" (see qdv12host --help)"));
     }
 }
 

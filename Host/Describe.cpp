@@ -158,7 +158,7 @@ std::string DescribeState(const Instance& instance, const Reading& reading) {
 
 std::string DescribeForm(const Instance& instance, const Limits& limits) {
     if (instance->shape.fields.empty()) {
-        return "a backslash begins \\\\, \\n, \\t, \\r or \\xHH";
+        return "escapes: \\\\, \\n, \\t, \\r and \\xHH";
     }
     std::string form;
     for (const Field& field : instance->shape.fields) {

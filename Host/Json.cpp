@@ -79,13 +79,13 @@ Json FromDocument(const OrderedJson& document) {
     }
     constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
     if (document.is_number_unsigned() && document.get<std::uint64_t>() > largest) {
-        throw std::runtime_error("the number " + document.dump() + " is too large");
+        throw std::runtime_error(document.dump() + " is too large");
     }
     if (document.is_number_integer()) {
         return document.get<std::int64_t>();
     }
     if (document.is_number()) {
-        throw std::runtime_error("the number " + document.dump() + " is no integer");
+        throw std::runtime_error(document.dump() + " is not an integer");
     }
     return document.is_boolean() ? Json(document.get<bool>()) : Json();
 }
@@ -140,7 +140,7 @@ Json Json::Parse(const std::string& text) {
         } else if (event == OrderedJson::parse_event_t::object_end) {
             names.pop_back();
         } else if (event == OrderedJson::parse_event_t::key && !names.back().insert(parsed.get<std::string>()).second) {
-            throw std::runtime_error(parsed.dump() + " stands there twice");
+            throw std::runtime_error("duplicate name " + parsed.dump());
         }
         return true;
     }));

@@ -43,7 +43,7 @@ std::string PluginCheck::Fault() const {
     }
     for (const auto& [name, found] : exports) {
         if (!found) {
-            return path + " is no camera plug-in: it does not export " + name;
+            return path + " is not a camera plug-in: it does not export " + name;
         }
     }
     return models.empty() ? path + " registers no models" : "";
@@ -74,8 +74,8 @@ void Plugin::Load(const std::string& path) {
         }
         if (check.loadError.find("undefined symbol") != std::string::npos &&
             check.loadError.find("log4cxx") != std::string::npos) {
-            check.hint = "the plug-in takes log4cxx from the program that loads it: link that with the shared "
-                         "log4cxx that the plug-in was built with (-Wl,--no-as-needed -llog4cxx)";
+            check.hint = "link the program with the shared log4cxx that the plug-in was built with "
+                         "(-Wl,--no-as-needed -llog4cxx)";
         }
         return;
     }

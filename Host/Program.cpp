@@ -24,7 +24,7 @@ Session& Program::Open(const std::string& camera) {
 
 void Program::ReportController() {
     if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {
-        PrintError(denial + "; what needs control could not be read");
+        PrintError(denial + "; values that need control were not read");
     }
 }
 

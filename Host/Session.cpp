@@ -33,8 +33,8 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     if (plugin.Serves(read)) {
         return read;
     }
-    throw OpenError(connection.Describe() + " calls itself \"" + Common::Escaped(read) + "\"; the plug-in serves " +
-                    Common::Join(plugin.ModelNames()) + " (--force-model MODEL opens it as one of these)");
+    throw OpenError(connection.Describe() + " reports the unknown model \"" + Common::Escaped(read) +
+                    "\"; use --force-model with one of " + Common::Join(plugin.ModelNames()));
 }
 
 constexpr std::string_view network = "gige:"; ///< begins what is no model
@@ -43,19 +43,19 @@ constexpr std::string_view network = "gige:"; ///< begins what is no model
 std::string AddressOf(const std::string& camera) {
     std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
     if (!Common::ParseAddress(address) && (camera.find(':') != std::string::npos || Common::ParseAddress(camera))) {
-        throw UsageError('"' + camera +
-                         "\" is no camera; a model or gige:ADDRESS is wanted, such as gige:192.168.1.10");
+        throw UsageError("invalid camera \"" + camera +
+                         "\": give a model or gige:ADDRESS, such as gige:192.168.1.10");
     }
     return address;
 }
 
 void RequireFitting(const CameraOptions& options, bool isSimulated) {
     if (isSimulated && !options.forcedModel.empty()) {
-        throw UsageError("--force-model is for a camera on the network, not for a simulated one");
+        throw UsageError("--force-model applies to cameras on the network only");
     }
     const SimulationOptions& simulation = options.simulation;
     if (!isSimulated && (simulation.seed || !simulation.state.empty() || !simulation.faults.empty())) {
-        throw UsageError("--seed, --state and --fault are for a simulated camera, not for one on the network");
+        throw UsageError("--seed, --state and --fault apply to simulated cameras only");
     }
 }
 

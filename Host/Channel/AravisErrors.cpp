@@ -13,10 +13,10 @@ std::string Reason(const GError& error) {
     };
     // The statuses of the standard that Aravis tells apart, then its own.
     static constexpr Status statuses[] = {
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, "the camera does not know the command (0x8001)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, "the camera does not implement the command (0x8001)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER, "invalid parameter (0x8002)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS, "the camera has no such address (0x8003)"},
-        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT, "the register cannot be written (0x8004)"},
+        {ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT, "the register is write-protected (0x8004)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT, "bad alignment (0x8005)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED, "access denied (0x8006)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY, "the camera is busy (0x8007)"},

@@ -132,11 +132,11 @@ void GigEPort::RequireUnbrokenControl() {
 
 void GigEPort::FailAsLost(const Operation& operation) const {
     if (lost == Lost::Ending) {
-        throw Ending(operation.name, operation.address, "the program is to end");
+        throw Ending(operation.name, operation.address, "the program is terminating");
     }
     throw ChannelLost(operation.name, operation.address,
                       lost == Lost::Control ? "control of " + camera + " was lost"
-                                            : camera + " was lost, it no longer answers");
+                                            : camera + " no longer answers");
 }
 
 void GigEPort::Fail(const Operation& operation, const GError& error) {
@@ -208,7 +208,7 @@ bool GigEPort::IsLost() {
 void GigEPort::RequireAddresses(const Operation& operation, std::uint64_t length) {
     constexpr std::uint64_t addresses = std::uint64_t{1} << 32;
     if (length > addresses - operation.address) {
-        throw ChannelError(operation.name, operation.address, "it reaches beyond the last address");
+        throw ChannelError(operation.name, operation.address, "the access exceeds the address space");
     }
 }
 
@@ -232,7 +232,7 @@ void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_
 void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length) {
     if (operation.address % wordSize != 0 || length % wordSize != 0) {
         throw ChannelError(operation.name, operation.address,
-                           std::to_string(length) + " bytes: only whole words can be written, at addresses of words");
+                           std::to_string(length) + " bytes: writes must be whole words at multiples of 4");
     }
     RequireAddresses(operation, length);
     std::array<std::uint8_t, largestTransfer> piece{}; // since Aravis wants to be given what it may write to
@@ -250,7 +250,7 @@ void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::
 void GigEPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
     const Operation operation{"WriteRegister", address, true};
     if (address % wordSize != 0) {
-        throw ChannelError(operation.name, address, "it is no address of a word");
+        throw ChannelError(operation.name, address, "the address is not a multiple of 4");
     }
     Access(operation,
            [&](GError** error) { return arv_device_write_register(device.get(), address, value, error) != FALSE; });

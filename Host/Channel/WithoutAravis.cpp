@@ -9,8 +9,8 @@ namespace Host {
 namespace {
 
 [[noreturn]] void Refuse() {
-    throw OpenError("this qdv12host was built without Aravis and reaches no camera on the network; build it where the "
-                    "Debian packages libaravis-dev and libusb-1.0-0-dev are installed");
+    throw OpenError("this qdv12host was built without Aravis and cannot reach cameras on the network; install the Debian "
+                    "packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
 }
 
 } // namespace

@@ -5,21 +5,21 @@ namespace Host {
 const std::vector<Command>& Commands() {
     static const Syntax camera{Parameter::Camera, "CAMERA", "A model (simulated), or gige:ADDRESS (on the network)"};
     static const Syntax names{Parameter::Names, "NAME",
-                              "Functions, as list names them; without a number, all instances of a function",
+                              "Functions, named as in list; without an index, all instances",
                               Required::Always, true};
-    static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "What to set, in this order",
+    static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "Values to set, in this order",
                                     Required::Always, true};
-    static const Syntax later{Parameter::Assignments, "NAME=VALUE", "What to set once watching has started",
+    static const Syntax later{Parameter::Assignments, "NAME=VALUE", "Values to set once watching has started",
                               Required::Never, true};
     static const Syntax seconds{Parameter::Seconds, "--seconds N", "End after N seconds"};
     static const Syntax plugin{Parameter::Plugin, "PLUGIN", "The plug-in (default: that of --plugin)", Required::Never};
-    static const Syntax all{Parameter::All, "--all", "List each instance of functions that have many"};
+    static const Syntax all{Parameter::All, "--all", "List every instance of functions with many"};
     static const Syntax written{Parameter::File, "FILE", "A file for the settings; - is standard output"};
     static const Syntax read{Parameter::File, "FILE", "A file with settings; - is standard input"};
     static const Syntax first{Parameter::First, "A",
                               "A camera, or a file with settings (./NAME for the name of a model); - is standard "
                               "input"};
-    static const Syntax second{Parameter::Second, "B", "The other one; in a shell, by default, its camera",
+    static const Syntax second{Parameter::Second, "B", "The second one; in a shell, its camera by default",
                                Required::OutsideShell};
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Include I/O lines, motors and lenses, which act on connected devices"};

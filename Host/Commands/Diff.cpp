@@ -70,7 +70,7 @@ Json ToJson(const Difference& difference) {
 bool ReportUncompared(const Side& side, const Side& other) {
     const auto missing = Uncompared(side.settings, other.settings);
     if (!missing.empty() && !side.file.empty()) { // of a camera it was told when it was read
-        PrintError(DescribeFile(side.file) + " does not hold these, which are not compared: " + NamesOf(missing));
+        PrintError(DescribeFile(side.file) + " has no values of these, which are not compared: " + NamesOf(missing));
     }
     return missing.empty();
 }
@@ -79,7 +79,7 @@ bool ReportUncompared(const Side& side, const Side& other) {
 
 int Diff(const Invocation& invocation) {
     if (invocation.Text(Parameter::First) == standardStream && invocation.Text(Parameter::Second) == standardStream) {
-        throw UsageError("standard input can be read once; give a file for one of the two");
+        throw UsageError("standard input can be read only once; use a file for A or B");
     }
     const Side first = Take(invocation, Parameter::First);
     const Side second = Take(invocation, Parameter::Second);

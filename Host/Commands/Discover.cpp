@@ -35,10 +35,10 @@ int Discover(const Invocation& invocation) {
                                                   {"served", served}});
     }
     const bool unreachable = found.empty() && !HasNetworkInterface();
-    output.Line(found.empty() && !unreachable ? "no camera was found" : "");
+    output.Line(found.empty() && !unreachable ? "no cameras found" : "");
     output.End();
     if (unreachable) {
-        PrintError("no network interface is up with an IPv4 address, other than loopback");
+        PrintError("no network interface with an IPv4 address is up, except loopback");
         return Refused;
     }
     return Success;

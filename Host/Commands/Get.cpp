@@ -10,7 +10,7 @@ int Get(const Invocation& invocation) {
     for (const std::string& name : invocation.Texts(Parameter::Names)) {
         const auto found = camera.Find(name);
         if (found.front()->get == nullptr) {
-            throw UsageError("\"" + name + "\" can only be written");
+            throw UsageError("\"" + name + "\" is write-only");
         }
         wanted.insert(wanted.end(), found.begin(), found.end());
     }

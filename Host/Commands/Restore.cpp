@@ -32,7 +32,7 @@ std::string Describe(const RestoreResult& result) {
     case RestoreStatus::Skipped:
         return result.reason;
     case RestoreStatus::PutBack:
-        return instance.Print(*result.held) + ", as it was before";
+        return instance.Print(*result.held) + ", as before";
     case RestoreStatus::LeftOff:
         return reason + "it was " + instance.Print(*result.before) + now;
     default:
@@ -89,7 +89,7 @@ void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {
     output.End();
 }
 
-/// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes put back: agc", of a restore that did not
+/// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes reverted: agc", of a restore that did not
 /// come to its end.
 std::string DescribeProgress(const Restorer& restorer) {
     const auto& results = restorer.Results();
@@ -115,7 +115,7 @@ std::string DescribeProgress(const Restorer& restorer) {
     add(refused, " refused");
     add(std::ssize(results) - restored - skipped - refused, " not reached");
     const auto leftOff = restorer.ModesLeftOff();
-    text += putBack.empty() ? "" : "; automatic modes put back: " + NamesOf(putBack);
+    text += putBack.empty() ? "" : "; automatic modes reverted: " + NamesOf(putBack);
     text += leftOff.empty() ? "" : "; automatic modes left off: " + NamesOf(leftOff);
     return text;
 }
@@ -155,7 +155,7 @@ int Restore(const Invocation& invocation) {
     const std::string file = invocation.Text(Parameter::File);
     const bool dryRun = invocation.Has(Parameter::DryRun);
     if (std::error_code ignored; IsCamera(file) && !std::filesystem::exists(file, ignored)) {
-        throw UsageError('"' + file + "\" is no file, but a camera; the file comes first: restore FILE" +
+        throw UsageError('"' + file + "\" is a camera, not a file; usage: restore FILE" +
                          (invocation.Program().IsOpen() ? "" : " CAMERA"));
     }
     const Settings saved = ReadSettings(file, invocation.Program().IsOpen());
@@ -164,7 +164,7 @@ int Restore(const Invocation& invocation) {
     }
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
-        throw UsageError(DescribeFile(file) + " holds settings of model " + saved.model + ", this is " +
+        throw UsageError(DescribeFile(file) + " holds settings of model " + saved.model + ", the camera is a " +
                          session.Model());
     }
     Output output = invocation.Output();

@@ -18,7 +18,7 @@ namespace Host {
 
 namespace {
 
-constexpr const char* notPutBack = "the settings could not be put back";
+constexpr const char* notPutBack = "the settings could not be restored";
 
 /// How far the run is; on a styled terminal alone.
 class Progress {
@@ -72,9 +72,9 @@ public:
             const auto file = std::filesystem::temp_directory_path() /
                               ("qdv12host-" + before.model + "-" + std::to_string(getpid()) + ".json");
             WriteSettings(before, file.string());
-            return notPutBack + std::string("; ") + DescribeFile(file.string()) + " holds them for restore";
+            return notPutBack + std::string("; they are saved in ") + DescribeFile(file.string());
         } catch (const std::exception& error) {
-            return notPutBack + std::string(", nor kept: ") + error.what();
+            return notPutBack + std::string(", nor saved: ") + error.what();
         }
     }
 
@@ -205,10 +205,10 @@ int Selftest(const Invocation& invocation) {
     }
     const int failures = Report(results, invocation.Output());
     for (const Difference& difference : left) {
-        PrintError("not put back: " + difference.instance.Name());
+        PrintError(difference.instance.Name() + ": could not be restored");
     }
     if (Interrupts::Received()) {
-        PrintError(left.empty() ? "interrupted; the settings are put back" : "interrupted");
+        PrintError(left.empty() ? "interrupted; the settings were restored" : "interrupted");
         return Refused;
     }
     return failures == 0 && left.empty() ? Success : Refused;

@@ -31,7 +31,7 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
             result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
         } else if (result.failure.code == 0 && !reading.IsAbsent()) {
             result.failure = {reading.code,
-                              "accepted, but what the camera now holds could not be read: " + reading.reason,
+                              "accepted, but the read-back failed: " + reading.reason,
                               reading.cause};
         }
     }

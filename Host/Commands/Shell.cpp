@@ -103,7 +103,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
     const ParsedCommandLine line = ParseShellLine(words);
     if (line.command == nullptr) {
         if (words.size() == 1) {
-            std::cout << "\nhelp COMMAND says more about a command; quit leaves the shell.\n";
+            std::cout << "\nhelp COMMAND shows the help of a command; quit leaves the shell.\n";
         }
         return Success;
     }

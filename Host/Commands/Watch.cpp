@@ -142,7 +142,7 @@ std::optional<milliseconds> DurationOf(const Invocation& invocation) {
     }
     const auto seconds = Common::ParseWhole<double>(text);
     if (!seconds || !(*seconds >= 0) || *seconds > 1e9) {
-        throw UsageError("\"" + text + "\" is no number of seconds");
+        throw UsageError("invalid number of seconds \"" + text + '"');
     }
     return milliseconds(static_cast<std::int64_t>(*seconds * 1000));
 }

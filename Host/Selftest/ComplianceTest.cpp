@@ -14,7 +14,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds modeTime{500}; ///< in which an automatic mode moves what it owns
 
-std::string NameOf(std::int32_t code) { return code == 0 ? "no refusal" : SDK4::ErrorName(code); }
+std::string NameOf(std::int32_t code) { return code == 0 ? "no error" : SDK4::ErrorName(code); }
 
 bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code == SDK4_ERR_CANTSETFEATURE; }
 
@@ -54,9 +54,9 @@ TestResult ComplianceTest::Test(const Instance& instance) const {
 std::string ComplianceTest::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return instance->set == nullptr                      ? "" // reading it does no harm
-           : policy == RestorePolicy::Never              ? "no setting"
+           : policy == RestorePolicy::Never              ? "not a setting"
            : policy == RestorePolicy::Network            ? "network"
-           : policy == RestorePolicy::Output && !outputs ? "an output; --outputs includes it"
+           : policy == RestorePolicy::Output && !outputs ? "an output; use --outputs to include it"
                                                          : "";
 }
 
@@ -69,7 +69,7 @@ void ComplianceTest::TestUnlocked(TestResult& result) const {
     }
     ++result.checks;
     if (reading.code != 0) {
-        result.failures.push_back("reading it: " + reading.reason);
+        result.failures.push_back("read failed: " + reading.reason);
         return;
     }
     if (instance->set == nullptr || reading.value.numbers.empty()) {
@@ -117,8 +117,8 @@ void ComplianceTest::TryNeighbours(TestResult& result, const Value& current) con
             taken = TryNeighbour(result, neighbour, current) || taken;
         }
         if (!taken) {
-            result.failures.push_back("the camera holds " + instance.Print(current) + ", whatever is written to " +
-                                      (current.numbers.size() == 1 ? "it" : instance->shape.fields[field].name));
+            result.failures.push_back("the camera keeps " + instance.Print(current) + ", whatever is written" +
+                                      (current.numbers.size() == 1 ? "" : " to " + std::string(instance->shape.fields[field].name)));
         }
     }
 }
@@ -159,7 +159,7 @@ void ComplianceTest::TestLock(TestResult& result) const {
     const std::string closed = mode.Name() + "=" + mode.Print({{*closing}, {}});
     if (const std::int32_t code = value.numbers.empty() ? SDK4_ERR_DISABLED : Write(instance, value);
         !IsLockCode(code)) {
-        result.failures.push_back("under " + closed + ": " + NameOf(code));
+        result.failures.push_back("with " + closed + ": " + NameOf(code));
     }
     wait(modeTime);
     setter.Write(mode, {{lock.open.front()}, {}});
@@ -169,7 +169,7 @@ void ComplianceTest::TestLock(TestResult& result) const {
         const Value written = reader.Read(instance);
         wait(modeTime);
         if (const Value now = reader.Read(instance); now != written) {
-            result.failures.push_back("after " + closed + ": the camera still moves it, from " +
+            result.failures.push_back("after " + closed + ": the camera still changes it, from " +
                                       instance.Print(written) + " to " + instance.Print(now));
         }
     }
@@ -190,7 +190,7 @@ std::int32_t ComplianceTest::Write(const Instance& instance, const Value& value)
 Value ComplianceTest::Held(const Instance& instance, const Value& expected) const {
     const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
     if (reading.code != 0) {
-        throw std::runtime_error("reading it back: " + reading.reason);
+        throw std::runtime_error("read-back failed: " + reading.reason);
     }
     return reading.value;
 }

@@ -25,7 +25,7 @@ struct Missing {
     void Report(Connection& connection) const {
         if (!withoutAddress.empty()) {
             PrintError(connection.Describe() +
-                       " has no address for these, which are left out: " + NamesOf(withoutAddress));
+                       " lacks the registers of these, which are left out: " + NamesOf(withoutAddress));
         }
         if (!withoutControl.empty()) {
             PrintError(connection.TakeDenial() + "; without control these cannot be read: " + NamesOf(withoutControl));

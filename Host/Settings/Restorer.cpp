@@ -34,7 +34,7 @@ bool WasSwitchedOff(const RestoreResult& mode) { return mode.before && *mode.bef
 
 const char* NameOf(RestoreStatus status) {
     constexpr const char* names[] = {"pending", "ok",      "unchanged", "rounded",  "clamped",
-                                     "refused", "skipped", "would set", "put back", "left off"};
+                                     "refused", "skipped", "would set", "reverted", "left off"};
     return names[static_cast<std::size_t>(status)];
 }
 
@@ -42,7 +42,7 @@ std::string Restorer::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return policy == RestorePolicy::Never                        ? "never restored"
            : policy == RestorePolicy::Network                    ? "network settings are never restored"
-           : policy == RestorePolicy::Output && !options.outputs ? "an output; --outputs includes it"
+           : policy == RestorePolicy::Output && !options.outputs ? "an output; use --outputs to include it"
                                                                  : "";
 }
 
@@ -79,7 +79,7 @@ RestoreResult Restorer::Set(const FunctionValue& setting) const {
     result.held = reading.value;
     result.status = StatusOf(setter, result);
     if (result.status == RestoreStatus::Refused && result.reason.empty()) {
-        result.reason = "the camera does not take it";
+        result.reason = "the camera ignored it";
     }
     return result;
 }

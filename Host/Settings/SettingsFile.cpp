@@ -39,7 +39,7 @@ std::string Content(const std::string& file) {
         }
     }
     if (content.empty()) {
-        Fail(file, "is empty");
+        Fail(file, "empty file");
     }
     return content;
 }
@@ -51,15 +51,15 @@ Json Parse(const std::string& file) {
     } catch (const UsageError&) {
         throw;
     } catch (const std::exception& error) {
-        Fail(file, std::string("damaged, or no settings: ") + error.what());
+        Fail(file, std::string("damaged, or not a settings file: ") + error.what());
     }
     const auto* const named = document["format"].Text();
     if (named == nullptr || *named != format) {
-        Fail(file, "no settings of a camera");
+        Fail(file, "not a settings file");
     }
     const auto* const version = document["version"].Number();
     if (version == nullptr || *version != formatVersion) {
-        Fail(file, "format version " + (version == nullptr ? "unknown" : std::to_string(*version)) +
+        Fail(file, "unsupported format version " + (version == nullptr ? "unknown" : std::to_string(*version)) +
                        "; this program reads version " + std::to_string(formatVersion));
     }
     return document;
@@ -68,7 +68,7 @@ Json Parse(const std::string& file) {
 std::string TextOf(const Json& document, const char* member, const std::string& file) {
     const auto* const text = document[member].Text();
     if (text == nullptr) {
-        Fail(file, "damaged: no \"" + std::string(member) + "\"");
+        Fail(file, "damaged: \"" + std::string(member) + "\" is missing");
     }
     return *text;
 }
@@ -104,7 +104,7 @@ private:
 std::vector<FunctionValue> ValuesOf(const Json& document, const KnownFunctions& known, const std::string& file) {
     const auto* const members = document["values"].Members();
     if (members == nullptr) {
-        Fail(file, "damaged: no \"values\"");
+        Fail(file, "damaged: \"values\" is missing");
     }
     for (const Json::Member& member : *members) {
         static_cast<void>(known.Find(member.name, file));
@@ -167,7 +167,7 @@ std::string DescribeFile(const std::string& file) {
 
 Settings ReadSettings(const std::string& file, bool inShell) {
     if (file == standardStream && inShell) {
-        throw UsageError("standard input holds the commands of this shell; give a file");
+        throw UsageError("standard input is taken by the shell; give a file");
     }
     const Json document = Parse(file);
     Settings settings{TextOf(document, "model", file),
@@ -177,7 +177,7 @@ Settings ReadSettings(const std::string& file, bool inShell) {
                       {}};
     const Functions* const table = TableOf(settings.family);
     if (table == nullptr) {
-        Fail(file, "the functions of a control \"" + settings.family + "\" are not known");
+        Fail(file, "unknown camera family \"" + settings.family + '"');
     }
     const KnownFunctions known(*table);
     settings.values = ValuesOf(document, known, file);
@@ -193,7 +193,7 @@ void WriteSettings(const Settings& settings, const std::string& file) {
     }
     std::error_code ignored;
     if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
-        Fail(file, "is no regular file; " + std::string(standardStream) + " stands for standard output");
+        Fail(file, "not a regular file; use " + std::string(standardStream) + " for standard output");
     }
     try {
         Common::ReplaceFile(file, text);

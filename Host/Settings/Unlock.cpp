@@ -38,7 +38,7 @@ void WhileUnlocked(const Camera& camera, const Instance& instance, const std::fu
     try {
         WhileSet(camera, mode, opening, held, action);
     } catch (ChannelLost& error) { // nothing can be put back
-        error.AddConsequence(mode.Name() + " may be left at " + mode.Print(opening) + ", it was " + mode.Print(held));
+        error.AddConsequence(mode.Name() + " may still be " + mode.Print(opening) + ", it was " + mode.Print(held));
         throw;
     }
 }

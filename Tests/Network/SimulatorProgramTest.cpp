@@ -196,7 +196,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik-710C", "--sede", "7"}, 2, "unknown option \"--sede\"; did you mean \"--seed\"?" + more},
         {{"Orvik-710C", "Sollux G"}, 2, "\"Sollux G\" was not expected" + more},
         {{"Orvik-710C", "--seed", "1", "--seed", "2"}, 2, "--seed is given twice" + more},
-        {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: \"-1\" is no seed; a number of 0 or more is wanted" + more},
+        {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: invalid seed \"-1\": must be a number of 0 or more" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--duplicate", "nan"}, 2, "--duplicate: \"nan\" is not a share between 0 and 1" + more},
         {{"Orvik-710C", "--nack", "often"}, 2, "--nack: \"often\" is not a share between 0 and 1" + more},

@@ -46,7 +46,7 @@ TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
         {"get CAMERA functionmodelid --force-model Orvik-710C", 0, ""},
         {"get CAMERA Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
         {"get CAMERA gain --seed 0", 2,
-         "qdv12host: --seed, --state and --fault are for a simulated camera, not for one on the network\n"},
+         "qdv12host: --seed, --state and --fault apply to simulated cameras only\n"},
         {"diff CAMERA Cerix-MV7", 0, ""},
         {"diff Orvik-710C CAMERA", 2, "qdv12host: settings of different models: Orvik-710C and Cerix-MV7\n"},
     };
@@ -84,7 +84,7 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
 }
 
 TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
-    const std::string unreachable = "qdv12host: no network interface is up with an IPv4 address, other than loopback\n";
+    const std::string unreachable = "qdv12host: no network interface with an IPv4 address is up, except loopback\n";
     const std::string discover = QDV12_HOST " discover";
     for (const std::string& run : {discover, "unshare -n " + discover}) { // where loopback is up, and down
         const Outcome outcome = RunHost("", run);
@@ -108,7 +108,7 @@ TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
     EXPECT_EQ(with(card).err, unreachable);
     const Outcome none = with(card + address);
     EXPECT_EQ(none.code, 0);
-    EXPECT_EQ(none.out, "no camera was found\n");
+    EXPECT_EQ(none.out, "no cameras found\n");
     EXPECT_EQ(none.err, "");
 }
 

@@ -73,10 +73,10 @@ private:
 
 TEST(ChannelPort, TellsEachStatusInItsOwnWords) {
     const std::pair<std::uint16_t, std::string> statuses[] = {
-        {0x8001, "the camera does not know the command (0x8001)"},
+        {0x8001, "the camera does not implement the command (0x8001)"},
         {0x8002, "invalid parameter (0x8002)"},
         {0x8003, "the camera has no such address (0x8003)"},
-        {0x8004, "the register cannot be written (0x8004)"},
+        {0x8004, "the register is write-protected (0x8004)"},
         {0x8005, "bad alignment (0x8005)"},
         {0x8006, "access denied (0x8006)"},
         {0x8007, "the camera is busy (0x8007)"},
@@ -121,13 +121,13 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
     Bytes zeros(6);
     std::uint64_t length = zeros.size();
     EXPECT_EQ(Failure([&] { port.WriteMem(0x14010000, zeros.data(), &length); }),
-              "WriteMem at 0x14010000 failed: 6 bytes: only whole words can be written, at addresses of words");
+              "WriteMem at 0x14010000 failed: 6 bytes: writes must be whole words at multiples of 4");
     EXPECT_EQ(Failure([&] { port.WriteRegister(0x14010002, 1); }),
-              "WriteRegister at 0x14010002 failed: it is no address of a word");
+              "WriteRegister at 0x14010002 failed: the address is not a multiple of 4");
     EXPECT_EQ(Failure([&] { Memory(port, 0xFFFFFFFC, 8); }),
-              "ReadMem at 0xFFFFFFFC failed: it reaches beyond the last address");
+              "ReadMem at 0xFFFFFFFC failed: the access exceeds the address space");
     EXPECT_EQ(Failure([&] { port.WriteBlock(0xFFFFFFFC, whole.data(), 8); }),
-              "WriteBlock at 0xFFFFFFFC failed: it reaches beyond the last address");
+              "WriteBlock at 0xFFFFFFFC failed: the access exceeds the address space");
 }
 
 TEST(ChannelPort, TellsHowTheCameraRefuses) {
@@ -136,7 +136,7 @@ TEST(ChannelPort, TellsHowTheCameraRefuses) {
     EXPECT_EQ(Failure<Host::NoSuchAddress>([&] { (void)port.ReadRegister(0xE0000000); }),
               "ReadRegister at 0xE0000000 failed: the camera has no such address (0x8003)");
     EXPECT_EQ(Failure([&] { port.WriteRegister(0x00000024, 1); }),
-              "WriteRegister at 0x00000024 failed: the register cannot be written (0x8004)");
+              "WriteRegister at 0x00000024 failed: the register is write-protected (0x8004)");
     Host::GigEPort second("192.168.1.10");
     EXPECT_FALSE(second.HasControl());
     EXPECT_EQ(second.ReadRegister(0x14010000), 0U);
@@ -191,7 +191,7 @@ TEST(ChannelPort, OnceLostFailsAtOnce) {
     const NetworkCamera camera("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
     camera.Signal(SIGKILL);
-    const std::string lost = " failed: the camera at 192.168.1.10 was lost, it no longer answers";
+    const std::string lost = " failed: the camera at 192.168.1.10 no longer answers";
     EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)port.ReadRegister(0x14010000); }),
               "ReadRegister at 0x14010000" + lost);
     const NetworkCamera another("Orvik-710C"); // which knows nothing of this port

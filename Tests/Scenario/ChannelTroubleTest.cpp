@@ -28,11 +28,11 @@ void ExpectLost(const std::string& command, const std::function<Outcome()>& run,
     const Outcome outcome = run();
     EXPECT_LT(Clock::now() - start, patience) << command;
     EXPECT_EQ(outcome.code, code) << command;
-    ExpectMatch(outcome.err, failed + "was lost, it no longer answers(; [a-z]+ may be left at [^;]+)?"
-                                      "(; the settings could not be put back; \"[^\"]+\" holds them for restore"
+    ExpectMatch(outcome.err, failed + "no longer answers(; [a-z]+ may still be [^;]+)?"
+                                      "(; the settings could not be restored; they are saved in \"[^\"]+\""
                                       "|; [0-9]+ of [0-9]+ functions restored, [^;]* not reached)?\n");
-    if (const std::size_t at = outcome.err.find("; \""); at != std::string::npos) { // what a selftest has kept
-        const std::string file = outcome.err.substr(at + 3, outcome.err.find('"', at + 3) - at - 3);
+    if (const std::size_t at = outcome.err.find("in \""); at != std::string::npos) { // what a selftest has kept
+        const std::string file = outcome.err.substr(at + 4, outcome.err.find('"', at + 4) - at - 4);
         EXPECT_EQ(RunHost("diff '" + file + "' '" + file + "'").code, 0);
         std::filesystem::remove(file);
     }
@@ -127,7 +127,7 @@ TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
         restore.Signal(signal);
         EXPECT_EQ(restore.End(), 1);
         EXPECT_FALSE(Has(restore.Read(), "\noverlayshow"));
-        EXPECT_TRUE(Has(restore.Read(), "\nagc                       put back    2, as it was before\n"
+        EXPECT_TRUE(Has(restore.Read(), "\nagc                       reverted    2, as before\n"
                                         "qdv12host: interrupted; "));
         EXPECT_EQ(camera.Run("get CAMERA agc").out, "agc=2\n");
     }
@@ -187,7 +187,7 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
     EXPECT_FALSE(std::filesystem::exists(file + ".2"));
     const Outcome get = camera.Run("get CAMERA gain overlayshow.1");
     EXPECT_EQ(get.out, "gain=7\n");
-    const std::string notRead = "qdv12host: " + held + "; what needs control could not be read\n";
+    const std::string notRead = "qdv12host: " + held + "; values that need control were not read\n";
     ExpectMatch(get.err, "qdv12host: overlayshow\\.1: needs control\n" + notRead);
     const Outcome list = camera.Run("list CAMERA");
     EXPECT_EQ(list.code, 0);

@@ -129,19 +129,19 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
     ExpectRuns({
         {"get Orvik-710C gian", 2, "", "qdv12host: unknown function \"gian\"; did you mean \"gain\"?\n"},
         {"get Orvik-710C overlayshow.2", 2, "",
-         "qdv12host: unknown function \"overlayshow.2\": there is overlayshow.0 to .1\n"},
-        {"get Orvik-710C gain.0", 2, "", "qdv12host: unknown function \"gain.0\": there is gain, without a number\n"},
-        {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" can only be written\n"},
-        {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" can only be read\n"},
+         "qdv12host: unknown function \"overlayshow.2\": overlayshow has indices 0 to 1\n"},
+        {"get Orvik-710C gain.0", 2, "", "qdv12host: unknown function \"gain.0\": gain takes no index\n"},
+        {"get Orvik-710C loadsettings", 2, "", "qdv12host: \"loadsettings\" is write-only\n"},
+        {"set Orvik-710C serialnumber=1", 2, "", "qdv12host: \"serialnumber\" is read-only\n"},
         {"set Orvik-710C gain", 2, "", "qdv12host: no value for \"gain\": NAME=VALUE is required\n"},
-        {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: set it by its name alone\n"},
+        {"set Cerix-MV7 restart=1", 2, "", "qdv12host: \"restart\" takes no value: give the name only\n"},
         {"lst Orvik-710C", 2, "",
-         "qdv12host: unknown command \"lst\"; did you mean \"list\"? (qdv12host --help says more)\n"},
+         "qdv12host: unknown command \"lst\"; did you mean \"list\"? (see qdv12host --help)\n"},
         {"selftest Orvik-710C --output --jsn", 2, "",
-         "qdv12host: unknown option \"--output\"; did you mean \"--outputs\"? (qdv12host --help says more)\n"},
-        {"list a b c", 2, "", "qdv12host: \"b\" was not expected (qdv12host --help says more)\n"},
+         "qdv12host: unknown option \"--output\"; did you mean \"--outputs\"? (see qdv12host --help)\n"},
+        {"list a b c", 2, "", "qdv12host: unexpected argument \"b\" (see qdv12host --help)\n"},
         {"set Orvik-710C overlayshow=on", 2, "",
-         "qdv12host: \"overlayshow\" is several: overlayshow.0 to overlayshow.1\n"},
+         "qdv12host: \"overlayshow\" requires an index: overlayshow.0 to overlayshow.1\n"},
         {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: invalid value \"abc\" for gain (0..511)\n"},
         {"set Orvik-710C gain=-1", 2, "", "qdv12host: invalid value \"-1\" for gain (0..511)\n"},
         {"set Orvik-710C exposure=5", 2, "", "qdv12host: invalid value \"5\" for exposure (base:counter)\n"},
@@ -310,7 +310,7 @@ TEST(HostCommand, CheckSaysWhyAPluginCannotBeUsed) {
     const Outcome other = RunHost("check libm.so.6");
     EXPECT_EQ(other.code, 3);
     EXPECT_TRUE(Has(other.out, "export  InitLibrary   missing\nexport  CreateObject  missing\n"));
-    EXPECT_EQ(other.err, "qdv12host: libm.so.6 is no camera plug-in: it does not export InitLibrary\n");
+    EXPECT_EQ(other.err, "qdv12host: libm.so.6 is not a camera plug-in: it does not export InitLibrary\n");
 
     for (const char* arguments : {"check /nowhere/p.so", "models --plugin /nowhere/p.so"}) {
         const Outcome absent = RunHost(arguments);
@@ -321,8 +321,8 @@ TEST(HostCommand, CheckSaysWhyAPluginCannotBeUsed) {
     const Outcome without = RunHost("check " QDV12_PLUGIN_WITHOUT_LOG4CXX);
     EXPECT_EQ(without.code, 3);
     EXPECT_TRUE(Has(without.err, "cannot load " QDV12_PLUGIN_WITHOUT_LOG4CXX
-                                 ": undefined symbol: log4cxx_of_another_version; the plug-in takes log4cxx from the "
-                                 "program that loads it: "));
+                                 ": undefined symbol: log4cxx_of_another_version; link the program with the "
+                                 "shared log4cxx that the plug-in was built with"));
 }
 
 TEST(HostCommand, TheInstalledProgramLoadsTheInstalledPlugin) {

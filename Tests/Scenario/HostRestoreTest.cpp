@@ -67,10 +67,10 @@ TEST_F(HostRestore, ThatIsInterruptedPutsModesBackAndSaysWhatIsDone) {
             const Outcome run = Restore(interrupt);
             EXPECT_EQ(run.code, 1);
             EXPECT_TRUE(Has(run.out, "\nsharpness                 ok          9 -> 3\n"));
-            EXPECT_TRUE(run.out.ends_with("\nagc                       put back    1, as it was before\n")) << run.out;
+            EXPECT_TRUE(run.out.ends_with("\nagc                       reverted    1, as before\n")) << run.out;
             EXPECT_TRUE(std::regex_match(run.err, std::regex("qdv12host: interrupted; " + RestoredIn(run.out) +
                                                              " of [0-9]+ functions restored, 4 skipped, [0-9]+ not "
-                                                             "reached; automatic modes put back: agc\n")))
+                                                             "reached; automatic modes reverted: agc\n")))
                 << run.err;
             EXPECT_EQ(Get("agc sharpness negativeimage"), "agc=1\nsharpness=3\nnegativeimage=on\n");
         }
@@ -87,7 +87,7 @@ TEST_F(HostRestore, ThatIsInterruptedLeavesTheModesAloneThatAreRestored) {
     const Outcome run = Restore(Once(isSet, [] { raise(SIGTERM); }));
     EXPECT_EQ(run.code, 1);
     EXPECT_TRUE(Has(run.out, "\nagc                       ok          1 -> 2\n"
-                             "acc                       put back    1, as it was before\n"));
+                             "acc                       reverted    1, as before\n"));
     EXPECT_EQ(Get("agc acc"), "agc=2\nacc=1\n");
 }
 
@@ -145,7 +145,7 @@ TEST_F(HostRestore, TellsAsJsonWhatIsDone) {
     const auto mode = std::find_if(results.begin(), results.end(),
                                    [](const Host::Json& each) { return *each["name"].Text() == "agc"; });
     ASSERT_NE(mode, results.end());
-    EXPECT_EQ(*(*mode)["result"].Text(), "put back");
+    EXPECT_EQ(*(*mode)["result"].Text(), "reverted");
     EXPECT_EQ(*(*mode)["saved"].Text(), "off");
     EXPECT_EQ(*(*mode)["value"].Number(), 1);
 }

@@ -79,19 +79,19 @@ TEST(HostSelftest, FailsOnEachFault) {
         {"Orvik-390C", "ignore:gain", "    maximum \\(511\\): the camera holds [0-9]+ instead of 511\n"},
         {"Orvik-390C", "clamp:gain=400", "    maximum \\(511\\): the camera holds 400 instead of 511\n"},
         {"Orvik-390C", "offset:gain=1", "    minimum \\(0\\): the camera holds 1 instead of 0\n"},
-        {"Orvik-390C", "fail:0x14010000", "    reading it: ReadMem at 0x14010000 failed: no answer from the camera\n"},
+        {"Orvik-390C", "fail:0x14010000", "    read failed: ReadMem at 0x14010000 failed: no answer from the camera\n"},
         {"Orvik-390C", "failwrite:sharpness", "    WriteMem at 0x18030000 failed: no answer from the camera\n"},
         {"Orvik-390C", "failread:agc", "\ngain +0 +FAILED\n    ReadMem at 0x46020000 failed: no answer"},
         {"Orvik-390C", "fail:0x5A030000", "\ntemperature +1 +FAILED\n"},
         {"Orvik-390C", "endless:agc", "\ngain +[0-9]+ +FAILED\n"},
-        {"Orvik-390C", "ignore:overlaystyle", "    1: the camera holds 1,0, whatever is written to style\n"},
+        {"Orvik-390C", "ignore:overlaystyle", "    1: the camera keeps 1,0, whatever is written to style\n"},
         {"Orvik-390C", "clamp:exposure=1000",
          "    the value it holds \\(0:[0-9]+\\): the camera holds 0:1000 instead of "},
         {"Orvik-390M", "clamp:readoutarea=500", "    maximum \\(2192,1664,2255,1727\\): the camera holds 500,"},
         {"'Sollux G'", "ignore:shadingcorrection", "    3: minimum \\(-128\\): the camera holds 0 instead of -128\n"},
         {"'Sollux G'", "clamp:exposure=1000",
          "    one above the maximum \\(2001\\): the camera holds 1000 instead of 2000\n"},
-        {"'Sollux G'", "null:measurewindow", "    reading it: SDK4_ERR_CANTGETFEATURE\n"},
+        {"'Sollux G'", "null:measurewindow", "    read failed: SDK4_ERR_CANTGETFEATURE\n"},
         {"'Sollux G'", "endless:agc", "\ngain +[0-9]+ +FAILED\n"},
     };
     for (const Case& each : cases) {
@@ -113,7 +113,7 @@ TEST_F(HostSelftestEnds, WithItsSettingsPutBackWhateverSignalComes) {
         ASSERT_TRUE(run.ReadUntil(begun));
         run.Signal(signal);
         EXPECT_EQ(run.End(), 1);
-        EXPECT_TRUE(run.Read().ends_with("qdv12host: interrupted; the settings are put back\n")) << signal;
+        EXPECT_TRUE(run.Read().ends_with("qdv12host: interrupted; the settings were restored\n")) << signal;
         ExpectSettingsBack();
     }
 }

@@ -39,7 +39,7 @@ mode_t ModeOf(const std::string& file) {
 } // namespace
 
 TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
-    const std::string lacking = "a simulated camera has no address for these, which are left out: ";
+    const std::string lacking = "a simulated camera lacks the registers of these, which are left out: ";
     const Given save{{Parameter::Camera, {"Orvik-390M"}}, {Parameter::File, {saved}}};
     const Outcome run = RunInProcess(Host::Save, save, Lack);
     EXPECT_EQ(run.code, 0);
@@ -58,7 +58,7 @@ TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
     const Outcome whole = diff([](const Host::Access&) {});
     EXPECT_EQ(whole.code, 2);
     EXPECT_EQ(whole.out, "");
-    EXPECT_TRUE(whole.err.starts_with("qdv12host: \"" + saved + "\" does not hold these, which are not compared: "))
+    EXPECT_TRUE(whole.err.starts_with("qdv12host: \"" + saved + "\" has no values of these, which are not compared: "))
         << whole.err;
     EXPECT_EQ(Run("restore " + saved + " Orvik-390M").code, 0);
     Write(other, Replaced(text, "\"sharpness\"", "\"sharpnes\""));
@@ -127,7 +127,7 @@ TEST_F(HostSettings, NestedWithoutEndAreDamaged) {
         Write(saved, text);
         const Outcome diff = Run("diff " + saved + " " + saved);
         EXPECT_EQ(diff.code, 2);
-        EXPECT_TRUE(Has(diff.err, "damaged, or no settings: nested too deeply\n")) << diff.err;
+        EXPECT_TRUE(Has(diff.err, "damaged, or not a settings file: nested too deeply\n")) << diff.err;
     }
 }
 
@@ -173,12 +173,12 @@ TEST_F(HostSettings, GoThroughStandardOutputAndInput) {
     EXPECT_EQ(piped("diff " + saved + " -").code, 0);
     EXPECT_TRUE(Has(piped("restore - Orvik-390M").out, "\ngain                      ok          9 -> 7\n"));
     EXPECT_EQ(piped("diff Orvik-390M -").code, 0);
-    EXPECT_EQ(Run("diff - Orvik-390M").err, "qdv12host: standard input: is empty\n");
+    EXPECT_EQ(Run("diff - Orvik-390M").err, "qdv12host: standard input: empty file\n");
 
     Write(input, "save -\nrestore -\ndiff -\n");
     const Outcome shell = RunHost("shell Orvik-390M", QDV12_HOST, input);
     EXPECT_TRUE(shell.out.starts_with("{\n  \"format\": "));
-    const std::string refusal = "qdv12host: standard input holds the commands of this shell; give a file\n";
+    const std::string refusal = "qdv12host: standard input is taken by the shell; give a file\n";
     EXPECT_TRUE(shell.err.ends_with("\n" + refusal + refusal)) << shell.err;
 }
 
@@ -196,7 +196,7 @@ TEST_F(HostSettings, ThatCannotBeWrittenAreToldAndReplaceNothing) {
     EXPECT_EQ(nowhere.code, 2);
     EXPECT_EQ(nowhere.err, "qdv12host: \"" + other + "/file\": cannot be written: No such file or directory\n");
     EXPECT_EQ(Run("restore /dev/zero Orvik-390M").err, "qdv12host: \"/dev/zero\": File too large\n");
-    EXPECT_TRUE(Has(Run("save Orvik-390M /dev/null").err, "is no regular file; - stands for standard output\n"));
+    EXPECT_TRUE(Has(Run("save Orvik-390M /dev/null").err, "not a regular file; use - for standard output\n"));
 }
 
 TEST_F(HostSettings, MayBeSavedToOneFileAtTheSameTime) {

@@ -131,7 +131,7 @@ TEST_F(HostSettings, ThatAreRefusedDoNotStopTheOthers) {
 
     const Outcome faulty = Run("restore --fault ignore:gain " + saved + " Orvik-390M");
     EXPECT_EQ(faulty.code, 1);
-    EXPECT_TRUE(Has(faulty.out, "gain                      refused     the camera does not take it; asked for 0, the "
+    EXPECT_TRUE(Has(faulty.out, "gain                      refused     the camera ignored it; asked for 0, the "
                                 "camera now holds 511\n"));
     EXPECT_TRUE(Has(faulty.out, "sharpness                 ok          9 -> 0\n"));
 }
@@ -152,14 +152,14 @@ TEST_F(HostSettings, AreRefusedFromAFileThatIsNotTheirs) {
     ASSERT_EQ(Run("save Orvik-390M " + saved).code, 0);
     const std::string good = Content(saved);
     const std::pair<std::string, std::string> cases[] = {
-        {"", "is empty"},
-        {good.substr(0, good.size() / 2), "damaged, or no settings: "},
-        {"[1, 2]", "no settings of a camera"},
-        {Replaced(good, "\"version\": 1", "\"version\": 2"), "format version 2; this program reads version 1"},
+        {"", "empty file"},
+        {good.substr(0, good.size() / 2), "damaged, or not a settings file: "},
+        {"[1, 2]", "not a settings file"},
+        {Replaced(good, "\"version\": 1", "\"version\": 2"), "unsupported format version 2; this program reads version 1"},
         {Replaced(good, "\"gain\"", "\"gian\""), "unknown function \"gian\"; did you mean \"gain\"?"},
         {Replaced(good, "\"gain\": 0", "\"gain\": \"high\""), "invalid value for gain: \"high\""},
         {Replaced(good, "\"base\": 0,", ""), "invalid value for exposure: {\"counter\":20000}\n"},
-        {Replaced(good, "\"gain\": 0", "\"gain\": 0, \"gain\": 1"), "\"gain\" stands there twice"},
+        {Replaced(good, "\"gain\": 0", "\"gain\": 0, \"gain\": 1"), "duplicate name \"gain\""},
         {good.substr(0, good.find("\"values\"")) + "\"values\": {}}", "holds no values to restore"},
         {Replaced(good, "Orvik-390M", "Orvik-710M"), "settings of model Orvik-710M, this is Orvik-390M"},
     };
