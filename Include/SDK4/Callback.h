@@ -2,12 +2,12 @@
 
 namespace SDK4::Control {
 
-/// Tells an observer what changed on a property. It runs inside the call that changes the property, after the change.
-/// It may call back into the control; an exception that it throws passes through that call and leaves the change;
-/// what the call had still to do is left undone: further fields of a record, enabled flags of dependent properties.
+/// Reports a change of a property. It runs inside the call that changes the property, after the change, and may call
+/// the control. An exception that it throws leaves that call: the change stays, but the rest of the call (further
+/// fields of a record, enabled flags of dependent properties) is not done.
 /// @param name the property's full name
 /// @param attribute "minimum", "maximum", "value", "enabled" or "implemented"
-/// @param context what the observer was registered with
+/// @param context the context given to AddCallback
 using SDK4_CALLBACK = void (*)(const char* name, const char* attribute, void* context);
 
 } // namespace SDK4::Control

@@ -2,22 +2,22 @@
 
 #include <cstdint>
 
-// The enumerated settings. They travel through interfaces and registers as 32-bit signed numbers. Values whose meaning
-// belongs to the camera model carry no name here; they pass through the library unchanged.
+// The enumerated settings. Interfaces and registers hold them as 32-bit signed numbers. Values that are specific to a
+// camera model have no name here and pass through the library unchanged.
 
-/// On or off. Some cameras know further modes than 1 (automatic contrast control: 1 to 4).
+/// On or off. Some settings have more modes (automatic contrast control: 1 to 4).
 enum SDK4_ENUM_SWITCH : std::int32_t {
     SDK4_SWITCH_OFF = 0,
     SDK4_SWITCH_ON = 1,
 };
 
-/// Automatic exposure time control: 0 is off, any other value lets the camera move the exposure.
+/// Automatic exposure time control: 0 is off. In any other mode the camera adjusts the exposure.
 enum SDK4_ENUM_AET : std::int32_t { SDK4_AET_OFF = 0 };
 
-/// Automatic gain control: 0 is off, any other value lets the camera move the gain.
+/// Automatic gain control: 0 is off. In any other mode the camera adjusts the gain.
 enum SDK4_ENUM_AGC : std::int32_t { SDK4_AGC_OFF = 0 };
 
-/// Automatic white set: 0 is off, any other value lets the camera move the colour balance.
+/// Automatic white set: 0 is off. In any other mode the camera adjusts the colour balance.
 enum SDK4_ENUM_WHITESET : std::int32_t { SDK4_WHITESET_OFF = 0 };
 
 /// How exposures are started.
@@ -28,7 +28,7 @@ enum SDK4_ENUM_EXPOSUREMODE : std::int32_t {
     SDK4_EXPOSUREMODE_FRAMEONDEMAND = 4,
 };
 
-/// How a pixel is coded on the wire. Each model admits some of these.
+/// How pixels are coded in the stream. Each model admits some of these.
 enum SDK4_ENUM_COLORCODING : std::int32_t {
     SDK4_COLORCODING_MONO8 = 0,
     SDK4_COLORCODING_MONO10 = 2,
@@ -48,20 +48,20 @@ enum SDK4_ENUM_COLORCODING : std::int32_t {
     SDK4_COLORCODING_RAW14 = 153,
 };
 
-/// Which limit of the readout area is meant.
+/// Selects a limit of the readout area.
 enum SDK4_ENUM_ROADOMAIN : std::int32_t {
     SDK4_ROADOMAIN_MIN = 0,    ///< the smallest admitted corner values
     SDK4_ROADOMAIN_MAX = 1,    ///< the largest admitted corner values
     SDK4_ROADOMAIN_ACTIVE = 2, ///< the area active in the sensor now
 };
 
-/// Which overlay line is meant.
+/// Selects an overlay line.
 enum SDK4_ENUM_OVERLAYSELECT : std::int32_t {
     SDK4_OVERLAYSELECT_LINE1 = 0,
     SDK4_OVERLAYSELECT_LINE2 = 1,
 };
 
-/// Which measure window is meant.
+/// Selects a measure window.
 enum SDK4_ENUM_MEASUREWINDOWSELECT : std::int32_t {
     SDK4_MEASUREWINDOWSELECT_1 = 0,
     SDK4_MEASUREWINDOWSELECT_2 = 1,

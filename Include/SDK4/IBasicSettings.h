@@ -8,19 +8,18 @@
 
 namespace SDK4::Control {
 
-/// Settings sets, restart, firmware update, device registers. Nothing of it is cached (M2VX: but for the start-up set).
+/// Settings sets, restart, firmware update, device registers. Nothing is cached (M2VX: except the start-up set).
 ///
-/// The number of a set that is not admitted throws and writes nothing: SDK4_ERR_INVALID_PARAMETER on Orvik,
-/// SDK4_ERR_OUTOFRANGE on M2VX.
+/// An invalid set number throws SDK4_ERR_INVALID_PARAMETER (Orvik) or SDK4_ERR_OUTOFRANGE (M2VX); nothing is written.
 class SDK4_PUBLIC IBasicSettings {
 public:
-    /// Restarts the camera: writes 0 to register 0x51010000. Cached values stay as they were, and so does whether
-    /// acquisition runs; open the camera again.
+    /// Restarts the camera: writes 0 to register 0x51010000. Cached values and the acquisition state of the control do
+    /// not change; open the camera again.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always.
     virtual void Restart() = 0;
 
-    /// Makes settings set 0, 1 or 2 current. Register 0x51020000. Orvik: every setting but the pattern generator is
-    /// read afresh afterwards. M2VX: cached values stay as they were; open the camera again.
+    /// Makes settings set 0, 1 or 2 current. Register 0x51020000. Orvik: invalidates every setting except the pattern
+    /// generator. M2VX: cached values do not change; open the camera again.
     /// @throws SDK4_ERR_ACQUISITIONRUNNING (M2VX) while acquisition runs; nothing is written.
     virtual void LoadSettings(int set) = 0;
 
@@ -37,11 +36,10 @@ public:
     virtual SDK4_ENUM_OPERATIONMODE GetOperationMode() = 0;
 
     /// Hands the camera a new firmware of @p length bytes.
-    /// @throws SDK4_ERR_NOT_IMPLEMENTED always, whatever the arguments: neither family is updated
-    ///         through this library.
+    /// @throws SDK4_ERR_NOT_IMPLEMENTED always: neither family is updated through this library.
     virtual void SetUpdateFile(void* data, unsigned int length) = 0;
 
-    /// How far the firmware update is.
+    /// Progress of the firmware update.
     /// @throws SDK4_ERR_NOT_IMPLEMENTED always.
     virtual std::uint64_t GetUpdateStatus() = 0;
 

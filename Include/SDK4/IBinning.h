@@ -9,12 +9,12 @@ namespace SDK4::Control {
 /// operations throw SDK4_ERR_NOT_IMPLEMENTED.
 class SDK4_PUBLIC IBinning {
 public:
-    /// The binning factors, 1 to 8: how many columns and lines become one. Register 0x0A0B0000.
+    /// The binning factors, 1 to 8: how many columns and lines are combined into one. Register 0x0A0B0000.
     virtual SDK4_KBINNING GetBinning() = 0;
 
-    /// Sets the binning factors, 1 to 8 each. The readout area, its limits and all that SetReadoutArea makes stale are
-    /// read afresh afterwards.
-    /// @throws SDK4_ERR_INVALID_PARAMETER for any other factor, before everything else; nothing is written.
+    /// Sets the binning factors, 1 to 8 each. Invalidates the readout area, its limits and everything that
+    /// SetReadoutArea invalidates.
+    /// @throws SDK4_ERR_INVALID_PARAMETER for any other factor, before every other check; nothing is written.
     /// @throws SDK4_ERR_CANTSETFEATURE while acquisition runs; nothing is written.
     virtual void SetBinning(SDK4_KBINNING binning) = 0;
 };

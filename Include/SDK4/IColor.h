@@ -7,12 +7,12 @@
 namespace SDK4::Control {
 
 /// Colour balance, light source, saturation, automatic white set. Orvik only. Colour cameras only (bit 16 of the
-/// function model), but for the light source: on a monochrome camera the other operations throw
+/// function model), except the light source: on a monochrome camera the other operations throw
 /// SDK4_ERR_NOT_IMPLEMENTED.
 ///
-/// While automatic white set is on the camera moves the colour balance by itself: writing it is locked and, once the
-/// mode was set through this control, every read of it goes to the camera. Switching it off turns caching of the
-/// balance on, also for a control created with index 2.
+/// While automatic white set is on, the camera adjusts the colour balance: writing it is locked and, once the mode was
+/// set through this control, every read goes to the camera. Switching the mode off turns caching of the balance on,
+/// even for a control created with index 2.
 class SDK4_PUBLIC IColor {
 public:
     /// Gains of the colour channels in steps of the camera, 0 to 255 each. Register 0x15010000.
@@ -42,7 +42,7 @@ public:
     /// Automatic white set: 0 is off. Never cached. Register 0x46040000.
     virtual SDK4_ENUM_WHITESET GetAutoWhiteset() = 0;
 
-    /// Switches automatic white set: 0 off, 1 or 2 on. The colour balance is read afresh afterwards.
+    /// Switches automatic white set: 0 off, 1 or 2 on. Invalidates the colour balance.
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other mode; nothing is written and caching stays as it is.
     virtual void SetAutoWhiteset(int mode) = 0;
 };

@@ -6,14 +6,14 @@
 
 namespace SDK4 {
 
-/// The host's register port: every access to a camera goes through it. The host implements it, owns it and keeps it
-/// until Release of the control has returned; the library never copies or deletes it.
+/// The host's register port: every access to a camera goes through it. The host implements and owns it, and keeps it
+/// until Release of the control has returned. The library never copies or deletes it.
 ///
-/// Addresses are those of the GigE Vision control channel, 32 bits. The slot order is fixed. The library checks no
-/// result except a null block. A port reports a failed access by an exception of any type, which passes through the
-/// library unchanged.
+/// Addresses are those of the GigE Vision control channel, 32 bits. The slot order is fixed. The only result that the
+/// library checks is a null block. A port reports a failed access by throwing an exception of any type, which passes
+/// through the library unchanged.
 ///
-/// On a control channel each operation is one kind of access of the GigE Vision standard:
+/// On a control channel, the operations map to accesses of the GigE Vision standard:
 ///
 /// | Operations                          | Access            | What is transferred                               |
 /// |-------------------------------------|-------------------|---------------------------------------------------|
@@ -23,17 +23,17 @@ namespace SDK4 {
 /// | ReadMem, WriteMem                   | READMEM, WRITEMEM | the same                                          |
 /// | ReadString, WriteString             | READMEM, WRITEMEM | the same                                          |
 ///
-/// The library interprets the words of a block in the byte order of its machine: vendor registers hold little-endian
-/// words. Bootstrap registers hold big-endian words; the library reads them by READREG, or as text.
+/// Vendor registers hold little-endian words, and the library uses the words of a block as they are. Bootstrap
+/// registers hold big-endian words; the library reads them by READREG, or as text.
 ///
-/// Memory access transfers whole words, at addresses that are multiples of 4, at most 536 bytes in a packet; the port
-/// splits longer accesses. The accesses of the library itself are aligned so, unless the port reported another length
-/// for a text. IGigEVisionPort passes on the addresses and lengths that the host gives it.
+/// Memory accesses transfer whole words at addresses that are multiples of 4, at most 536 bytes per packet; the port
+/// splits longer ones. The library's own accesses are aligned in this way, unless the port reported another length for
+/// a text. IGigEVisionPort passes addresses and lengths from the host on unchanged.
 ///
-/// A write may select what the next read of the same address returns (an instance of an indexed register). No other
-/// access to that address may come between the two.
+/// A write may select what the next read of the same address returns (an instance of an indexed register). The port
+/// must not insert another access to that address between the two.
 ///
-/// The port of the reference host and the simulated cameras follow these rules. They were never tested with a real
+/// The port of the reference host and the simulated cameras follow these rules. They have never been tested with a real
 /// camera.
 class SDK4_PUBLIC IControlPort {
 public:
@@ -58,9 +58,9 @@ public:
     virtual void WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) = 0;
 
     /// Reads a text register of @p length bytes.
-    /// @return a buffer that the port owns, with all @p length bytes and a NUL behind them. A text may follow a leading
-    ///         word, so the port must not stop at the first NUL. Null when there is no text. Some operations return the
-    ///         buffer to their caller, so it must stay valid until the next access.
+    /// @return a buffer owned by the port, with all @p length bytes followed by a NUL; null if there is no text. A text
+    ///         may follow a leading word, so the port must not stop at the first NUL. Some operations return the buffer
+    ///         to their caller, so it must stay valid until the next access.
     virtual char* ReadString(std::uint32_t address, std::uint32_t length) = 0;
 
     /// Writes a text: @p length bytes, padded with zeros.

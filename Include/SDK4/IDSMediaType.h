@@ -5,11 +5,11 @@
 
 namespace SDK4::Control {
 
-/// Hands out the description of the stream.
+/// Access to the description of the stream.
 class SDK4_PUBLIC IDSMediaType {
 public:
-    /// The description, the same object on every call. It belongs to the library and asks the control for every value:
-    /// do not delete it, and do not use it after the control's Release.
+    /// The description, the same object on every call. It belongs to the library and gets every value from the control:
+    /// do not delete it, and do not use it after Release of the control.
     virtual SDK4::IMediaType* GetMediaType() = 0;
 };
 

@@ -13,13 +13,12 @@ namespace SDK4::Control {
 /// | contrast   | 32 to 255 | 0 to 255   |
 /// | sharpness  | 0 to 255  | 0 to 255   |
 ///
-/// A value outside is reported with SDK4_ERR_OUTOFRANGE after a write: Orvik writes the nearest limit; M2VX writes the
-/// value as it is and caches what the camera made of it.
+/// A value outside throws SDK4_ERR_OUTOFRANGE after a write: Orvik writes the nearest limit; M2VX writes the value
+/// unchanged and stores the value read back.
 ///
 /// Orvik: while automatic contrast control is on, writing brightness and contrast is locked (SDK4_ERR_CANTSETFEATURE,
-/// nothing is written); IACC tells when reads of them go to the camera.
-/// M2VX: histogram equalisation 1 and 2 disable both; a write then reaches the camera and throws SDK4_ERR_DISABLED, and
-/// so does the read of a cached value.
+/// nothing is written). See IACC for reads. M2VX: histogram equalisation 1 and 2 disable both. A write then reaches the
+/// camera before it throws SDK4_ERR_DISABLED, and reading a cached value throws it too.
 class SDK4_PUBLIC IDigitalEnhancement {
 public:
     /// Brightness in steps of the camera. Register 0x18010000.

@@ -6,7 +6,7 @@
 /// it with dynamic_cast, which yields null for an interface that the camera's family does not have.
 class SDK4_PUBLIC IDynamicObject {
 public:
-    /// Destroys the object; the only way to give it back, called exactly once. Afterwards every interface of the
-    /// object, its media type and the texts that it returned are invalid. The port stays the host's.
+    /// Destroys the object. Call it exactly once; there is no other way to destroy an object. Afterwards every
+    /// interface of the object, its media type and the texts that it returned are invalid. The host keeps the port.
     virtual void Release() = 0;
 };

@@ -5,7 +5,7 @@
 
 namespace SDK4::Control {
 
-/// The six general-purpose I/O lines. Orvik only. Every operation names the line first, 0 to 5, and throws
+/// The six general-purpose I/O lines. Orvik only. Every operation takes the line first, 0 to 5, and throws
 /// SDK4_ERR_INVALID_PARAMETER for any other, before any access. The registers are indexed by the line.
 class SDK4_PUBLIC IGPIO {
 public:

@@ -4,9 +4,8 @@
 
 namespace SDK4::Control {
 
-/// How the camera sits on the network: bootstrap registers of the GigE Vision standard. Nothing is cached, every call
-/// goes to the camera. Addresses are texts like "192.168.0.10". A text noted as the port's is null if the port has
-/// none.
+/// Network configuration, in the bootstrap registers of the GigE Vision standard. Nothing is cached. Addresses are
+/// texts such as "192.168.0.10". A text that belongs to the port is null if the port has none.
 class SDK4_PUBLIC IGigECamera {
 public:
     /// Version of the standard: major number in the upper 16 bits, minor in the lower. Register 0x0000.
@@ -45,9 +44,9 @@ public:
 
     /// Gives the camera a persistent address: sets bit 0 of 0x0014, then writes 0x064C (address), 0x065C (mask) and
     /// 0x066C (gateway). Silently does nothing when the camera supports no persistent address (bit 0 of 0x0010), or
-    /// when address and mask name another subnet than the one through which the camera is reached now. Numbers are cut
-    /// to one octet; a text that is no address is not detected: a number that it lacks counts as 0 (Orvik), or as that
-    /// of the text before it, 0 for the first text (M2VX).
+    /// when address and mask name another subnet than the one through which the camera is reached now. Numbers are
+    /// truncated to one octet. Invalid addresses are not detected: a missing number is 0 (Orvik), or that of the text
+    /// before it, 0 for the first text (M2VX).
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null text, before any access.
     virtual void EnablePersistentIP(const char* ip, const char* mask, const char* gateway) = 0;
 

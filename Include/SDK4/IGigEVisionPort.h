@@ -6,8 +6,8 @@ namespace SDK4::Control {
 
 /// Raw access to the camera's registers and memory, straight through the host's port. Orvik only.
 ///
-/// The caches know nothing of it: after writing a register that another interface serves, that interface may go on
-/// returning the cached value.
+/// The caches do not notice these accesses: after a write to a register of another interface, that interface may still
+/// return the cached value.
 class SDK4_PUBLIC IGigEVisionPort {
 public:
     /// Reads one 32-bit word.

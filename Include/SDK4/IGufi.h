@@ -5,11 +5,11 @@
 
 namespace SDK4::Control {
 
-/// Who the camera is. The two words of a version or revision are passed on as the camera gives them.
+/// Identity of the camera. The two words of a version or revision are passed on unchanged.
 ///
 /// Whatever the camera index, the Orvik family reads each value once and caches it, and the M2VX family reads it on
-/// every call. A text stands behind the first four bytes of its register. Orvik takes off the white space at both ends
-/// of the field, so blanks before padding zeros stay; with M2VX the text is the port's, and null if the port has none.
+/// every call. A text begins after the first four bytes of its register. Orvik trims white space at both ends of the
+/// field, so blanks before padding zeros stay. With M2VX the text is the port's, and null if the port has none.
 class SDK4_PUBLIC IGufi {
 public:
     /// Name of the device, at most 20 characters. Register 0x64010000.

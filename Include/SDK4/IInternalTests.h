@@ -32,8 +32,8 @@ public:
     /// @throws SDK4_ERR_NOT_IMPLEMENTED (Orvik) always; its board is sensor 0 of GetTemperature.
     virtual int GetTemperaturePCB() = 0;
 
-    /// Temperature in degrees Celsius, never cached. Register 0x5A030000. Orvik has sensor 0; M2VX answers every number
-    /// with the board's temperature.
+    /// Temperature in degrees Celsius, never cached. Register 0x5A030000. Orvik has sensor 0; M2VX returns the board's
+    /// temperature for every number.
     /// @throws SDK4_ERR_INVALID_PARAMETER (Orvik) for any other sensor, before any access.
     virtual int GetTemperature(int sensor) = 0;
 };

@@ -27,7 +27,7 @@ public:
     /// Whether the image is inverted. Register 0x19030000.
     virtual SDK4_ENUM_SWITCH GetNegativeImage() = 0;
 
-    /// Inverts the image (1) or not (0). Orvik: read afresh afterwards.
+    /// Inverts the image (1) or not (0). Orvik: the next read goes to the camera.
     /// @throws SDK4_ERR_INVALID_PARAMETER (M2VX: SDK4_ERR_OUTOFRANGE) for any other value; nothing is written.
     virtual void SetNegativeImage(int negative) = 0;
 };

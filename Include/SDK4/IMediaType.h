@@ -7,7 +7,7 @@ namespace SDK4 {
 /// What kind of stream a camera delivers.
 class SDK4_PUBLIC IMediaType {
 public:
-    /// 0: video frames. The object is an IVideoFrame then, to be had by dynamic_cast.
+    /// 0: video frames. dynamic_cast then converts the object to IVideoFrame.
     virtual int GetType() = 0;
 };
 

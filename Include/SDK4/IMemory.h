@@ -9,7 +9,7 @@ namespace SDK4::Control {
 /// SDK4_ERR_INVALID_PARAMETER on Orvik and SDK4_ERR_OUTOFRANGE on M2VX.
 ///
 /// Orvik: on a camera without image memory (bit 17 of the function model) every operation throws
-/// SDK4_ERR_NOT_IMPLEMENTED. What was written is read afresh.
+/// SDK4_ERR_NOT_IMPLEMENTED. The first read after a write goes to the camera.
 class SDK4_PUBLIC IMemory {
 public:
     /// Whether the image is turned upside down. Register 0x16020000.
@@ -27,7 +27,7 @@ public:
     /// Whether the last image is held. Register 0x16040000.
     virtual SDK4_ENUM_SWITCH GetLastImageHold() = 0;
 
-    /// Holds the last image or goes on.
+    /// Holds the last image or not.
     virtual void SetLastImageHold(int hold) = 0;
 
     /// Whether the stored image is subtracted. Register 0x16060000.

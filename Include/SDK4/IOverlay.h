@@ -6,7 +6,7 @@
 
 namespace SDK4::Control {
 
-/// The two overlay lines that the camera draws into its image. Orvik only. Every operation names the line first, 0 or 1
+/// The two overlay lines that the camera draws into its image. Orvik only. Every operation takes the line first, 0 or 1
 /// (SDK4_ENUM_OVERLAYSELECT), and throws SDK4_ERR_INVALID_PARAMETER for any other, before any access. The registers are
 /// indexed by the line.
 class SDK4_PUBLIC IOverlay {
@@ -18,13 +18,12 @@ public:
     /// @throws SDK4_ERR_INVALID_PARAMETER for any other value; nothing is written.
     virtual void SetOverlayShow(int line, int show) = 0;
 
-    /// Position in pixels within the readout area. Read afresh after readout area or binning were set.
-    /// Register 0x17020000.
+    /// Position in pixels within the readout area. Invalidated by readout area and binning. Register 0x17020000.
     virtual SDK4_KPOSITION GetOverlayPosition(int line) = 0;
 
     /// Moves the line. The greatest position is the extent of the readout area, endx - startx and endy - starty, which
-    /// is asked first.
-    /// @throws SDK4_ERR_OUTOFRANGE after the position was written with each greater coordinate moved to that limit.
+    /// is read first.
+    /// @throws SDK4_ERR_OUTOFRANGE after the position was written with each greater coordinate clamped to that limit.
     virtual void SetOverlayPosition(int line, SDK4_KPOSITION position) = 0;
 
     /// How the line is drawn; codes of the camera. Register 0x17030000.

@@ -7,10 +7,11 @@ namespace SDK4::Control {
 /// The names of the properties of a property-based control.
 class SDK4_PUBLIC IPropertyList {
 public:
-    /// How many there are, counting each of those that share a name: 1104.
+    /// Number of properties, 1104. Those that share a name are counted separately.
     virtual int GetNumberOfProperties() = 0;
 
-    /// @return the name at position @p i from 0, good until the next call on the same control; null when there is none.
+    /// @return the name at position @p i, counted from 0, valid until the next call on the same control; null if there
+    ///         is none.
     virtual const char* GetPropertyName(int i) = 0;
 };
 

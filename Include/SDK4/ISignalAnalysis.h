@@ -24,11 +24,11 @@ public:
     /// @throws SDK4_ERR_DISABLED in a raw colour coding (150, 151, 153); nothing is written.
     virtual void SetMeasureFrameColor(int color) = 0;
 
-    /// A measure window in pixels. Read afresh after readout area or binning were set. Register 0x1E030000, indexed.
+    /// A measure window in pixels. Invalidated by readout area and binning. Register 0x1E030000, indexed.
     /// @throws SDK4_ERR_INVALID_PARAMETER for a window other than 0 and 1, before any access.
     virtual SDK4_KAREA GetMeasureWindow(int window) = 0;
 
-    /// Sets a measure window. The area is not checked; the camera may move it, so the next read fetches what it holds.
+    /// Sets a measure window. The area is not checked. The camera may adjust it, so the next read goes to the camera.
     /// @throws SDK4_ERR_INVALID_PARAMETER for a window other than 0 and 1, before any access.
     virtual void SetMeasureWindow(int window, SDK4_KAREA area) = 0;
 

@@ -5,7 +5,7 @@
 
 namespace SDK4::Control {
 
-/// Slow readout of the sensor. Orvik only, and no camera of that family serves it.
+/// Slow readout of the sensor. Orvik only. No camera of that family has it.
 class SDK4_PUBLIC ISlowScan {
 public:
     /// Whether the sensor is read out slowly.

@@ -5,7 +5,7 @@
 
 namespace SDK4::Control {
 
-/// Software trigger, trigger timer, trigger delay. Orvik only; nothing of it is cached.
+/// Software trigger, trigger timer, trigger delay. Orvik only; nothing is cached.
 class SDK4_PUBLIC ITrigger {
 public:
     /// The word that the camera holds for the software trigger. Register 0x0A070000.

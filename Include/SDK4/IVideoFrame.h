@@ -5,8 +5,8 @@
 
 namespace SDK4 {
 
-/// The video frames that a camera delivers, as they are configured now. Every call asks the control anew, so the errors
-/// and the caching are those of ISignalFormat and ITiming.
+/// The video frames that a camera delivers, as configured now. Every call goes to ISignalFormat or ITiming of the
+/// control, with their errors and their caching.
 class SDK4_PUBLIC IVideoFrame : public IMediaType {
 public:
     /// Columns of a frame, in pixels.
@@ -15,8 +15,7 @@ public:
     /// Lines of a frame, in pixels.
     virtual unsigned int GetHeight() = 0;
 
-    /// The pixel format of the GigE Vision standard that belongs to the colour coding; bit 31 marks a format of the
-    /// device.
+    /// The GigE Vision pixel format of the colour coding. Bit 31 marks a device-specific format.
     ///
     /// | coding | format                   | coding | format                   | coding | format                |
     /// |--------|--------------------------|--------|--------------------------|--------|-----------------------|

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <type_traits>
 
-// The value records: plain sequences of 32-bit fields without padding. A record travels to and from the camera as
-// exactly its bytes, in field order.
+// The value records: plain sequences of 32-bit fields without padding. A record is transferred as its bytes, in field
+// order.
 
 /// An area in sensor pixels, both corners inclusive: readout area, its limits, frame mask, measure windows.
 struct SDK4_KAREA {
@@ -47,15 +47,14 @@ struct SDK4_KOVERLAYSIZE {
 
 /// A time as a base selector and a count of that base: exposure time, trigger delay.
 struct SDK4_KEXPOSURE {
-    std::int32_t base;     ///< time base selector, 0 to 7: the documentation of the camera decides which time each is;
-                           ///< the simulated cameras read n as 10^n microseconds
+    std::int32_t base;     ///< time base, 0 to 7, see the documentation of the camera; simulated cameras use 10^n microseconds
     std::uint32_t counter; ///< count of the base
 };
 
 /// Binning factors, 1 to 8 each.
 struct SDK4_KBINNING {
-    std::uint32_t horizontal; ///< columns that become one
-    std::uint32_t vertical;   ///< lines that become one
+    std::uint32_t horizontal; ///< columns combined into one
+    std::uint32_t vertical;   ///< lines combined into one
 };
 
 /// A version number as the camera reports it.
@@ -92,7 +91,7 @@ struct SDK4_KDEFECTPIXEL {
     std::uint32_t mode; ///< how the pixel is replaced, 0 to 2
 };
 
-/// Selects one entry of the defect-pixel table: entries lie in pairs.
+/// Selects one entry of the defect-pixel table, which is organised in pairs.
 struct SDK4_KDEFECTPIXELSELECT {
     std::uint32_t pair;     ///< 0 to 127
     std::uint32_t position; ///< 0 or 1 within the pair

@@ -8,24 +8,24 @@
 ///     void  InitLibrary(void* registry);                                        // an IModelRegistry, or null
 ///     void* CreateObject(const char* model, void* port, std::int32_t index);    // an IDynamicObject, or null
 ///
-/// InitLibrary registers the models that the library serves with the IModelRegistry of the host. CreateObject builds
-/// the control of one opened camera over an SDK4::IControlPort. Pass pointers to exactly these types: a class with
+/// InitLibrary registers the models that the library serves with the IModelRegistry of the host. CreateObject creates
+/// the control of one opened camera on an SDK4::IControlPort. Pass pointers to exactly these types: a class with
 /// several bases must be cast first.
 ///
-/// The model name is the one that the camera reports: the model name of its discovery acknowledge, which is bootstrap
-/// register 0x0068 of the GigE Vision standard, 32 bytes up to the first NUL. It is compared exactly. The text must
-/// stay valid until Release. CreateObject returns null for a model that the library does not serve, and for a null
-/// name. A null port is refused with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik model
-/// by the first access. CreateObject reads an M2VX camera, and an Orvik camera if debug logging is on. An exception of
-/// such an access leaves CreateObject, and there is nothing to release.
+/// The model name is the one in the camera's discovery acknowledge, which is bootstrap register 0x0068 of the GigE
+/// Vision standard, 32 bytes up to the first NUL. It is compared exactly. The text must stay valid until Release.
+/// CreateObject returns null for a model that the library does not serve, and for a null name. A null port is refused
+/// with SDK4_ERR_INVALID_PARAMETER, for an M2VX model by CreateObject, for an Orvik model by the first access.
+/// CreateObject reads an M2VX camera, and an Orvik camera if debug logging is on. If such an access throws, the
+/// exception leaves CreateObject, and there is nothing to release.
 ///
 /// The host casts the result to IDynamicObject*, reaches every other interface from it with dynamic_cast, and destroys
 /// it with Release. The slot order of every interface is fixed: operations are never moved, removed or inserted.
 ///
 /// Rules of every interface:
 ///
-/// - **Errors.** Every refusal is an SDK4::X4Error with one SDK4_ERR code. An exception of the port passes through
-///   unchanged and the object stays usable.
+/// - **Errors.** The library throws SDK4::X4Error with an SDK4_ERR code. An exception of the port passes through
+///   unchanged, and the object stays usable.
 ///
 ///   | Reason                                    | Code                       | What the camera holds then  |
 ///   |-------------------------------------------|----------------------------|-----------------------------|
@@ -37,23 +37,23 @@
 ///
 ///   The Orvik family checks in the order of the table, so a lock is reported before a bad value; a value out of range
 ///   is reported *after* the clamped write. A bad index or a null pointer is SDK4_ERR_INVALID_PARAMETER before
-///   everything else. Reading is never refused for a lock.
+///   everything else. A lock never prevents reading.
 ///
-///   The M2VX family reports a value that is not admitted as SDK4_ERR_OUTOFRANGE, and differs otherwise where an
-///   operation says so. Three codes are reported by this family only: SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a
-///   property that does not exist), and SDK4_ERR_CANTGETFEATURE. The last means that the port returned no block for a
-///   record (overlay position, style and size, measure window, defect pixel, device register), in a getter or when a
-///   setter reads the record back after a value out of range; or that a defect pixel of that number does not exist.
-/// - **Caching.** An Orvik control caches what it read or wrote until something that may change it is written; a camera
-///   index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0 to 2 it is
-///   uncached: every call reads the camera. With 3 to 15 it is cached: the camera is read once, when it is opened.
-///   Values noted "read afresh" are read from the camera by the next getter, and so are the values that are noted as
-///   read afresh after them. The pages of the families list what a cache does not notice.
+///   The M2VX family reports a value that is not admitted as SDK4_ERR_OUTOFRANGE, and differs elsewhere where an
+///   operation says so. Only this family reports three codes: SDK4_ERR_ACQUISITIONRUNNING, SDK4_ERR_ERROR (a property
+///   that does not exist), and SDK4_ERR_CANTGETFEATURE. The last means that the port returned no block for a record
+///   (overlay position, style and size, measure window, defect pixel, device register), in a getter or when a setter
+///   reads the record back after a value out of range; or that a defect pixel of that number does not exist.
+/// - **Caching.** An Orvik control caches a value that it read or wrote until something is written that may change it;
+///   a camera index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0
+///   to 2 it is uncached: every call reads the camera. With 3 to 15 it is cached: the camera is read once, when it is
+///   opened. A setter that invalidates a value makes the next getter read it from the camera, and also every value that
+///   this one invalidates. The pages of the families list what the caches do not notice.
 /// - **Disabled settings.** A mode of an M2VX camera disables the settings that it does not use, and the host can
-///   disable settings (IPropertyState). A cached control refuses to read a disabled setting too, with
-///   SDK4_ERR_DISABLED, except gain and exposure. An uncached control reads it, and counts every setting as
-///   enabled until a mode is set through it.
-/// - **Threads.** One thread at a time per object. The library starts none and takes no locks; callbacks and port
+///   disable settings (IPropertyState). A cached control also refuses to read a disabled setting with
+///   SDK4_ERR_DISABLED, except gain and exposure. An uncached control reads it, and treats every setting as enabled
+///   until a mode is set through it.
+/// - **Threads.** One thread at a time per object. The library starts no threads and takes no locks. Callbacks and port
 ///   accesses happen inside the call that causes them.
 /// - **Texts** are valid until the next call on any object of the library, because all objects share the buffers. Do
 ///   not ask for texts from two threads at once, even of different objects.

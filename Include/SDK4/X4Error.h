@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// Every error code, its value and its meaning: the one list from which the enumeration and the names are made.
+/// Every error code, its value and its meaning. The enumeration and the names are generated from this list.
 #define SDK4_ERROR_CODES(CODE)                                                                                         \
     /* general failure: the camera answered with an error state, an operation did not complete */                      \
     CODE(SDK4_ERR_ERROR, -1001)                                                                                        \
@@ -34,10 +34,10 @@ enum SDK4_ERR : std::int32_t {
 
 namespace SDK4 {
 
-/// The only exception type that the library throws itself, by value. An exception of the host's port passes through
-/// the library unchanged, whatever its type.
+/// The only exception type that the library itself throws, by value. Exceptions of the host's port pass through the
+/// library unchanged, whatever their type.
 struct SDK4_PUBLIC X4Error {
-    /// An error of that code.
+    /// An error with that code.
     explicit X4Error(std::int32_t errorCode) noexcept : code(errorCode) {}
 
     std::int32_t code; ///< one of SDK4_ERR
@@ -45,7 +45,7 @@ struct SDK4_PUBLIC X4Error {
 
 static_assert(sizeof(X4Error) == 4, "X4Error is one 32-bit code");
 
-/// The name of an error code, "SDK4_ERR_OUTOFRANGE" for -1014, or "unknown error" for a number that is none.
+/// The name of an error code, "SDK4_ERR_OUTOFRANGE" for -1014, or "unknown error".
 inline const char* ErrorName(std::int32_t code) noexcept {
     switch (code) {
 #define SDK4_ERROR_NAME(name, value)                                                                                   \

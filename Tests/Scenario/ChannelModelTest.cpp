@@ -19,9 +19,8 @@ private:
 };
 
 const std::string served =
-    "the plug-in serves Orvik-31200M, Orvik-31200C, Orvik-710M, Orvik-710C, Orvik-390M, Orvik-390C, Orvik-520M, "
-    "Orvik-520C, Orvik-530M, Orvik-530C, Cerix7-MV, Cerix-MV7, Sollux G (--force-model MODEL opens it as one of "
-    "these)\n";
+    "use --force-model with one of Orvik-31200M, Orvik-31200C, Orvik-710M, Orvik-710C, Orvik-390M, Orvik-390C, "
+    "Orvik-520M, Orvik-520C, Orvik-530M, Orvik-530C, Cerix7-MV, Cerix-MV7, Sollux G\n";
 
 /// What follows a label on its line.
 std::string After(const std::string& label, const std::string& text) {
@@ -80,7 +79,7 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
             "true\n  }"));
     const Outcome refused = RunHost("info gige:127.0.0.1");
     EXPECT_EQ(refused.code, 3);
-    EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 calls itself \"Fake\"; " + served);
+    EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 reports the unknown model \"Fake\"; " + served);
 }
 
 TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {

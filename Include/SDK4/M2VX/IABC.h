@@ -12,14 +12,14 @@ namespace SDK4::Control::M2VX {
 /// | 1      | enabled             | disabled      |
 /// | 2      | enabled             | enabled       |
 ///
-/// The setters of both do not ask first: on a disabled property they reach the camera and then throw
-/// SDK4_ERR_DISABLED, and the property keeps its value. A cached control refuses their getters, too.
+/// The setters of both write a disabled property to the camera before they throw SDK4_ERR_DISABLED; the property keeps
+/// its value. A cached control refuses the getters too.
 class SDK4_PUBLIC IABC {
 public:
     /// Automatic brightness control: 0 is off. Register 0x47040000.
     virtual unsigned int GetABC() = 0;
 
-    /// Switches automatic brightness control, 0 to 2, and what depends on it.
+    /// Switches automatic brightness control, 0 to 2, and the properties that depend on it.
     /// @throws SDK4_ERR_OUTOFRANGE for any other mode; nothing is written.
     virtual void SetABC(unsigned int mode) = 0;
 
@@ -37,8 +37,8 @@ public:
 
     /// Sets threshold 0 or 1, to a value from 0 to 1023.
     /// @throws SDK4_ERR_INVALID_PARAMETER for an index above 1, before any access.
-    /// @throws SDK4_ERR_OUTOFRANGE for a value above: the camera was given it, and the "abcthreshold" of that index
-    ///         holds what it made of it.
+    /// @throws SDK4_ERR_OUTOFRANGE for a greater value, after it was written; the "abcthreshold" of that index then
+    ///         holds the value read back.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetABCThreshold(unsigned int index, unsigned int threshold) = 0;
 

@@ -5,9 +5,9 @@
 
 namespace SDK4::Control::M2VX {
 
-/// Shading correction and the blanking outside a circle. Each mode, 0 is off, switches the properties that it needs on
-/// or off; the setter of one that is off throws SDK4_ERR_DISABLED and writes nothing. A cached control refuses
-/// its getter, too.
+/// Shading correction and blanking outside a circle. Each mode (0 is off) enables or disables the properties that it
+/// uses. The setter of a disabled property throws SDK4_ERR_DISABLED and writes nothing. A cached control refuses the
+/// getter too.
 class SDK4_PUBLIC IImageCorrection {
 public:
     /// Whether shading is corrected, 0 or 1. Register 0x1B010000.
@@ -23,8 +23,8 @@ public:
 
     /// Sets the correction of a channel, -128 to 127.
     /// @throws SDK4_ERR_INVALID_PARAMETER for a channel above 3, before any access.
-    /// @throws SDK4_ERR_OUTOFRANGE for a value outside: the camera was given it, and the channel's "shadingcorrection"
-    ///         holds what it made of it.
+    /// @throws SDK4_ERR_OUTOFRANGE for a value outside, after it was written; the channel's "shadingcorrection" then
+    ///         holds the value read back.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetShadingCorrection(unsigned int channel, int correction) = 0;
 
@@ -39,8 +39,8 @@ public:
     virtual unsigned int GetCircularBlankingSize() = 0;
 
     /// Sets the size of the circle, 1 to 512.
-    /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the value, and "circularblankingsize" holds what it
-    ///         made of it.
+    /// @throws SDK4_ERR_OUTOFRANGE outside, after the value was written; "circularblankingsize" then holds the value
+    ///         read back.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetCircularBlankingSize(unsigned int size) = 0;
 
@@ -48,8 +48,8 @@ public:
     virtual SDK4_KCIRCULARPOSITION GetCircularBlankingPosition() = 0;
 
     /// Moves the circle, 0 to 1023 in each direction.
-    /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the position, and "circularblankingposition" holds
-    ///         what it made of it.
+    /// @throws SDK4_ERR_OUTOFRANGE outside, after the position was written; "circularblankingposition" then holds the
+    ///         value read back.
     /// @throws SDK4_ERR_DISABLED as above.
     virtual void SetCircularBlankingPosition(SDK4_KCIRCULARPOSITION position) = 0;
 };

@@ -4,8 +4,8 @@
 
 namespace SDK4::Control::M2VX {
 
-/// The registers of the lens unit; channels and words are the camera's and not checked. Register 0x0C080000, indexed by
-/// the channel. Always read from the camera.
+/// The registers of the lens unit. Channels and words are specific to the camera and not checked. Register 0x0C080000,
+/// indexed by the channel. Always read from the camera.
 class SDK4_PUBLIC ILensControl {
 public:
     /// The word of a channel.

@@ -21,8 +21,8 @@ public:
     virtual SDK4_KCIRCULARPOSITION GetOverlayPosition(int overlay) = 0;
 
     /// Moves the overlay, -500 to 499 in each direction.
-    /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the position, and "overlayposition" holds what it made
-    ///         of it.
+    /// @throws SDK4_ERR_OUTOFRANGE outside, after the position was written; "overlayposition" then holds the value read
+    ///         back.
     virtual void SetOverlayPosition(int overlay, SDK4_KCIRCULARPOSITION position) = 0;
 
     /// How the overlay is drawn; codes of the camera. Register 0x17030000.

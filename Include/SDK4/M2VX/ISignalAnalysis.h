@@ -20,8 +20,8 @@ public:
     virtual SDK4_KMWCIRCLE GetMeasureWindow() = 0;
 
     /// Sets the window: radius 0 to 511, width 1 to 3, centre -511 to 511, vertical stretch 1 to 512.
-    /// @throws SDK4_ERR_OUTOFRANGE outside: the camera was given the window, and "measurewindow" holds what it made of
-    ///         it.
+    /// @throws SDK4_ERR_OUTOFRANGE outside, after the window was written; "measurewindow" then holds the value read
+    ///         back.
     virtual void SetMeasureWindow(SDK4_KMWCIRCLE window) = 0;
 };
 
