@@ -29,7 +29,7 @@ IDynamicObject* CreateOrvik(const char* model, IControlPort* port, std::int32_t 
         port = RefusingPort::Instance();
     }
     auto* control = new Control::COrvikFeatureCtrl(features.get(), registers.get(), port, index, model, "Orvik");
-    features.release(); // the control's from here on
+    features.release(); // owned by the control from here on
     registers.release();
     return control;
 }
@@ -43,7 +43,7 @@ struct Model {
     Factory create;
 };
 
-/// The models served, in the order in which they are registered and compared.
+/// The models, in the order of registration.
 // clang-format off
 constexpr Model models[] = {
     {"Orvik-31200M", CreateOrvik},
@@ -77,7 +77,7 @@ Factory FindFactory(std::string_view name) {
 
 } // namespace SDK4
 
-/// Registers every model served with the host's IModelRegistry. Null is accepted and registers nothing.
+/// Registers every model with the host's IModelRegistry. Does nothing for a null registry.
 extern "C" SDK4_PUBLIC void InitLibrary(void* registry) {
     SDK4_LOG(Info, "Init QDV12Control");
     if (registry == nullptr) {
@@ -88,10 +88,10 @@ extern "C" SDK4_PUBLIC void InitLibrary(void* registry) {
     }
 }
 
-/// Builds the control of a camera over the host's IControlPort. Returns its IDynamicObject, which the host gives back
-/// with Release, or null for a model that is not served.
-/// @param modelName kept by the control as it is: the text must live as long as the control
-/// @param index how the camera was opened; passed on to the control
+/// Creates the control of a camera on the host's IControlPort. Returns its IDynamicObject, which the host destroys with
+/// Release, or null for an unknown model.
+/// @param modelName not copied: the text must outlive the control
+/// @param index camera index, which selects the caching
 extern "C" SDK4_PUBLIC void* CreateObject(const char* modelName, void* port, std::int32_t index) {
     const std::string_view name = modelName == nullptr ? "" : modelName;
     SDK4_LOG(Info, "QDV12: CreateObject(" << name << ")");

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// Bootstrap registers of the GigE Vision standard that both ends of a control channel know by address.
+/// Bootstrap registers of the GigE Vision standard.
 namespace Common::Bootstrap {
 
 constexpr std::uint32_t modelName = 0x0068;

@@ -7,7 +7,7 @@
 namespace Common {
 
 void PrintError(const std::string& program, const std::string& text) {
-    std::cout.flush(); // keeps the order of results and errors where both go to the same place
+    std::cout.flush(); // keeps results and errors in order if both go to the same place
     std::cerr << program + ": " + InOneLine(text) + '\n';
 }
 

@@ -5,17 +5,17 @@
 
 namespace Common {
 
-/// How a program ends.
+/// Exit codes of the programs.
 enum ExitCode {
     Success = 0,
     Refused = 1,     ///< the camera or the library refused
-    Differs = 1,     ///< of a comparison, ...
-    NotCompared = 2, ///< ... of which everything that fails is told apart from that
-    WrongUsage = 2,  ///< of the command line; an unknown function, an unreadable value
-    NotOpened = 3,   ///< the plug-in or the camera, an address or a file; an unknown model
+    Differs = 1,     ///< a comparison found differences
+    NotCompared = 2, ///< a comparison failed for any reason
+    WrongUsage = 2,  ///< invalid command line, unknown function, invalid value
+    NotOpened = 3,   ///< the plug-in, camera, address or file could not be opened; unknown model
 };
 
-/// What is wrong with what the user asked for, in words.
+/// The user's input is invalid.
 struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -23,10 +23,9 @@ struct UsageError : std::runtime_error {
 /// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
 void PrintError(const std::string& program, const std::string& text);
 
-/// Writes what is left of a program's results, at its end. Results that could not be written are no success: a disk is
-/// full, for one.
-/// @param code   the exit code of the program otherwise
-/// @param failed the exit code where they could not be written
+/// Flushes the results at the end of a program, and fails if they cannot be written, for example to a full disk.
+/// @param code the exit code if they can be written
+/// @param failed the exit code if they cannot
 [[nodiscard]] int FlushResults(const std::string& program, int code, int failed);
 
 } // namespace Common

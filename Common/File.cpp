@@ -16,16 +16,16 @@ namespace Common {
 
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{64} * 1024 * 1024; ///< /dev/zero has no end
+constexpr std::size_t largestFile = std::size_t{64} * 1024 * 1024; ///< /dev/zero never ends
 
-/// @throws std::system_error unless a call of the system succeeded
+/// @throws std::system_error with errno unless a system call succeeded
 void Require(bool succeeded) {
     if (!succeeded) {
         throw std::system_error(errno, std::generic_category());
     }
 }
 
-/// A file beside another one, with a name of its own, that disappears unless it takes the other's place.
+/// A temporary file next to another one. It is removed unless it replaces the other.
 class Replacement {
 public:
     explicit Replacement(const std::filesystem::path& replaced)
@@ -48,7 +48,7 @@ public:
             content.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
         }
     }
-    /// As the file that is replaced has them, else as any new file gets them.
+    /// Those of the replaced file, or the default ones for a new file.
     void SetAccessRights() {
         struct stat existing {};
         const bool exists = stat(target.c_str(), &existing) == 0;
@@ -57,7 +57,7 @@ public:
         Require(fchmod(descriptor, exists ? existing.st_mode & 0777U : 0666U & ~masked) == 0);
     }
     void TakePlace() {
-        Require(fsync(descriptor) == 0); // some file systems tell only now that there is no room
+        Require(fsync(descriptor) == 0); // some file systems report a full disk only now
         Require(close(std::exchange(descriptor, -1)) == 0);
         Require(rename(name.c_str(), target.c_str()) == 0);
     }
@@ -87,7 +87,7 @@ std::string ReadFile(const std::filesystem::path& file) {
 
 void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
     const auto target = std::filesystem::weakly_canonical(std::filesystem::absolute(file));
-    // Taking its place needs the folder alone; who protects a file against writing means it.
+    // rename does not check the permissions of the file itself. A write-protected file must not be replaced.
     Require(access(target.c_str(), F_OK) != 0 || access(target.c_str(), W_OK) == 0);
     Replacement replacement(target);
     replacement.Write(content);

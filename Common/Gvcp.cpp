@@ -7,7 +7,7 @@ namespace {
 constexpr std::uint8_t key = 0x42;
 constexpr std::uint8_t acknowledgeFlag = 0x01;
 
-/// @param first what requests and acknowledges begin with: the key and flags, or the status
+/// @param first the first 16 bits: key and flags of a request, or the status of an acknowledge
 Bytes Packet(std::uint32_t first, std::uint32_t command, std::uint16_t id, const Bytes& payload) {
     Bytes bytes;
     bytes.reserve(headerSize + payload.size());
@@ -56,7 +56,7 @@ Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload) {
 }
 
 Bytes Acknowledge(const Request& request, Status status, const Bytes& payload) {
-    const std::uint32_t command = static_cast<std::uint32_t>(request.command) + 1; // as the standard numbers them
+    const std::uint32_t command = static_cast<std::uint32_t>(request.command) + 1; // as in the standard
     return Packet(static_cast<std::uint32_t>(status), command, request.id, payload);
 }
 

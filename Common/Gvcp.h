@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-/// GVCP, the control protocol of the GigE Vision standard: its numbers and its packets.
+/// GVCP, the control protocol of the GigE Vision standard: constants and packets.
 namespace Common::Gvcp {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -14,8 +14,8 @@ using Bytes = std::vector<std::uint8_t>;
 constexpr std::uint16_t port = 3956;
 constexpr std::size_t headerSize = 8;
 constexpr std::uint32_t wordSize = 4;                ///< of a register; memory is read and written in whole words
-constexpr std::size_t largestPayload = 576 - 20 - 8; ///< of a UDP datagram: no packet needs to be fragmented anywhere
-constexpr std::size_t largestMemory = 536;           ///< that one packet reads or writes
+constexpr std::size_t largestPayload = 576 - 20 - 8; ///< of a UDP datagram that is never fragmented
+constexpr std::size_t largestMemory = 536;           ///< read or written by one packet
 
 enum class Command : std::uint16_t {
     Discovery = 0x0002,
@@ -48,13 +48,12 @@ void Put32(Bytes& bytes, std::uint32_t value);
 /// A packet of an application.
 struct Request {
     bool wantsAcknowledge;
-    Command command; ///< perhaps none of the known ones
+    Command command; ///< may be unknown
     std::uint16_t id;
     std::span<const std::uint8_t> payload; ///< in the datagram
 };
 
-/// The packet in a datagram, or nothing when it is none: another key, no id, a length that is not the datagram's, too
-/// long.
+/// Parses a datagram. Returns nothing for a wrong key, a zero id, a wrong length, or a datagram that is too long.
 [[nodiscard]] std::optional<Request> Parse(std::span<const std::uint8_t> datagram);
 
 /// The packet of a request that wants an acknowledge.

@@ -9,7 +9,7 @@ namespace Common {
 
 // Addresses of IPv4, as numbers: 0xC0A8010A for 192.168.1.10.
 
-/// @return nothing for what is no address
+/// @return nothing for an invalid address
 [[nodiscard]] std::optional<std::uint32_t> ParseAddress(const std::string& text);
 [[nodiscard]] std::string PrintAddress(std::uint32_t address);
 

@@ -9,7 +9,7 @@
 
 namespace Common {
 
-/// A whole text as a number: a decimal one, unless a base or a format is given as std::from_chars takes it.
+/// Parses an entire text as a number: decimal, unless a base or format for std::from_chars is given.
 template <typename Number, typename... Form>
 [[nodiscard]] std::optional<Number> ParseWhole(std::string_view text, Form... form) {
     Number number{};
@@ -18,10 +18,10 @@ template <typename Number, typename... Form>
     return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
 }
 
-/// A whole text as a number of 32 bits, perhaps with a minus sign: decimal, or hexadecimal after "0x".
+/// Parses an entire text as a 32-bit number with an optional minus sign: decimal, or hexadecimal after "0x".
 [[nodiscard]] std::optional<std::int64_t> ParseNumber(std::string_view text);
 
-/// What is wrong with a seed that a user gave, for the parsers of command lines; empty for a number of 64 bits.
+/// Checks a seed for a command-line parser. Returns the error, or an empty text for a 64-bit number.
 [[nodiscard]] std::string CheckSeed(const std::string& text);
 
 /// "0x" and eight digits.

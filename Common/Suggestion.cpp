@@ -10,7 +10,7 @@ namespace Common {
 
 namespace {
 
-/// How many letters have to be inserted, removed or replaced to make the one text of the other. Case does not count.
+/// The edit distance of two texts, ignoring case.
 std::size_t Distance(std::string_view from, std::string_view to) {
     std::array<std::size_t, 64> row{}; // no name is that long
     from = from.substr(0, row.size() - 1);

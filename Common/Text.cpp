@@ -15,7 +15,7 @@ constexpr std::string_view digits = "0123456789ABCDEF";
 
 unsigned char Byte(char character) { return static_cast<unsigned char>(character); }
 
-/// A character of UTF-8, of so many bytes; a byte that begins none stands for itself.
+/// A UTF-8 character and its length in bytes. An invalid byte is a character of its own.
 struct Character {
     std::size_t length;
     char32_t code;
@@ -24,7 +24,7 @@ struct Character {
 
 bool Continues(char character) { return (Byte(character) & 0xC0U) == 0x80; }
 
-/// The first character of a text that is not empty.
+/// The first character of a non-empty text.
 Character FirstCharacter(std::string_view text) {
     const char32_t lead = Byte(text.front());
     const Character alone{1, lead, lead < 0x80};
@@ -39,7 +39,7 @@ Character FirstCharacter(std::string_view text) {
         }
         code = code << 6 | (Byte(next) & 0x3FU);
     }
-    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000}; // a longer form than needed is no UTF-8
+    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000}; // overlong forms are invalid
     const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
     return code < least[length] || code > 0x10FFFF || isSurrogate ? alone : Character{length, code, true};
 }
@@ -103,7 +103,7 @@ std::size_t Width(std::string_view text) {
     while (!text.empty()) {
         const Character first = FirstCharacter(text);
         const int columns = wcwidth(static_cast<wchar_t>(first.code));
-        width += columns < 0 ? 1 : static_cast<std::size_t>(columns); // the locale may not know it
+        width += columns < 0 ? 1 : static_cast<std::size_t>(columns); // unknown to the locale
         text.remove_prefix(first.length);
     }
     return width;
@@ -128,7 +128,7 @@ std::string CutAtCharacter(const std::string& text, std::size_t bytes) {
     while (end > 0 && bytes - end < 4 && Continues(text[end])) {
         --end;
     }
-    return text.substr(0, Continues(text[end]) ? bytes : end); // a text in another encoding
+    return text.substr(0, Continues(text[end]) ? bytes : end); // not UTF-8
 }
 
 std::string CheckValue(const std::string& text) {

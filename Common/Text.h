@@ -7,31 +7,29 @@
 
 namespace Common {
 
-// Texts of a camera, of a file or of a user, as a terminal may be shown them: in one line, and without anything that a
-// terminal takes for a command. UTF-8 is shown as it is.
+// Makes texts of cameras, files and users safe for a terminal: one line, no control sequences. UTF-8 is kept.
 
-/// Control characters (C0, DEL, C1) and bytes that are no UTF-8 become \n, \t, \r or \x1B, byte by byte, and a
-/// backslash becomes two.
+/// Control characters (C0, DEL, C1) and bytes that are not UTF-8 are escaped as \n, \t, \r or \x1B, byte by byte.
+/// Backslashes are doubled.
 [[nodiscard]] std::string Escaped(std::string_view text);
 
-/// Reads back what Escaped made; an ordinary text is itself.
-/// @return nothing if a backslash begins no escape
+/// The inverse of Escaped.
+/// @return nothing for an invalid escape
 [[nodiscard]] std::optional<std::string> Unescaped(std::string_view text);
 
-/// As Escaped, for a message, which may hold escaped texts already: backslashes stay.
+/// As Escaped, for messages that may contain escaped texts: backslashes are kept.
 [[nodiscard]] std::string InOneLine(std::string_view message);
 
-/// How many columns of a terminal an escaped text takes.
+/// The width of an escaped text, in columns of a terminal.
 [[nodiscard]] std::size_t Width(std::string_view text);
 
-/// Whether a text is well-formed UTF-8. A camera holds any bytes as a text.
+/// Whether a text is well-formed UTF-8. The texts of a camera need not be.
 [[nodiscard]] bool IsUtf8(std::string_view text);
 
-/// As much of a text as fits into that many bytes, without a part of a character at its end.
+/// Truncates a text to a number of bytes without splitting a character.
 [[nodiscard]] std::string CutAtCharacter(const std::string& text, std::size_t bytes);
 
-/// What is wrong with the value of an option, for the parsers of command lines: nothing may be meant, and no other
-/// option.
+/// Checks the value of an option for a command-line parser: it must not be empty or look like an option.
 [[nodiscard]] std::string CheckValue(const std::string& text);
 
 /// "one, two": the texts with the separator between them.

@@ -7,11 +7,11 @@
 
 namespace Host {
 
-/// Reads "gain=100", or the mere name of what has no value.
+/// Parses "gain=100", or just the name of a function without a value.
 /// @throws UsageError
 [[nodiscard]] FunctionValue ParseAssignment(const Camera& camera, const std::string& text);
 
-/// Reads several, before the first is carried out.
+/// Parses several.
 [[nodiscard]] std::vector<FunctionValue> ParseAssignments(const Camera& camera, const std::vector<std::string>& texts);
 
 } // namespace Host

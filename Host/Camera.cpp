@@ -16,13 +16,13 @@ namespace Host {
 
 namespace {
 
-/// What the family calls the property behind a field.
+/// The name of the property of a field.
 std::string PropertyOf(const Function& function, const Field& field) {
     const std::string_view base = function.property.empty() ? function.name : function.property;
     return std::string(base) + (*field.name == '\0' ? "" : ".") + field.name;
 }
 
-/// Calls the control about a function. What the channel to the camera throws then says which it was.
+/// Calls the control. Errors of the channel get the name of the function.
 template <typename Call> auto Calling(const Instance& instance, const Call& call) {
     try {
         return call();
@@ -43,7 +43,7 @@ FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const ch
         limits.max = properties.GetIntMax(name);
         limits.defaultValue = properties.GetIntDefault(name);
     }
-    if (properties.IsEnumerated(name)) { // the codes of such a family have no gaps
+    if (properties.IsEnumerated(name)) { // the codes of this family have no gaps
         for (std::int64_t code = limits.min; code <= limits.max; ++code) {
             limits.admitted.push_back(code);
         }
@@ -94,8 +94,9 @@ std::vector<Instance> Camera::Find(std::string_view name) const {
     }
     const auto index = Common::ParseWhole<std::uint32_t>(name.substr(row.size() + 1));
     if (!found->indexed || !index || *index >= found->count) {
-        throw UsageError("unknown function \"" + std::string(name) + "\": " + std::string(row) +
-                         (found->indexed ? " has indices 0 to " + std::to_string(found->count - 1) : " takes no index"));
+        throw UsageError(
+            "unknown function \"" + std::string(name) + "\": " + std::string(row) +
+            (found->indexed ? " has indices 0 to " + std::to_string(found->count - 1) : " takes no index"));
     }
     return {{&*found, *index}};
 }
@@ -184,7 +185,7 @@ Limits Camera::PublishedLimits(const Instance& instance) const {
             return {};
         }
         limits.push_back(LimitsOfProperty(*properties, name.c_str()));
-        if (instance.index != 0) { // the defaults of the others are not published
+        if (instance.index != 0) { // only index 0 publishes its default
             limits.back().defaultValue.reset();
         }
     }
@@ -207,7 +208,7 @@ Refusal Camera::RefusalOf(const Instance& instance) const {
 
 bool Camera::RoundsTo(const Instance& instance, const Value& asked, const Value& held) const {
     bool announced = false;
-    if (instance->rounding != nullptr) { // which fails if what the rule goes by cannot be read
+    if (instance->rounding != nullptr) { // fails if a value that the rule needs cannot be read
         static_cast<void>(
             Attempt([&] { announced = Calling(instance, [&] { return instance->rounding(control, asked, held); }); }));
     }

@@ -10,22 +10,22 @@
 
 namespace Host {
 
-/// What can be given to a command.
+/// The parameters of commands.
 enum class Parameter { All, Assignments, Camera, DryRun, File, First, Names, Outputs, Plugin, Second, Seconds };
 
-/// Whether an operand has to be given.
+/// Whether an operand is required.
 enum class Required { Always, OutsideShell, Never };
 
 /// How a command takes a parameter.
 struct Syntax {
     Parameter parameter{};
-    const char* name = ""; ///< "FILE" of an operand, which stands in its place; "--all", or "--seconds N", of an option
+    const char* name = ""; ///< "FILE" for an operand; "--all" or "--seconds N" for an option
     const char* about = "";
     Required required = Required::Always;
-    bool several = false; ///< whether an operand may be given more than once
+    bool several = false; ///< whether an operand may be repeated
 };
 
-/// One run of a command: what was given to it, and the program that it runs in.
+/// One run of a command: its parameters, and the program that it runs in.
 class Invocation {
 public:
     using Given = std::map<Parameter, std::vector<std::string>>;
@@ -34,18 +34,16 @@ public:
         : program(runningProgram),
           given(std::move(givenParameters)) {}
 
-    /// What was given for a parameter; nothing if it was left out.
+    /// The values of a parameter; none if it was omitted.
     [[nodiscard]] const std::vector<std::string>& Texts(Parameter parameter) const;
     [[nodiscard]] std::string Text(Parameter parameter) const;
     [[nodiscard]] bool Has(Parameter parameter) const { return given.contains(parameter); }
 
     [[nodiscard]] Host::Program& Program() const { return program; }
-    /// For its result.
     [[nodiscard]] Host::Output Output() const { return Host::Output(program.Json()); }
 
-    /// The camera that the command is about: that of the shell, or CAMERA, opened now.
+    /// The camera of the command: that of the shell, or CAMERA, which is opened on the first call.
     [[nodiscard]] Session& Open() const;
-    /// Its functions.
     [[nodiscard]] Camera OpenCamera() const { return Open().Camera(); }
 
 private:
@@ -53,18 +51,18 @@ private:
     Given given;
 };
 
-/// A command of the program. It writes its result to standard output and returns an ExitCode; what it throws becomes
-/// one line on standard error and the exit code that belongs to it.
+/// A command of the program. It writes its result to standard output and returns an ExitCode. An exception becomes one
+/// line on standard error and the matching exit code.
 struct Command {
     const char* name;
     const char* about;
-    std::vector<Syntax> syntax; ///< in a shell, which has a camera open, no command takes that
+    std::vector<Syntax> syntax; ///< in a shell, without CAMERA
     int (*run)(const Invocation& invocation);
-    bool inShell = true;  ///< whether a shell has it too
-    int failed = Refused; ///< the exit code where the camera is lost, something refuses, or results cannot be written
+    bool inShell = true;  ///< whether it is available in a shell
+    int failed = Refused; ///< the exit code if the camera is lost, a call is refused, or results cannot be written
 };
 
-/// All commands, in the order of the help: the one place where a command is registered.
+/// All commands, in the order of the help.
 [[nodiscard]] const std::vector<Command>& Commands();
 
 /// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".

@@ -14,7 +14,7 @@ namespace Host {
 
 namespace {
 
-/// What CLI11 filled in for the parameters of a command.
+/// The CLI11 options for the parameters of a command.
 struct Filled {
     CLI::App* app;
     const Command* command;
@@ -69,8 +69,7 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         return app.add_option(name, variable, about)->type_name(value)->check(Common::CheckValue);
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
-    add("--index", options.camera.index, "N",
-        "Camera index; with 2, the default, every value is read from the camera");
+    add("--index", options.camera.index, "N", "Camera index; with 2, the default, every value is read from the camera");
     app.add_flag("--trace", trace, "Show each port access on standard error")->disable_flag_override();
     add("--log", options.logLevel, "LEVEL", "Log level on standard error")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
@@ -83,10 +82,10 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
         ->check(Common::CheckSeed);
     add("--state", simulation.state, "FILE", "File that keeps the state of a simulated camera between runs");
     add("--fault", simulation.faults, "TEXT", "Inject a fault into a simulated camera, such as ignore:gain")
-        ->allow_extra_args(false); // else it would take the camera for a fault too
+        ->allow_extra_args(false); // else it would also take the camera as a fault
 }
 
-/// @throws UsageError if CAMERA was forgotten, so that a function stands in its place
+/// @throws UsageError if CAMERA is missing, so that a function is in its place
 void RequireCamera(const ParsedCommandLine& line) {
     const auto camera = line.given.find(Parameter::Camera);
     if (camera == line.given.end()) {
@@ -98,7 +97,7 @@ void RequireCamera(const ParsedCommandLine& line) {
     }
 }
 
-/// Takes over what was given for the one command that was named.
+/// Copies the parameters of the command from the parser.
 /// @throws UsageError as above
 void TakeGiven(const std::vector<Filled>& commands, ParsedCommandLine& line) {
     for (const Filled& filled : commands) {
@@ -131,8 +130,8 @@ std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name)
     return "unknown command \"" + name + '"' + Common::Suggestion(name, names);
 }
 
-/// What is wrong with how often an option, or a value of it, was given.
-/// @param said what the parser says of it, which begins with the name of the option, of a flag without its dashes
+/// Describes an option with too many or too few values.
+/// @param said the message of the parser, which begins with the name of the option, for a flag without dashes
 std::string DescribeMismatch(const std::string& said) {
     const std::string name = said.substr(0, said.find_first_of(": "));
     if (said.ends_with("flag override")) {
@@ -141,8 +140,8 @@ std::string DescribeMismatch(const std::string& said) {
     return name + (said.ends_with("missing") ? ": a value is required" : " is given twice");
 }
 
-/// What is wrong, in words; of what nobody knows, the first, and what may have been meant.
-/// @param usage of the command, for one that lacks an operand
+/// Describes a parse error; for unknown arguments the first one, with a suggestion.
+/// @param usage of the command, if an operand is missing
 std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::string& usage) {
     const auto unknown = app.remaining(true);
     const auto parsed = app.get_subcommands();
@@ -163,8 +162,8 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
     return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : "unexpected argument" + quoted;
 }
 
-/// Prints what --help prints, of a command or of them all.
-/// @throws UsageError for what is no command
+/// Prints the help of a command, or of all.
+/// @throws UsageError for an unknown command
 void PrintHelp(const CLI::App& app, const std::string& name) {
     if (name.empty()) {
         std::cout << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);
@@ -182,7 +181,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    app.fallthrough(); // common options may stand behind the command
+    app.fallthrough(); // common options may follow the command
     ParsedCommandLine line;
     bool trace = false;
     app.add_flag("--json", line.options.json, "Print results as JSON")->disable_flag_override();
@@ -201,7 +200,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App* const help = app.add_subcommand("help", "Show the help of a command");
     help->add_option("COMMAND", helped, "A command; without it, all commands are listed")->type_name("");
     try {
-        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        std::reverse(arguments.begin(), arguments.end()); // as the parser expects
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) {

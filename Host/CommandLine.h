@@ -7,18 +7,18 @@
 
 namespace Host {
 
-/// A command line that was understood.
+/// A parsed command line.
 struct ParsedCommandLine {
-    const Command* command = nullptr; ///< null when only help was asked for, which is printed then
+    const Command* command = nullptr; ///< null if help was requested and printed
     Invocation::Given given;
     Options options;
 };
 
-/// Reads the arguments of the program, and prints its help if they ask for it.
-/// @throws UsageError for what is wrong with them
+/// Parses the arguments of the program, and prints help on request.
+/// @throws UsageError for invalid arguments
 [[nodiscard]] ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments);
 
-/// Reads a line of a shell: a command without CAMERA, and of the common options --json alone.
+/// Parses a line of the shell: a command without CAMERA; --json is the only common option.
 /// @throws UsageError as above
 [[nodiscard]] ParsedCommandLine ParseShellLine(std::vector<std::string> arguments);
 

@@ -8,7 +8,7 @@
 
 namespace Host {
 
-/// How a camera is reached, whether it is simulated in this process or stands on the network.
+/// A connection to a camera, simulated in this process or on the network.
 class Connection {
 public:
     Connection() = default;
@@ -16,30 +16,30 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Every access to the camera goes through it. It lives as long as the connection.
+    /// All accesses to the camera go through it. Valid as long as the connection.
     [[nodiscard]] virtual SDK4::IControlPort& Port() = 0;
 
     /// "a simulated camera", "the camera at 192.168.1.10"
     [[nodiscard]] virtual std::string Describe() const = 0;
 
-    /// Lets the camera's time pass, before it returns.
+    /// Waits; a simulated camera advances its clock instead.
     virtual void Wait(std::chrono::microseconds time) = 0;
-    /// Tells that time has passed for this host.
+    /// Tells a simulated camera that time has passed.
     virtual void TimePassed(std::chrono::microseconds time) = 0;
 
-    /// Whether the camera takes what this host writes.
+    /// Whether this host can write to the camera.
     [[nodiscard]] virtual bool HasControl() const = 0;
-    /// For commands that write. Takes control, if another program had it and gave it back.
+    /// For commands that write. Takes control, if another program has released it.
     /// @throws OpenError while another program has it
     virtual void RequireControl() = 0;
-    /// Whether something was not written since the last call, because another program has control: who has it, in words
-    /// for the user, else empty.
+    /// If a write failed since the last call because another program has control, a description of that program; else
+    /// empty.
     [[nodiscard]] virtual std::string TakeDenial() = 0;
-    /// At the end of a command: makes sure that the camera was there all the time, and did not start anew meanwhile.
-    /// @throws ChannelLost, unless that was thrown before
+    /// At the end of a command: checks that the connection was never lost and the camera has not restarted.
+    /// @throws ChannelLost, unless already thrown
     virtual void RequireUnbroken() = 0;
 
-    /// Has the state file, if there is one, hold the camera as it is now.
+    /// Saves the camera to the state file, if there is one.
     virtual void SaveState() const = 0;
 };
 

@@ -20,7 +20,7 @@ Json ToJson(const Instance& instance, std::int64_t number) {
     return number;
 }
 
-constexpr const char* hexMember = "hex"; ///< of the object that stands for a text that JSON cannot hold
+constexpr const char* hexMember = "hex"; ///< of the object that replaces a text that is not UTF-8
 
 std::string Hexadecimal(const std::string& bytes) {
     constexpr const char* digits = "0123456789abcdef";
@@ -32,7 +32,7 @@ std::string Hexadecimal(const std::string& bytes) {
     return text;
 }
 
-/// @return nothing for what is no hexadecimal, or holds a NUL, behind which a camera would read no further
+/// @return nothing if not hexadecimal, or with a NUL, which would end the text
 std::optional<std::string> BytesOf(const std::string& hexadecimal) {
     std::string bytes;
     for (std::size_t i = 0; i < hexadecimal.size(); i += 2) {
@@ -46,7 +46,7 @@ std::optional<std::string> BytesOf(const std::string& hexadecimal) {
     return bytes;
 }
 
-/// What stands for a number or a text.
+/// A number or a text, as text.
 std::optional<std::string> TextOf(const Json& element) {
     if (const auto* const number = element.Number()) {
         return std::to_string(*number);

@@ -32,7 +32,7 @@ int RunAndReport(const std::function<int()>& action, int failed) {
     } catch (const ChannelError& error) {
         PrintError(error.Describe());
         return failed;
-    } catch (const std::exception& error) { // of a simulated camera, for one
+    } catch (const std::exception& error) { // for example of a simulated camera
         PrintError(error.what());
         return failed;
     }
@@ -50,7 +50,7 @@ Outcome Attempt(const std::function<void()>& calls) {
         return {SDK4_ERR_ERROR, error.what(), Cause::NoSuchAddress};
     } catch (const Simulation::InvalidAddressError& error) {
         return {SDK4_ERR_ERROR, error.what(), Cause::NoSuchAddress};
-    } catch (const ControlHeld&) { // who has it is told once, at the end of the command
+    } catch (const ControlHeld&) { // the controller is reported once, at the end of the command
         return {SDK4_ERR_ERROR, "needs control", Cause::NoControl};
     } catch (const std::exception& error) {
         return {SDK4_ERR_ERROR, error.what(), Cause::Any};

@@ -8,27 +8,27 @@
 
 namespace Host {
 
-/// Runs an action and reports what it throws.
-/// @param failed the ExitCode that belongs to what is neither wrong usage nor a camera that could not be opened
-/// @return what the action returns, or the ExitCode that belongs to what it throws
+/// Runs an action and prints its exceptions.
+/// @param failed the exit code for other errors than wrong usage and failure to open
+/// @return the result of the action, or the exit code for its exception
 int RunAndReport(const std::function<int()>& action, int failed = Refused);
 
 /// Why a call of the plug-in failed.
 enum class Cause {
     Any,
-    NoSuchAddress, ///< the camera has no such register: it is of another firmware
-    NoControl,     ///< it writes, if only an index, while another program has control
+    NoSuchAddress, ///< the camera lacks the register, for example with another firmware
+    NoControl,     ///< it writes (perhaps only an index) while another program has control
 };
 
 /// How a call of the plug-in ended.
 struct Outcome {
-    std::int32_t code = 0; ///< 0: well; else of its refusal; SDK4_ERR_ERROR for what the port said, which has no code
-    std::string reason;    ///< the name of the code, or what the port said
+    std::int32_t code = 0; ///< 0 on success; an SDK4_ERR code; SDK4_ERR_ERROR for exceptions of the port
+    std::string reason;    ///< the name of the code, or the message of the port
     Cause cause = Cause::Any;
 };
 
 /// Runs calls of the plug-in.
-/// @throws ChannelLost, after which no call can do anything
+/// @throws ChannelLost, after which every call fails
 [[nodiscard]] Outcome Attempt(const std::function<void()>& calls);
 
 } // namespace Host

@@ -7,7 +7,7 @@ namespace Host {
 using enum Common::ExitCode;
 using Common::UsageError;
 
-/// Why the plug-in or a camera could not be opened, in words for the user.
+/// The plug-in or a camera could not be opened. The text is for the user.
 struct OpenError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };

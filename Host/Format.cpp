@@ -10,7 +10,7 @@ namespace Host {
 
 namespace {
 
-/// The text in the bytes: at least four printable characters, then nothing but NULs. Empty if it is none.
+/// The text in the bytes: at least four printable characters, padded with NULs. Empty for anything else.
 std::string TextIn(std::span<const std::uint8_t> bytes) {
     const auto printable = [](std::uint8_t byte) { return byte >= 0x20 && byte < 0x7F; }; // ASCII
     const auto end = std::find_if_not(bytes.begin(), bytes.end(), printable);
@@ -37,7 +37,7 @@ std::string FormatBytes(std::span<const std::uint8_t> bytes) {
     std::size_t at = 0;
     for (; bytes.size() - at >= sizeof(std::uint32_t); at += sizeof(std::uint32_t)) {
         const auto rest = bytes.subspan(at);
-        if (const std::string text = at == 4 ? TextIn(rest) : ""; !text.empty()) { // a text behind its leading word
+        if (const std::string text = at == 4 ? TextIn(rest) : ""; !text.empty()) { // a text after its leading word
             return words + QuotedText(text);
         }
         std::uint32_t word = 0;

@@ -16,85 +16,85 @@
 
 namespace Host {
 
-/// What a field admits: everything between the bounds, or single values where there are any.
+/// The limits of a field: a range, or single values if there are any.
 struct FieldLimits {
     std::int64_t min = 0;
     std::int64_t max = 0;
     std::vector<std::int64_t> admitted{};
-    std::optional<std::int64_t> defaultValue{}; ///< the default, where the family publishes one
+    std::optional<std::int64_t> defaultValue{}; ///< if the family publishes it
 
     [[nodiscard]] bool Admits(std::int64_t number) const;
 };
-/// One per field of the value, or none at all: then every value is passed on to the camera.
+/// One per field of the value, or empty if the value is not checked.
 using Limits = std::vector<FieldLimits>;
 
-/// What may become of a function when settings are restored.
+/// How a function is restored.
 enum class RestorePolicy {
-    Never,   ///< what the camera reports, or does when written
+    Never,   ///< not a setting: a report or a command
     Setting, ///< written in the order of the table
-    Mode,    ///< moves other settings by itself: off first, the saved mode last
-    Output,  ///< reaches what is wired to the camera: I/O lines, motor, lens
-    Network, ///< how the camera is reached
+    Mode,    ///< adjusts other settings: off first, the saved mode last
+    Output,  ///< acts on connected devices: I/O lines, motor, lens
+    Network, ///< network configuration
 };
 
-/// Another function decides whether this one can be set: its value must be one of those.
+/// A function is locked unless another one, the mode, has one of the values in `open`.
 struct Lock {
     std::string_view mode;
     std::vector<std::int64_t> open;
-    bool moves; ///< while it is closed the camera moves the value by itself
+    bool moves; ///< the camera adjusts the value while locked
 
-    /// Whether a value of the mode leaves the function open.
+    /// Whether a value of the mode leaves the function unlocked.
     [[nodiscard]] bool IsOpen(const Value& value) const;
 };
 
-/// How a value is refused that is not admitted.
+/// How a value outside the limits is refused.
 struct Refusal {
     std::int32_t code;
-    bool keeps; ///< the camera holds what it held; otherwise the nearest admitted value
+    bool keeps; ///< the camera keeps its value; otherwise it holds the nearest admitted one
 };
 
-/// One row of the table: a camera function as one family of cameras has it. Rows are made by FunctionTable.
+/// One row of the table: a camera function of one family. Rows are made by FunctionTable.
 struct Function {
     using Getter = Value (*)(IDynamicObject& control, std::uint32_t index);
     using Setter = void (*)(IDynamicObject& control, std::uint32_t index, const Value& value);
-    /// Limits that the camera tells, or that its model decides.
+    /// Reads limits from the camera or derives them from its model.
     using LimitsReader = Host::Limits (*)(IDynamicObject& control, std::string_view model);
 
-    /// Whether the camera may hold the one value where the other, which it admits, was asked for.
+    /// Whether the camera may hold @p held after the admitted value @p asked was set.
     using RoundingRule = bool (*)(IDynamicObject& control, const Value& asked, const Value& held);
 
     std::string_view name;
-    std::string_view topic; ///< what it belongs to: "identity", "exposure", ...
+    std::string_view topic; ///< "identity", "exposure", ...
     std::string interfaceName;
     Shape shape;
-    Getter get = nullptr; ///< null: can only be written
-    Setter set = nullptr; ///< null: can only be read
+    Getter get = nullptr; ///< null: write-only
+    Setter set = nullptr; ///< null: read-only
     std::string_view unit;
     bool indexed = false;
-    std::uint32_t count = 1; ///< how many there are of it, from index 0
-    Host::Limits limits;     ///< for a family that does not publish them
+    std::uint32_t count = 1; ///< number of instances, from index 0
+    Host::Limits limits;     ///< if the family does not publish them
     LimitsReader limitsReader = nullptr;
     Host::Codes codes; ///< names of its numbers; some may have none
     std::optional<Lock> lock;
-    std::optional<Refusal> refusal; ///< where it is not the family's usual one
+    std::optional<Refusal> refusal; ///< if different from the rest of the family
     RestorePolicy restore = RestorePolicy::Never;
-    RoundingRule rounding = nullptr; ///< null: the camera holds what it accepts
-    bool trigger = false;            ///< has no value: writing it, whatever is written, is the command
-    std::string_view property;       ///< what IPropertyState calls it, if it knows it
-    std::string_view presence; ///< the function whose reading tells whether the camera has this one, which none reads
+    RoundingRule rounding = nullptr; ///< null: the camera does not round
+    bool trigger = false;            ///< a command without a value
+    std::string_view property;       ///< its name in IPropertyState, if different
+    std::string_view presence;       ///< for a write-only function: a readable one that the camera has or lacks with it
 
-    // What a row says beyond its name, getter and setter.
+    // Optional attributes of a row.
     Function& Unit(std::string_view text) { return Set(unit, text); }
     Function& Hexadecimal() { return Set(shape.hexadecimal, true); }
-    /// Where they are called otherwise than in the record.
+    /// Field names that differ from those of the record.
     Function& Fields(std::span<const Field> fields) { return Set(shape.fields, fields); }
-    Function& Range(std::int64_t min, std::int64_t max); ///< of every field
+    Function& Range(std::int64_t min, std::int64_t max); ///< for every field
     Function& LimitsFrom(LimitsReader reader) { return Set(limitsReader, reader); }
-    Function& OneOf(std::int64_t first, std::int64_t last); ///< single values without a gap
-    Function& OneOf(Host::Codes named);                     ///< single values, all of which have names
+    Function& OneOf(std::int64_t first, std::int64_t last); ///< all values from first to last
+    Function& OneOf(Host::Codes named);                     ///< only the named values
     Function& OnOff();
-    Function& Named(Host::Codes names) { return Set(codes, names); } ///< names of some of its values
-    /// Refuses with that code and keeps its value.
+    Function& Named(Host::Codes names) { return Set(codes, names); } ///< names for some values
+    /// Refused with that code; the camera keeps its value.
     Function& Keeps(std::int32_t code = SDK4_ERR_OUTOFRANGE) { return Set(refusal, Refusal{code, true}); }
     Function& Rounds(RoundingRule rule) { return Set(rounding, rule); }
     Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0}) {
@@ -114,10 +114,10 @@ private:
     }
 };
 
-/// The rows of a family, in dependency order: a function stands behind those that limit or disable it.
+/// The rows of a family, in dependency order: a function comes after those that limit or disable it.
 using Functions = std::deque<Function>;
 
-/// A function, or one of the several that a row stands for. Its name ends in the index then: "iomode.3".
+/// A function, or one instance of an indexed function, whose name then ends in the index: "iomode.3".
 struct Instance {
     const Function* function = nullptr;
     std::uint32_t index = 0;
@@ -133,7 +133,7 @@ struct Instance {
     }
 };
 
-/// What a function holds, or is to hold.
+/// A function and a value of it.
 struct FunctionValue {
     Instance instance;
     Value value;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int watched[] = {SIGINT, SIGTERM, SIGHUP};
 
-volatile std::sig_atomic_t received = 0; ///< the last signal that came
+volatile std::sig_atomic_t received = 0; ///< the last signal
 int alive = 0;
 struct sigaction before[std::size(watched)];
 
@@ -21,11 +21,11 @@ Interrupts::Interrupts() {
     received = 0;
     struct sigaction action {};
     action.sa_handler = [](int which) { received = which; };
-    action.sa_flags = SA_RESTART; // a line that is being printed is printed
+    action.sa_flags = SA_RESTART; // output is not interrupted
     for (std::size_t i = 0; i < std::size(watched); ++i) {
         sigaction(watched[i], nullptr, &before[i]);
         const bool nohup = watched[i] == SIGHUP && before[i].sa_handler == SIG_IGN;
-        if (!nohup) { // else what runs is to outlive its terminal
+        if (!nohup) { // keep running when the terminal closes
             sigaction(watched[i], &action, nullptr);
         }
     }

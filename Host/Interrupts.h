@@ -5,8 +5,8 @@
 
 namespace Host {
 
-/// While one lives, SIGINT, SIGTERM and SIGHUP (of a terminal that is closed) end nothing but are remembered, so that
-/// what runs can end in good order.
+/// While one exists, SIGINT, SIGTERM and SIGHUP (terminal closed) do not end the program but are recorded, so that a
+/// command can end cleanly.
 class Interrupts {
 public:
     Interrupts();
@@ -14,16 +14,16 @@ public:
     Interrupts(const Interrupts&) = delete;
     Interrupts& operator=(const Interrupts&) = delete;
 
-    /// Whether a signal came since the outermost one was made.
+    /// Whether a signal was received since the outermost object was created.
     [[nodiscard]] static bool Received();
-    /// Whether it was one that is to end the program, and not only what runs in it.
+    /// Whether it was a signal to end the program (SIGTERM, SIGHUP), not just the command.
     [[nodiscard]] static bool ReceivedTermination();
-    /// Waits, but not beyond a signal.
+    /// Sleeps until a signal at most.
     static void Sleep(std::chrono::milliseconds time);
 };
 
-/// While one lives, output that nobody reads any more fails instead of ending this program (SIGPIPE): what was begun on
-/// a camera is brought to its end.
+/// While one exists, output to a closed pipe fails instead of ending this program (SIGPIPE), so that a command on a
+/// camera is completed.
 class IgnoredPipeSignal {
 public:
     IgnoredPipeSignal();

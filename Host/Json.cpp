@@ -39,7 +39,7 @@ OrderedJson ToDocument(const Json& json) {
     return json.Bool() != nullptr ? OrderedJson(*json.Bool()) : OrderedJson();
 }
 
-/// Escapes the control characters that the library leaves alone, DEL and C1; they stand within texts alone.
+/// Also escapes DEL and C1, which the library does not. They occur only within texts.
 std::string Dump(const Json& json, int indent) {
     const std::string text = ToDocument(json).dump(indent, ' ', false, OrderedJson::error_handler_t::replace);
     std::string escaped;
@@ -127,9 +127,9 @@ std::string Json::Print() const { return Dump(*this, 2); }
 std::string Json::PrintInOneLine() const { return Dump(*this, -1); }
 
 Json Json::Parse(const std::string& text) {
-    // Documents are walked by recursion: one that is nested without end would end the program.
+    // Documents are processed recursively, so deep nesting would overflow the stack.
     constexpr int deepest = 64;
-    std::vector<std::set<std::string>> names; // of the objects that are being read
+    std::vector<std::set<std::string>> names; // of the open objects
     return FromDocument(OrderedJson::parse(text, [&](int depth, OrderedJson::parse_event_t event,
                                                      const OrderedJson& parsed) {
         if (depth > deepest) {

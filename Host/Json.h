@@ -10,19 +10,18 @@
 
 namespace Host {
 
-/// A member of an object of JSON. A template, so that the document can hold members of its own kind.
+/// A member of a JSON object. A template, because Json is incomplete here.
 template <typename Document> struct JsonMember {
     std::string name;
     Document value;
 };
 
-/// A JSON document. It is written and read by nlohmann-json, which costs seconds wherever it is included; so it is
-/// included in Json.cpp alone.
+/// A JSON document. It hides nlohmann-json, which is slow to compile and is included in Json.cpp only.
 class Json {
 public:
     using Member = JsonMember<Json>;
     using List = std::vector<Json>;
-    using Object = std::vector<Member>; ///< in the order of their adding
+    using Object = std::vector<Member>; ///< in insertion order
 
     Json() = default; ///< null
     Json(bool value) : content(value) {}
@@ -36,14 +35,14 @@ public:
     Json(Object value);
     Json(std::initializer_list<Member> members);
 
-    /// Adds to a list, or a member to an object; null becomes one.
+    /// Adds an element to a list, or a member to an object. Null becomes a list or an object.
     void Add(Json element);
     void Add(std::string name, Json value);
 
-    /// A member of an object, or null where there is none.
+    /// A member of an object, or JSON null if there is none.
     [[nodiscard]] const Json& operator[](std::string_view name) const;
 
-    // What it holds, or null if that is something else.
+    // The content, or a null pointer if it has another type.
     [[nodiscard]] const bool* Bool() const { return std::get_if<bool>(&content); }
     [[nodiscard]] const std::int64_t* Number() const { return std::get_if<std::int64_t>(&content); }
     [[nodiscard]] const std::string* Text() const { return std::get_if<std::string>(&content); }
@@ -54,8 +53,8 @@ public:
     [[nodiscard]] std::string Print() const;
     [[nodiscard]] std::string PrintInOneLine() const;
 
-    /// @throws std::runtime_error that says where a text is no JSON, or holds a number that is no integer, or a name
-    ///         twice
+    /// @throws std::runtime_error for invalid JSON, with the position; for a number that is not an integer; for a
+    ///         duplicate name
     [[nodiscard]] static Json Parse(const std::string& text);
 
 private:

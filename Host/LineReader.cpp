@@ -15,7 +15,7 @@ namespace {
 
 constexpr int longestHistory = 500;
 
-// The library of the line editor calls plain functions.
+// readline calls plain functions.
 LineReader::Completer complete;
 std::vector<std::string> candidates;
 
@@ -38,7 +38,7 @@ char** Complete(const char* text, int start, int /*end*/) {
     candidates = complete(std::string(rl_line_buffer, static_cast<std::size_t>(start)));
     const bool goesOn = !candidates.empty() && candidates.front().ends_with('=');
     rl_completion_append_character = static_cast<unsigned char>(goesOn ? '\0' : ' ');
-    rl_attempted_completion_over = candidates.empty() ? 0 : 1; // else it may be the name of a file
+    rl_attempted_completion_over = candidates.empty() ? 0 : 1; // else readline completes file names
     return candidates.empty() ? nullptr : rl_completion_matches(text, NextMatch);
 }
 
@@ -55,13 +55,13 @@ LineReader::LineReader(std::string promptText, Completer completer)
     complete = std::move(completer);
     if (terminal) {
         struct sigaction action {};
-        action.sa_handler = [](int) { givenUp = 1; }; // no SA_RESTART: the waiting for a key ends
+        action.sa_handler = [](int) { givenUp = 1; }; // no SA_RESTART: interrupts the wait for a key
         sigaction(SIGINT, &action, nullptr);
         rl_readline_name = "qdv12host";
         rl_attempted_completion_function = Complete;
         using_history();
         stifle_history(longestHistory);
-        read_history(HistoryFile().c_str()); // there is none the first time
+        read_history(HistoryFile().c_str()); // missing on the first run
     }
 }
 
@@ -83,7 +83,7 @@ std::optional<std::string> LineReader::Next() {
         std::cout.flush();
         line.reset(readline(prompt.c_str()));
         if (!line) {
-            std::cout << '\n'; // behind the prompt
+            std::cout << '\n'; // ends the line of the prompt
         }
     } while (!line && givenUp != 0);
     if (!line) {

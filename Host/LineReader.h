@@ -7,12 +7,12 @@
 
 namespace Host {
 
-/// Reads lines from standard input: from a terminal with a prompt, history and completion, from anything else plainly.
-/// There is one at a time.
+/// Reads lines from standard input; from a terminal with a prompt, history and completion. Only one can exist at a
+/// time.
 class LineReader {
 public:
-    /// What a word may be completed to.
-    /// @param before what stands before it on its line
+    /// Returns the completions of a word.
+    /// @param before the part of the line before it
     using Completer = std::function<std::vector<std::string>(const std::string& before)>;
 
     LineReader(std::string promptText, Completer completer);

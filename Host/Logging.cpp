@@ -18,7 +18,7 @@ namespace Host {
 
 namespace {
 
-/// A line holds what the host handed to the library, a text to be set for one.
+/// Escapes log lines, which may contain texts from the user.
 class OneLineLayout final : public log4cxx::PatternLayout {
 public:
     using PatternLayout::PatternLayout;
@@ -31,7 +31,7 @@ public:
     }
 };
 
-/// Whether lines go anywhere.
+/// Whether any logger has an appender.
 bool HasAppender() {
     const auto loggers = log4cxx::LogManager::getCurrentLoggers();
     return !log4cxx::Logger::getRootLogger()->getAllAppenders().empty() ||

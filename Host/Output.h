@@ -8,13 +8,13 @@
 
 namespace Host {
 
-/// What a command prints as its result: lines of text as they come, or one JSON document at the end. Each result is
-/// given as both; a text that is empty is no line.
+/// Prints the result of a command: lines of text immediately, or one JSON document at the end. Each result is passed as
+/// both; an empty text prints no line.
 class Output {
 public:
     explicit Output(bool asJson, std::ostream& target = std::cout) : json(asJson), stream(target) {}
 
-    /// What is for people alone, such as a heading.
+    /// A line that is not in the JSON document, such as a heading.
     void Line(const std::string& text) const {
         if (!json && !text.empty()) {
             stream << text << '\n';
@@ -30,7 +30,7 @@ public:
         Line(text);
         document.Add(std::move(name), std::move(value));
     }
-    /// All there is.
+    /// The whole document.
     void Set(const std::string& text, Json whole) {
         Line(text);
         document = std::move(whole);

@@ -11,7 +11,7 @@ namespace Host {
 
 namespace {
 
-// A leak checker names what it found when the program ends: the plug-in has to be still there.
+// The leak checker resolves symbols when the program ends, so the plug-in must stay loaded.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr int stayLoaded = RTLD_NODELETE;
 #elif defined(__has_feature)
@@ -69,7 +69,7 @@ void Plugin::Load(const std::string& path) {
     if (!library) {
         check.loadError = dlerror();
         if (const std::string prefix = check.path + ": ";
-            check.loadError.starts_with(prefix)) { // which is said beside it
+            check.loadError.starts_with(prefix)) { // the path is printed separately
             check.loadError.erase(0, prefix.size());
         }
         if (check.loadError.find("undefined symbol") != std::string::npos &&
@@ -112,7 +112,7 @@ Control Plugin::Create(const char* model, SDK4::IControlPort& port, std::int32_t
 
 std::string DefaultPlugin() {
     const std::filesystem::path name = "libqdv12ctrl.so";
-    std::error_code ignored; // without it the name alone remains, for the loader to find
+    std::error_code ignored; // on failure, the loader searches for the bare name
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
     const auto installed = folder.parent_path() / "lib" / "qdv12" / name;
     return (std::filesystem::exists(installed, ignored) ? installed : folder / name).string();

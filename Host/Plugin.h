@@ -19,25 +19,25 @@ struct Model {
     std::string key;
 };
 
-/// What loading a plug-in tells.
+/// The result of loading a plug-in.
 struct PluginCheck {
     std::string path;
-    std::string loadError;                             ///< why the loader refused it, in the loader's words, else empty
-    std::string hint;                                  ///< what to do about that, if it is known
-    std::vector<std::pair<std::string, bool>> exports; ///< by name, whether each is there; none if it was not loaded
+    std::string loadError;                             ///< the message of the loader, else empty
+    std::string hint;                                  ///< what to do about it, if known
+    std::vector<std::pair<std::string, bool>> exports; ///< name, and whether it was found; empty if not loaded
     std::vector<Model> models;
 
-    /// What is wrong with the plug-in, in a line; empty if it can be used.
+    /// What is wrong with the plug-in, or empty.
     [[nodiscard]] std::string Fault() const;
 };
 
-/// Loads a plug-in and finds out all there is to know.
+/// Loads a plug-in and checks it.
 [[nodiscard]] PluginCheck CheckPlugin(const std::string& path);
 
 /// A loaded camera plug-in. It must outlive every control that it creates.
 class Plugin {
 public:
-    /// Loads the plug-in and asks it for its models.
+    /// Loads the plug-in and gets its models.
     /// @throws OpenError with what is wrong with it
     explicit Plugin(const std::string& path);
 
@@ -46,10 +46,9 @@ public:
     [[nodiscard]] bool Serves(const std::string& model) const;
 
     /// Opens a camera.
-    /// @param model what the camera calls itself; the control keeps the pointer
-    /// @param port  reaches the camera; must outlive the control
-    /// @param index the camera index; 2 turns the caches of the Orvik control off, 3 has the M2VX control read the
-    ///              camera's settings once, now, and remember them
+    /// @param model the model name that the camera reports; the control keeps the pointer
+    /// @param port must outlive the control
+    /// @param index the camera index: 2 makes an Orvik control uncached, 3 makes an M2VX control cached
     /// @return null for a model that the plug-in does not serve
     [[nodiscard]] Control Create(const char* model, SDK4::IControlPort& port, std::int32_t index) const;
 
@@ -70,7 +69,7 @@ private:
     PluginCheck check;
 };
 
-/// The plug-in that belongs to the running program: that of the installed module folder, or of the build folder.
+/// The plug-in in the installed module folder, else the one next to the program.
 [[nodiscard]] std::string DefaultPlugin();
 
 } // namespace Host

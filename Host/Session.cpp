@@ -14,7 +14,7 @@ namespace Host {
 
 namespace {
 
-constexpr const char* opening = "opening the camera"; ///< stands for the name of a function
+constexpr const char* opening = "opening the camera"; ///< in place of a function name
 
 void RequireServed(const Plugin& plugin, const std::string& model) {
     if (!plugin.Serves(model)) {
@@ -22,7 +22,7 @@ void RequireServed(const Plugin& plugin, const std::string& model) {
     }
 }
 
-/// What a camera on the network calls itself, if the plug-in serves that.
+/// The model that a camera on the network reports, if the plug-in serves it.
 std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     std::string read;
     try {
@@ -37,14 +37,13 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
                     "\"; use --force-model with one of " + Common::Join(plugin.ModelNames()));
 }
 
-constexpr std::string_view network = "gige:"; ///< begins what is no model
+constexpr std::string_view network = "gige:"; ///< prefix of addresses
 
 /// @return the address of a camera on the network, empty for a simulated one
 std::string AddressOf(const std::string& camera) {
     std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
     if (!Common::ParseAddress(address) && (camera.find(':') != std::string::npos || Common::ParseAddress(camera))) {
-        throw UsageError("invalid camera \"" + camera +
-                         "\": give a model or gige:ADDRESS, such as gige:192.168.1.10");
+        throw UsageError("invalid camera \"" + camera + "\": give a model or gige:ADDRESS, such as gige:192.168.1.10");
     }
     return address;
 }
@@ -101,7 +100,7 @@ Control Session::CreateControl(std::int32_t index) {
     } catch (ChannelLost& error) {
         error.SetFunction(opening);
         throw;
-    } catch (const std::runtime_error& error) { // of the port, whatever is behind it
+    } catch (const std::runtime_error& error) { // of any port
         throw OpenError("opening \"" + model + "\" failed: " + error.what());
     }
     throw OpenError("the plug-in registers model \"" + model + "\" but does not create a control for it");

@@ -11,25 +11,25 @@
 
 namespace Host {
 
-/// Whether a text means a camera where it may mean a file: the name of a model, or gige:ADDRESS.
+/// Whether a text names a camera and not a file: a model, or gige:ADDRESS.
 [[nodiscard]] bool IsCamera(const std::string& text);
 
 /// How a camera is reached and opened.
 struct CameraOptions {
-    std::int32_t index = 0;           ///< with which the control is created
-    SimulationOptions simulation{};   ///< of a simulated camera
-    std::string forcedModel{};        ///< drives a camera on the network as that, whatever it calls itself
-    TracingPort::Observer accesses{}; ///< told of every port access; without it the port remembers them
+    std::int32_t index = 0;           ///< camera index for CreateObject
+    SimulationOptions simulation{};   ///< for a simulated camera
+    std::string forcedModel{};        ///< treats a camera on the network as this model, whatever it reports
+    TracingPort::Observer accesses{}; ///< gets every port access; without it the port records them
 };
 
 /// An opened camera: the camera, the port to it, and the control that the plug-in built on the port.
 class Session {
 public:
-    /// Switches a simulated camera on, or connects to one on the network, and opens it.
+    /// Creates a simulated camera, or connects to one on the network, and opens it.
     /// @param camera a model, which is simulated, or gige:ADDRESS
-    /// @throws OpenError for a model that the plug-in does not serve; for a camera that cannot be reached; for what
-    ///         SimulatedConnection does not admit
-    /// @throws UsageError for what is no camera; for options that do not fit it; for a fault that cannot be injected
+    /// @throws OpenError for a model that the plug-in does not serve, for a camera that cannot be reached, and as
+    ///         SimulatedConnection
+    /// @throws UsageError for an invalid camera, options that do not apply to it, or an invalid fault
     Session(const Plugin& plugin, const std::string& camera, const CameraOptions& options = {});
 
     [[nodiscard]] const std::string& Model() const { return model; }
@@ -42,7 +42,7 @@ public:
     }
 
     /// The functions of the control.
-    /// @throws OpenError for a control of a family whose functions are not known
+    /// @throws OpenError for an unknown family
     [[nodiscard]] Host::Camera Camera() const { return {*control, model}; }
 
     /// Opens the same camera once more, on the same port.
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] Control CreateControl(std::int32_t index);
 
 private:
-    /// A camera that is reached, and what it is.
+    /// A connection and the model of its camera.
     struct Connected {
         std::unique_ptr<Host::Connection> connection;
         std::string model;
@@ -59,7 +59,7 @@ private:
                                            const CameraOptions& options);
     Session(const Plugin& plugin, Connected connected, const CameraOptions& options);
 
-    // In this order: the control goes first, the camera and the name that the control points to go last.
+    // In this order: the control is destroyed first, then the camera and the model name that it uses.
     const Plugin& plugin;
     std::string model;
     std::unique_ptr<Host::Connection> connection;

@@ -13,19 +13,18 @@ class SimulatedCamera;
 
 namespace Host {
 
-/// How a simulated camera is switched on.
+/// Options of a simulated camera.
 struct SimulationOptions {
-    std::optional<std::uint64_t> seed; ///< of the world around the camera; 0 if it is not given
-    std::string state{};               ///< a file that holds the camera between two runs; none if empty
-    std::vector<std::string> faults{}; ///< to be injected into the camera
+    std::optional<std::uint64_t> seed; ///< seed of its environment, 0 by default
+    std::string state{};               ///< file that keeps its state between runs; empty for none
+    std::vector<std::string> faults{}; ///< faults to inject
 };
 
 /// A simulated camera in this process.
 class SimulatedConnection final : public Connection {
 public:
-    /// Switches the camera on.
-    /// @throws OpenError for a model that nothing simulates; for a state file that is no such file
-    /// @throws UsageError for a fault that cannot be injected
+    /// @throws OpenError for a model that is not simulated; for an invalid state file
+    /// @throws UsageError for an invalid fault
     SimulatedConnection(const std::string& model, const SimulationOptions& options);
     ~SimulatedConnection() override;
 

@@ -4,11 +4,11 @@
 
 namespace Host {
 
-/// Whether colour, a progress bar and the like may go to a stream of this program: to a terminal alone, of which TERM
-/// is known and not "dumb", and not with NO_COLOR.
+/// Whether a stream may show colour, a progress bar and the like: only a terminal, with TERM set and not "dumb", and
+/// without NO_COLOR.
 [[nodiscard]] bool IsStyled(int stream);
 
-// Colour on standard output, if that is styled; else the text as it is.
+// Coloured text for standard output if it is styled, else the text unchanged.
 [[nodiscard]] std::string Dim(const std::string& text);
 [[nodiscard]] std::string Yellow(const std::string& text);
 [[nodiscard]] std::string Green(const std::string& text);

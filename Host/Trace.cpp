@@ -9,7 +9,7 @@
 namespace Host {
 
 void PrintAccess(const Access& access) {
-    std::cout.flush(); // an access stands behind the results that came before it
+    std::cout.flush(); // keeps accesses and results in order
     std::cerr << (access.write ? "write " : "read  ") << Pad(access.operation, 18) << Common::Hex(access.address)
               << "  " << FormatBytes(access.data) << (access.failed ? " (failed)" : "") << "  "
               << std::lround(access.microseconds) << " us\n";

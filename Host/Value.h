@@ -17,16 +17,16 @@ struct Field {
     bool isSigned = false;
 };
 
-/// What a value is made of, and what stands between its fields in text. A text has no fields.
+/// The fields of a value, and the separator between them in text. A text has no fields.
 struct Shape {
     std::span<const Field> fields;
     char separator = ',';
-    bool hexadecimal = false; ///< numbers are printed so
+    bool hexadecimal = false; ///< print numbers in hexadecimal
 };
 
-/// What a camera function holds: a number, the numbers of a record in field order, or a text.
+/// The value of a camera function: a number, the numbers of a record in field order, or a text.
 struct Value {
-    std::vector<std::int64_t> numbers; ///< each within the 32 bits of its field, whichever sign that has
+    std::vector<std::int64_t> numbers; ///< each within the 32-bit range of its field
     std::string text;
 
     bool operator==(const Value&) const = default;
@@ -42,17 +42,17 @@ using Codes = std::span<const Code>;
 [[nodiscard]] Value FromMemory(const void* memory, const Shape& shape);
 void ToMemory(const Value& value, const Shape& shape, void* memory);
 
-/// "1:2000", "0,0,1279,1023", "off", or the text, escaped. What this prints, ParseValue reads.
+/// "1:2000", "0,0,1279,1023", "off", or the text, escaped. ParseValue is the inverse.
 [[nodiscard]] std::string Print(const Value& value, const Shape& shape, Codes codes = {});
 /// One number of a value, by its name if it has one.
 [[nodiscard]] std::string Print(std::int64_t number, const Shape& shape, Codes codes = {});
 
-/// Reads a value from text. Numbers are decimal or hexadecimal with 0x, codes are names or numbers, and the fields of a
-/// record stand apart by commas or colons.
-/// @return nothing if the text is no such value
+/// Parses a value. Numbers are decimal, or hexadecimal with 0x; codes are names or numbers; the fields of a record are
+/// separated by commas, colons or dots.
+/// @return nothing for an invalid value
 [[nodiscard]] std::optional<Value> ParseValue(std::string_view text, const Shape& shape, Codes codes = {});
 
-// The shape of what the interfaces pass: plain numbers, texts, records. The argument only names the type.
+// The shapes of the types in the interfaces. The argument only selects the type.
 [[nodiscard]] Shape ShapeOf(const std::int32_t* number);
 [[nodiscard]] Shape ShapeOf(const std::uint32_t* number);
 [[nodiscard]] Shape ShapeOf(const char* const* text);

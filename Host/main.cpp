@@ -9,7 +9,7 @@ namespace Host {
 
 namespace {
 
-/// The prompt and the columns go by characters, which are UTF-8 where nobody says otherwise. Numbers stay as they are.
+/// The prompt and the columns need the character set: UTF-8 by default. The number format stays "C".
 void SetLocale() {
     const char* const locale = std::setlocale(LC_CTYPE, "");
     if (locale == nullptr || std::string_view(locale) == "C") {

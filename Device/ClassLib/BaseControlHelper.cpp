@@ -9,7 +9,7 @@ namespace SDK4::Control {
 
 CPropertyParams* CBaseControlHelper::GetPropertyParamsByName(const char* name) {
     SDK4_LOG_CALL();
-    const bool logging = logger->isDebugEnabled(); // one test for a thousand lines
+    const bool logging = logger->isDebugEnabled(); // tested once for a thousand lines
     const std::string_view wanted = name == nullptr ? "" : name;
     for (CPropertyParams* property : properties) {
         if (logging) {
@@ -45,7 +45,7 @@ const char* CBaseControlHelper::GetPropertyNameByIndex(std::int32_t i) {
     return nullptr;
 }
 
-/// The property that a lookup found; a name that no property has is refused.
+/// The property that a lookup found. Throws for an unknown name.
 CPropertyParams& CBaseControlHelper::Existing(CPropertyParams* property) {
     if (property == nullptr) {
         SDK4_THROW(SDK4_ERR_ERROR);
@@ -53,7 +53,7 @@ CPropertyParams& CBaseControlHelper::Existing(CPropertyParams* property) {
     return *property;
 }
 
-/// What a flag's query answers of the property of this name, false where there is none.
+/// A flag of the property of this name, or false for an unknown name.
 bool CBaseControlHelper::Query(const char* name, bool (CPropertyParams::*query)() const) {
     const CPropertyParams* property = GetPropertyParamsByName(name);
     return property != nullptr && (property->*query)();

@@ -8,8 +8,8 @@
 
 namespace SDK4::Control {
 
-/// Gives a property-based control its table of properties and serves it to the host by name. The control that derives
-/// from it creates the properties, appends all of them while it is constructed, and deletes them.
+/// Gives the host access to the properties of a control by name. The derived control creates the properties, appends
+/// all of them in its constructor, and deletes them.
 class CBaseControlHelper : public IPropertyState {
 public:
     CBaseControlHelper() = default;
@@ -41,7 +41,7 @@ public:
     /// The first property of this name and index, or null. Index 0 also finds a property that was never indexed.
     CPropertyParams* GetPropertyParamsByName(int index, const char* name);
 
-    /// The name at a position, or null. Good until the next call.
+    /// The name at a position, or null. Valid until the next call.
     const char* GetPropertyNameByIndex(std::int32_t i);
 
 private:

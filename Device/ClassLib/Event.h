@@ -4,13 +4,13 @@
 
 namespace Utility {
 
-/// Is told of an event: who sent it, and with which argument.
+/// Handles an event.
 template <typename Argument> class IEventHandler {
 public:
     virtual void notify(void* sender, Argument argument) = 0;
 };
 
-/// Forwards an event to a member function of an object, which it does not own.
+/// Forwards an event to a member function of an object that it does not own.
 template <typename C, typename Argument> class EventHandler final : public IEventHandler<Argument> {
 public:
     using Member = void (C::*)(void* sender, Argument argument);
@@ -24,7 +24,7 @@ private:
     Member member;
 };
 
-/// An event: the handlers that are told, in the order in which they subscribed. Handlers are not owned.
+/// An event. Notifies its handlers, which it does not own, in the order of subscription.
 template <typename Argument> class CppEvent {
 public:
     void Subscribe(IEventHandler<Argument>* handler) { handlers.emplace(nextKey++, handler); }
@@ -33,7 +33,7 @@ public:
         std::erase_if(handlers, [handler](const auto& entry) { return entry.second == handler; });
     }
 
-    /// Tells every handler. A handler may subscribe and unsubscribe any handler meanwhile.
+    /// Notifies every handler. Handlers may subscribe and unsubscribe any handler meanwhile.
     void notify(void* sender, Argument argument) {
         for (auto entry = handlers.begin(); entry != handlers.end();) {
             const unsigned int key = entry->first;

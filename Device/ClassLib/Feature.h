@@ -14,8 +14,8 @@
 
 namespace SDK4 {
 
-/// The guarded face of a camera setting: conditions, named in the same list, decide whether it may be read or written.
-/// The condition lists are filled right after construction; while they are empty nothing is refused.
+/// Guards a camera setting: conditions, which are features of the same list, decide whether it can be read or written.
+/// The condition lists are filled right after construction; without conditions nothing is refused.
 template <typename T> class CBaseFeature : public IFeature, public IGetter<T>, public ISetter<T> {
 public:
     CBaseFeature(std::string featureName, CFeatureList* owner) : name(std::move(featureName)), list(owner) {}
@@ -27,11 +27,11 @@ public:
     virtual ~CBaseFeature() = default;
 
     /// Writes the setting.
-    /// @throws X4Error SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED or SDK4_ERR_CANTSETFEATURE, in this order, when the
-    ///         camera lacks it, when it is not available now, when it is locked; nothing is written then
+    /// @throws X4Error SDK4_ERR_NOT_IMPLEMENTED if the camera lacks it, SDK4_ERR_DISABLED if it is not available now,
+    ///         SDK4_ERR_CANTSETFEATURE if it is locked, checked in this order; nothing is written
     void SetValue(T value) override = 0;
 
-    /// Reads the setting. A lock does not forbid reading.
+    /// Reads the setting. A lock does not prevent reading.
     /// @throws X4Error SDK4_ERR_NOT_IMPLEMENTED or SDK4_ERR_DISABLED
     T GetValue() override = 0;
 
@@ -39,10 +39,10 @@ public:
     [[nodiscard]] bool IsAvailable() const { return list->AllHold(availableConditions); }
 
     std::string name;
-    Utility::CppEvent<unsigned int> changedEvent;   ///< fires after every write and when the register turns stale
-    std::vector<std::string> implementedConditions; ///< all must hold for the setting to exist on this camera
-    std::vector<std::string> availableConditions;   ///< all must hold for the setting to be usable now
-    std::vector<std::string> lockConditions;        ///< any that holds forbids writing
+    Utility::CppEvent<unsigned int> changedEvent;   ///< fires after every write and when the register is invalidated
+    std::vector<std::string> implementedConditions; ///< if one does not hold, the camera lacks the setting
+    std::vector<std::string> availableConditions;   ///< if one does not hold, the setting is not available now
+    std::vector<std::string> lockConditions;        ///< if one holds, writing is locked
 
 protected:
     void RequireReadable() const;
@@ -71,7 +71,7 @@ template <typename T> void CBaseFeature<T>::RequireWritable() const {
     }
 }
 
-/// A feature bound to a register, which it does not own. What the kinds below share: they differ in the value check.
+/// Base of the features below, which differ in the value check: a feature bound to a register that it does not own.
 template <typename T> class CRegisterFeature : public CBaseFeature<T> {
 public:
     ~CRegisterFeature() override { reg->Unsubscribe(&subscription); }
@@ -81,7 +81,7 @@ public:
         return reg->GetValue();
     }
 
-    /// The register's value turned stale: whoever listens to this feature hears of it.
+    /// Notifies the listeners of this feature that the register was invalidated.
     void OnRegisterInvalid(void* /*sender*/, unsigned int /*argument*/) {
         SDK4_LOG(Debug, reg->GetName());
         this->NotifyChanged();
@@ -119,7 +119,7 @@ public:
     }
 };
 
-/// A feature with an admitted range, both ends included. A value outside is clamped, written, and only then reported.
+/// A feature with a range, bounds included. A value outside is clamped and written before the error is thrown.
 template <typename T> class CIntegerFeature final : public CRegisterFeature<T> {
 public:
     CIntegerFeature(std::string featureName, CFeatureList* owner, CBaseRegister<T>* boundRegister, T minimum, T maximum)
@@ -143,7 +143,7 @@ public:
 
     T min;
     T max;
-    std::string minFeature; ///< names the feature that supplies `min` on every write, when not empty
+    std::string minFeature; ///< if not empty, the feature that supplies `min` on every write
     std::string maxFeature; ///< the same for `max`
 
 private:
@@ -157,7 +157,7 @@ private:
     }
 };
 
-/// A feature with a set of admitted values. Any other is refused, and nothing is written.
+/// A feature with a set of admitted values. Other values are refused and not written.
 template <typename T> class CEnumFeature final : public CRegisterFeature<T> {
 public:
     CEnumFeature(std::string featureName, CFeatureList* owner, CBaseRegister<T>* boundRegister)

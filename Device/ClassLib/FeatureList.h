@@ -12,26 +12,23 @@
 
 namespace SDK4 {
 
-/// A camera function, or a condition on one, as its list sees it.
+/// An entry of a feature list: a camera function, or a condition on one.
 class IFeature {
 public:
     virtual std::string GetName() = 0;
 };
 
-/// Something whose value can be read.
 template <typename T> class IGetter {
 public:
     virtual T GetValue() = 0;
 };
 
-/// Something whose value can be written.
 template <typename T> class ISetter {
 public:
     virtual void SetValue(T value) = 0;
 };
 
-/// The features of one control, by name. Owns its entries: they are made with new, and their storage goes with the
-/// list.
+/// The features of one control, by name. Owns its entries, which are made with new; see ReleaseStorage.
 class CFeatureList {
 public:
     CFeatureList();
@@ -39,34 +36,33 @@ public:
     CFeatureList(const CFeatureList&) = delete;
     CFeatureList& operator=(const CFeatureList&) = delete;
 
-    /// Enters a feature under its name. A name that is taken keeps its first feature; the list then does not own
-    /// @p entry.
+    /// Adds a feature. If its name is taken, the first feature stays, and the list does not own @p entry.
     void AddEntry(IFeature* entry);
 
-    /// The value of the feature of that name, after the feature's own checks. The type must match exactly: an int
-    /// feature is none for unsigned int.
+    /// The value of the feature of that name, after the checks of the feature. The type must match exactly: an int
+    /// feature is not found as unsigned int.
     /// @throws X4Error SDK4_ERR_INVALID_INTERFACE when no feature of that name has a value of type T
     template <typename T> T GetValue(std::string_view name) const;
 
-    /// Writes the feature of that name, after the feature's own checks; otherwise as GetValue.
+    /// Writes the feature of that name, after the checks of the feature; otherwise as GetValue.
     template <typename T> void SetValue(std::string_view name, T value) const;
 
     /// The feature of that name as an Interface, or null.
     template <typename Interface> [[nodiscard]] Interface* Find(std::string_view name) const;
 
-    /// Whether every condition holds. Conditions are asked in order until one does not; a name that is no
-    /// IGetter<bool> is passed over.
+    /// Whether every condition holds. Conditions are evaluated in order up to the first that does not. Names without an
+    /// IGetter<bool> are ignored.
     [[nodiscard]] bool AllHold(const std::vector<std::string>& conditions) const;
 
-    /// Whether any condition holds, asked in the same way until one does.
+    /// Whether any condition holds, evaluated in order up to the first that does.
     [[nodiscard]] bool AnyHolds(const std::vector<std::string>& conditions) const;
 
 private:
-    /// A feature, and what the last cast of it gave: casts across its bases cost more than all the rest of a read.
+    /// A feature, with the result of its last cast: a cross-cast costs more than the rest of a read.
     struct Entry {
         IFeature* feature;
-        const std::type_info* asked = nullptr; ///< the interface that was asked for
-        void* answer = nullptr;                ///< the feature as that interface, or null
+        const std::type_info* asked = nullptr; ///< the target of the last cast
+        void* answer = nullptr;                ///< its result, or null
     };
     mutable std::map<std::string, Entry, std::less<>> entries;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 // The bootstrap registers of the GigE Vision standard and the rules for using them that both camera families share.
-// How much an operation logs, and whether it warns, is the business of the two classes that use this.
+// Logging and warnings are left to the two classes that use this.
 
 #include <SDK4/IControlPort.h>
 
@@ -25,7 +25,7 @@ struct KIPAddress {
 namespace GigEBootstrap {
 
 // clang-format off
-/// Addresses, in bytes. Addresses of the network have their first octet in the most significant byte.
+/// Register addresses, in bytes. Network addresses have their first octet in the most significant byte.
 enum Address : std::uint32_t {
     Version           = 0x0000, ///< major version in the upper half, minor in the lower
     DeviceMacHigh     = 0x0008, ///< octets 1 and 2, in the lower half
@@ -43,7 +43,7 @@ enum Address : std::uint32_t {
     PersistentMask    = 0x065C,
     PersistentGateway = 0x066C,
     GvcpCapability    = 0x0934,
-    GvcpConfiguration = 0x0954, ///< absent on some devices, where reading it fails
+    GvcpConfiguration = 0x0954, ///< optional; reading it fails on some devices
     PacketSize        = 0x0D04, ///< stream channel 0
     PacketDelay       = 0x0D08, ///< stream channel 0
 };
@@ -55,14 +55,14 @@ enum TextLength : std::uint32_t {
     UrlLength             = 512,
 };
 
-/// How a device may come to its address.
+/// How a device gets its address.
 enum IPMode : std::uint32_t {
     PersistentIP = 1,
     DHCP         = 2,
 };
 // clang-format on
 
-/// A configuration that a device keeps when it is switched off.
+/// A configuration that is kept without power.
 struct PersistentConfig {
     std::uint32_t address;
     std::uint32_t mask;
@@ -75,14 +75,13 @@ using MacText = char[18];
 /// Reads the MAC address, the low word first, and writes its text into @p text.
 void ReadMacAddress(IControlPort* port, MacText& text);
 
-/// Writes the packet size, held to 1404..65532 and rounded down to a multiple of 4.
+/// Writes the packet size, clamped to 1404..65532 and rounded down to a multiple of 4.
 /// @return false when @p size was outside these limits; the device then holds the nearest one.
 [[nodiscard]] bool WritePacketSize(IControlPort* port, std::uint32_t size);
 
-/// Writes at most the first 15 characters of @p name, and zeros behind them.
+/// Writes at most the first 15 characters of @p name, padded with zeros.
 void WriteUserDefinedName(IControlPort* port, const char* name);
 
-/// Whether the device supports @p mode.
 [[nodiscard]] bool Supports(IControlPort* port, IPMode mode);
 
 /// Switches @p mode on or off and leaves the other modes as they are.
@@ -91,11 +90,11 @@ void Switch(IControlPort* port, IPMode mode, bool on);
 /// Switches @p mode on or off if the device supports it; otherwise does nothing.
 void SwitchIfSupported(IControlPort* port, IPMode mode, bool on);
 
-/// Parses dotted text into @p numbers and makes the address of their low bytes. A number that the text does not supply
-/// keeps what @p numbers held before.
+/// Parses dotted text into @p numbers and returns the address made of their low bytes. A number that is missing in the
+/// text keeps its value in @p numbers.
 [[nodiscard]] std::uint32_t ParseAddress(const char* text, std::array<unsigned int, 4>& numbers);
 
-/// Whether @p wanted lies in the subnet through which the device is reached now. A device is never sent out of it.
+/// Whether @p wanted is in the subnet that the device uses now. A device is never moved out of it.
 [[nodiscard]] bool InCurrentSubnet(IControlPort* port, const PersistentConfig& wanted);
 
 /// Writes the persistent address, mask and gateway, in this order.

@@ -8,7 +8,7 @@ using std::uint32_t;
 
 namespace {
 
-/// Intended: a negative base borrows one from the counter's half, where every other pair is passed on as it is.
+/// Intended: a negative base borrows one from the counter. Every other pair is passed on unchanged.
 std::uint64_t SignedSum(const SDK4_KEXPOSURE& time) {
     return (std::uint64_t{time.counter} << 32) + static_cast<std::uint64_t>(std::int64_t{time.base});
 }

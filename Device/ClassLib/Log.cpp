@@ -23,14 +23,14 @@ log4cxx::LevelPtr LevelOf(LogLevel level) {
 } // namespace
 
 LogLine::LogLine() {
-    stream.imbue(std::locale::classic()); // the host's may group digits
+    stream.imbue(std::locale::classic()); // the locale of the host may group digits
 }
 
 void LogLine::Write(LogLevel level, const Location& location) {
     using log4cxx::spi::LocationInfo;
     log4cxx::helpers::MessageBuffer message;
     logger->forcedLog(
-        LevelOf(level), message.str(message << stream.str()), // which leaves the shared stream alone
+        LevelOf(level), message.str(message << stream.str()), // does not use the shared stream
         LocationInfo(location.file, LocationInfo::calcShortFileName(location.file), location.function, location.line));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Logging and throwing. The level is tested before anything is built: with logging off a line costs one test.
-// These are macros because the location of a line is its caller's file, signature and line.
+// Logging and throwing. The level is tested before a line is formatted, so a line costs one test with logging off.
+// These are macros because a line has the file, signature and line number of its caller.
 
 #include <SDK4/X4Error.h>
 
@@ -12,20 +12,20 @@
 
 namespace SDK4 {
 
-/// The library's one logger, "SDK4QDV12Control", fetched when the library is loaded.
+/// The logger of the library, "SDK4QDV12Control", initialised when the library is loaded.
 extern const log4cxx::LoggerPtr logger;
 
 enum class LogLevel { Debug, Info, Warn, Error };
 
-/// The place in the source that a line comes from.
+/// Source location of a log line.
 struct Location {
     const char* file;
     const char* function;
     int line;
 };
 
-/// A line while it is put together, on a stream of its own: the one that log4cxx lends to all lines of a thread carries
-/// what the host left there, flags, fill, locale or half a message.
+/// A log line under construction. It has its own stream, because the host may have left flags, fill, locale or half a
+/// message in the stream that log4cxx shares between all lines of a thread.
 class LogLine {
 public:
     LogLine();
@@ -37,11 +37,11 @@ private:
     std::ostringstream stream;
 };
 
-/// Writes the line that an operation writes when it is entered, "Call", at debug level.
+/// Logs the entry of an operation, "Call", at debug level.
 void LogCall(const Location& location);
 
-/// Writes the one warning line and throws.
-/// @param text the expression that the line names
+/// Logs one warning and throws.
+/// @param text the expression in the warning
 [[noreturn]] void Throw(std::int32_t code, const char* text, const Location& location);
 
 } // namespace SDK4
@@ -58,11 +58,11 @@ void LogCall(const Location& location);
         }                                                                                                              \
     } while (false)
 
-/// The line that an operation writes when it is entered.
+/// Logs the entry of an operation.
 #define SDK4_LOG_CALL() ::SDK4::LogCall(SDK4_HERE)
 
-/// Throws X4Error with one of the SDK4_ERR codes, after the one warning line that names the code.
+/// Logs one warning with the code, then throws X4Error with it.
 #define SDK4_THROW(code) ::SDK4::Throw(code, "X4Error(" #code ")", SDK4_HERE)
 
-/// The same for the places whose line spells the namespace.
+/// The same with the namespace in the warning.
 #define SDK4_THROW_QUALIFIED(code) ::SDK4::Throw(code, "SDK4::X4Error(" #code ")", SDK4_HERE)

@@ -10,8 +10,8 @@
 
 namespace SDK4::Control {
 
-/// The registers that only the M2VX cameras have, or that they access in another way than CRT6Camera does. No state, no
-/// cache, no validation. A block that the port does not deliver throws SDK4_ERR_CANTGETFEATURE.
+/// The registers that only M2VX cameras have, or that need a different access than in CRT6Camera. No state, no cache,
+/// no validation. Throws SDK4_ERR_CANTGETFEATURE if the port returns no block.
 class CM2VXCamera : private RegisterMap {
 public:
     explicit CM2VXCamera(IControlPort* controlPort) : RegisterMap(controlPort) {}

@@ -15,7 +15,6 @@ IControlPort* Required(IControlPort* port) {
     return port;
 }
 
-/// Makes one of the objects that reach the camera.
 template <typename Object> std::unique_ptr<Object> Create(IControlPort* port) {
     std::unique_ptr<Object> object(new (std::nothrow) Object(port));
     if (object == nullptr) {
@@ -24,7 +23,7 @@ template <typename Object> std::unique_ptr<Object> Create(IControlPort* port) {
     return object;
 }
 
-/// The low nibble of the index says how the host opened the camera.
+/// Only the low nibble of the index counts.
 bool ReadsThrough(std::int32_t index) { return (index & 0xF) <= 2; }
 
 } // namespace
@@ -55,8 +54,8 @@ CM2VXBaseControl::~CM2VXBaseControl() {
     mediaType.reset();
 }
 
-/// Gives back the storage and runs no destructor: the frame owns nothing, and the interfaces by which a host knows it
-/// have none by contract.
+/// Frees the storage without a destructor: the frame owns nothing, and its public interfaces have no virtual
+/// destructor.
 void CM2VXBaseControl::StorageRelease::operator()(CQDV12VideoFrame* frame) const { ::operator delete(frame); }
 
 void CM2VXBaseControl::Release() { delete this; }

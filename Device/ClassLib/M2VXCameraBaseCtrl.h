@@ -37,9 +37,9 @@
 
 namespace SDK4::Control {
 
-/// The control of a camera of the M2VX family: one object with every interface, over one table of
-/// properties. An operation checks its property, calls the register maps and stores the result in the property, which
-/// tells the host's observer. The order of the bases is the object's layout.
+/// The control of an M2VX camera: one object with every interface and one table of properties. An operation checks its
+/// property, calls the register maps and stores the result in the property, which notifies the host's observer. The
+/// order of the bases determines the layout of the object.
 class CM2VXBaseControl final : public IDynamicObject,
                                public IControl,
                                public IStreamControl,
@@ -65,10 +65,10 @@ class CM2VXBaseControl final : public IDynamicObject,
                                public IPropertyList {
 public:
     /// @param port the host's; it outlives the control
-    /// @param index how the camera was opened: with a low nibble of 0 to 2 every getter reads the camera; above, the
-    ///              settings are read here, once, and getters answer from the properties
+    /// @param index with a low nibble of 0 to 2, every getter reads the camera; above, the constructor reads the
+    ///        settings once, and getters return the values of the properties
     /// @param id the caller's text that GetClassID returns
-    /// @throws X4Error SDK4_ERR_INVALID_PARAMETER for a null port; and what the port throws while it is read
+    /// @throws X4Error SDK4_ERR_INVALID_PARAMETER for a null port; passes on what the port throws
     CM2VXBaseControl(IControlPort* port, std::int32_t index, const char* id);
     ~CM2VXBaseControl();
 
@@ -263,12 +263,12 @@ private:
     std::unique_ptr<CBootstrap> bootstrap;
     std::unique_ptr<CGigEAcqControl> acquisition;
     std::unique_ptr<CGigEGufi> identity;
-    std::unique_ptr<CRT6Camera> common;  ///< the registers that this family shares with others
-    std::unique_ptr<CM2VXCamera> family; ///< those of its own
+    std::unique_ptr<CRT6Camera> common;  ///< registers shared with other platforms
+    std::unique_ptr<CM2VXCamera> family; ///< registers of this family
     CM2VXPropertyTable table;
     const CPropertyAccess access;
     std::unique_ptr<CQDV12VideoFrame, StorageRelease> mediaType;
-    bool running = false; ///< acquisition, as far as this control started it
+    bool running = false; ///< whether this control has started acquisition
 };
 
 } // namespace SDK4::Control

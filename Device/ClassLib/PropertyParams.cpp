@@ -70,7 +70,7 @@ template <typename T> void CPropertyParams::AdmitValue(Side<T>& side, T value) {
     if (!implemented) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
     }
-    if (!enabled) { // auto-update does not help here: the camera moves values, not what it admits
+    if (!enabled) { // even with auto-update: the camera adjusts values, not the set of admitted values
         SDK4_THROW_QUALIFIED(SDK4_ERR_DISABLED);
     }
     if (enumCount >= maxEnumValues) {
@@ -99,7 +99,7 @@ template <typename T> bool CPropertyParams::InRange(const Side<T>& side, T value
     return side.minimum <= value && value <= side.maximum;
 }
 
-/// What may be read and stored: implemented, and enabled or moved by the camera.
+/// Throws unless the property is implemented, and enabled or adjusted by the camera.
 void CPropertyParams::CheckAccess() const {
     if (!implemented) {
         SDK4_THROW_QUALIFIED(SDK4_ERR_NOT_IMPLEMENTED);
@@ -109,7 +109,7 @@ void CPropertyParams::CheckAccess() const {
     }
 }
 
-/// Tells the observer, if there is one. It may remove itself, so nothing of it is used after the call.
+/// Notifies the observer, if any. It may remove itself, so it is not used after the call.
 bool CPropertyParams::Notify(const char* attribute) const {
     if (observer.callback == nullptr) {
         return false;

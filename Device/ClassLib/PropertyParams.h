@@ -13,17 +13,17 @@
 
 namespace SDK4::Control {
 
-/// Who is told about changes, and with what.
+/// A change callback and its context.
 struct Observer {
     SDK4_CALLBACK callback = nullptr;
     void* context = nullptr;
 };
 
-/// One named camera parameter as the property-based controls mirror it: limits, default, value, whether the camera
-/// has it, whether it may be changed now. One observer is told about every change.
+/// One named camera parameter of a property-based control: limits, default, value, whether the camera has it, whether
+/// it can be changed now. One observer is notified of every change.
 ///
 /// The unsigned and the signed operations work on separate storage. The unsigned flag, set by the constructor and by
-/// every limit or default written, says which of the two is in force. A new property reads 0, whatever its default.
+/// every limit or default written, says which of the two is used. A new property has the value 0, whatever its default.
 ///
 /// Take care with literals: 5 is signed, 5u is unsigned.
 class CPropertyParams {
@@ -47,20 +47,20 @@ public:
     bool IsEnumerated() const { return enumerated; }
     bool IsUnsigned() const { return isUnsigned; }
 
-    /// A property that the camera may move on its own can be stored and read while it is disabled.
+    /// A property that the camera adjusts can be stored and read while it is disabled.
     void SetAutoUpdate(bool on) { autoUpdate = on; }
     bool GetAutoUpdate() const { return autoUpdate; }
 
-    /// There is one observer: a new one replaces the old, and removing takes away whichever there is.
+    /// There is one observer: a new one replaces the old, and RemoveCallback ignores its argument.
     void AddCallback(SDK4_CALLBACK callback, void* context) { observer = {callback, context}; }
     void RemoveCallback(SDK4_CALLBACK) { observer = {}; }
 
     bool GetEnabled() const { return enabled; }
     bool GetImplemented() const { return implemented; }
-    void SetEnabled(bool on);     ///< reports "enabled" when that changes it
-    void SetImplemented(bool on); ///< reports "implemented" when that changes it
+    void SetEnabled(bool on);     ///< reports "enabled" on a change
+    void SetImplemented(bool on); ///< reports "implemented" on a change
 
-    /// Report "minimum" or "maximum" when that changes it, then move the value inside the limit without a report.
+    /// Report "minimum" or "maximum" on a change, then clamp the value to the limit without a report.
     void SetMin(std::uint32_t minimum);
     void SetMin(std::int32_t minimum);
     void SetMax(std::uint32_t maximum);
@@ -68,7 +68,7 @@ public:
     void SetDefault(std::uint32_t defaultValue);
     void SetDefault(std::int32_t defaultValue);
 
-    /// The limits; of an enumerated property the smallest and the largest admitted value.
+    /// The limits, or the smallest and the largest value of an enumerated property.
     std::uint32_t GetUIntMin() const;
     std::uint32_t GetUIntMax() const;
     std::int32_t GetIntMin() const;
@@ -79,9 +79,9 @@ public:
     bool IsValueInRange(std::uint32_t value) const;
     bool IsValueInRange(std::int32_t value) const;
 
-    /// Store the value, in range or not: that is the caller's to test. Report "value" when that changes it.
-    /// Throw SDK4_ERR_NOT_IMPLEMENTED, or SDK4_ERR_DISABLED unless enabled or auto-update is set.
-    /// @return whether an observer was told: false for a changed value, too, when there is none
+    /// Store the value without a range check, which is up to the caller. Report "value" on a change. Throw
+    /// SDK4_ERR_NOT_IMPLEMENTED, or SDK4_ERR_DISABLED unless enabled or auto-update is set.
+    /// @return whether an observer was notified; false also for a changed value without an observer
     bool SetValue(std::uint32_t value);
     bool SetValue(std::int32_t value);
 
@@ -89,16 +89,16 @@ public:
     std::uint32_t GetUIntValue() const;
     std::int32_t GetIntValue() const;
 
-    /// The unsigned value, also of a property that may not be read now: for the control itself.
+    /// The unsigned value, even if the property is disabled. For the control itself.
     std::uint32_t StoredUIntValue() const { return unsignedSide.value; }
 
-    /// Admit one more value and no others than those admitted so.
-    /// Throw SDK4_ERR_NOT_IMPLEMENTED, SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after maxEnumValues.
+    /// Add an admitted value. The property is enumerated from then on. Throw SDK4_ERR_NOT_IMPLEMENTED,
+    /// SDK4_ERR_DISABLED unless enabled, SDK4_ERR_OUTOFRANGE after maxEnumValues.
     void SetEnumValue(std::uint32_t value);
     void SetEnumValue(std::int32_t value);
 
 private:
-    /// What exists once unsigned and once signed.
+    /// The part of a property that exists both unsigned and signed.
     template <typename T> struct Side {
         T minimum = 0;
         T maximum = 0;
@@ -145,15 +145,15 @@ using _Sdk4_4UInts = UIntRecord<4>;
 using _Sdk4_5UInts = UIntRecord<5>;
 // NOLINTEND(bugprone-reserved-identifier)
 
-/// T once for every number of a pack: typename Each<T, I>::Type... is a plain parameter list. An alias template would
-/// be the same signature for every T with GCC.
+/// T once for every number of a pack: typename Each<T, I>::Type... is a plain parameter list. With an alias template,
+/// GCC takes the overloads for every T as the same signature.
 template <typename T, std::size_t> struct Each { using Type = T; };
 
 template <std::size_t N, typename = std::make_index_sequence<N>, typename = std::make_index_sequence<3 * N>>
 class CompoundParams;
 
 /// N scalar properties that are read and written together as one record of N words, first sub-property first. Word i is
-/// signed or unsigned as sub-property i is. Only the sub-properties carry names, "position.xpos", and only they report.
+/// signed or unsigned as sub-property i is. Only the sub-properties have names ("position.xpos") and report changes.
 ///
 /// I counts the sub-properties, J their limits.
 template <std::size_t N, std::size_t... I, std::size_t... J>
@@ -181,7 +181,7 @@ public:
                    typename Each<std::int32_t, J>::Type... limits)
         : CompoundParams(std::array<std::int32_t, 3 * N>{limits...}, name, subNames...) {}
 
-    /// The sub-property itself, for the list of properties and for what only one of them has. Owned by this object.
+    /// The sub-property itself. Owned by this object.
     CPropertyParams* GetSubProperty(std::size_t i) { return &subs[i]; }
 
     void SetMin(typename Each<std::uint32_t, I>::Type... minimum) { (subs[I].SetMin(minimum), ...); }
@@ -212,9 +212,9 @@ public:
         return (InRange(subs[I], words[I]) && ...);
     }
 
-    /// Stores every word, also behind one that changed nothing. What a sub-property throws leaves those before it
-    /// stored. Throws SDK4_ERR_NOT_IMPLEMENTED. The enabled flag that counts is each sub-property's own.
-    /// @return whether an observer was told of any change
+    /// Stores every word. If a sub-property throws, those before it stay stored. Throws SDK4_ERR_NOT_IMPLEMENTED. Each
+    /// sub-property checks its own enabled flag.
+    /// @return whether an observer was notified of any change
     bool SetValue(const void* record) {
         CheckImplemented();
         const Words words = WordsOf(record);
@@ -223,7 +223,7 @@ public:
         return told;
     }
 
-    /// Fills the record once every sub-property could be read. Throws as SetValue does.
+    /// Fills the record if every sub-property can be read. Throws as SetValue does.
     void GetValue(void* record) const {
         CheckImplemented();
         const Words words = {Load(subs[I])...};

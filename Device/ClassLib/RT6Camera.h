@@ -11,8 +11,8 @@
 namespace SDK4::Control {
 
 /// The registers that the platforms of the property-based controls share, one method per camera function. No state, no
-/// cache, no validation: ranges and availability are the control's. A block that the port does not deliver throws
-/// SDK4_ERR_CANTGETFEATURE; the index has been written by then.
+/// cache, no validation: the control checks ranges and availability. Throws SDK4_ERR_CANTGETFEATURE if the port returns
+/// no block; the index has then been written.
 class CRT6Camera : private RegisterMap {
 public:
     explicit CRT6Camera(IControlPort* controlPort) : RegisterMap(controlPort) {}
@@ -94,7 +94,7 @@ public:
     std::uint32_t GetStartupSettings();
     void SetStartupSettings(std::uint32_t set);
     std::uint32_t GetOperationMode();
-    void SetUpdateFile(void* data, std::uint32_t length); ///< the whole image; the port does the chunking
+    void SetUpdateFile(void* data, std::uint32_t length); ///< the whole image; the port splits it
     std::uint64_t GetUpdateStatus();
 
     std::uint32_t GetPatternGenerator();

@@ -6,7 +6,8 @@ namespace SDK4 {
 
 namespace {
 
-/// Returns whether that changed the field. If the minimum is above the maximum, it can be raised and lowered back.
+/// Returns whether the field changed. With a minimum above the maximum, it may be raised and then lowered to its old
+/// value.
 bool ClampField(std::uint32_t& field, std::uint32_t min, std::uint32_t max) {
     const std::uint32_t before = field;
     Clamp(field, min, max);

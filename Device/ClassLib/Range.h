@@ -4,9 +4,8 @@
 
 namespace SDK4 {
 
-/// Brings one number between its bounds, the minimum first and the maximum last, so that a camera that reports a
-/// minimum above its maximum still gets a defined value. Returns whether the number was outside, which it always is
-/// then.
+/// Clamps a number to the minimum first and the maximum last, so the result is defined even if a camera reports a
+/// minimum above its maximum; the number then always counts as outside. Returns whether it was outside.
 template <typename Number> bool Clamp(Number& value, Number min, Number max) {
     const bool below = value < min;
     if (below) {
@@ -19,8 +18,8 @@ template <typename Number> bool Clamp(Number& value, Number min, Number max) {
     return below || above;
 }
 
-/// Range<T>::Check brings a value into [min, max]. Returns of a number whether it was outside; of a record, which is
-/// checked field by field, whether any field changed.
+/// Range<T>::Check clamps a value to [min, max]. For a number, returns whether it was outside; for a record, which is
+/// clamped field by field, whether any field changed.
 template <typename T> class Range {
 public:
     static bool Check(T& value, T min, T max) { return Clamp(value, min, max); }

@@ -4,8 +4,8 @@
 
 namespace SDK4 {
 
-/// Stands in for the port that a host did not hand over: every access throws SDK4_ERR_INVALID_PARAMETER. A control can
-/// be built on it, and its first access to the camera is refused.
+/// Replaces a null port: every access throws SDK4_ERR_INVALID_PARAMETER. A control can be created on it, and its first
+/// access fails.
 class RefusingPort final : public IControlPort {
 public:
     static IControlPort* Instance();

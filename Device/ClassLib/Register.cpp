@@ -23,7 +23,7 @@ void CRegisterBase::Invalidate() {
         SDK4_LOG(Info, "Invalidate: " << name);
         MarkInvalid();
     }
-    // Also when it was stale already: what depends on it may have been read meanwhile.
+    // Even if it was already invalid: its dependants may have been read meanwhile.
     list->DoInvalidate(name);
 }
 

@@ -15,7 +15,7 @@
 
 namespace SDK4 {
 
-/// What a register is apart from its value: name, address, caching, and who makes it stale.
+/// The part of a register that does not depend on its type: name, address, caching, invalidators.
 class CRegisterBase : public IRegister {
 public:
     void Invalidate() override;
@@ -29,12 +29,12 @@ public:
     CRegisterBase(const CRegisterBase&) = delete;
     CRegisterBase& operator=(const CRegisterBase&) = delete;
 
-    /// Has @p handler told when the cached value turns stale. The sender of the event is this register.
+    /// Notifies @p handler when the cached value is invalidated. The sender of the event is this register.
     void Subscribe(Utility::IEventHandler<unsigned int>* handler) { invalidatedEvent.Subscribe(handler); }
     void Unsubscribe(Utility::IEventHandler<unsigned int>* handler) { invalidatedEvent.Unsubscribe(handler); }
 
 protected:
-    /// Enters the register into @p owner, which owns it from then on.
+    /// Adds the register to @p owner, which owns it.
     CRegisterBase(std::string registerName, CRegisterList* owner, IControlPort* controlPort,
                   std::uint64_t cameraAddress, EnumCacheMode mode);
 
@@ -54,10 +54,10 @@ protected:
 /// A register with a value of type T.
 template <typename T> class CBaseRegister : public CRegisterBase {
 public:
-    /// Writes the camera, then the cache, and makes every dependant stale.
+    /// Writes the camera, then the cache, and invalidates every dependant.
     virtual void SetValue(T value) = 0;
 
-    /// The value, from the camera or from the cache as the cache mode says.
+    /// The value, from the camera or from the cache, depending on the cache mode.
     virtual T GetValue() = 0;
 
 protected:
@@ -109,7 +109,7 @@ template <typename T, typename I> void CRegister<T, I>::SetValue(T value) {
     case CacheWriteInvalidates:
         this->MarkInvalid();
         break;
-    default: // the camera has the value by now; the dependants are not told
+    default: // the camera has the value; the dependants are not invalidated
         SDK4_THROW(SDK4_ERR_CANTSETFEATURE);
     }
     this->list->DoInvalidate(this->name);
@@ -118,7 +118,7 @@ template <typename T, typename I> void CRegister<T, I>::SetValue(T value) {
 template <typename T, typename I> T CRegister<T, I>::GetValue() {
     SDK4_LOG_CALL();
     switch (this->cacheMode) {
-    case CacheNone: // leaves `invalid` alone: what is read now is never served later
+    case CacheNone: // leaves `invalid` unchanged: this value is never returned from the cache
         this->cache = transfer.Read(*this->port, this->PortAddress());
         return this->cache;
     case CacheNormal:

@@ -1,6 +1,6 @@
 #pragma once
 
-// The ways in which values travel between the library and the cameras' own registers.
+// How values are transferred to and from the vendor registers.
 
 #include "Log.h"
 #include "RegisterMap.h"
@@ -16,10 +16,10 @@
 
 namespace SDK4::Control {
 
-static_assert(std::endian::native == std::endian::little, "records travel in memory order as words and register pairs");
+static_assert(std::endian::native == std::endian::little, "records are transferred in memory order");
 
-/// Reads and writes registers through the host's port. T is what the value is at the interface: a number, an
-/// enumeration or a record.
+/// Reads and writes registers through the host's port. T is the type in the interface: a number, an enumeration or a
+/// record.
 class RegisterAccess {
 public:
     using Address = RegisterMap::Address;
@@ -36,7 +36,7 @@ public:
         port->WriteRegister(Number(address), static_cast<std::uint32_t>(value));
     }
 
-    // Records of two words in one register pair, first field in the lower half; also the pair as one number.
+    // Records of two words in one register pair, first field in the lower half. T may also be a 64-bit number.
 
     template <typename T> [[nodiscard]] T Pair(Address address) const {
         return std::bit_cast<T>(port->ReadRegisterPair(Number(address)));
@@ -46,8 +46,8 @@ public:
         port->WriteRegisterPair(Number(address), std::bit_cast<std::uint64_t>(record));
     }
 
-    // Indexed words: one register stands for several values. Index and value are the halves of a pair, and a read is
-    // preceded by a write of the index alone.
+    // Indexed words: one register for several values. Index and value are the halves of a pair. A read first writes the
+    // index.
 
     template <typename T = std::uint32_t> [[nodiscard]] T Indexed(Address address, std::uint32_t index) const {
         port->WriteRegister(Number(address), index);
@@ -58,9 +58,9 @@ public:
         port->WriteRegisterPair(Number(address), std::uint64_t{static_cast<std::uint32_t>(value)} << 32 | index);
     }
 
-    // Blocks: a record of more than two words, or one behind the key that selects it.
+    // Blocks: a record of more than two words, or one after the key that selects it.
 
-    /// Reads a block that holds a record behind @p skip bytes. Throws SDK4_ERR_CANTGETFEATURE when the port has none.
+    /// Reads a block that holds a record after @p skip bytes. Throws SDK4_ERR_CANTGETFEATURE if the port returns null.
     template <typename T> [[nodiscard]] T Block(Address address, std::size_t skip = 0) const {
         const auto length = static_cast<std::uint32_t>(skip + sizeof(T));
         const std::unique_ptr<unsigned char, Free> block(port->ReadBlock(Number(address), length));
@@ -76,16 +76,16 @@ public:
         port->WriteBlock(Number(address), reinterpret_cast<const unsigned char*>(&record), sizeof record);
     }
 
-    /// Reads the record of an index, written ahead as a plain word.
+    /// Writes the index as a plain word, then reads its record.
     template <typename T> [[nodiscard]] T Record(Address address, std::uint32_t index) const {
         port->WriteRegister(Number(address), index);
         return Block<T>(address, sizeof index);
     }
 
-    /// Reads the record of a selection of two words, written ahead as a pair.
+    /// Writes a selection of two words as a pair, then reads its record.
     template <typename T, typename Select> [[nodiscard]] T Selected(Address address, const Select& select) const {
-        // Intended: the camera takes the first word in the upper half here, exchanged against its place in memory and
-        // against its place in the block that is written.
+        // Intended: here the camera takes the first word in the upper half, unlike in memory and in the block of
+        // SetRecord.
         port->WriteRegisterPair(Number(address), std::rotl(std::bit_cast<std::uint64_t>(select), 32));
         return Block<T>(address, sizeof select);
     }
@@ -104,7 +104,7 @@ public:
         return text == nullptr ? nullptr : text + sizeof(std::uint32_t);
     }
 
-    /// Writes bytes of any number; the port does the chunking.
+    /// Writes any number of bytes; the port splits them.
     void SetBytes(Address address, void* data, std::uint64_t count) const {
         port->WriteMem(Number(address), static_cast<std::uint8_t*>(data), &count);
     }

@@ -9,11 +9,12 @@
 
 namespace SDK4 {
 
-/// Who depends on a name, in name order, so that a cascade does not look through every register of the list.
+/// The dependants of each name, in name order, so that a cascade need not search every register.
 struct CRegisterList::Index {
     std::unordered_map<std::string, std::vector<IRegister*>> dependants;
 
-    /// Only registers of our own kind report a new invalidator; with any other in the list every walk asks them all.
+    /// Only a CRegisterBase reports new invalidators. With any other entry in the list, every walk searches all of
+    /// them.
     bool complete = true;
 };
 
@@ -41,7 +42,7 @@ void CRegisterList::DoInvalidate(const std::string& name) {
     if (!index) {
         index = BuildIndex();
     }
-    const std::shared_ptr<const Index> current = index; // held for the walk, which may make it stale
+    const std::shared_ptr<const Index> current = index; // kept during the walk, which may reset `index`
     if (!current->complete) {
         Walk(name, entries.begin());
         return;

@@ -12,12 +12,12 @@ namespace SDK4::Control {
 
 class RegisterAccess;
 
-/// What the register maps share: the host's port, and the addresses of the cameras' own registers, of all platforms
-/// that the property-based controls drive. Some addresses hold the same function on every platform and are accessed in
-/// another way on each; the classes that access them say how.
+/// Base of the register maps: the host's port, and the addresses of the vendor registers of all platforms with
+/// property-based controls. Some registers have the same function on every platform but a different access; the derived
+/// classes define it.
 ///
-/// The addresses stand in the class so that its methods name them without more. A register with the name of a method is
-/// qualified: Address::Restart.
+/// The addresses are in the class so that its methods need no qualifier. A register with the name of a method needs
+/// one: Address::Restart.
 class RegisterMap {
 public:
     // clang-format off
@@ -157,10 +157,9 @@ protected:
 
     // Defined in RegisterAccess.h.
 
-    /// The way to the registers.
     [[nodiscard]] RegisterAccess Access() const;
 
-    /// The same, after the line that an operation writes when it is entered.
+    /// Access to the registers, after logging the entry of an operation.
     /// @param location SDK4_HERE in the operation itself
     [[nodiscard]] RegisterAccess Call(const Location& location) const;
 

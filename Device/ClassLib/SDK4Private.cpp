@@ -38,7 +38,7 @@ CBootstrap::CBootstrap(IControlPort* controlPort) : port(controlPort) {
     std::optional<uint32_t> configuration;
     try {
         configuration = port->ReadRegister(bootstrap::GvcpConfiguration);
-    } catch (...) { // some devices lack this register; they are driven all the same
+    } catch (...) { // optional register
     }
     if (configuration) {
         SDK4_LOG(Info, "GVCP Configuration  : 0x" << std::hex << *configuration);
@@ -98,7 +98,7 @@ void CBootstrap::EnablePersistentIP(const char* ip, const char* mask, const char
     if (!bootstrap::Supports(port, bootstrap::PersistentIP)) {
         return;
     }
-    // The numbers survive from text to text: one that a text does not supply is that of the text before.
+    // The numbers are reused: a number that is missing in a text keeps the value from the text before.
     std::array<unsigned int, 4> numbers{};
     const uint32_t newAddress = bootstrap::ParseAddress(ip, numbers);
     const uint32_t newMask = bootstrap::ParseAddress(mask, numbers);
@@ -141,7 +141,7 @@ uint32_t    CGigEAcqControl::GetHeight()          { return Call(SDK4_HERE).Word(
 
 void CGigEAcqControl::SetAcquisitionMode(uint32_t mode) { SDK4_LOG(Debug, "Call(" << mode << ")"); Access().SetWord(AcquisitionMode, mode); }
 void CGigEAcqControl::StartAcquisition()                { SDK4_LOG(Info, "Call"); Access().SetWord(AcquisitionStart, 1u); }
-// Intended: stopping is the write as such, of 0 to a register of its own.
+// Intended: the write itself is the command. Stop has its own register and takes 0.
 void CGigEAcqControl::StopAcquisition()                 { SDK4_LOG(Info, "Call"); Access().SetWord(AcquisitionStop, 0u); }
 
 SDK4_AFE_PARAM CAFE::GetAFE(SDK4_AFE_SELECT select)                       { return Call(SDK4_HERE).Selected<SDK4_AFE_PARAM>(AFE, select); }

@@ -16,8 +16,8 @@
 
 namespace SDK4::Control {
 
-// The texts that the getters of CBootstrap hand out, one of each for the whole process: good until the next call of
-// the same getter on any object. NOLINTBEGIN(readability-identifier-naming): as the getters
+// The texts returned by the getters of CBootstrap, one of each per process: valid until the next call of the same
+// getter on any object. NOLINTBEGIN(readability-identifier-naming): as the getters
 extern std::string CurrentIPAddress;
 extern std::string CurrentSubnetmask;
 extern std::string CurrentDefaultGateway;
@@ -40,8 +40,8 @@ public:
 };
 
 /// Network configuration, in the bootstrap registers of the GigE Vision standard. The constructor reads the network
-/// state, whatever the log level, and logs it; what the port throws there passes on, except for the GVCP
-/// configuration, which some devices lack.
+/// state, whatever the log level, and logs it. It passes exceptions of the port on, except for the GVCP configuration
+/// register, which is optional.
 class CBootstrap final : public IGigECamera {
 public:
     explicit CBootstrap(IControlPort* controlPort);
@@ -69,7 +69,7 @@ private:
     IControlPort* port;
 };
 
-/// Who the camera is. The texts are the port's own.
+/// Identity of the camera. The texts are the port's.
 class CGigEGufi final : public IGufi, private RegisterMap {
 public:
     explicit CGigEGufi(IControlPort* controlPort) : RegisterMap(controlPort) {}

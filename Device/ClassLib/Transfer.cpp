@@ -32,7 +32,7 @@ std::string Transfer<std::string, void>::Read(IControlPort& port, std::uint32_t 
         return {};
     }
     length = delivered;
-    [[maybe_unused]] const IntentionalLeak cache; // of a list entry, see ReleaseStorage.h
+    [[maybe_unused]] const IntentionalLeak cache; // owned by a list entry, see ReleaseStorage.h
     return Trimmed({block.begin() + leadingWord, block.begin() + length});
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 struct PixelFormat {
     int colorCoding;
-    std::uint32_t code; ///< of the GigE Vision standard; bit 31 marks a format of the device's own
+    std::uint32_t code; ///< of the GigE Vision standard; bit 31 marks a device-specific format
 };
 
 // clang-format off

@@ -6,10 +6,10 @@
 
 namespace SDK4 {
 
-/// The video frames of a control, answered through the control's own interfaces each time they are asked for.
+/// The video frames of a control. Every call goes to the interfaces of the control.
 class CQDV12VideoFrame final : public IVideoFrame {
 public:
-    /// @param controlTiming may be null: a control without timing has no frame duration
+    /// @param controlTiming null for a control without timing
     /// @param controlFormat must not be null
     CQDV12VideoFrame(Control::ITiming* controlTiming, Control::ISignalFormat* controlFormat)
         : timing(controlTiming),

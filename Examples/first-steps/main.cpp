@@ -135,7 +135,7 @@ void Run() {
     }
     auto* const create = reinterpret_cast<CreateObject*>(dlsym(library.get(), "CreateObject"));
 
-    // A port outlives its camera, and a camera goes before the library does.
+    // The library and the port must outlive the camera.
     BytePort orvikPort;
     const Camera orvik = Open(create, "Orvik-710M", orvikPort, 0); // index 0: cached in this family
     RefuseAndRecover(*orvik);

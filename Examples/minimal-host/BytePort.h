@@ -8,7 +8,7 @@
 #include <map>
 #include <string>
 
-/// A camera that is nothing but bytes: what was never written reads as zero. Prints what is written to it.
+/// A camera that only stores bytes, zero by default. Prints what is written to it.
 class BytePort final : public SDK4::IControlPort {
     using Address = std::uint32_t;
     using Byte = std::uint8_t;
@@ -30,7 +30,7 @@ public:
     void ReadMem(Address at, Byte* data, std::uint64_t* length) override { Read(at, data, *length); }
     void WriteMem(Address at, Byte* data, std::uint64_t* length) override { Write(at, data, *length); }
 
-    unsigned int accesses = 0; ///< how many there were
+    unsigned int accesses = 0; ///< number of accesses
 
 private:
     void* Read(Address at, void* data, std::uint64_t length) {
@@ -53,5 +53,5 @@ private:
     std::map<Address, Byte> bytes;
     std::uint32_t word = 0;
     std::uint64_t pair = 0;
-    std::string text; ///< what ReadString handed out last
+    std::string text; ///< last result of ReadString
 };

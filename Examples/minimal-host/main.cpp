@@ -9,7 +9,7 @@
 #include <log4cxx/logger.h>
 
 int main() {
-    // The plug-in takes log4cxx from its host, which decides what is logged.
+    // The host provides log4cxx and sets the log level.
     log4cxx::Logger::getRootLogger()->setLevel(log4cxx::Level::getOff());
     void* const library = dlopen(QDV12_PLUGIN, RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) {

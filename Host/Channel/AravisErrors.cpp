@@ -11,7 +11,7 @@ std::string Reason(const GError& error) {
         int code;
         const char* words;
     };
-    // The statuses of the standard that Aravis tells apart, then its own.
+    // The statuses of the standard that Aravis distinguishes, then its own.
     static constexpr Status statuses[] = {
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, "the camera does not implement the command (0x8001)"},
         {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER, "invalid parameter (0x8002)"},

@@ -2,15 +2,14 @@
 
 #include <string>
 
-struct _GError; // GLib's own name for what its headers would declare
+struct _GError; // declared here to keep GLib headers out
 
 namespace Host {
 
-/// What went wrong, in words of one line: of a status that the camera answered with its number, "the camera is busy
-/// (0x8007)".
+/// The reason in one line, with the status of the camera: "the camera is busy (0x8007)".
 [[nodiscard]] std::string Reason(const _GError& error);
 
-/// Drops what Aravis and GLib print on standard error beside the errors that they return.
+/// Suppresses the messages of Aravis and GLib on standard error.
 void SilenceAravis();
 
 } // namespace Host

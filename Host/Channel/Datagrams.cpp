@@ -19,8 +19,8 @@ namespace Host {
 
 namespace {
 
-constexpr int timeout = 300; ///< milliseconds to wait for an answer ...
-constexpr int attempts = 4;  ///< ... as often as this
+constexpr int timeout = 300; ///< milliseconds to wait for an answer
+constexpr int attempts = 4;  ///< requests sent before giving up
 
 /// A socket for datagrams to the control port of one camera.
 class Socket {
@@ -47,9 +47,9 @@ public:
         return Common::PrintAddress(ntohl(local.sin_addr.s_addr));
     }
     void Send(const std::vector<std::uint8_t>& datagram) const {
-        static_cast<void>(send(handle, datagram.data(), datagram.size(), 0)); // it may get lost as well later
+        static_cast<void>(send(handle, datagram.data(), datagram.size(), 0)); // a failure counts as a lost packet
     }
-    /// @return nothing if none comes in time
+    /// @return empty after the timeout
     [[nodiscard]] std::vector<std::uint8_t> Receive() const {
         pollfd waiting{handle, POLLIN, 0};
         if (poll(&waiting, 1, timeout) != 1) {
@@ -83,7 +83,7 @@ std::optional<std::string> ReadTextWithoutControl(const std::string& camera, std
     Gvcp::Put32(place, memory);
     Gvcp::Put32(place, length);
     const Gvcp::Bytes request = Gvcp::MakeRequest(Gvcp::Command::ReadMemory, 1, place);
-    // Of the acknowledge, the header is known; then come the address again, and what it holds.
+    // The header of the acknowledge is known. The address and the data follow.
     const Gvcp::Bytes expected =
         Gvcp::Acknowledge(*Gvcp::Parse(request), Gvcp::Status::Success, Gvcp::Bytes(sizeof memory + length));
     const Socket socket(camera);

@@ -4,7 +4,7 @@ namespace Host {
 
 namespace {
 
-volatile std::sig_atomic_t due = 0; ///< the signal that came
+volatile std::sig_atomic_t due = 0; ///< the pending signal
 
 } // namespace
 
@@ -12,10 +12,10 @@ DeferredTermination::DeferredTermination() {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
         struct sigaction action {};
         sigaction(signal, nullptr, &action);
-        if (action.sa_handler == SIG_DFL) { // what is ignored stays so
+        if (action.sa_handler == SIG_DFL) { // ignored signals stay ignored
             before[signal] = action;
             action.sa_handler = [](int which) { due = which; };
-            action.sa_flags = static_cast<int>(SA_RESETHAND); // no SA_RESTART: the waiting for a line ends
+            action.sa_flags = static_cast<int>(SA_RESETHAND); // no SA_RESTART: interrupts the wait for a line
             sigaction(signal, &action, nullptr);
         }
     }

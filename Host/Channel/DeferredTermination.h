@@ -5,9 +5,9 @@
 
 namespace Host {
 
-/// While one lives, a signal that would end this program does so only when this object ends, so that the control of a
-/// camera is given back before; of a program that dies with it, it is held until the heartbeat times out. A second one
-/// ends the program at once. Who handles signals meanwhile (Interrupts) handles them instead.
+/// Defers signals that would end this program until the object is destroyed, so that control of the camera is released
+/// first; otherwise the camera stays locked until the heartbeat times out. A second signal ends the program at once. An
+/// Interrupts object takes precedence.
 class DeferredTermination {
 public:
     DeferredTermination();
@@ -15,7 +15,7 @@ public:
     DeferredTermination(const DeferredTermination&) = delete;
     DeferredTermination& operator=(const DeferredTermination&) = delete;
 
-    /// Whether this program is to end.
+    /// Whether a signal is pending.
     [[nodiscard]] static bool IsDue();
 
 private:

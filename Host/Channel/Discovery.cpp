@@ -13,12 +13,12 @@ namespace {
 
 std::string Text(const char* text) { return text == nullptr ? "" : text; }
 
-/// Aravis does not tell it.
+/// Not available from Aravis.
 std::string UserNameOf(const std::string& address) {
     try {
         using namespace Common::Bootstrap;
         return ReadTextWithoutControl(address, userDefinedName, userDefinedNameLength).value_or("");
-    } catch (const OpenError&) { // the camera stands in another subnet, and cannot be asked
+    } catch (const OpenError&) { // the camera is in another subnet
         return "";
     }
 }

@@ -11,10 +11,10 @@ struct FoundCamera {
     std::string mac;
     std::string model;
     std::string serial;
-    std::string userName; ///< empty also if it cannot be read
+    std::string userName; ///< empty if it cannot be read
 };
 
-/// Asks on every network of this machine which GigE Vision cameras there are. Takes control of none.
+/// Discovers the GigE Vision cameras on every network of this machine. Takes control of none.
 /// @throws OpenError if this program was built without Aravis
 [[nodiscard]] std::vector<FoundCamera> DiscoverCameras();
 

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] std::string ModelName() override { return port.ModelName(); }
     [[nodiscard]] SDK4::IControlPort& Port() override { return port; }
     [[nodiscard]] std::string Describe() const override { return port.Name(); }
-    /// Also after a signal: what is put back then needs its time as well.
+    /// Not cut short by a signal: settings that are restored then need the time too.
     void Wait(std::chrono::microseconds time) override { std::this_thread::sleep_for(time); }
     void TimePassed(std::chrono::microseconds /*time*/) override {}
     [[nodiscard]] bool HasControl() const override { return port.HasControl(); }
@@ -37,10 +37,10 @@ public:
             throw;
         }
     }
-    void SaveState() const override {} // the camera keeps itself
+    void SaveState() const override {} // a real camera keeps its state
 
 private:
-    DeferredTermination end; // before the port, which gives control back
+    DeferredTermination end; // before the port, which releases control
     GigEPort port;
 };
 

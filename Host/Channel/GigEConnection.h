@@ -10,7 +10,7 @@ namespace Host {
 /// A camera on the network.
 class NetworkConnection : public Connection {
 public:
-    /// What the camera calls itself. @throws ChannelError
+    /// The model name that the camera reports. @throws ChannelError
     [[nodiscard]] virtual std::string ModelName() = 0;
 };
 

@@ -25,13 +25,13 @@ using Common::Gvcp::wordSize;
 
 namespace {
 
-constexpr std::uint64_t largestTransfer = 512; ///< that a packet of the control channel surely carries
+constexpr std::uint64_t largestTransfer = 512; ///< fits into every packet of the control channel
 
-constexpr int busyAttempts = 6;                    ///< of an access ...
-constexpr std::chrono::milliseconds busyPause{20}; ///< ... and the time between them
+constexpr int busyAttempts = 6;                    ///< attempts of an access
+constexpr std::chrono::milliseconds busyPause{20}; ///< time between attempts
 
-// What the plug-in reads from a block or a text as well: words lie in memory as the camera has them.
-static_assert(std::endian::native == std::endian::little, "cameras have the low byte of a number first");
+// Words of register pairs, blocks and texts stay in the byte order of the camera.
+static_assert(std::endian::native == std::endian::little, "cameras are little-endian");
 
 struct Unref {
     void operator()(void* object) const { g_object_unref(object); }
@@ -45,8 +45,8 @@ using Error = std::unique_ptr<GError, FreeError>;
 
 bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_DEVICE_ERROR && error.code == code; }
 
-/// Makes an access, again and again for a while as long as the camera is busy.
-/// @return how it failed, or nothing
+/// Makes an access, and retries while the camera is busy.
+/// @return the error, or nothing
 Error Try(const std::function<bool(GError**)>& access) {
     for (int attempt = 1;; ++attempt) {
         GError* failure = nullptr;
@@ -72,7 +72,7 @@ ArvDevice* Open(const std::string& address) {
             return opened;
         }
         const Error error(failure);
-        // Of a camera that was busy just then, the description may be missing; Aravis opens none without.
+        // If the camera was busy, the description may be missing, and Aravis does not open a camera without it.
         const bool mayBeBusy = error && (Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY) ||
                                          Is(*error, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND));
         if (attempt == busyAttempts || !mayBeBusy) {
@@ -92,11 +92,11 @@ GigEPort::GigEPort(const std::string& address) : camera("the camera at " + addre
                      G_CALLBACK(+[](ArvDevice*, std::atomic<bool>* flag) { *flag = true; }), &controlLost);
     controls = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
     controller = ReadController();
-    TryToTakeControl(); // Aravis asked once, when the camera may have been busy
+    TryToTakeControl(); // Aravis tried only once, and the camera may have been busy
 }
 
-/// Aravis gives control back as well, but takes a busy camera's word for it; control would stay taken until the
-/// heartbeat times out.
+/// Aravis releases control too, but does not retry if the camera is busy, and control would be held until the heartbeat
+/// times out.
 GigEPort::~GigEPort() {
     if (controls && (lost == Lost::No || lost == Lost::Ending)) {
         static_cast<void>(Try(
@@ -125,7 +125,7 @@ std::string GigEPort::DescribeController() const {
 }
 
 void GigEPort::RequireUnbrokenControl() {
-    if (controls && lost == Lost::No && IsLost()) { // a loss that was found before has been told
+    if (controls && lost == Lost::No && IsLost()) { // an earlier loss has been reported
         FailAsLost({"ReadRegister", controlChannelPrivilege, false});
     }
 }
@@ -135,8 +135,7 @@ void GigEPort::FailAsLost(const Operation& operation) const {
         throw Ending(operation.name, operation.address, "the program is terminating");
     }
     throw ChannelLost(operation.name, operation.address,
-                      lost == Lost::Control ? "control of " + camera + " was lost"
-                                            : camera + " no longer answers");
+                      lost == Lost::Control ? "control of " + camera + " was lost" : camera + " no longer answers");
 }
 
 void GigEPort::Fail(const Operation& operation, const GError& error) {
@@ -144,7 +143,7 @@ void GigEPort::Fail(const Operation& operation, const GError& error) {
         lost = Lost::Silent;
         FailAsLost(operation);
     }
-    // A camera may deny a write for reasons of its own, too.
+    // A camera may also deny a write while control is held.
     if (operation.writes && Is(error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED) && IsLost()) {
         FailAsLost(operation);
     }
@@ -235,7 +234,7 @@ void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::
                            std::to_string(length) + " bytes: writes must be whole words at multiples of 4");
     }
     RequireAddresses(operation, length);
-    std::array<std::uint8_t, largestTransfer> piece{}; // since Aravis wants to be given what it may write to
+    std::array<std::uint8_t, largestTransfer> piece{}; // Aravis takes a non-const buffer
     for (std::uint64_t done = 0; done < length;) {
         const std::uint64_t size = std::min(length - done, largestTransfer);
         std::copy_n(data + done, size, piece.begin());
@@ -279,7 +278,7 @@ std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
 }
 
 unsigned char* GigEPort::ReadBlock(std::uint32_t address, std::uint32_t length) {
-    // From malloc: the caller frees it, as the port demands.
+    // From malloc: the caller frees it, as IControlPort requires.
     std::unique_ptr<unsigned char, decltype(&std::free)> block(static_cast<unsigned char*>(std::malloc(length)),
                                                                &std::free);
     if (block != nullptr) {

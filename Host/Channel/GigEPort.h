@@ -10,19 +10,19 @@
 #include <utility>
 #include <vector>
 
-struct _ArvDevice; // Aravis' own name for what its headers would declare
+struct _ArvDevice; // declared here to keep Aravis headers out
 struct _GError;
 
 namespace Host {
 
-/// A port to a GigE Vision camera, over the control channel of Aravis. Single registers are moved by register access,
-/// everything else by memory access, in pieces that fit a packet. What is not aligned to words is read with what
-/// surrounds it, and not written. What a busy camera refuses is asked for again, for a tenth of a second.
+/// A port to a GigE Vision camera, over the control channel of Aravis. Single registers use register accesses,
+/// everything else memory accesses that fit a packet. Unaligned reads are widened to whole words, unaligned writes
+/// fail. Accesses that a busy camera refuses are retried for a tenth of a second.
 ///
-/// Control is taken on opening, if no other program has it, kept by Aravis' heartbeat, and given back at the end.
-/// Every operation throws ChannelError; one that the camera has no address for NoSuchAddress; a write without control
-/// ControlHeld, before anything is sent; the first access that finds the camera or the control gone, or this program
-/// about to end by a signal, and every one after that, ChannelLost.
+/// Control is taken on opening, if no other program has it, kept by the heartbeat of Aravis, and released at the end.
+/// Operations throw ChannelError: NoSuchAddress if the camera lacks the address; ControlHeld for a write without
+/// control, before anything is sent; ChannelLost from the first access on that finds the camera or the control lost, or
+/// a signal pending.
 class GigEPort final : public SDK4::IControlPort {
 public:
     /// Opens the channel. Nothing is broadcast.
@@ -35,18 +35,18 @@ public:
 
     /// "the camera at 192.168.1.10"
     [[nodiscard]] const std::string& Name() const { return camera; }
-    /// What the camera calls itself.
+    /// The model name that the camera reports.
     [[nodiscard]] std::string ModelName();
 
     [[nodiscard]] bool HasControl() const { return controls; }
     /// Takes control, if no other program has it now.
     void TryToTakeControl();
-    /// While another program has control: "the camera at 192.168.1.10 is controlled by another program at
-    /// 192.168.1.2:4711", without its address if the camera does not tell it.
+    /// "the camera at 192.168.1.10 is controlled by another program at 192.168.1.2:4711", without the address of the
+    /// program if the camera does not report it.
     [[nodiscard]] std::string DescribeController() const;
-    /// Whether a write failed for want of control since the last call.
+    /// Whether a write failed for lack of control since the last call.
     [[nodiscard]] bool TakeDenied() { return std::exchange(denied, false); }
-    /// @throws ChannelLost if control is no longer with this program; once only
+    /// @throws ChannelLost if this program has lost control; reported only once
     void RequireUnbrokenControl();
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
@@ -63,7 +63,7 @@ public:
 
 private:
     enum class Lost { No, Silent, Control, Ending };
-    /// Who is in control of the camera, as far as it tells.
+    /// The controlling application, as the camera reports it.
     struct Controller {
         std::uint32_t privilege = 0;
         std::uint32_t address = 0;
@@ -71,7 +71,7 @@ private:
 
         bool operator==(const Controller&) const = default;
     };
-    /// An operation of this port while it is carried out.
+    /// The operation of this port that is running.
     struct Operation {
         const char* name;
         std::uint32_t address;
@@ -81,30 +81,30 @@ private:
         void operator()(_ArvDevice* opened) const;
     };
 
-    /// @throws ChannelError, before anything is sent, if that many bytes reach beyond the last address
+    /// @throws ChannelError, before anything is sent, if the access exceeds the address space
     static void RequireAddresses(const Operation& operation, std::uint64_t length);
     void Read(const Operation& operation, std::uint8_t* data, std::uint64_t length);
     void Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length);
-    /// Makes one access of Aravis, which says how it failed.
+    /// Makes one access through Aravis.
     void Access(const Operation& operation, const std::function<bool(_GError**)>& access);
     [[noreturn]] void Fail(const Operation& operation, const _GError& error);
-    /// Ends what runs by an exception, if a signal is to end this program.
+    /// @throws Ending if a signal is pending
     void RequireNotEnding(const Operation& operation);
     [[noreturn]] void FailAsLost(const Operation& operation) const;
-    /// Reads a register that a camera need not have: 0 without it.
+    /// Reads an optional register: 0 if it is missing.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);
     [[nodiscard]] Controller ReadController();
-    /// Whether the camera no longer tells of the controller that it told of before, or nothing at all.
+    /// Whether the camera reports another controller than before, or does not answer.
     [[nodiscard]] bool IsLost();
 
     std::string camera;
-    std::atomic<bool> controlLost = false; ///< set by the thread of the heartbeat, which goes with the device
+    std::atomic<bool> controlLost = false; ///< set by the heartbeat thread, which ends with the device
     std::unique_ptr<_ArvDevice, Release> device;
     bool controls = false;
     bool denied = false;
-    Controller controller; ///< what the camera told when control was taken, or refused
+    Controller controller; ///< as reported when control was taken or refused
     Lost lost = Lost::No;
-    std::vector<char> text; ///< what ReadString handed out last
+    std::vector<char> text; ///< last result of ReadString
 };
 
 } // namespace Host

@@ -2,15 +2,16 @@
 #include "Host/Channel/GigEConnection.h"
 #include "Host/Errors.h"
 
-// Compiled where Aravis is missing, instead of what needs it.
+// Replaces the sources that need Aravis if it is missing.
 
 namespace Host {
 
 namespace {
 
 [[noreturn]] void Refuse() {
-    throw OpenError("this qdv12host was built without Aravis and cannot reach cameras on the network; install the Debian "
-                    "packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
+    throw OpenError(
+        "this qdv12host was built without Aravis and cannot reach cameras on the network; install the Debian "
+        "packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
 }
 
 } // namespace

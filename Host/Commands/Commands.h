@@ -4,7 +4,7 @@
 
 namespace Host {
 
-// What each command does; Commands.cpp says what it is called and takes.
+// The commands. Their names and parameters are in Commands.cpp.
 int Check(const Invocation& invocation);
 int Models(const Invocation& invocation);
 int Discover(const Invocation& invocation);

@@ -15,11 +15,11 @@ namespace Host {
 
 namespace {
 
-/// One of the two that are compared.
+/// One side of the comparison.
 struct Side {
     Settings settings;
     std::string file;       ///< empty for a camera
-    bool hasControl = true; ///< of a camera: whether this program could take control
+    bool hasControl = true; ///< for a camera: whether this program has control
 };
 
 Side TakeFrom(Session& session) {
@@ -28,7 +28,7 @@ Side TakeFrom(Session& session) {
     return {std::move(settings), "", session.Connection().HasControl()};
 }
 
-/// Cameras are opened one after the other, but for that of a shell.
+/// Each camera is closed before the next one is opened, except that of a shell.
 Side Take(const Invocation& invocation, Parameter parameter) {
     Program& program = invocation.Program();
     const std::string given = invocation.Text(parameter);
@@ -36,7 +36,7 @@ Side Take(const Invocation& invocation, Parameter parameter) {
         return TakeFrom(program.Open(given));
     }
     if (!IsCamera(given)) {
-        std::error_code ignored; // what is there, but cannot be looked at, says why when it is read
+        std::error_code ignored; // reading the file reports the error
         if (given != standardStream &&
             std::filesystem::status(given, ignored).type() == std::filesystem::file_type::not_found) {
             throw UsageError('"' + given + "\" is neither a file nor a camera" +
@@ -65,11 +65,11 @@ Json ToJson(const Difference& difference) {
         {"name", difference.instance.Name()}, {"first", json(difference.first)}, {"second", json(difference.second)}};
 }
 
-/// Tells what is missing in a file and thus not compared.
+/// Reports what is missing in a file and therefore not compared.
 /// @return whether everything could be compared
 bool ReportUncompared(const Side& side, const Side& other) {
     const auto missing = Uncompared(side.settings, other.settings);
-    if (!missing.empty() && !side.file.empty()) { // of a camera it was told when it was read
+    if (!missing.empty() && !side.file.empty()) { // for a camera, this was reported when it was read
         PrintError(DescribeFile(side.file) + " has no values of these, which are not compared: " + NamesOf(missing));
     }
     return missing.empty();

@@ -11,7 +11,7 @@ namespace Host {
 
 namespace {
 
-/// The defaults of all fields, where the family publishes them.
+/// The defaults of all fields, if the family publishes them.
 std::optional<Value> DefaultOf(const Limits& limits) {
     Value value;
     for (const FieldLimits& field : limits) {
@@ -23,10 +23,10 @@ std::optional<Value> DefaultOf(const Limits& limits) {
     return limits.empty() ? std::nullopt : std::optional(value);
 }
 
-/// Whether a row stands for many instances, of which the first alone was read.
+/// Whether a row stands for many instances, of which only the first was read.
 bool StandsForMany(const Instance& instance, bool all) { return !all && instance->count > fewInstances; }
 
-/// What can be known of a function now.
+/// The current state of a function.
 struct Found {
     Reading reading;
     Limits limits;
@@ -54,7 +54,7 @@ bool HasValue(const Instance& instance, const Reading& reading) {
     return reading.code == 0 && instance->get != nullptr;
 }
 
-/// What is too long for its column pushes the next ones aside, no further than it must.
+/// A cell that is too long moves the next ones no further than necessary.
 std::string Row(std::string name, const std::string& value, const std::string& defaultValue, const std::string& limits,
                 const std::string& state) {
     const auto add = [&](std::size_t column, const std::string& cell) {
@@ -132,7 +132,7 @@ int List(const Invocation& invocation) {
     Output output = invocation.Output();
     bool begins = true;
     for (const Instance& instance : camera.All(all)) {
-        const Found found = Inspect(camera, instance); // before the heading: the camera may be lost by now
+        const Found found = Inspect(camera, instance); // before the heading, because it throws if the camera is lost
         if (std::exchange(begins, false)) {
             output.Line(Row("NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"));
         }

@@ -8,13 +8,13 @@ namespace Host {
 
 namespace {
 
-/// The design of the control that serves a model; only an opened control says it.
+/// The family of a model, which only an opened control reports.
 std::string FamilyOf(const Plugin& plugin, const std::string& model) {
     try {
         const Session session(plugin, model, {.index = 2, .accesses = [](const Access&) {}});
         auto* const control = session.As<SDK4::IControl>();
         return control == nullptr ? "" : control->GetClassID();
-    } catch (const OpenError&) { // the model is registered all the same
+    } catch (const OpenError&) { // the model is listed anyway
         return "unknown";
     }
 }

@@ -18,7 +18,7 @@ namespace Host {
 
 namespace {
 
-/// "7 -> 100", and whatever is not as wanted.
+/// "7 -> 100", or what went wrong.
 std::string Describe(const RestoreResult& result) {
     const Instance& instance = result.instance;
     const std::string reason = result.reason + (result.reason.empty() ? "" : "; ");
@@ -49,7 +49,7 @@ std::string Line(const RestoreResult& result) {
     return Pad(name, 24) + "  " + shown + "  " + Describe(result);
 }
 
-/// Prints one line per function as its result arrives; all that is skipped of one has one.
+/// Prints one line per result as it arrives. Skipped instances of one function share a line.
 class Printer {
 public:
     explicit Printer(const Output& printed) : output(printed) {}
@@ -89,8 +89,7 @@ void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {
     output.End();
 }
 
-/// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes reverted: agc", of a restore that did not
-/// come to its end.
+/// "12 of 67 functions restored, 3 skipped, 52 not reached; automatic modes reverted: agc", for an incomplete restore.
 std::string DescribeProgress(const Restorer& restorer) {
     const auto& results = restorer.Results();
     const auto count = [&](std::initializer_list<RestoreStatus> statuses) {
@@ -120,7 +119,7 @@ std::string DescribeProgress(const Restorer& restorer) {
     return text;
 }
 
-/// Carries out a restore, or finds out what it would do, and prints the results; also those of one that fails.
+/// Runs or plans a restore and prints the results, even if it fails.
 void RunAndPrint(Restorer& restorer, bool dryRun, Output& output) {
     try {
         dryRun ? restorer.Plan() : restorer.Restore();
@@ -134,7 +133,7 @@ void RunAndPrint(Restorer& restorer, bool dryRun, Output& output) {
     PrintDocument(restorer.Results(), output);
 }
 
-/// Says on standard error what did not go as asked for. @return the exit code
+/// Reports failures on standard error. @return the exit code
 int Report(const Restorer& restorer) {
     if (restorer.IsStopped()) {
         PrintError("interrupted; " + DescribeProgress(restorer));
@@ -164,7 +163,7 @@ int Restore(const Invocation& invocation) {
     }
     Session& session = invocation.Open();
     if (saved.model != session.Model()) {
-        throw UsageError(DescribeFile(file) + " holds settings of model " + saved.model + ", the camera is a " +
+        throw UsageError(DescribeFile(file) + " holds settings of model " + saved.model + ", but the camera is " +
                          session.Model());
     }
     Output output = invocation.Output();

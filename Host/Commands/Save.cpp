@@ -14,7 +14,7 @@ int Save(const Invocation& invocation) {
     const Settings settings = TakeAllSettings(invocation.Open());
     WriteSettings(settings, file);
     if (!std::cout) {
-        return Refused; // told once, at the end
+        return Refused; // reported at the end
     }
     invocation.Program().Finish();
     const bool toStandardOutput = file == standardStream;

@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char* notPutBack = "the settings could not be restored";
 
-/// How far the run is; on a styled terminal alone.
+/// Progress bar, on a styled terminal only.
 class Progress {
 public:
     explicit Progress(std::size_t totalSteps) : total(totalSteps), shown(IsStyled(STDERR_FILENO)) {}
@@ -47,7 +47,7 @@ private:
     bool shown;
 };
 
-/// Keeps what the camera is set to, and sets it back, however the test ends.
+/// Saves the settings of the camera and restores them when the test ends.
 class SettingsGuard {
 public:
     SettingsGuard(Session& openSession, bool withOutputs)
@@ -64,8 +64,8 @@ public:
     SettingsGuard(const SettingsGuard&) = delete;
     SettingsGuard& operator=(const SettingsGuard&) = delete;
 
-    /// The camera is lost: keeps the settings in a file.
-    /// @return what became of them, in words
+    /// Saves the settings to a file when the camera is lost.
+    /// @return a description for the user
     std::string GiveUp() {
         isBack = true;
         try {
@@ -78,7 +78,7 @@ public:
         }
     }
 
-    /// @return what is not as it was
+    /// @return settings that could not be restored
     std::vector<Difference> PutBack() {
         if (std::exchange(isBack, true)) {
             return {};
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    /// What cannot be read fails its test, and is not put back.
+    /// Functions that cannot be read fail their test and are not restored.
     [[nodiscard]] Settings Take() const {
         const UncachedCamera reader(session);
         return TakeSettings(
@@ -110,7 +110,7 @@ private:
     bool isBack = false;
 };
 
-/// The instances of a row as one.
+/// Combines the instances of a row into one result.
 void Merge(std::vector<TestResult>& results, TestResult result) {
     const Instance instance = result.instance;
     for (std::string& failure : result.failures) {
@@ -143,7 +143,7 @@ std::vector<TestResult> TestAll(Session& session, bool outputs) {
     return results;
 }
 
-/// @return nothing for what can only be read, unless that failed
+/// @return empty for a read-only function that passed
 std::string Describe(const TestResult& result) {
     if (result.instance->set == nullptr && result.failures.empty()) {
         return "";

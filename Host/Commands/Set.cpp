@@ -12,12 +12,12 @@ namespace {
 
 struct Result {
     Outcome failure;
-    std::string lockedBy;      ///< if that is the reason
-    std::optional<Value> held; ///< by the camera, afterwards
-    bool rounded = false;      ///< to what it holds, as it may
+    std::string lockedBy;      ///< empty if it is not locked
+    std::optional<Value> held; ///< read back from the camera
+    bool rounded = false;      ///< as announced
 };
 
-/// @param reader tells what the camera holds, whatever the other control remembers
+/// @param reader an uncached control
 Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
     Result result;
     result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
@@ -30,15 +30,13 @@ Result Perform(const Camera& camera, const Camera& reader, const Wait& wait, con
             result.held = reading.value;
             result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
         } else if (result.failure.code == 0 && !reading.IsAbsent()) {
-            result.failure = {reading.code,
-                              "accepted, but the read-back failed: " + reading.reason,
-                              reading.cause};
+            result.failure = {reading.code, "accepted, but the read-back failed: " + reading.reason, reading.cause};
         }
     }
     return result;
 }
 
-/// What became of a value that the camera does not hold as it was asked for.
+/// Describes a value that differs from the one set.
 std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, const Result& result) {
     const std::string asked = assignment.instance.Print(assignment.value);
     const std::string held = assignment.instance.Print(*result.held);
@@ -50,7 +48,7 @@ std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, 
                    : asked + " was refused, the camera still holds " + held;
 }
 
-/// Says on standard error what did not go as asked for.
+/// Reports a failure or a different value on standard error.
 /// @return whether it was refused
 bool Report(const Camera& camera, const FunctionValue& assignment, const Result& result) {
     const bool differs = result.held && *result.held != assignment.value;

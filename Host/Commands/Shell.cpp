@@ -20,7 +20,7 @@ bool IsBlank(char character) { return character == ' ' || character == '\t' || c
 
 bool IsQuote(char character) { return character == '"' || character == '\''; }
 
-/// Splits a line at blanks; what stands in quotes stays together, and a comment begins with # where a word could.
+/// Splits a line at blanks. Quotes group characters; a # at the start of a word begins a comment.
 std::vector<std::string> WordsOf(const std::string& line) {
     std::vector<std::string> words;
     bool inWord = false;
@@ -61,8 +61,7 @@ std::vector<std::string> CommandNames() {
     return names;
 }
 
-/// What the command takes behind its name as functions, if it takes them: their names, or the beginnings of
-/// assignments.
+/// The functions that the command takes: names, or names with "=" for assignments.
 std::vector<std::string> FunctionsFor(const Command& command, const Camera& camera) {
     std::vector<std::string> found;
     for (const Syntax& syntax : command.syntax) {
@@ -79,7 +78,7 @@ std::vector<std::string> FunctionsFor(const Command& command, const Camera& came
     return found;
 }
 
-/// Commands first; what follows those that take functions are their names.
+/// Completes commands, then the functions that they take.
 std::vector<std::string> Completions(const Camera& camera, const std::string& before) {
     const std::size_t first = before.find_first_not_of(" \t");
     if (first == std::string::npos) {
@@ -111,18 +110,18 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
     const int code =
         RunAndReport([&] { return line.command->run(Invocation(program, line.given)); }, line.command->failed);
     program.ReportController();
-    program.SaveState(); // whatever ends the shell, its state file holds what was set
+    program.SaveState(); // after each command, in case the shell is killed
     return code;
 }
 
-/// @param leaves set by the line that ends the shell
+/// @param leaves set if the line ends the shell
 int RunText(Program& program, const std::string& line, bool json, bool& leaves) {
     const auto words = WordsOf(line);
     leaves = !words.empty() && words.front() == quit;
     return words.empty() || leaves ? int{Success} : RunLine(program, words, json);
 }
 
-/// At a terminal Ctrl-C ends a command alone.
+/// At a terminal, Ctrl-C ends only the command.
 bool IsInterrupted(const LineReader& lines) {
     return Interrupts::ReceivedTermination() || (Interrupts::Received() && !lines.IsTerminal());
 }
@@ -144,7 +143,7 @@ int Shell(const Invocation& invocation) {
         }
         note(RunAndReport([&] { return RunText(program, *line, json, leaves); }));
         if (IsInterrupted(lines)) {
-            note(Refused); // the lines behind it are left out
+            note(Refused); // the remaining lines are ignored
             leaves = true;
         }
     }

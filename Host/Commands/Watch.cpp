@@ -17,17 +17,17 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr milliseconds period{100}; ///< from one look at the camera to the next
+constexpr milliseconds period{100}; ///< between two polls
 
-/// Prints what happens, with the time since the beginning.
+/// Prints changes with the time since the start.
 class Changes {
 public:
     explicit Changes(bool asJson) : json(asJson) {}
 
-    /// @param what     the function, or what the family calls the property
-    /// @param source   "camera" for what was found there, "callback" for what the control told
-    /// @param text     what happened, for people
-    /// @param members  and for programs
+    /// @param what the function or the property
+    /// @param source "camera" for a change found by polling, "callback" for one reported by the control
+    /// @param text for people
+    /// @param members for programs
     void Print(const std::string& what, const char* source, const std::string& text,
                const Json::Object& members) const {
         const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
@@ -50,7 +50,7 @@ private:
     Clock::time_point start = Clock::now();
 };
 
-/// Hears of what this host sets, from a control that tells of it.
+/// Prints the callbacks of a control that has them.
 class Listener {
 public:
     Listener(const Camera& camera, const Changes& printed)
@@ -80,13 +80,13 @@ private:
         if (attribute == "enabled") {
             return properties->GetEnabled(name);
         }
-        if (attribute != "value" || properties->IsIndexed(name)) { // which of several it was is not told
+        if (attribute != "value" || properties->IsIndexed(name)) { // a callback does not tell the index
             return std::nullopt;
         }
         try {
             return properties->IsUnsigned(name) ? Json(properties->GetUIntValue(name))
                                                 : Json(properties->GetIntValue(name));
-        } catch (const SDK4::X4Error&) { // nothing may leave a callback
+        } catch (const SDK4::X4Error&) { // a callback must not throw
             return std::nullopt;
         }
     }
@@ -95,7 +95,7 @@ private:
     const Changes& changes;
 };
 
-/// The functions that can be read one by one, and what they held at the last look.
+/// The functions that are polled, with their last values.
 class WatchedFunctions {
 public:
     explicit WatchedFunctions(const Camera& reading) : reader(reading) {
@@ -134,7 +134,7 @@ private:
     std::vector<std::pair<Instance, Held>> last;
 };
 
-/// @return what was given for --seconds, or nothing if it was left out
+/// @return the value of --seconds, if given
 std::optional<milliseconds> DurationOf(const Invocation& invocation) {
     const std::string text = invocation.Text(Parameter::Seconds);
     if (text.empty()) {
@@ -166,7 +166,7 @@ int Watch(const Invocation& invocation) {
         const Listener listener(camera, changes);
         for (const FunctionValue& assignment : assignments) {
             const Outcome failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
-            if (failure.code != 0) { // the camera is watched all the same
+            if (failure.code != 0) { // watching goes on
                 PrintError(assignment.instance.Name() + ": " + failure.reason);
                 code = Refused;
             }

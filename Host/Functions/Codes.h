@@ -4,7 +4,7 @@
 
 #include <SDK4/Enums.h>
 
-/// The names of numbers and fields, as they are read and printed.
+/// Names of numbers and fields, for input and output.
 namespace Host::Named {
 
 // clang-format off

@@ -30,10 +30,10 @@ void SetDHCP(IGigECamera& camera, SDK4_ENUM_SWITCH on) {
     on == SDK4_SWITCH_OFF ? camera.DisableDHCP() : camera.EnableDHCP();
 }
 
-constexpr std::size_t userNameLength = 15; ///< which the camera holds, before the NUL
+constexpr std::size_t userNameLength = 15; ///< without the NUL
 void SetUserName(IGigECamera& camera, const char* name) {
     camera.SetUserDefinedName(
-        Common::CutAtCharacter(name, userNameLength).c_str()); // else the library cuts it at any byte
+        Common::CutAtCharacter(name, userNameLength).c_str()); // the library truncates at any byte
 }
 
 int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the one sensor of either family

@@ -9,7 +9,7 @@ namespace Host {
 
 namespace {
 
-/// "M2VX::IGain": the name of an interface below SDK4::Control.
+/// "M2VX::IGain": the name of an interface without SDK4::Control.
 std::string NameOf(const std::type_info& interface) {
     int status = 0;
     const std::unique_ptr<char, decltype(&std::free)> text(

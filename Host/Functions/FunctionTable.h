@@ -21,13 +21,13 @@ template <typename Interface> Interface& InterfaceOf(IDynamicObject& control) {
 ///
 ///     table.Setting<&IGain::GetGain, &IGain::SetGain>(Name::gain).Range(0, 511).MovedBy(Name::agc);
 ///
-/// What takes an index before the value makes an indexed row. Where no operation of an interface does it, a plain
-/// function of the interface takes its place: unsigned int Width(IDSMediaType&).
+/// Operations with an index before the value make an indexed row. A plain function can replace an operation: unsigned
+/// int Width(IDSMediaType&).
 class FunctionTable {
 public:
     explicit FunctionTable(Functions& rows) : functions(rows) {}
 
-    /// What the next rows belong to.
+    /// Sets the topic of the next rows.
     void Topic(std::string_view name) { topic = name; }
 
     template <auto Get, auto Set> Function& Row(std::string_view name, RestorePolicy restore = RestorePolicy::Never) {
@@ -35,7 +35,7 @@ public:
         function.restore = restore;
         return function;
     }
-    // What becomes of it when settings are restored, see RestorePolicy.
+    // One per RestorePolicy.
     template <auto Get, auto Set> Function& Setting(std::string_view name) {
         return Row<Get, Set>(name, RestorePolicy::Setting);
     }
@@ -48,17 +48,15 @@ public:
     template <auto Get, auto Set> Function& Network(std::string_view name) {
         return Row<Get, Set>(name, RestorePolicy::Network);
     }
-    /// What can only be read.
     template <auto Get> Function& ReadOnly(std::string_view name) {
         return Add(name, Operation<Get>::Kind(), &CallGetter<Get>, nullptr);
     }
-    /// What can only be written.
     template <auto Set> Function& WriteOnly(std::string_view name) {
         return Add(name, Operation<Set>::Kind(), nullptr, &CallSetter<Set>);
     }
 
 private:
-    /// What an operation says of its function.
+    /// What the signature of an operation says about its function.
     struct FunctionKind {
         const std::type_info& interface;
         Shape shape;
@@ -68,7 +66,7 @@ private:
 
     Function& Add(std::string_view name, const FunctionKind& kind, Function::Getter get, Function::Setter set);
 
-    /// Numbers travel as 32-bit words, enumerations as signed ones.
+    /// Numbers are passed as 32-bit words, enumerations as signed ones.
     template <typename T>
     using Plain = std::conditional_t<std::is_enum_v<T> || std::is_same_v<T, bool>, std::int32_t, T>;
 

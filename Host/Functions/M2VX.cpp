@@ -8,7 +8,7 @@ namespace Host {
 
 using namespace SDK4::Control;
 
-// This family publishes its limits, admitted values and defaults; the rows leave them out.
+// This family publishes limits, admitted values and defaults, so the rows omit them.
 
 // clang-format off
 
@@ -79,7 +79,7 @@ void AddM2VXDevice(FunctionTable& table) {
     table.WriteOnly<&D::SetDefectPixelAutoCompensation>           ("defectpixelautocompensation");
     table.Topic(Topics::outputs);
     table.Output<&M::GetMotorControl, &M::SetMotorControl> ("motorcontrol") .Instances(256).Keeps();
-    table.Output<&L::GetLensControl, &L::SetLensControl>   ("lenscontrol")  .Instances(4); // takes any; four are there
+    table.Output<&L::GetLensControl, &L::SetLensControl>   ("lenscontrol")  .Instances(4); // takes any; cameras have four
 }
 
 // clang-format on

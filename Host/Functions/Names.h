@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// The names of functions that more than one row refers to: the row of each family that has it, and what it locks.
+/// Names of functions that several rows use: the rows of both families, and the rows that they lock.
 namespace Host::Name {
 
 // clang-format off
@@ -34,7 +34,7 @@ inline constexpr std::string_view verticalFlip          = "verticalflip";
 
 } // namespace Host::Name
 
-/// What functions belong to.
+/// Topics of functions.
 namespace Host::Topics {
 
 inline constexpr std::string_view identity = "identity";

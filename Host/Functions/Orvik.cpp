@@ -41,7 +41,7 @@ Limits ReadoutAreas(IDynamicObject& control, std::string_view) {
             {.min = min.endy, .max = max.endy}};
 }
 
-/// An overlay may stand as far right and down as the readout area reaches.
+/// Overlay positions are limited by the readout area.
 Limits OverlayPositions(IDynamicObject& control, std::string_view) {
     const SDK4_KAREA area = InterfaceOf<IRoa>(control).GetReadoutArea();
     return {{.min = 0, .max = area.endx - area.startx}, {.min = 0, .max = area.endy - area.starty}};

@@ -22,7 +22,7 @@ bool IntoTheImage(IDynamicObject& control, const Value& asked, const Value& held
     for (std::size_t start = 0, end = 2; start < 2; ++start, ++end) {
         const std::int64_t from = std::min(asked.numbers[start], edges[start]);
         const std::int64_t to =
-            std::min(std::max(asked.numbers[end], from), edges[start]); // none ends before it starts
+            std::min(std::max(asked.numbers[end], from), edges[start]); // an area does not end before it starts
         if (held.numbers[start] != from || held.numbers[end] != to) {
             return false;
         }

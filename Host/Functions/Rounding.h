@@ -2,18 +2,18 @@
 
 #include "Host/Function.h"
 
-/// What a camera may make of an admitted value, as the rows of the table announce it.
+/// Rules by which a camera may round an admitted value, for the rows of the table.
 namespace Host::Rounding {
 
-// Each tells whether the camera may hold the one where the other was asked for.
+// Each returns whether the camera may hold @p held after @p asked was set.
 
-/// The next multiple of 4 below.
+/// Rounds down to a multiple of 4.
 [[nodiscard]] bool DownToFours(IDynamicObject& control, const Value& asked, const Value& held);
-/// More, since it cannot be less.
+/// Rounds up to the shortest possible time.
 [[nodiscard]] bool UpToTheFastest(IDynamicObject& control, const Value& asked, const Value& held);
-/// An area as far as it lies in the image: what lies outside is moved to its edge.
+/// Clamps an area to the image.
 [[nodiscard]] bool IntoTheImage(IDynamicObject& control, const Value& asked, const Value& held);
-/// Another count of the same time base.
+/// Changes the count, but not the time base.
 [[nodiscard]] bool ToACount(IDynamicObject& control, const Value& asked, const Value& held);
 
 } // namespace Host::Rounding

@@ -6,13 +6,13 @@
 
 namespace Host {
 
-/// The functions of the family whose control calls itself so, or null for one that is not known.
+/// The functions of a family, or null for an unknown one.
 [[nodiscard]] const Functions* TableOf(std::string_view classId);
 
-/// Whether a family has a function of that name, which may end in an index.
+/// Whether any family has a function of that name, with or without an index.
 [[nodiscard]] bool IsFunction(std::string_view name);
 
-// The rows, by subject. Of both families: a row that one of them does not implement is there to say so.
+// The rows, by subject. For both families, even if one does not implement a function, to show that.
 void AddIdentity(FunctionTable& table);
 void AddNetwork(FunctionTable& table);
 void AddFrames(FunctionTable& table);
@@ -21,14 +21,14 @@ void AddMemory(FunctionTable& table);
 void AddSettingsSets(FunctionTable& table);
 void AddTests(FunctionTable& table);
 
-// Of the one.
+// Orvik.
 void AddOrvikFormat(FunctionTable& table);
 void AddOrvikExposure(FunctionTable& table);
 void AddOrvikProcessing(FunctionTable& table);
 void AddOrvikOverlay(FunctionTable& table);
 void AddOrvikDevice(FunctionTable& table);
 
-// Of the other.
+// M2VX.
 void AddM2VXFormat(FunctionTable& table);
 void AddM2VXExposure(FunctionTable& table);
 void AddM2VXProcessing(FunctionTable& table);

@@ -12,7 +12,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds modeTime{500}; ///< in which an automatic mode moves what it owns
+constexpr milliseconds modeTime{500}; ///< time for an automatic mode to adjust its values
 
 std::string NameOf(std::int32_t code) { return code == 0 ? "no error" : SDK4::ErrorName(code); }
 
@@ -23,7 +23,7 @@ bool IsLockCode(std::int32_t code) { return code == SDK4_ERR_DISABLED || code ==
 void ComplianceTest::SwitchOffModes() const {
     for (const Instance& instance : setter.All(false)) {
         if (instance->restore == RestorePolicy::Mode && reader.TryRead(instance).code == 0) {
-            // What refuses this fails in the mode's own test, too.
+            // A refusal also fails the test of the mode.
             static_cast<void>(Attempt([&] { static_cast<void>(Write(instance, {{0}, {}})); }));
         }
     }
@@ -34,7 +34,7 @@ TestResult ComplianceTest::Test(const Instance& instance) const {
     if (!result.leftOut.empty()) {
         return result;
     }
-    // One that is not available now may be so when it is unlocked.
+    // A function that is not available now may be available when unlocked.
     if (const Reading reading = reader.TryRead(instance); !reading.IsImplemented()) {
         result.leftOut = reading.reason;
         return result;
@@ -53,7 +53,7 @@ TestResult ComplianceTest::Test(const Instance& instance) const {
 
 std::string ComplianceTest::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
-    return instance->set == nullptr                      ? "" // reading it does no harm
+    return instance->set == nullptr                      ? "" // read-only
            : policy == RestorePolicy::Never              ? "not a setting"
            : policy == RestorePolicy::Network            ? "network"
            : policy == RestorePolicy::Output && !outputs ? "an output; use --outputs to include it"
@@ -117,8 +117,9 @@ void ComplianceTest::TryNeighbours(TestResult& result, const Value& current) con
             taken = TryNeighbour(result, neighbour, current) || taken;
         }
         if (!taken) {
-            result.failures.push_back("the camera keeps " + instance.Print(current) + ", whatever is written" +
-                                      (current.numbers.size() == 1 ? "" : " to " + std::string(instance->shape.fields[field].name)));
+            result.failures.push_back(
+                "the camera keeps " + instance.Print(current) + ", whatever is written" +
+                (current.numbers.size() == 1 ? "" : " to " + std::string(instance->shape.fields[field].name)));
         }
     }
 }
@@ -186,7 +187,7 @@ std::int32_t ComplianceTest::Write(const Instance& instance, const Value& value)
     }
 }
 
-/// What the camera holds after a write. @throws std::runtime_error if it cannot be read any more
+/// The value that the camera holds after a write. @throws std::runtime_error if it cannot be read
 Value ComplianceTest::Held(const Instance& instance, const Value& expected) const {
     const Reading reading = ReadWhenSettled(reader, instance, expected, wait);
     if (reading.code != 0) {

@@ -9,7 +9,7 @@
 
 namespace Host {
 
-/// What the test of a function found.
+/// The result of testing a function.
 struct TestResult {
     Instance instance;
     int checks = 0;
@@ -17,23 +17,23 @@ struct TestResult {
     std::string leftOut; ///< why it was not tested, else empty
 };
 
-/// A compliance run: whether the library and the camera do what the table says of each function. It changes settings;
-/// who runs it puts them back.
+/// A compliance test: checks that the library and the camera behave as the table says. It changes settings; the caller
+/// restores them.
 class ComplianceTest {
 public:
     /// @param setting sets the functions
-    /// @param reading reads them, from the camera each time; nothing else is set through it
-    /// @param waiting lets the camera's time pass
+    /// @param reading reads them, uncached; nothing is set through it
+    /// @param waiting lets the time of the camera pass
     ComplianceTest(const Camera& setting, const Camera& reading, Wait waiting, bool withOutputs)
         : setter(setting),
           reader(reading),
           wait(std::move(waiting)),
           outputs(withOutputs) {}
 
-    /// Automatic modes would move what is tested.
+    /// Automatic modes would change the values under test.
     void SwitchOffModes() const;
 
-    /// Tests a function, or reads it if it can only be read.
+    /// Tests a function. A read-only one is only read.
     /// @throws ChannelLost, and nothing else
     [[nodiscard]] TestResult Test(const Instance& instance) const;
 

@@ -13,7 +13,7 @@ bool Fits(const Field& field, std::int64_t number) {
                           : number >= 0 && number <= std::numeric_limits<std::uint32_t>::max();
 }
 
-/// A number between the bounds that is not admitted, or one that is if there is none.
+/// A number between the bounds that is not admitted, or an admitted one if there is no gap.
 std::int64_t Gap(const FieldLimits& field) {
     std::int64_t number = field.min;
     while (!field.admitted.empty() && number < field.max && field.Admits(number)) {
@@ -50,7 +50,7 @@ std::vector<TestCase> TestCasesOf(const Instance& instance, const Limits& limits
         for (const std::int64_t number : limits[i].admitted) {
             testCases.push_back({"admitted value" + of, Replaced(least, i, number), true});
         }
-        // A camera that is to clamp takes -1 for a very large number, unless it knows negative ones.
+        // An unsigned field that clamps takes -1 as a very large number.
         const bool isLarge = limits[i].min == 0 && !refusal.keeps;
         if (!isLarge && Fits(field, limits[i].min - 1)) {
             testCases.push_back({"one below the minimum" + of, Replaced(least, i, limits[i].min - 1), false});
@@ -76,7 +76,7 @@ std::vector<Value> Neighbours(const Instance& instance, const Value& value, std:
     std::vector<Value> neighbours;
     for (const std::int64_t step : {1, -1}) {
         const std::int64_t number = value.numbers[field] + step;
-        const bool isBelowAll = number < 0 && value.numbers[field] >= 0; // of what knows no negative ones
+        const bool isBelowAll = number < 0 && value.numbers[field] >= 0; // may be unsigned
         if (!isBelowAll && Fits(instance->shape.fields[field], number)) {
             neighbours.push_back(Replaced(value, field, number));
         }

@@ -7,21 +7,21 @@
 
 namespace Host {
 
-/// A value to be written to a function, to see what becomes of it.
+/// A value to write to a function.
 struct TestCase {
     std::string what; ///< "maximum", "one above the maximum of red"
     Value value;
     bool admitted;
 };
 
-/// The value that the function holds, its bounds, what it admits, and what lies just outside.
+/// The current value, the bounds, the admitted values, and values just outside.
 [[nodiscard]] std::vector<TestCase> TestCasesOf(const Instance& instance, const Limits& limits, const Refusal& refusal,
                                                 const Value& current);
 
-/// The admitted value that is nearest to another one, field by field.
+/// Clamps each field to its bounds.
 [[nodiscard]] Value Clamped(const Limits& limits, Value value);
 
-/// Values beside one, for a function of which nobody says what it admits: each field one more, and one less.
+/// The values with one field increased or decreased by one, for a function without known limits.
 [[nodiscard]] std::vector<Value> Neighbours(const Instance& instance, const Value& value, std::size_t field);
 
 } // namespace Host

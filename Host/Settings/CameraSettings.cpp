@@ -10,12 +10,12 @@ namespace Host {
 
 namespace {
 
-/// What cannot be read of one camera, by the reason.
+/// Functions of a camera that cannot be read, by reason.
 struct Missing {
     std::vector<Instance> withoutAddress;
     std::vector<Instance> withoutControl;
 
-    /// @return whether it is for one of these reasons
+    /// @return whether the cause is one of these
     bool Note(const Instance& instance, Cause cause) {
         if (cause != Cause::Any) {
             (cause == Cause::NoControl ? withoutControl : withoutAddress).push_back(instance);
@@ -33,8 +33,8 @@ struct Missing {
     }
 };
 
-/// Reads through a control of its own; what was read counts only if it was one camera all the time.
-/// @param otherwise is told of what cannot be read for another reason than these
+/// Reads through a separate control. Throws if the connection was lost meanwhile.
+/// @param otherwise gets the functions that cannot be read for other reasons
 Settings Take(Session& session, const Unreadable& otherwise) {
     const UncachedCamera reader(session);
     Missing missing;

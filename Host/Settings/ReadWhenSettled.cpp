@@ -7,7 +7,7 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr milliseconds motorTravelTime{4000}; ///< of the slowest motor
-constexpr milliseconds pollPeriod{100};       ///< between two looks at it
+constexpr milliseconds pollPeriod{100};       ///< between two reads
 
 } // namespace
 

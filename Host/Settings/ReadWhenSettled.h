@@ -11,8 +11,8 @@ namespace Host {
 using Wait = std::function<void(std::chrono::milliseconds)>;
 [[nodiscard]] Wait MakeWait(Session& session);
 
-/// What a function holds; of one that reaches what is wired to the camera, once it has arrived there, or does not get
-/// there in the time that a motor needs from one end to the other.
+/// Reads a function. For an output, waits until it holds the expected value, at most the time that a motor needs for
+/// its full travel.
 [[nodiscard]] Reading ReadWhenSettled(const Camera& reader, const Instance& instance, const Value& expected,
                                       const Wait& wait);
 

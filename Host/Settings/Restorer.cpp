@@ -9,12 +9,12 @@ namespace Host {
 
 namespace {
 
-constexpr int passes = 3; ///< more than one setting needs that is moved by one behind it
+constexpr int passes = 3; ///< enough for settings that depend on later ones
 
-/// What all automatic modes have in common.
+/// The same value for all automatic modes.
 const Value off{{0}, {}};
 
-/// What became of a setting that was written, and then read.
+/// The status of a setting after write and read-back.
 RestoreStatus StatusOf(const Camera& camera, const RestoreResult& result) {
     const bool accepted = result.reason.empty();
     if (result.held == result.saved) {
@@ -91,9 +91,9 @@ bool Restorer::MustStop() {
 
 void Restorer::Record(RestoreResult& result, RestoreResult now) {
     now.before = result.before;
-    if (now.status == RestoreStatus::Done && now.before == now.saved) { // another setting moved it meanwhile
+    if (now.status == RestoreStatus::Done && now.before == now.saved) { // another setting had changed it meanwhile
         now.status = RestoreStatus::Unchanged;
-    } else if (now.status == RestoreStatus::Unchanged && now.before && now.before != now.saved) { // or brought it there
+    } else if (now.status == RestoreStatus::Unchanged && now.before && now.before != now.saved) { // or set it
         now.status = RestoreStatus::Done;
     }
     const bool told = result.status == now.status && result.held == now.held && result.reason == now.reason;
@@ -104,7 +104,7 @@ void Restorer::Record(RestoreResult& result, RestoreResult now) {
 }
 
 void Restorer::ReadCurrent() {
-    for (const FunctionValue& setting : settings.values) { // all of them, however far the look gets
+    for (const FunctionValue& setting : settings.values) { // all of them, even if reading fails
         results.push_back({setting.instance, RestoreStatus::Pending, setting.value, {}, {}, {}});
     }
     for (std::size_t i = 0; i < results.size(); ++i) {
@@ -116,8 +116,8 @@ void Restorer::ReadCurrent() {
 void Restorer::SwitchOff() {
     for (RestoreResult& result : results) {
         if (IsMode(result.instance) && !MustStop()) {
-            result.held = off; // before it is tried: if the camera is lost meanwhile, nobody knows
-            // What refuses this is told of where its saved value is set, or where it keeps others from being set.
+            result.held = off; // assumed, in case the camera is lost meanwhile
+            // A refusal is reported when the saved value is set, or when it blocks other settings.
             result.held = Set({result.instance, off}).held;
         }
     }
@@ -161,7 +161,7 @@ void Restorer::PutBack(RestoreResult& mode) {
 }
 
 void Restorer::Restore() {
-    ReadCurrent(); // modes will be off, but it counts what they were
+    ReadCurrent(); // before the modes are switched off
     SwitchOff();
     for (int pass = 0; pass < passes && SetValues(pass != 0) && !stopped; ++pass) {
     }

@@ -10,27 +10,27 @@
 
 namespace Host {
 
-/// What became of a function that was to be restored; NameOf has the names in this order.
+/// The result of restoring a function. The names in NameOf have the same order.
 enum class RestoreStatus {
-    Pending, ///< nothing yet, and nothing any more if the restore was stopped
+    Pending, ///< not reached
     Done,
     Unchanged, ///< the camera held the value already
-    Rounded,   ///< the camera made another value of it, as it may
+    Rounded,   ///< the camera rounded the value as announced
     Clamped,   ///< the camera holds another value
     Refused,
     Skipped,
-    Planned, ///< it would be set
-    PutBack, ///< an automatic mode that is as it was before, since the restore was stopped
-    LeftOff, ///< an automatic mode that could not be put back
+    Planned, ///< would be set
+    PutBack, ///< an automatic mode that has its old value again, because the restore was stopped
+    LeftOff, ///< an automatic mode that could not be reverted
 };
 
 struct RestoreResult {
     Instance instance;
     RestoreStatus status;
     Value saved;
-    std::optional<Value> before; ///< what the camera held, if it is known
-    std::optional<Value> held;   ///< what it holds now, if it is known
-    std::string reason;          ///< the name of the code that refused it; why it was skipped
+    std::optional<Value> before; ///< value before, if known
+    std::optional<Value> held;   ///< value now, if known
+    std::string reason;          ///< name of the error code, or why it was skipped
 };
 
 [[nodiscard]] const char* NameOf(RestoreStatus status);
@@ -43,8 +43,8 @@ class Restorer {
 public:
     struct Options {
         bool outputs = false;
-        /// Told what became of a function as soon as it is known; again in the rare case that a later setting moves it
-        /// to where it cannot be brought back from.
+        /// Gets each result as soon as it is known; a second time if a later setting changes the value and it cannot be
+        /// set again.
         std::function<void(const RestoreResult&)> report = [](const RestoreResult&) {};
         /// Asked before each function whether to stop.
         std::function<bool()> shouldStop = [] { return false; };
@@ -59,20 +59,19 @@ public:
           wait(std::move(waiting)),
           options(std::move(chosen)) {}
 
-    /// Automatic modes off, then the values in the order of the table, until one setting no longer moves another; last
-    /// the modes as they were saved. What fails stops nothing. Once it is to stop, the modes whose turn did not come
-    /// are put back to what they were.
-    /// @throws ChannelLost, after which nothing can be put back
+    /// Switches automatic modes off, sets the values in the order of the table until none changes another, then sets
+    /// the saved modes. A failure does not stop it. When stopped, it reverts the modes that were not reached.
+    /// @throws ChannelLost, after which nothing can be reverted
     void Restore();
 
-    /// Finds out what Restore would do. Writes no setting.
+    /// Determines what Restore would do. Writes no setting.
     void Plan();
 
-    /// What became of each function, in the order of the settings; also after an exception.
+    /// The result of each function, in the order of the settings; valid also after an exception.
     [[nodiscard]] const std::vector<RestoreResult>& Results() const { return results; }
-    /// Whether something was left undone because it was to stop.
+    /// Whether it was stopped early.
     [[nodiscard]] bool IsStopped() const { return stopped; }
-    /// Automatic modes that were on before, and are off although they were not restored.
+    /// Automatic modes that were on before and are now off without having been restored.
     [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 
 private:
@@ -82,7 +81,7 @@ private:
     [[nodiscard]] bool MustStop();
     void ReadCurrent();
     void SwitchOff();
-    /// Sets what is no mode; again, what did not fail.
+    /// Sets everything except modes. If @p again, only what did not fail.
     /// @return whether that changed anything
     bool SetValues(bool again);
     void SetModes();

@@ -21,7 +21,7 @@ std::string Now() {
     return text;
 }
 
-/// Whether an automatic mode moves the function in either settings.
+/// Whether an automatic mode owns the value in either settings.
 bool IsMovedInEither(const Settings& first, const Settings& second, const Instance& instance) {
     return first.IsMoved(instance) || second.IsMoved(instance);
 }

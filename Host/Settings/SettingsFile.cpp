@@ -73,7 +73,7 @@ std::string TextOf(const Json& document, const char* member, const std::string& 
     return *text;
 }
 
-/// The functions of a family by their names, as a file holds them.
+/// The functions of a family by the names used in files.
 class KnownFunctions {
 public:
     explicit KnownFunctions(const Functions& table) {
@@ -86,7 +86,7 @@ public:
     }
 
     [[nodiscard]] const std::vector<Instance>& All() const { return instances; }
-    /// @throws UsageError for an unknown one
+    /// @throws UsageError for an unknown name
     [[nodiscard]] const Instance& Find(const std::string& name, const std::string& file) const {
         const auto found = std::find(names.begin(), names.end(), name);
         if (found == names.end()) {
@@ -100,7 +100,7 @@ private:
     std::vector<std::string> names;
 };
 
-/// The values that the file holds, in the order of the table.
+/// The values in the file, in the order of the table.
 std::vector<FunctionValue> ValuesOf(const Json& document, const KnownFunctions& known, const std::string& file) {
     const auto* const members = document["values"].Members();
     if (members == nullptr) {
@@ -126,7 +126,7 @@ std::vector<FunctionValue> ValuesOf(const Json& document, const KnownFunctions& 
     return values;
 }
 
-/// What the file says is missing in it, if it says so.
+/// The functions that the file lists as missing.
 std::vector<Instance> MissingIn(const Json& document, const KnownFunctions& known, const std::string& file) {
     std::vector<Instance> missing;
     const auto* const elements = document[missingMember].Elements();
@@ -153,7 +153,7 @@ Json ToJson(const Settings& settings) {
     return document;
 }
 
-/// Whether the name of a file was wrong, and not what happened to it.
+/// Whether the error is due to the file name.
 bool IsOfName(const std::error_code& code) {
     const int names[] = {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EINVAL, ENAMETOOLONG, ELOOP};
     return std::find(std::begin(names), std::end(names), code.value()) != std::end(names);

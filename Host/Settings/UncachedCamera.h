@@ -4,9 +4,8 @@
 
 namespace Host {
 
-/// A control of its own for the camera of a session, with which every value is read from the camera. It stays so as
-/// long as nothing is set through it: an Orvik control through which an automatic mode is switched off caches from then
-/// on what that mode moved, whatever its index.
+/// A separate, uncached control for the camera of a session. Do not set automatic modes through it if it must stay
+/// uncached: switching one off makes an Orvik control cache the values that the mode owned.
 class UncachedCamera {
 public:
     explicit UncachedCamera(Session& session)
@@ -16,7 +15,7 @@ public:
     [[nodiscard]] const Host::Camera& Camera() const { return camera; }
 
 private:
-    static constexpr std::int32_t index = 2; ///< asks for that, of either family
+    static constexpr std::int32_t index = 2; ///< uncached with both families
 
     Control control;
     Host::Camera camera;

@@ -30,14 +30,14 @@ void WhileUnlocked(const Camera& camera, const Instance& instance, const std::fu
     const Instance mode = camera.FindOne(instance->lock->mode);
     const Value held = camera.Read(mode);
     if (instance->lock->IsOpen(held)) {
-        camera.Write(mode, held); // the control takes the function for locked, the camera does not
+        camera.Write(mode, held); // only the control takes the function as locked
         action();
         return;
     }
     const Value opening{{instance->lock->open.front()}, {}};
     try {
         WhileSet(camera, mode, opening, held, action);
-    } catch (ChannelLost& error) { // nothing can be put back
+    } catch (ChannelLost& error) { // the mode cannot be restored
         error.AddConsequence(mode.Name() + " may still be " + mode.Print(opening) + ", it was " + mode.Print(held));
         throw;
     }

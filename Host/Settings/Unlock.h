@@ -6,9 +6,9 @@
 
 namespace Host {
 
-/// Carries out an action on a function that another one may keep from being set: that one is given a value that leaves
-/// it open, and what it held afterwards. Written also when it is open already, if the control has to learn of that.
-/// @throws X4Error if it cannot be opened; what the action throws
+/// Runs an action with the lock of a function released: sets the locking mode to a value that leaves the function open,
+/// and restores it afterwards. The mode is also written if only the control takes the function as locked.
+/// @throws X4Error if the lock cannot be released; what the action throws
 void WhileUnlocked(const Camera& camera, const Instance& instance, const std::function<void()>& action);
 
 } // namespace Host

@@ -47,7 +47,8 @@ struct SDK4_KOVERLAYSIZE {
 
 /// A time as a base selector and a count of that base: exposure time, trigger delay.
 struct SDK4_KEXPOSURE {
-    std::int32_t base;     ///< time base, 0 to 7, see the documentation of the camera; simulated cameras use 10^n microseconds
+    std::int32_t
+        base; ///< time base, 0 to 7, see the documentation of the camera; simulated cameras use 10^n microseconds
     std::uint32_t counter; ///< count of the base
 };
 

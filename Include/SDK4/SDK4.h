@@ -47,8 +47,8 @@
 /// - **Caching.** An Orvik control caches a value that it read or wrote until something is written that may change it;
 ///   a camera index of exactly 2 switches the caches off. An M2VX control uses the low four bits of the index. With 0
 ///   to 2 it is uncached: every call reads the camera. With 3 to 15 it is cached: the camera is read once, when it is
-///   opened. A setter that invalidates a value makes the next getter read it from the camera, and also every value that
-///   this one invalidates. The pages of the families list what the caches do not notice.
+///   opened. After a setter has invalidated a value, its next getter reads the camera. A value that is invalidated also
+///   invalidates those that depend on it. The pages of the families list what the caches do not notice.
 /// - **Disabled settings.** A mode of an M2VX camera disables the settings that it does not use, and the host can
 ///   disable settings (IPropertyState). A cached control also refuses to read a disabled setting with
 ///   SDK4_ERR_DISABLED, except gain and exposure. An uncached control reads it, and treats every setting as enabled

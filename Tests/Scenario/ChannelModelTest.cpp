@@ -44,8 +44,7 @@ TEST(ChannelModel, TheCameraSaysWhichOneItIs) {
          "qdv12host: unknown model \"Orvik-71\"; did you mean \"Orvik-710M\"?\n"},
         {"get CAMERA functionmodelid --force-model Orvik-710C", 0, ""},
         {"get CAMERA Gain", 2, "qdv12host: unknown function \"Gain\"; did you mean \"gain\"?\n"},
-        {"get CAMERA gain --seed 0", 2,
-         "qdv12host: --seed, --state and --fault apply to simulated cameras only\n"},
+        {"get CAMERA gain --seed 0", 2, "qdv12host: --seed, --state and --fault apply to simulated cameras only\n"},
         {"diff CAMERA Cerix-MV7", 0, ""},
         {"diff Orvik-710C CAMERA", 2, "qdv12host: settings of different models: Orvik-710C and Cerix-MV7\n"},
     };

@@ -155,13 +155,14 @@ TEST_F(HostSettings, AreRefusedFromAFileThatIsNotTheirs) {
         {"", "empty file"},
         {good.substr(0, good.size() / 2), "damaged, or not a settings file: "},
         {"[1, 2]", "not a settings file"},
-        {Replaced(good, "\"version\": 1", "\"version\": 2"), "unsupported format version 2; this program reads version 1"},
+        {Replaced(good, "\"version\": 1", "\"version\": 2"),
+         "unsupported format version 2; this program reads version 1"},
         {Replaced(good, "\"gain\"", "\"gian\""), "unknown function \"gian\"; did you mean \"gain\"?"},
         {Replaced(good, "\"gain\": 0", "\"gain\": \"high\""), "invalid value for gain: \"high\""},
         {Replaced(good, "\"base\": 0,", ""), "invalid value for exposure: {\"counter\":20000}\n"},
         {Replaced(good, "\"gain\": 0", "\"gain\": 0, \"gain\": 1"), "duplicate name \"gain\""},
         {good.substr(0, good.find("\"values\"")) + "\"values\": {}}", "holds no values to restore"},
-        {Replaced(good, "Orvik-390M", "Orvik-710M"), "settings of model Orvik-710M, this is Orvik-390M"},
+        {Replaced(good, "Orvik-390M", "Orvik-710M"), "settings of model Orvik-710M, but the camera is Orvik-390M"},
     };
     for (const auto& [content, complaint] : cases) {
         Write(other, content);

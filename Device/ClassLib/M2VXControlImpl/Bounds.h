@@ -7,7 +7,7 @@
 
 namespace SDK4::Control {
 
-/// The number of an instance or channel, which is refused above @p bound, before anything else is looked at.
+/// Checks the number of an instance or channel against @p bound. Comes before every other check.
 /// @throws X4Error SDK4_ERR_INVALID_PARAMETER
 inline std::uint32_t UpTo(std::uint32_t bound, std::uint32_t number) {
     if (number > bound) {

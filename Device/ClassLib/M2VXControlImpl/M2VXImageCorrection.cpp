@@ -83,7 +83,7 @@ void CM2VXBaseControl::SetDefectPixel(SDK4_KDEFECTPIXELSELECT select, SDK4_KDEFE
 }
 
 void CM2VXBaseControl::SetDefectPixelAutoCompensation() {
-    SDK4_LOG(Info, "Call()"); // a setter without a value
+    SDK4_LOG(Info, "Call()");
     access.Check<Enabled>(table.defectPixelAutoCompensation);
     family->SetDefectPixelAutoCompensation();
 }

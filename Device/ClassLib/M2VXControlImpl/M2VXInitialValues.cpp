@@ -1,4 +1,4 @@
-// What a control that remembers settings reads when it is opened: every property that a getter answers from.
+// What a cached control reads when it is opened: every property that a getter returns.
 
 #include "M2VXCameraBaseCtrl.h"
 
@@ -6,7 +6,7 @@
 
 namespace SDK4::Control {
 
-/// Reads in the order of the table. The flags come last: a property that a mode disables could not be filled.
+/// Reads in the order of the table. The enabled flags come last, because a disabled property cannot be filled.
 void CM2VXBaseControl::GetInitialValues() {
     GetInitialFormat();
     GetInitialEnhancement();
@@ -25,7 +25,7 @@ void CM2VXBaseControl::GetInitialFormat() {
     table.width.SetValue(acquisition->GetWidth());
     table.height.SetValue(acquisition->GetHeight());
     table.pixelFormat.SetValue(acquisition->GetPixelFormat());
-    table.colorCoding.SetValue(table.colorCoding.GetUIntMin()); // the only one there is
+    table.colorCoding.SetValue(table.colorCoding.GetUIntMin()); // the only one
 }
 
 void CM2VXBaseControl::GetInitialEnhancement() {
@@ -84,7 +84,7 @@ void CM2VXBaseControl::GetInitialAutomatics() {
     }
 }
 
-/// Only the entries in use: the whole table would cost several hundred accesses.
+/// Only the entries in use: the whole table would take several hundred accesses.
 void CM2VXBaseControl::GetInitialDefectPixels() {
     access.Fill(table.defectPixelCount, &CM2VXCamera::GetDefectPixelCount);
     const std::uint32_t used =

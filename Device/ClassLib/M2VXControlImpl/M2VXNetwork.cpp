@@ -1,4 +1,4 @@
-// Network configuration and identity: forwarded, but for the stream parameters, which stand while acquisition runs.
+// Network configuration and identity. Calls are forwarded, except that stream parameters are locked during acquisition.
 
 #include "M2VXCameraBaseCtrl.h"
 #include "M2VXControlImpl/SetterLog.h"

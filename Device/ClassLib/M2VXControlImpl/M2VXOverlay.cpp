@@ -6,7 +6,7 @@
 
 namespace SDK4::Control {
 
-/// The camera draws fewer overlays than its numbers allow for: the highest number is none that exists.
+/// The highest valid number has no overlay, so it is out of range rather than invalid.
 CM2VXPropertyTable::Overlay& CM2VXBaseControl::OverlayAt(int overlay) {
     const std::uint32_t number = UpTo(CM2VXPropertyTable::overlayCount, static_cast<std::uint32_t>(overlay));
     if (number == CM2VXPropertyTable::overlayCount) {

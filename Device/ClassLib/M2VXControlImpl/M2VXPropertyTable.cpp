@@ -4,7 +4,7 @@ namespace SDK4::Control {
 
 namespace {
 
-/// The limits of a part of a compound property that was made without. Lifts its value to the minimum.
+/// Sets the limits of a part of a compound property that was made without. Raises its value to the minimum.
 template <typename T> void SetLimits(CPropertyParams& property, T minimum, T maximum, T defaultValue) {
     property.SetMin(minimum);
     property.SetMax(maximum);
@@ -41,7 +41,7 @@ CM2VXPropertyTable::DefectPixelPair::DefectPixelPair(PropertyList& list)
 }
 
 CM2VXPropertyTable::CM2VXPropertyTable(PropertyList& propertyList) : list(propertyList) {
-    exposure.SetAutoUpdate(true); // the camera moves both on its own
+    exposure.SetAutoUpdate(true); // the camera adjusts both
     gain    .SetAutoUpdate(true);
 
     SetLimits(measureWindow[0],    0u, 511u,   0u);
@@ -69,12 +69,12 @@ void CM2VXPropertyTable::FollowAllModes() {
     FollowABC();
 }
 
-// A mode is followed as it is stored, also when a callback has changed or disabled it meanwhile.
+// These use the stored mode, even if a callback has changed or disabled it meanwhile.
 
 void CM2VXPropertyTable::FollowAGC() {
     const std::uint32_t mode = agc.StoredUIntValue();
     if (mode > 2) {
-        return; // a mode that no setter admits, but a camera may report
+        return; // no setter admits such a mode, but a camera may report it
     }
     gain.SetEnabled(mode == 0);
     automaticLevel.SetEnabled(mode == 2);

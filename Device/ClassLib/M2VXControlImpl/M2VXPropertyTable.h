@@ -6,17 +6,17 @@
 
 namespace SDK4::Control {
 
-/// The properties of an M2VX camera: what it can be set to, and what the control knows of it. The rows enter themselves
-/// into the control's list, which shows them to the host; the table owns them.
+/// The properties of an M2VX camera: limits and current values. The rows add themselves to the list of the control,
+/// through which the host sees them; the table owns them.
 ///
-/// A row's members are built from top to bottom, and that order is the order of the list: a part of the contract.
+/// Members are constructed in the order of declaration, which is the order of the list and part of the contract.
 class CM2VXPropertyTable {
 public:
     explicit CM2VXPropertyTable(PropertyList& propertyList);
     CM2VXPropertyTable(const CM2VXPropertyTable&) = delete;
     CM2VXPropertyTable& operator=(const CM2VXPropertyTable&) = delete;
 
-    // Enable and disable what depends on a mode, as the mode's property says now.
+    // Enable and disable the properties that depend on a mode, according to its property.
     void FollowAllModes();
     void FollowAGC();
     void FollowABC();
@@ -28,7 +28,7 @@ public:
 
     static constexpr std::uint32_t overlayCount = 3;
     static constexpr std::uint32_t defectPixelPairCount = 129;
-    static constexpr std::uint32_t defectPixelPairsOfCamera = 128; ///< one row of the table is never reached
+    static constexpr std::uint32_t defectPixelPairsOfCamera = 128; ///< the last row of the table is never used
     static constexpr std::uint32_t motorChannelCount = 256;
 
     // clang-format off
@@ -42,7 +42,7 @@ public:
         CompoundProperty<2> size;
     };
 
-    /// The index of an entry is its position within the pair. So a look-up by name and index finds the first pair only.
+    /// The index of an entry is its position within the pair, so a look-up by name and index finds the first pair only.
     struct DefectPixelPair {
         explicit DefectPixelPair(PropertyList& list);
 
@@ -51,7 +51,7 @@ public:
     };
 
 private:
-    PropertyList& list; // before the rows, which enter themselves
+    PropertyList& list; // before the rows, which add themselves
 
 public:
     // name, minimum, maximum, default; or name, default, admitted values
@@ -97,7 +97,7 @@ public:
     EnumProperty     testPattern[2]            {{list, "testpattern",           0, {0, 1, 2, 3, 4, 5, 6}},
                                                 {list, "testpattern",           0, {0, 1, 2, 3, 4, 5, 6}}};
     Repeated<DefectPixelPair> defectPixels      {defectPixelPairCount, list};
-    UnsignedProperty defectPixelAutoCompensation{list, "defectpixelautocompensation", 0, 0, 0}; // a trigger: no value
+    UnsignedProperty defectPixelAutoCompensation{list, "defectpixelautocompensation", 0, 0, 0}; // no value
     UnsignedProperty defectPixelCount           {list, "defectpixelcount",      0,    128,    0};
     EnumProperty     defectPixelShow            {list, "defectpixelshow",       0, {0, 1}};
     EnumProperty     startupSettings            {list, "startupsettings",       0, {0, 1, 2}};

@@ -87,7 +87,7 @@ int CM2VXBaseControl::GetTemperaturePCB() {
     return family->GetTemperaturePCB();
 }
 
-// There is one sensor, whatever its number.
+// The only sensor answers to every number.
 int CM2VXBaseControl::GetTemperature(int /*sensor*/) {
     SDK4_LOG_CALL();
     return family->GetTemperaturePCB();

@@ -11,22 +11,22 @@
 
 namespace SDK4::Control {
 
-/// The sequences of checks, accesses and stores between a property and its registers, each written once. A register is
-/// named by the method of the register map, the index that it takes comes last.
+/// The sequences of checks, accesses and stores between a property and its registers. A register is given by the method
+/// of the register map; its index comes last.
 ///
-/// What a register map throws leaves the property as it was.
+/// If a register map throws, the property keeps its value.
 class CPropertyAccess {
 public:
-    /// What a property must be for its setter to go on.
+    /// The precondition of a setter.
     enum class Gate { Implemented, Enabled };
 
-    /// @param readThrough whether getters read the camera or answer from the property
+    /// @param readThrough whether getters read the camera instead of the property
     CPropertyAccess(CRT6Camera& commonMap, CM2VXCamera& familyMap, bool readThrough)
         : common(commonMap),
           family(familyMap),
           reading(readThrough) {}
 
-    /// Every getter: implemented, then the camera's value or the one that the property holds, as Result.
+    /// A getter: checks implemented, then returns the value of the camera or of the property as Result.
     template <typename Result = void, typename Property, typename Map, typename Value, typename... Parameters,
               typename... Index>
     auto Get(Property& property, Value (Map::*read)(Parameters...), Index... index) const {
@@ -37,14 +37,14 @@ public:
         return reading ? static_cast<Returned>(Read(read, index...)) : Load<Returned>(property);
     }
 
-    /// A setter: implemented, enabled if asked for, in range, write, store.
+    /// A setter: checks implemented, enabled if @p gate says so, and range; then writes and stores.
     template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod, typename... Index>
     void Set(Property& property, Value value, WriteMethod write, Index... index) const {
         Send<gate>(property, value, write, index...);
         Store(property, value);
     }
 
-    /// The same for what is no setting: the value is not stored.
+    /// The same for a command: the value is not stored.
     template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod, typename... Index>
     void Send(Property& property, Value value, WriteMethod write, Index... index) const {
         Check<gate>(property);
@@ -54,8 +54,8 @@ public:
         Write(write, index..., value);
     }
 
-    /// A setter that leaves it to the camera what to make of a value out of range: it is written all the same, what the
-    /// camera then holds is stored, and only then the host is told.
+    /// A setter that lets the camera clamp: a value out of range is written, the value read back is stored, and then
+    /// SDK4_ERR_OUTOFRANGE is thrown.
     template <Gate gate = Gate::Implemented, typename Property, typename Value, typename WriteMethod,
               typename ReadMethod, typename... Index>
     void SetThenReport(Property& property, Value value, WriteMethod write, ReadMethod read, Index... index) const {
@@ -77,7 +77,7 @@ public:
         }
     }
 
-    /// Fills a property from the camera, whatever the range.
+    /// Fills a property from the camera, without a range check.
     template <typename Property, typename ReadMethod, typename... Index>
     void Fill(Property& property, ReadMethod read, Index... index) const {
         Store(property, Read(read, index...));

@@ -1,6 +1,6 @@
 #pragma once
 
-// The kinds of rows of a property table: properties that enter themselves into the control's list when they are made.
+// The kinds of rows of a property table: properties that add themselves to the list of the control.
 
 #include "PropertyParams.h"
 
@@ -14,7 +14,7 @@ namespace SDK4::Control {
 
 using PropertyList = std::vector<CPropertyParams*>;
 
-/// Admits any value between its limits, both included.
+/// Admits any value between its limits, inclusive.
 struct UnsignedProperty : CPropertyParams {
     UnsignedProperty(PropertyList& list, const char* propertyName, std::uint32_t minimum, std::uint32_t maximum,
                      std::uint32_t defaultValue)
@@ -32,14 +32,14 @@ struct SignedProperty : CPropertyParams {
     }
 };
 
-/// Admits single values, in addition to those that it admits already.
+/// Adds admitted values.
 inline void Admit(CPropertyParams& property, std::initializer_list<std::uint32_t> values) {
     for (const std::uint32_t value : values) {
         property.SetEnumValue(value);
     }
 }
 
-/// Admits single values only.
+/// Admits only the listed values.
 struct EnumProperty : CPropertyParams {
     EnumProperty(PropertyList& list, const char* propertyName, std::uint32_t defaultValue,
                  std::initializer_list<std::uint32_t> values)
@@ -49,7 +49,7 @@ struct EnumProperty : CPropertyParams {
     }
 };
 
-/// N scalars that travel as one record. The list gets the scalars.
+/// N scalars that are transferred as one record. The list gets the scalars.
 template <std::size_t N> struct CompoundProperty : CompoundParams<N> {
     /// @param arguments the sub-names, then minimum, maximum, default of each unless their limits are set later
     template <typename... Arguments>
@@ -63,7 +63,7 @@ template <std::size_t N> struct CompoundProperty : CompoundParams<N> {
     CPropertyParams& operator[](std::size_t i) { return *this->GetSubProperty(i); }
 };
 
-/// Several rows of one kind. They never move, since the list points at them.
+/// Several rows of one kind. They never move, because the list points to them.
 template <typename Row> struct Repeated : std::deque<Row> {
     template <typename... Arguments> explicit Repeated(std::size_t count, PropertyList& list, Arguments... arguments) {
         while (this->size() < count) {
@@ -72,7 +72,7 @@ template <typename Row> struct Repeated : std::deque<Row> {
     }
 };
 
-/// Gives a property, or each part of a compound one, its index among those that share its name.
+/// Sets the index of a property, or of each part of a compound one, among those that share its name.
 inline void SetIndex(CPropertyParams& property, std::int32_t index) { property.SetIndex(index); }
 
 template <std::size_t N> void SetIndex(CompoundProperty<N>& property, std::int32_t index) {

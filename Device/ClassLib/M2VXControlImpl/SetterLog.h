@@ -1,6 +1,6 @@
 #pragma once
 
-// The line that a setter writes when it is entered: "Call(" its values ")", joined by commas, records field by field.
+// The line that a setter logs on entry: "Call(" its values ")", separated by commas, records field by field.
 
 #include "Log.h"
 
@@ -22,7 +22,7 @@ inline auto Fields(const SDK4_KDEFECTPIXELSELECT& r) { return std::tie(r.pair, r
 inline auto Fields(const SDK4_KDEVICESELECT&      r) { return std::tie(r.value1, r.value2, r.value3); }
 // clang-format on
 
-/// A setter's values, for the stream of a log line.
+/// The values of a setter, for a log line.
 template <typename... Values> struct CallValues {
     explicit CallValues(const Values&... arguments) : values(arguments...) {}
 
@@ -51,5 +51,5 @@ template <typename... Values> std::ostream& operator<<(std::ostream& stream, con
 
 } // namespace SDK4::Control
 
-/// The line that a setter writes when it is entered.
+/// Logs the entry of a setter with its values.
 #define SDK4_LOG_SETTER(...) SDK4_LOG(Info, "Call(" << ::SDK4::Control::CallValues(__VA_ARGS__) << ")")

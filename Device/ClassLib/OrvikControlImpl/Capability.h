@@ -14,20 +14,20 @@
 
 namespace SDK4::Control {
 
-/// How a register is cached. A control opened with caching off turns every mode but the fixed ones into CacheNone.
+/// How a register is cached. With caching off, every mode except the fixed ones becomes CacheNone.
 enum class Caching {
     Never,         ///< CacheNone, fixed
     Normal,        ///< CacheNormal, unless caching is off
     ReadBack,      ///< CacheWriteInvalidates, unless caching is off
-    ReadBackFixed, ///< CacheWriteInvalidates, also with caching off
+    ReadBackFixed, ///< CacheWriteInvalidates, even with caching off
 };
 
-/// Which of the instances that share one address a register means.
+/// Selects one of the instances that share an address.
 struct Instance {
     int index;
 };
 
-/// A feature just declared, to which its conditions are added.
+/// Adds conditions to a feature that was just declared.
 template <typename T> class DeclaredFeature {
 public:
     explicit DeclaredFeature(CBaseFeature<T>& declared) : feature(declared) {}
@@ -49,8 +49,8 @@ private:
     CBaseFeature<T>& feature;
 };
 
-/// What the capability classes share: the control's lists and port, one-line declarations of registers and features,
-/// and the access to features by name. Registers and features are owned by their lists.
+/// Base of the capability classes: the lists and the port of the control, one-line declarations of registers and
+/// features, and access to features by name. The lists own the registers and features.
 class Capability {
 public:
     Capability(const Capability&) = delete;
@@ -65,9 +65,9 @@ protected:
     ~Capability() = default;
 
     using Names = std::initializer_list<std::string_view>;
-    using Pair = std::string_view[2]; ///< the features of a setting that there are two of
+    using Pair = std::string_view[2]; ///< the features of the two instances of a setting
 
-    // Declarations. A feature is bound to the register of its name and type, which is declared before it.
+    // Declarations. A feature is bound to the register of its name and type, which must be declared first.
 
     template <typename T>
     CBaseRegister<T>* Register(std::string_view name, std::uint32_t address, Caching caching, Names invalidators = {}) {
@@ -90,12 +90,12 @@ protected:
     template <typename T> DeclaredFeature<T> Plain(std::string_view name) {
         return Enter<T>(new CFeature<T>(std::string(name), featureList, Bound<T>(name)));
     }
-    /// A feature that clamps into [min, max].
+    /// A feature that clamps to [min, max].
     template <typename T> DeclaredFeature<T> Range(std::string_view name, T min, T max) {
         return Enter<T>(new CIntegerFeature<T>(std::string(name), featureList, Bound<T>(name), min, max));
     }
-    /// A feature whose bounds are other features' values at the time of a write; an empty name leaves the type's own
-    /// lowest bound.
+    /// A feature whose bounds are the values of other features at the time of a write. An empty name leaves the bound
+    /// at T{}.
     template <typename T>
     DeclaredFeature<T> RangeOf(std::string_view name, std::string_view minFeature, std::string_view maxFeature) {
         auto* feature = new CIntegerFeature<T>(std::string(name), featureList, Bound<T>(name), T{}, T{});
@@ -103,7 +103,7 @@ protected:
         feature->maxFeature = maxFeature;
         return Enter<T>(feature);
     }
-    /// A feature that admits some values only.
+    /// A feature that admits only the listed values.
     DeclaredFeature<int> Enum(std::string_view name, std::initializer_list<int> admitted) {
         auto* feature = new CEnumFeature<int>(std::string(name), featureList, Bound<int>(name));
         feature->allowed = admitted;
@@ -119,18 +119,18 @@ protected:
         featureList->SetValue<T>(feature, value);
     }
 
-    /// A setting that is an enumeration at the interface and an int in its register.
+    /// Reads a setting that is an enumeration in the interface and an int in its register.
     template <typename Enumeration> [[nodiscard]] Enumeration GetEnum(std::string_view feature) const {
         return static_cast<Enumeration>(featureList->GetValue<int>(feature));
     }
 
-    /// While an automatic mode is on the camera moves the value itself, so it is read each time. Switching the mode
-    /// off caches it again, also on a control opened with caching off.
+    /// While an automatic mode is on, the camera adjusts the value, so it is not cached. Switching the mode off turns
+    /// caching on, even on a control opened with caching off.
     static void CacheUnlessAutomatic(IRegister* reg, int automaticMode) {
         reg->SetCacheMode(automaticMode == 0 ? CacheNormal : CacheNone);
     }
 
-    /// The feature that a select means.
+    /// Selects one of the two features.
     /// @throws X4Error SDK4_ERR_INVALID_PARAMETER for a select other than 0 and 1
     static std::string_view OneOf(int select, const Pair& features) {
         if (select != 0 && select != 1) {
@@ -154,7 +154,7 @@ private:
 
     template <typename T> [[nodiscard]] CBaseRegister<T>* Bound(std::string_view name) const {
         auto* reg = dynamic_cast<CBaseRegister<T>*>(registerList->Find(name));
-        if (reg == nullptr) { // a row that names no register of its type: a slip in a declaration
+        if (reg == nullptr) { // a row without a register of its type is a programming error
             SDK4_THROW(SDK4_ERR_INVALID_INTERFACE);
         }
         return reg;

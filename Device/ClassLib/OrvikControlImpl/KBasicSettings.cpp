@@ -17,7 +17,7 @@ KBasicSettings::KBasicSettings(CFeatureList* features, CRegisterList* registers,
 
     Plain<int>(Name::Restart);
     Enum      (Name::LoadSettings,    {0, 1, 2});
-    Enum      (Name::SaveSettings,    {1, 2}); // set 0 is the factory's and cannot be overwritten
+    Enum      (Name::SaveSettings,    {1, 2}); // set 0 is the factory set and cannot be overwritten
     Enum      (Name::StartupSettings, {0, 1, 2});
     Plain<int>(Name::OperationMode);
     // clang-format on

@@ -29,7 +29,7 @@ SDK4_KBINNING KBinning::GetBinning() {
 
 void KBinning::SetBinning(SDK4_KBINNING binning) {
     SDK4_LOG_CALL();
-    // The factors are checked before anything is asked of the camera, and refused rather than clamped.
+    // The factors are checked before any access, and refused rather than clamped.
     if (!IsFactor(binning.horizontal) || !IsFactor(binning.vertical)) {
         SDK4_THROW(SDK4_ERR_INVALID_PARAMETER);
     }

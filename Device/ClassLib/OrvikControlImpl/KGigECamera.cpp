@@ -12,7 +12,7 @@ using namespace GigEBootstrap;
 
 namespace {
 
-/// Each text starts from zeros: an octet that it does not supply is 0.
+/// A missing octet is 0.
 std::uint32_t ParseFromZeros(const char* text) {
     std::array<unsigned int, 4> numbers{};
     return ParseAddress(text, numbers);
@@ -22,7 +22,7 @@ std::uint32_t ParseFromZeros(const char* text) {
 
 KGigECamera::KGigECamera(IControlPort* controlPort) : port(controlPort) {
     SDK4_LOG(Info, "Call");
-    // Without a camera there is nothing to show, and a log level must not decide whether a control can be built.
+    // Without a camera there is nothing to log. The log level must not decide whether a control can be created.
     if (logger->isDebugEnabled() && port != RefusingPort::Instance()) {
         LogNetworkState();
     }
@@ -40,7 +40,7 @@ void KGigECamera::LogNetworkState() {
     LogWord("GVCP Capability     : 0x", GvcpCapability);
     try {
         LogWord("GVCP Configuration  : 0x", GvcpConfiguration);
-    } catch (...) { // a device without this register; a log level must not keep it from being opened
+    } catch (...) { // optional register; the log level must not keep the camera from being opened
         SDK4_LOG(Debug, "GVCP Configuration  : Invalid Address");
     }
 }

@@ -7,10 +7,10 @@
 
 namespace SDK4::Control {
 
-/// Network configuration of the feature-based control, straight from the bootstrap registers: nothing is cached.
+/// Network configuration of the feature-based control, read from the bootstrap registers without caching.
 ///
-/// The texts of the MAC and IP addresses lie in static buffers, one per operation, shared by all objects: a text is
-/// good until the next call of the same operation. Names and URLs are the port's own texts.
+/// The texts of the MAC and IP addresses are in static buffers, one per operation, shared by all objects. A text is
+/// valid until the next call of the same operation. Names and URLs are the port's texts.
 class KGigECamera : public IGigECamera {
 public:
     explicit KGigECamera(IControlPort* controlPort);

@@ -5,7 +5,7 @@
 
 namespace SDK4::Control {
 
-/// Hands the host's own port back to it as an interface of the control.
+/// Exposes the host's port as an interface of the control.
 class KGigEVisionPort : public IGigEVisionPort {
 public:
     explicit KGigEVisionPort(IControlPort* controlPort);

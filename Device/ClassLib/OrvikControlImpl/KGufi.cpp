@@ -7,9 +7,9 @@ using enum Caching;
 
 namespace {
 
-constexpr std::size_t longestText = 20; // of a block of 24 bytes, behind its leading word
+constexpr std::size_t longestText = 20; // in a block of 24 bytes, after the leading word
 
-/// Never moves the buffer: a pointer that was handed out for another camera then shows this text, and not freed memory.
+/// Never reallocates the buffer: a pointer returned for another camera then points to this text, not to freed memory.
 const char* CopyText(const std::string& text, std::string& buffer) {
     buffer.reserve(longestText);
     buffer.assign(text);
@@ -21,8 +21,8 @@ const char* CopyText(const std::string& text, std::string& buffer) {
 KGufi::KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache)
     : Capability(features, registers, port, noCache) {
     SDK4_LOG(Debug, "ctor KGufi");
-    // Who the camera is does not change while it is open: cached also on a control opened with caching off.
-    // The hardware version lies behind the firmware version.
+    // The identity does not change while the camera is open, so it is cached even with caching off. The address of the
+    // hardware version is above that of the firmware version.
     // clang-format off
     Text                     (DeviceName,           0x64010000, 24, ReadBackFixed); Plain<std::string>   (DeviceName);
     Text                     (SerialNumber,         0x64020000, 16, ReadBackFixed); Plain<std::string>   (SerialNumber);
@@ -36,7 +36,7 @@ KGufi::KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* por
     // clang-format on
 }
 
-// The texts live in one buffer per operation, shared by every control.
+// The texts are in one buffer per operation, shared by all controls.
 
 const char* KGufi::GetDeviceName() {
     SDK4_LOG_CALL();

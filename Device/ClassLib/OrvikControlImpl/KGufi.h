@@ -6,7 +6,7 @@
 
 namespace SDK4::Control {
 
-/// Who the camera is.
+/// Identity of the camera.
 class KGufi : public IGufi, protected Capability {
 public:
     KGufi(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache);

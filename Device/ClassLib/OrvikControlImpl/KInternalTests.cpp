@@ -10,7 +10,7 @@ KInternalTests::KInternalTests(CFeatureList* features, CRegisterList* registers,
     : Capability(features, registers, port, noCache) {
     SDK4_LOG(Debug, "ctor KInternalTests");
     // clang-format off
-    Register<int>(PatternGenerator, 0x5A010000,              Normal); // not part of a settings set
+    Register<int>(PatternGenerator, 0x5A010000,              Normal); // not part of the settings sets
     Register<int>(Temperature1,     0x5A030000, Instance{0}, Never);
 
     if (IsColorModel(model)) {

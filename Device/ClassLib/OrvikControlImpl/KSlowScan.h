@@ -8,7 +8,7 @@
 
 namespace SDK4::Control {
 
-/// Slow readout: not served on this family. The register exists because the timing registers depend on it.
+/// Slow readout, not implemented by this family. The register exists because the timing registers depend on it.
 class KSlowScan : public ISlowScan, protected Capability {
 public:
     KSlowScan(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache, std::string model);

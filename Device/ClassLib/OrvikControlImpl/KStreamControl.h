@@ -6,7 +6,7 @@
 
 namespace SDK4::Control {
 
-/// Starts and stops acquisition, and remembers which of the two was last. The camera is never asked.
+/// Starts and stops acquisition, and remembers which was last. The camera is never read.
 class KStreamControl : public IStreamControl, protected Capability {
 public:
     KStreamControl(CFeatureList* features, CRegisterList* registers, IControlPort* port, bool noCache);

@@ -31,7 +31,7 @@ void KTrigger::SetTriggerDelay(SDK4_KEXPOSURE delay) { SDK4_LOG_CALL(); Set<SDK4
 
 void KTrigger::SetSoftTrigger(unsigned int value) {
     SDK4_LOG_CALL();
-    // One readout time lets the image before this trigger leave the sensor; the caller waits for it.
+    // Waits for one readout time, so that the previous image has left the sensor.
     const auto microseconds = Get<unsigned int>(ReadoutTime);
     SDK4_LOG(Info, "Sleep us=" << microseconds);
     usleep(microseconds);

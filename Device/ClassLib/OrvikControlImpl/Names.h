@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-/// The names of registers, features and conditions. A register and the feature bound to it share a name; a condition
-/// is named in the lists of the features that it guards.
+/// The names of registers, features and conditions. A register and the feature bound to it share a name; the condition
+/// lists of features contain names of conditions.
 namespace SDK4::Control::Name {
 
 // clang-format off

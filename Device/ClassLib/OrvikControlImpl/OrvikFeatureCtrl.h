@@ -31,8 +31,8 @@
 
 namespace SDK4::Control {
 
-/// The control of a camera of the Orvik family: one capability class for each interface, over one feature list and
-/// one register list. The order of the bases is the order in which they are built, and declare their registers.
+/// The control of an Orvik camera: one capability class for each interface, with a common feature list and register
+/// list. The order of the bases is the order in which they are constructed and declare their registers.
 class COrvikFeatureCtrl final : public IDynamicObject,
                                 public IControl,
                                 public KStreamControl,
@@ -58,10 +58,10 @@ class COrvikFeatureCtrl final : public IDynamicObject,
                                 public KMemory,
                                 public KGPIO {
 public:
-    /// Index of a control that reads the camera each time; any other index caches. The whole number counts.
+    /// Index of an uncached control; any other index caches. All 32 bits count.
     static constexpr std::int32_t uncachedIndex = 2;
 
-    /// Takes ownership of both lists when it has been built; while the constructor may throw they stay the caller's.
+    /// Takes ownership of both lists when the constructor returns. If it throws, they stay with the caller.
     /// @param model the caller's text, which must live as long as the control
     /// @param id the caller's text that GetClassID returns
     COrvikFeatureCtrl(CFeatureList* featureList, CRegisterList* registerList, IControlPort* controlPort,

@@ -12,7 +12,7 @@ namespace SDK4::Control {
 
 class KStreamControl;
 
-/// A named value that is computed from features each time it is asked for: a condition, or a bound.
+/// A named value that is computed from features on every read: a condition, or a bound.
 template <typename T> class CComputedFeature : public IFeature, public IGetter<T> {
 public:
     CComputedFeature(std::string_view featureName, CFeatureList* featureList)
@@ -30,7 +30,7 @@ protected:
 /// A condition that features name in their condition lists.
 using CPredicate = CComputedFeature<bool>;
 
-/// Acquisition runs: the parameters of the transport layer must not change. Asks no camera.
+/// Acquisition runs, so the parameters of the transport layer must not change. Does not access the camera.
 class CTLParamsLocked final : public CPredicate {
 public:
     CTLParamsLocked(std::string_view featureName, CFeatureList* featureList, const KStreamControl* streamControl)
@@ -49,7 +49,7 @@ public:
     SDK4_KPOSITION GetValue() override;
 };
 
-/// The pixel coding is none of the raw ones.
+/// The colour coding is not raw.
 class CIsNotColorCodingRaw final : public CPredicate {
 public:
     using CPredicate::CPredicate;
@@ -112,7 +112,7 @@ public:
     bool GetValue() override;
 };
 
-/// Enters every predicate of the control into its feature list, which owns them from then on.
+/// Adds every predicate of the control to its feature list, which owns them.
 void AddPredicates(CFeatureList* features, const KStreamControl* stream);
 
 } // namespace SDK4::Control
