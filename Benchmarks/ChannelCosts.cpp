@@ -1,5 +1,5 @@
-// What the plug-in and the host's port add to the accesses that they make to a camera on the network: each call beside
-// the same accesses by Aravis alone, to another camera of the same model. Writes a table of docs/performance.md.
+// The time that the plug-in and the host's port add to accesses to a camera on the network. Compares each call with the
+// same accesses by Aravis alone, to another camera of the same model. Writes a table of docs/performance.md.
 
 #include "Benchmarks/RawChannel.h"
 #include "Benchmarks/Timing.h"
@@ -24,7 +24,7 @@ namespace {
 
 constexpr double limit = 1.10;
 
-/// A call, the accesses that it makes, and for every round the seconds that each of both took, and their ratio.
+/// A call, its accesses, and for every round the seconds of both sides and their ratio.
 struct Comparison {
     std::string name;
     std::vector<Host::Access> accesses;
@@ -34,7 +34,7 @@ struct Comparison {
 
 using Comparisons = std::vector<Comparison>;
 
-/// Two cameras of a model: one with the plug-in over the host's port, one with Aravis alone.
+/// Two cameras of a model: one for the plug-in over the host's port, one for Aravis alone.
 class Cameras {
 public:
     Cameras(const Host::Plugin& plugin, const char* model, std::int32_t index, const char* ours, const char* theirs)
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    /// What is compared with are the accesses of a repeated call: the first may find caches empty.
+    /// Compares with the accesses of a repeated call, since the first call may find caches empty.
     template <typename Interface>
     void Add(Comparisons& table, const char* name, void (*call)(Interface&), Interface& measured, Interface& recorded) {
         call(recorded);
@@ -97,8 +97,8 @@ void AddM2VX(Comparisons& table, Cameras& cameras) {
 }
 // clang-format on
 
-/// The two sides take turns, so that each always finds the processor as the other has left it. What slows the machine
-/// down for longer than a round changes the times of both sides, and so their ratio little.
+/// The two sides take turns. A disturbance of the machine that lasts longer than a round affects both sides, and so
+/// hardly changes their ratio.
 void MeasureRound(Comparison& row) {
     constexpr int turns = 25;
     row.call();
@@ -136,7 +136,7 @@ std::string Print(const std::vector<Host::Access>& accesses) {
     return text;
 }
 
-/// Writes the table. @return whether every limit was kept
+/// Writes the table. @return whether all limits are met
 bool Print(const Comparisons& table) {
     bool allReached = true;
     std::puts("| Operation | Accesses | Aravis alone, µs | The call, µs | Ratio | Limit | Reached |");
@@ -153,7 +153,8 @@ bool Print(const Comparisons& table) {
 
 int Main(std::span<char*> addresses) {
     if (addresses.size() != 4) {
-        throw std::runtime_error("wanted: addresses of two cameras Orvik-31200C and two Cerix7-MV");
+        throw std::runtime_error(
+            "usage: qdv12_channel_costs ORVIK ORVIK M2VX M2VX (addresses of two Orvik-31200C and two Cerix7-MV)");
     }
     Host::ConfigureLogging("off");
     const Host::Plugin plugin(Host::DefaultPlugin());
@@ -175,6 +176,6 @@ int main(int argc, char** argv) {
         return Bench::Main(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
-        return 2; // unlike a limit that is not kept
+        return 2; // 1 means that a limit was exceeded
     }
 }

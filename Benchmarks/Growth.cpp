@@ -1,5 +1,5 @@
-// How the cost of a call grows with the number of registers in a list, on the framework itself. Writes the table of
-// docs/performance.md to the standard output, and its numbers to a file for the plot.
+// The cost of calls, depending on the number of registers in a list, on the framework itself. Writes the table of
+// docs/performance.md to standard output, and its numbers to a file for the plot.
 
 #include "BaseControlHelper.h"
 #include "Benchmarks/Table.h"
@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t sizes[] = {10, 100, 1000, 10000};
 constexpr const char* operations[] = {"cached read", "write with a cascade", "settings load", "property by name"};
-/// A list of registers that a settings load makes stale, each with its feature, and so many properties. Eight registers
+/// A list of registers that a settings load makes stale, each with its feature, and as many properties. Eight registers
 /// depend on the first one.
 class Control final : public SDK4::Control::CBaseControlHelper {
 public:
@@ -42,7 +42,7 @@ public:
     void LoadSettings() { loader->SetValue(1); }
     void FindLast() { GetUIntValue(last.c_str()); }
 
-    /// Makes all values valid, or those that depend on the first register.
+    /// Makes all values valid, or only those that depend on the first register.
     void ReadAll() {
         for (auto* each : all) {
             each->GetValue();
@@ -65,7 +65,7 @@ private:
     static std::string NameOf(const char* kind, std::size_t i) { return kind + std::to_string(i); }
 
     Register& Declare(const std::string& name) {
-        auto* added = new Register(name, &registers, &port, address, SDK4::CacheNormal); // the list's
+        auto* added = new Register(name, &registers, &port, address, SDK4::CacheNormal); // owned by the list
         features.AddEntry(new SDK4::CIntegerFeature<unsigned int>(name, &features, added, 0, 100));
         all.push_back(added);
         return *added;

@@ -1,5 +1,5 @@
-// Runs five operations for callgrind to count their instructions: collection is on during the calls only, and each
-// operation's count is dumped under its name. Without callgrind it just runs them.
+// Runs five operations for callgrind to count their instructions. Collection is on only during the calls, and each
+// count is dumped under the operation's name. Without callgrind it just runs them.
 
 #include "Benchmarks/Workbench.h"
 #include "Tests/Support/LogCapture.h"
@@ -12,9 +12,9 @@ using namespace SDK4::Control;
 
 namespace {
 
-constexpr int calls = 20; // the counts are of all together
+constexpr int calls = 20; // each count is the sum of these calls
 
-/// Counts @p call, after it ran often enough for everything to be set up. @p prepare is not counted.
+/// Counts @p call after a warm-up. @p prepare is not counted.
 void Count(
     const char* name, const std::function<void()>& call, const std::function<void()>& prepare = [] {}) {
     for (int i = 0; i < 3; ++i) {

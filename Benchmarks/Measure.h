@@ -1,7 +1,7 @@
 #pragma once
 
-// How every row is measured: calls are timed in batches of some microseconds, and what counts is the median batch of a
-// repetition. A batch that another program interrupted is one of many.
+// How every row is measured: calls are timed in batches of some microseconds. The result of a repetition is its median
+// batch, so that interrupted batches do not count.
 
 #include "Benchmarks/Timing.h"
 #include "Tests/Support/Allocations.h"
@@ -15,14 +15,14 @@
 
 namespace Bench {
 
-/// Counts something until now, for example port accesses.
+/// A running total, such as port accesses.
 using Counter = std::function<std::uint64_t()>;
 
-/// What is done before each batch, without being measured.
+/// Runs before each batch and is not measured.
 using Preparation = std::function<void()>;
 
-/// Measures a call: its time, and what it costs in port accesses and allocations. A call that needs a preparation is
-/// timed alone, with the clock's own some 25 ns.
+/// Measures a call: time, port accesses and allocations. A call that needs a preparation is timed singly, including
+/// about 25 ns for the clock.
 template <typename Call>
 void Measure(benchmark::State& state, Call call, const Counter& accesses, const Preparation& prepare) {
     constexpr double batchTime = 10e-6;

@@ -10,11 +10,11 @@ namespace Bench {
 
 namespace {
 
-constexpr const char* plainFeature = "GainRaw"; // the cheapest: one register, limits that are constants
-constexpr const char* boundedFeature = "Width"; // its greatest value is another feature's
+constexpr const char* plainFeature = "GainRaw"; // the cheapest: one register, constant limits
+constexpr const char* boundedFeature = "Width"; // its maximum is another feature
 constexpr guint32 gainRegister = 0x110;
 
-/// Calls with a place for an error as the last argument. An error would hide what is measured.
+/// Calls a function whose last argument receives an error, and throws on an error.
 template <typename Function, typename... Arguments> auto Call(Function function, Arguments... arguments) {
     GError* error = nullptr;
     const auto require = [&error] {
@@ -40,7 +40,7 @@ void Set(ArvDevice* device, const char* feature, gint64 value) {
     Call(arv_device_set_integer_feature_value, device, feature, value);
 }
 
-/// The cache answers when a change behind its back goes unnoticed.
+/// The cache works if it hides a change made without Aravis.
 void RequireCache(ArvDevice* device) {
     ArvFakeCamera* camera = arv_fake_device_get_fake_camera(ARV_FAKE_DEVICE(device));
     Set(device, plainFeature, 3);

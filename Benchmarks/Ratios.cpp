@@ -1,4 +1,4 @@
-// What a call costs beside the same kind of call of Aravis, on cameras that answer from memory. Writes the table of
+// The time of calls compared with the same kind of call in Aravis, on cameras in memory. Writes the table of
 // docs/performance.md.
 
 #include "Benchmarks/Peer.h"
@@ -61,7 +61,7 @@ void AddOpening(Table& table, Workbench& bench) {
 }
 // clang-format on
 
-/// Writes the table. @return whether every limit was kept
+/// Writes the table. @return whether all limits are met
 bool Print(const Table& table) {
     bool allReached = true;
     std::puts("| Operation | ns | Port accesses | Heap allocations | Ratio | Limit | Reached |");

@@ -57,7 +57,7 @@ bool RawChannel::MoveRegister(const Host::Access& access, GError** error) {
 bool RawChannel::MoveMemory(const Host::Access& access, GError** error) {
     const auto size = static_cast<guint32>(access.data.size());
     if (access.write) {
-        moved = access.data; // since Aravis wants to be given what it may write to
+        moved = access.data; // Aravis takes a buffer that is not const
         return arv_device_write_memory(device.get(), access.address, size, moved.data(), error) != FALSE;
     }
     moved.resize(size);
@@ -79,7 +79,7 @@ void RawChannel::RequireSameAnswers(const std::vector<Host::Access>& accesses) {
     for (const Host::Access& access : accesses) {
         Make(access);
         if (moved != access.data) {
-            throw std::runtime_error(std::string(access.operation) + " is answered otherwise by the other camera");
+            throw std::runtime_error(std::string(access.operation) + " has another result on the other camera");
         }
     }
 }

@@ -7,27 +7,27 @@
 #include <string>
 #include <vector>
 
-struct _ArvDevice; // Aravis' own names for what its headers would declare
+struct _ArvDevice; // declared here to avoid the headers of Aravis
 struct _GError;
 
 namespace Bench {
 
-/// Whether an access moves one register by its value, not memory.
+/// Whether an access is a register access rather than a memory access.
 [[nodiscard]] bool IsOfRegister(const Host::Access& access);
 
-/// A camera on the network as Aravis alone reaches it, with neither the plug-in nor the host's port.
+/// A camera on the network, accessed by Aravis alone, without the plug-in and the host's port.
 class RawChannel {
 public:
-    /// Opens the camera and takes control of it. Nothing is broadcast.
+    /// Opens the camera and takes control of it, without discovery.
     /// @param address an IPv4 address
     /// @throws std::runtime_error
     explicit RawChannel(const std::string& address);
 
-    /// Makes the accesses that a port made, by register or by memory as the host's port does.
-    /// @throws std::runtime_error when one fails
+    /// Repeats the accesses of a port, by register or memory as the host's port does.
+    /// @throws std::runtime_error if one fails
     void Make(const std::vector<Host::Access>& accesses);
 
-    /// Makes them, too. @throws std::runtime_error when this camera does not answer what was answered to the port
+    /// The same. @throws std::runtime_error if this camera's answers differ from those recorded
     void RequireSameAnswers(const std::vector<Host::Access>& accesses);
 
 private:
@@ -40,7 +40,7 @@ private:
     bool MoveMemory(const Host::Access& access, _GError** error);
 
     std::unique_ptr<_ArvDevice, Release> device;
-    std::vector<std::uint8_t> moved; ///< by the last access
+    std::vector<std::uint8_t> moved; ///< data of the last access
 };
 
 } // namespace Bench

@@ -4,7 +4,7 @@ namespace Bench {
 
 namespace {
 
-/// Collects the repetitions of every row, and shows nothing but errors.
+/// Collects the repetitions of every row, and prints only errors.
 class Collector final : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context& /*context*/) override { return true; }

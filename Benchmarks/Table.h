@@ -9,20 +9,19 @@
 
 namespace Bench {
 
-/// An operation to be measured. Its time may be limited to so many times that of another row.
+/// An operation to be measured. Its time may be limited to a multiple of another row's.
 struct Row {
     std::string name;
     const char* peer = nullptr;
     double limit = 0; ///< 0: none
 };
 
-/// What was measured of a row: medians of the repetitions.
+/// The results of a row: medians of the repetitions.
 struct Result {
     double nanoseconds = 0, accesses = 0, allocations = 0;
 };
 
-/// Rows to be measured, and what came out. They are repeated in random order, so that what disturbs the machine for a
-/// while disturbs all of them.
+/// Rows and their results. Rows are repeated in random order, so that a temporary disturbance affects all of them.
 class Table {
 public:
     explicit Table(Counter portAccesses) : accesses(std::move(portAccesses)) {}
@@ -44,7 +43,7 @@ public:
 
     [[nodiscard]] const std::vector<Row>& Rows() const { return rows; }
 
-    /// What was measured of the row of that name. @throws std::out_of_range
+    /// The results of the row. @throws std::out_of_range
     [[nodiscard]] const Result& At(const std::string& name) const { return results.at(name); }
 
     static constexpr int batches = 300, repetitions = 25;

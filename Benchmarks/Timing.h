@@ -13,7 +13,7 @@ template <typename Number> Number Median(std::vector<Number> values) {
     return *middle;
 }
 
-/// The seconds that a call takes, on the average of a batch.
+/// The seconds per call, averaged over a batch.
 template <typename Call> double Time(unsigned batch, Call& call) {
     using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();

@@ -42,7 +42,7 @@ void Workbench::ReadEverything(const Test::Camera& camera) {
         Test::Outcome(getter->call, *camera.Object());
     }
     auto& lines = camera.As<SDK4::Control::IGPIO>();
-    for (unsigned int line = 0; line < 6; ++line) { // of which the table names some
+    for (unsigned int line = 0; line < 6; ++line) { // the table has rows for some of the lines
         lines.GetIoMode(line);
         lines.GetIoPort(line);
         lines.GetIoPolarity(line);

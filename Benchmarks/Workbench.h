@@ -7,12 +7,12 @@
 
 namespace Bench {
 
-/// The plug-in, loaded as a host loads it, and cameras on ports that answer from memory.
+/// The plug-in, loaded as by a host, and cameras on ports in memory.
 class Workbench {
 public:
     Workbench();
 
-    /// Reads everything that an Orvik camera remembers, so that nothing is stale.
+    /// Reads everything that an Orvik camera caches, so that nothing is stale.
     static void ReadEverything(const Test::Camera& camera);
 
     static constexpr const char* orvikModel = "Orvik-31200C";
@@ -22,11 +22,11 @@ public:
     Test::Plugin plugin;
     Test::FlatPort orvikPort, m2vxPort;
 
-    Test::Camera orvik;        ///< remembers, and has read the limits of the readout area; `area` lies between them
-    Test::Camera orvikLoading; ///< remembers; for settings loads, which make everything stale
-    Test::Camera orvikReading; ///< reads its camera every time
-    Test::Camera m2vx;         ///< remembers
-    Test::Camera m2vxReading;  ///< reads its camera every time
+    Test::Camera orvik;        ///< cached, with known limits of the readout area; `area` is within them
+    Test::Camera orvikLoading; ///< cached; for settings loads, which make everything stale
+    Test::Camera orvikReading; ///< uncached
+    Test::Camera m2vx;         ///< cached
+    Test::Camera m2vxReading;  ///< uncached
 
 private:
     static Test::FlatPort& Orvik(Test::FlatPort& port);

@@ -1,10 +1,10 @@
 # Compile options shared by all targets.
 
-# Source locations in log lines are relative to the project, wherever it was built. They all have a directory part:
-# log4cxx looks for one, and reckons with an address before the text when there is none.
+# Source locations in log lines are relative to the project, wherever it was built. They all have a directory part, since
+# without one log4cxx computes an address before the text.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=./)
 
-# Unique symbols would keep the plug-in in the process after dlclose.
+# Unique symbols would keep the plug-in loaded after dlclose.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fno-gnu-unique)
 endif()
@@ -21,8 +21,8 @@ if(QDV12_SANITIZERS)
     add_link_options(-fsanitize=${QDV12_SANITIZERS})
 endif()
 
-# Half the time that a source takes is for reading other people's headers. Every source includes what it uses all the
-# same: scripts/check compiles without.
+# Third-party headers take half the compile time of a source. Every source still includes what it uses: scripts/check
+# compiles without precompiled headers.
 function(qdv12_precompile target)
     target_precompile_headers(${target} PRIVATE <algorithm> <chrono> <functional> <map> <memory> <optional> <set>
         <sstream> <string> <vector> ${ARGN})
@@ -30,7 +30,7 @@ endfunction()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    # What it must not mind to cache with precompiled headers; Clang's would bear the time.
+    # With precompiled headers, ccache requires this sloppiness, and that Clang writes no timestamps into them.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
     add_compile_options("$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 endif()

@@ -1,5 +1,5 @@
-# What `cmake --install` lays down and `cpack -G DEB` packs: the plug-in, what a host compiles against, the reference
-# host and the simulated camera, with their manual pages.
+# Installed by `cmake --install` and packed by `cpack -G DEB`: the plug-in, the headers and CMake files for hosts, the
+# reference host and the simulated camera with their manual pages.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -11,7 +11,7 @@ if(QDV12_BUILD_TOOLS)
     find_program(HELP2MAN help2man)
 endif()
 
-# The manual pages are what the programs say of themselves.
+# The manual pages are generated from the help of the programs.
 function(qdv12_add_manual program about)
     set(page ${CMAKE_BINARY_DIR}/${program}.1)
     add_custom_command(OUTPUT ${page}
@@ -20,14 +20,14 @@ function(qdv12_add_manual program about)
     add_custom_target(${program}_manual ALL DEPENDS ${page})
 endfunction()
 if(QDV12_BUILD_TOOLS AND HELP2MAN AND NOT QDV12_SANITIZERS)
-    qdv12_add_manual(qdv12host "drive GigE Vision cameras through libqdv12ctrl.so")
-    qdv12_add_manual(qdv12sim "put a simulated GigE Vision camera on the network")
+    qdv12_add_manual(qdv12host "control GigE Vision cameras through libqdv12ctrl.so")
+    qdv12_add_manual(qdv12sim "simulate a GigE Vision camera on the network")
     set(manuals ${CMAKE_BINARY_DIR}/qdv12host.1 ${CMAKE_BINARY_DIR}/qdv12sim.1)
     list(APPEND products qdv12host_manual qdv12sim_manual)
     list(APPEND files ${manuals})
 endif()
 
-# `cmake --install` builds nothing: it says what to build, before it lays anything down.
+# `cmake --install` does not build. If something is not built, it fails before it installs anything.
 add_custom_target(qdv12_product DEPENDS ${products})
 install(CODE "
     foreach(file ${files})
@@ -37,7 +37,7 @@ install(CODE "
         endif()
     endforeach()")
 
-# A plug-in is loaded, not linked: it lies in a folder of its own, which no linker searches.
+# A plug-in is loaded, not linked: it has its own folder, which linkers do not search.
 set(QDV12_MODULE_DIR lib/qdv12)
 install(TARGETS qdv12ctrl LIBRARY DESTINATION ${QDV12_MODULE_DIR})
 install(DIRECTORY Include/SDK4 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
@@ -51,12 +51,12 @@ install(TARGETS SDK4 EXPORT QDV12ControlTargets INCLUDES DESTINATION ${CMAKE_INS
 install(EXPORT QDV12ControlTargets NAMESPACE QDV12Control:: DESTINATION ${package_dir})
 configure_package_config_file(cmake/QDV12ControlConfig.cmake.in QDV12ControlConfig.cmake
     INSTALL_DESTINATION ${package_dir} PATH_VARS QDV12_MODULE_DIR)
-# Before version 1, a minor version may break what the one before promised.
+# Before version 1, minor versions may be incompatible.
 write_basic_package_version_file(QDV12ControlConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/QDV12ControlConfig.cmake ${CMAKE_BINARY_DIR}/QDV12ControlConfigVersion.cmake
     DESTINATION ${package_dir})
 
-# pkg-config finds the prefix from where its file is, however deep that lies.
+# pkg-config derives the prefix from the location of its file.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
     OUTPUT_VARIABLE pc_to_prefix)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}

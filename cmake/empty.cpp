@@ -1,1 +1,1 @@
-// CMake wants a source file of the library itself; all code is in the object library.
+// CMake requires a source file of the library itself. All code is in the object library.

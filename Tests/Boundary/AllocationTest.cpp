@@ -1,4 +1,4 @@
-// With logging off, what a host calls most asks for no memory: getters that answer from the cache, and setters.
+// With logging off, frequent calls allocate nothing: cached getters and setters.
 
 #include "Tests/Boundary/Rows.h"
 #include "Tests/Support/Allocations.h"
@@ -11,18 +11,18 @@ namespace Test {
 
 namespace {
 
-/// Results of more characters make the table's own call ask for memory; they are texts and wide records.
+/// Longer results make the table's own call allocate. They are texts and wide records.
 constexpr std::size_t withoutAllocation = 15;
 
-/// A text of more characters than a std::string holds itself: its end is not cut off.
+/// Longer than the internal buffer of a std::string: checks that the text is not truncated.
 constexpr const char* longText = "IGufi::GetDeviceName";
 
-/// What the flat port cannot tell apart.
+/// Whether the state has several instances at an address, which the flat port cannot distinguish.
 bool NeedsInstances(const State& state) {
     return std::ranges::any_of(state.presets, [](const Preset& preset) { return preset.index >= 0; });
 }
 
-/// How often the repeated call asks for memory.
+/// The number of allocations of the repeated call.
 std::uint64_t AllocationsOf(const Operation& row, const Camera& camera) {
     Outcome(row.call, *camera.Object());
     const std::uint64_t before = Allocations();

@@ -1,5 +1,5 @@
-// A host that does what no host should: numbers far outside, texts of any length, null, calls in any order and from
-// within each other. Each is refused with the right code before the camera is touched, or is harmless.
+// A misbehaving host: numbers out of range, texts of any length, null, calls in any order and reentrant calls. Each is
+// refused with the right code before the camera is accessed, or is harmless.
 
 #include "Tests/Boundary/Rows.h"
 #include "Tests/Boundary/WildCalls.h"
@@ -17,7 +17,7 @@ namespace Test {
 
 namespace {
 
-/// A text as a host hands it over that has not a byte to spare.
+/// A text in a buffer of exactly its size.
 std::vector<char> Exactly(std::size_t length, char character = 'x') {
     std::vector<char> text(length, character);
     text.push_back('\0');
@@ -26,7 +26,7 @@ std::vector<char> Exactly(std::size_t length, char character = 'x') {
 
 } // namespace
 
-/// All of it for both families, in both openings.
+/// Tests both families, cached and uncached.
 class BadHostTest : public CameraTest, public testing::WithParamInterface<std::pair<const char*, int>> {
 protected:
     [[nodiscard]] bool IsM2VX() const { return state.IsM2VX(); }
@@ -36,7 +36,7 @@ protected:
         return Open(state, GetParam().second);
     }
 
-    /// A result or a code of ours, and a value that is refused is not written.
+    /// The outcome is a result or an error code of the library, and a refused value is not written.
     void ExpectDecent(const Observation& observed) {
         EXPECT_NE(observed.outcome, "unknown error");
         for (const std::string& refusal : {invalid, notImplemented, locked, cantRead}) {
@@ -48,8 +48,8 @@ protected:
 
     void ExpectDecent(const Camera& camera, const Wild& operation, std::uint32_t first, const std::string& refusal);
 
-    /// Whatever was called, the caches of an Orvik camera know what it holds. Properties, which hosts may disable, need
-    /// not: a disabled one is not filled.
+    /// The caches of an Orvik camera hold the camera's values. Properties of M2VX may differ: a disabled one is not
+    /// updated.
     void ExpectCoherent(const Camera& camera) {
         if (IsM2VX()) {
             return;
@@ -61,7 +61,7 @@ protected:
     const State state{{}, GetParam().first};
 };
 
-/// With every odd word for the arguments behind the first.
+/// Calls with every odd word for the arguments after the first.
 void BadHostTest::ExpectDecent(const Camera& camera, const Wild& operation, std::uint32_t first,
                                const std::string& refusal) {
     for (const std::uint32_t rest : oddWords) {
@@ -94,7 +94,7 @@ TEST_P(BadHostTest, NumbersFarOutsideAreRefusedOrHarmless) {
 TEST_P(BadHostTest, CallsInAnyOrderAreHarmless) {
     std::vector<Call> calls;
     for (const Operation& row : Operations()) {
-        if (row.state.IsM2VX() != IsM2VX() || IsOf("ITrigger", row)) { // which waits as long as the readout takes
+        if (row.state.IsM2VX() != IsM2VX() || IsOf("ITrigger", row)) { // waits for the readout time
             continue;
         }
         calls.push_back(row.call);
@@ -206,7 +206,7 @@ TEST_F(BadPropertyHostTest, NumbersThatNoPropertyHasAreRefused) {
 TEST_F(BadPropertyHostTest, ObserversMayComeAndGoAsTheyLike) {
     auto& gain = camera.As<M2VX::IGain>();
     Observed first, second;
-    properties.RemoveCallback(Observed::Notify); // there is none
+    properties.RemoveCallback(Observed::Notify); // none is registered
     properties.AddCallback(Observed::Notify, &first);
     properties.AddCallback(Observed::Notify, &first);
     gain.SetGain(1);
@@ -221,7 +221,7 @@ TEST_F(BadPropertyHostTest, ObserversMayComeAndGoAsTheyLike) {
     properties.RemoveCallback(nullptr);
     properties.RemoveCallback(nullptr);
 
-    struct Relay { // hands over to the next while it is told
+    struct Relay { // passes the notification on
         static void Notify(const char* name, const char* attribute, void* context) {
             auto& self = *static_cast<Relay*>(context);
             self.properties.AddCallback(Observed::Notify, &self.next);

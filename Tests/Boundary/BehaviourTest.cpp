@@ -1,4 +1,4 @@
-// What takes more than one call to see: admitted values, conditions, automatic modes, failures between calls.
+// Behaviour over several calls: valid values, conditions, automatic modes, failures between calls.
 
 #include "Tests/Boundary/Rows.h"
 
@@ -129,7 +129,8 @@ TEST_F(BehaviourTest, AutomaticModesSwitchTheCachesOfWhatTheyMove) {
         for (const int index : {0, 2}) {
             SCOPED_TRACE(std::string(getter) + " at index " + std::to_string(index));
             const Camera camera = Open(Colour(), index);
-            Outcome(Row("IColor::GetColorBalance"), *camera.Object()); // the model identifier is known from here on
+            Outcome(Row("IColor::GetColorBalance"),
+                    *camera.Object()); // reads the model identifier, which is then cached
             const auto costOfGetter = [&, getter = getter] { return Observe(camera, Row(getter)).accesses; };
             const auto refused = [&, set = set] {
                 EXPECT_THROW(set(*camera.Object(), 9), X4Error);
@@ -142,12 +143,12 @@ TEST_F(BehaviourTest, AutomaticModesSwitchTheCachesOfWhatTheyMove) {
             Outcome(Row(on), *camera.Object());
             EXPECT_EQ(costOfGetter(), read);
             refused();
-            EXPECT_EQ(costOfGetter(), read) << "the camera moves the value: it is read every time";
+            EXPECT_EQ(costOfGetter(), read) << "the camera changes the value: it is read every time";
 
             Outcome(Row(off), *camera.Object());
             EXPECT_EQ(costOfGetter(), read);
             refused();
-            EXPECT_EQ(costOfGetter(), "") << "cached again, even when opened without caches";
+            EXPECT_EQ(costOfGetter(), "") << "cached again, also by an uncached control";
         }
     }
 }
@@ -218,7 +219,7 @@ TEST_F(BehaviourTest, LinesNameTheRegistersTheyTellOf) {
     std::set<std::string> read, written;
     for (const Operation& row : Operations()) {
         if (!row.state.IsM2VX()) {
-            port = RecordingPort(); // a readout time that another row has set may be long to wait for
+            port = RecordingPort(); // another row may have set a long readout time
             const Camera camera = Open(row.state);
             LogCapture log;
             Outcome(row.call, *camera.Object());
@@ -262,7 +263,7 @@ TEST_F(BehaviourTest, ASettingsLoadReachesEveryRegisterAlongEveryPath) {
     LogCapture log;
     camera.As<IBasicSettings>().LoadSettings(1);
     const std::string line = "debug DoInvalidate  ";
-    std::map<std::string, int> paths; // one line for each chain of dependants that leads to a register
+    std::map<std::string, int> paths; // by register: one line for each chain of dependants
     for (const std::string& text : log.TakeTexts()) {
         if (text.starts_with(line)) {
             ++paths[text.substr(line.size())];
@@ -323,7 +324,8 @@ TEST_F(BehaviourTest, IdentityTextsLieInOneBufferThatNeverMoves) {
             const char* const answered = (camera.As<IGufi>().*get)();
             first = first == nullptr ? answered : first;
             EXPECT_EQ(answered, first) << std::hex << address;
-            EXPECT_EQ(std::string(first).substr(0, held.size()), held) << "what was handed out before shows it, too";
+            EXPECT_EQ(std::string(first).substr(0, held.size()), held)
+                << "a pointer returned earlier shows the new text";
         }
     }
 }

@@ -14,12 +14,12 @@ namespace Test {
 inline std::string InterfaceOf(const std::string& row) { return row.substr(0, row.rfind("::")); }
 inline std::string WithoutInterface(const std::string& row) { return row.substr(row.rfind("::") + 2); }
 
-/// What a port may throw: no type of the library's.
+/// An exception of the port that the library does not know.
 struct Unplugged {
     int reason;
 };
 
-/// A host's registry, which notes the models that it is told of: "model=key", one a line.
+/// A host's registry, which records the models: "model=key", one a line.
 struct Registry final : IModelRegistry {
     void RegisterModel(const char* modelName, const char* libraryKey) override {
         models += std::string(modelName) + "=" + libraryKey + "\n";
@@ -36,7 +36,7 @@ template <typename Interface, typename Value> Setter Sets(void (Interface::*oper
     };
 }
 
-/// The same for one of several instances.
+/// The same for an instance.
 template <typename Interface, typename Line, typename Value>
 Setter Sets(void (Interface::*operation)(Line, Value), Line line) {
     return [operation, line](IDynamicObject& camera, int value) {
@@ -46,7 +46,7 @@ Setter Sets(void (Interface::*operation)(Line, Value), Line line) {
 
 class CameraTest : public testing::Test {
 protected:
-    /// A camera in the state that @p state describes. The accesses made for that are not in the log.
+    /// Opens a camera in the state @p state. The accesses for that are not in the log.
     Camera Open(const State& state = {}, int index = 0) {
         Prepare(port, state);
         Camera camera(plugin, state.model, &port, index);
@@ -57,7 +57,7 @@ protected:
         return camera;
     }
 
-    /// The accesses that a call costs, and its outcome.
+    /// The accesses and the outcome of a call.
     struct Observation {
         std::string outcome, accesses;
         bool operator==(const Observation&) const = default;
@@ -71,15 +71,15 @@ protected:
         return {std::move(outcome), port.TakeLog()};
     }
 
-    /// What a row's call does to the getters that a camera which remembers answers without asking the camera.
+    /// The effect of a row's call on the getters that a cached control answers without access.
     struct Effect {
         std::string outcome;
-        std::set<std::string> valid;    ///< those that answered before, but for who the camera is, which never changes
-        std::set<std::string> affected; ///< those that read the camera afterwards or, of M2VX, answer differently
+        std::set<std::string> valid;    ///< getters cached before the call, except for the camera's identity
+        std::set<std::string> affected; ///< getters that read the camera afterwards or, for M2VX, answer differently
     };
     Effect EffectOf(const Operation& row);
 
-    /// The values that a setter accepts. The others must be refused with @p refusal, and not be written.
+    /// The values that a setter accepts. It must refuse the others with @p refusal, without writing them.
     std::string AdmittedBy(const Setter& set, const Camera& camera, const std::string& refusal) {
         std::vector<int> values{INT_MIN, -65536, 256, 257, 65536, 65537, INT_MAX};
         for (int value = -2; value < 160; ++value) {

@@ -1,4 +1,4 @@
-// The two exports, the life of a control, and its log lines.
+// The two exports, the lifetime of a control, and its log lines.
 
 #include "Tests/Boundary/CameraTest.h"
 
@@ -44,7 +44,7 @@ TEST_F(FactoryTest, ServesTheTenOrvikModels) {
         EXPECT_STREQ(camera.As<SDK4::IControl>().GetClassID(), "Orvik");
         EXPECT_EQ(dynamic_cast<void*>(camera.Object()), camera.Object()) << "IDynamicObject is not the first base";
     }
-    EXPECT_EQ(port.TakeLog(), "") << "opening touches nothing";
+    EXPECT_EQ(port.TakeLog(), "") << "opening makes no access";
 }
 
 TEST_F(FactoryTest, AnswersNullForOtherNames) {
@@ -90,7 +90,7 @@ TEST_F(FactoryTest, DebugLinesTellConstructionAndDestruction) {
               "KColor",          "KOverlay",       "KGufi",          "KExposure", "KRoa",
               "KSignalAnalysis", "KInternalTests", "KBasicSettings", "KBinning",  "KLookupTable",
               "KTrigger",        "KMemory",        "KGPIO",          "gain",      "temperature1",
-              "iodelay6"}) { // registers too
+              "iodelay6"}) { // also the names of registers
             EXPECT_EQ(std::count(opening.begin(), opening.end(), "debug ctor " + std::string(name)), 1) << name;
         }
     }

@@ -11,13 +11,13 @@
 
 namespace Test {
 
-/// An exception of the host's own, as its port would throw it.
+/// An exception of the host, thrown by its port.
 struct CableOut : std::runtime_error {
     explicit CableOut(unsigned int nth) : std::runtime_error("cable out"), access(nth) {}
     unsigned int access;
 };
 
-/// What reaches the host.
+/// The exception that reaches the host.
 struct Thrown {
     const char* type = "nothing";
     int value = 0;
@@ -38,7 +38,7 @@ template <typename Function> Thrown ThrownBy(const Function& function) {
     return {};
 }
 
-/// One failure: an access, how it fails, and whether the library logs meanwhile.
+/// One failure: the access, the exception, and whether the library logs.
 struct Failure {
     unsigned int nth;
     bool foreign, logging;
@@ -63,7 +63,7 @@ struct Failure {
 
 inline std::size_t CountOf(const std::string& accesses) { return Split(accesses, "; ").size(); }
 
-/// The first accesses, up to one of them.
+/// The first accesses, up to and including number @p nth.
 inline std::string UpTo(unsigned int nth, const std::string& accesses) {
     std::size_t end = 0;
     for (; nth > 0; --nth) {
@@ -72,7 +72,7 @@ inline std::string UpTo(unsigned int nth, const std::string& accesses) {
     return accesses.substr(0, end);
 }
 
-/// Four failures of each access; sanitized, where all take a minute, one of the four in turn.
+/// Four failures of each access. In sanitized builds, where all take a minute, one of the four in turn.
 inline std::vector<Failure> FailuresOf(std::size_t accesses) {
     std::vector<Failure> failures;
     for (unsigned int nth = 1; nth <= accesses; ++nth) {
@@ -89,22 +89,22 @@ inline std::vector<Failure> FailuresOf(std::size_t accesses) {
 
 class Failing : public CameraTest {
 protected:
-    /// The first log line starts log4cxx's own buffers.
+    /// The first log line allocates log4cxx's buffers.
     static void SetUpTestSuite() {
         const Plugin plugin;
         const LogCapture log;
         plugin.createObject("", nullptr, 0);
     }
 
-    /// The blocks on the heap but for those of the port, which remembers what it is told.
+    /// The blocks on the heap, without those of the recording port.
     [[nodiscard]] long LiveBeyondThePort() const {
         const long live = LiveAllocations();
         const RecordingPort copy(port);
         return live - (LiveAllocations() - live);
     }
 
-    /// Calls @p call, whose access of that number fails. @returns what it threw
-    /// @param accesses those that it must come to
+    /// Calls @p call, whose access @p failure fails. @returns the exception
+    /// @param accesses the expected accesses
     template <typename Function>
     Thrown Fail(const Failure& failure, const std::string& accesses, const Function& call) {
         std::optional<LogCapture> log;

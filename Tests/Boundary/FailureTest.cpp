@@ -1,5 +1,5 @@
-// Every port access of every operation fails in turn: what reaches the host, what the library says and keeps of it, and
-// whether the object works on.
+// Every port access of every operation fails in turn. Checks the exception, the log lines, the cached values, and that
+// the object still works.
 
 #include "Tests/Boundary/Failing.h"
 
@@ -12,17 +12,17 @@ namespace Test {
 
 class FailureTest : public Failing, public testing::WithParamInterface<Operation> {
 protected:
-    /// How a camera was opened, and whether every getter was called since.
+    /// How the camera was opened, and whether every getter was called since.
     struct Opening {
         const char* name;
         int index;
         bool filled;
     };
 
-    /// What a call does when nothing fails.
+    /// The effect of a call without failures.
     struct Untroubled {
         std::string accesses;
-        Texts told; ///< to an observer of properties
+        Texts told; ///< notifications to an observer of properties
         Texts heldBefore, heldAfter;
     };
 
@@ -41,7 +41,7 @@ protected:
 Camera FailureTest::OpenAs(const Opening& opening) {
     port = {};
     Camera camera = Open(row.state, opening.index);
-    if (opening.filled && !row.state.IsM2VX()) { // which is filled when opened
+    if (opening.filled && !row.state.IsM2VX()) { // its values were read when it was opened
         Answers(camera);
     }
     if (row.state.IsM2VX()) {
@@ -51,7 +51,7 @@ Camera FailureTest::OpenAs(const Opening& opening) {
     return camera;
 }
 
-/// What the getters answer, and at which cost.
+/// The results of the getters, and their accesses.
 std::vector<CameraTest::Observation> FailureTest::Answers(const Camera& camera) {
     std::vector<Observation> answers;
     answers.reserve(getters.size());
@@ -61,7 +61,7 @@ std::vector<CameraTest::Observation> FailureTest::Answers(const Camera& camera) 
     return answers;
 }
 
-/// What the camera holds: a control that is opened just now has nothing else to answer.
+/// The camera's values, as read by a new control.
 Texts FailureTest::Held(int index) {
     const Camera fresh(plugin, row.state.model, &port, index);
     return Outcomes(fresh, getters);
@@ -75,7 +75,7 @@ FailureTest::Untroubled FailureTest::Watch(const Opening& opening) {
     EXPECT_EQ(outcome, row.result);
     const Texts told = observed.Take();
     if (IsOf("IMotorControl", row) ||
-        IsOf("IDefectPixel", row)) { // where a motor is is not remembered; one pixel for all
+        IsOf("IDefectPixel", row)) { // positions of motors are not cached; all defect pixels share one place
         return {accesses, told, before, Outcomes(camera, getters)};
     }
     return {accesses, told, before, Held(opening.index)};
@@ -86,10 +86,10 @@ void FailureTest::ExpectNoTrace(const Camera& camera, const Failure& failure, co
     EXPECT_EQ(Fail(failure, UpTo(failure.nth, untroubled.accesses), [&] { row.call(*camera.Object()); }),
               failure.Expected());
     EXPECT_EQ(LiveBeyondThePort(), live);
-    EXPECT_EQ(observed.Take(), Texts{}) << "a property claims what did not happen";
+    EXPECT_EQ(observed.Take(), Texts{}) << "a property reported a change that did not happen";
 }
 
-/// Several failures of one object, one after the other, and then success.
+/// Several failures in succession on one object, then success.
 void FailureTest::ExpectHarmless(const Opening& opening, std::span<const Failure> failures,
                                  const Untroubled& untroubled) {
     const Camera camera = OpenAs(opening);
@@ -100,7 +100,7 @@ void FailureTest::ExpectHarmless(const Opening& opening, std::span<const Failure
         if (opening.filled) {
             EXPECT_EQ(Answers(camera), before);
         }
-        if (!row.state.IsM2VX()) { // which may have sent a value, and then failed to read what the camera made of it
+        if (!row.state.IsM2VX()) { // may have written a value and then failed to read it back
             EXPECT_EQ(Outcomes(camera, getters), untroubled.heldBefore);
         }
     }
@@ -126,7 +126,7 @@ TEST_P(FailureTest, AFailedAccessDoesNoHarm) {
         SCOPED_TRACE(opening.name);
         const Untroubled untroubled = Watch(opening);
         const std::vector<Failure> failures = FailuresOf(CountOf(untroubled.accesses));
-        // What a call reads before it fails may be remembered, and is then not read again.
+        // Values read before the failure may be cached, and are then not read again.
         const std::size_t together = opening.filled || row.state.IsM2VX() ? 4 : 1;
         for (std::size_t at = 0; at < failures.size(); at += together) {
             ExpectHarmless(opening, std::span(failures).subspan(at, std::min(together, failures.size() - at)),

@@ -1,4 +1,4 @@
-// Holds the built library to golden/boundary.txt: what a host that was compiled earlier relies on.
+// Compares the built library with golden/boundary.txt: the contract with hosts compiled earlier.
 
 #include "Tests/Boundary/CameraTest.h"
 #include "Tests/Operations/Published.h"
@@ -68,7 +68,7 @@ public:
         }
     }
 
-    /// Empty for an address that is no function of the module.
+    /// Empty if the address is not a function of the module.
     std::string At(const void* address) const {
         const auto found = names.find(reinterpret_cast<std::uintptr_t>(address) - base);
         return found == names.end() ? "" : found->second;
@@ -85,10 +85,10 @@ template <typename T> std::string NameOf() {
     return name.get();
 }
 
-/// What stands in a slot. The look past the last one is meant; it finds no function there.
+/// The entry of a slot. Reading past the last one is intended: it finds no function there.
 __attribute__((no_sanitize("address"))) void* Entry(void** slot) { return *slot; }
 
-/// The operations in the order of their slots. The table of an implementation continues with its destructor or ends.
+/// The operations in slot order. The table of an implementation continues with its destructor or ends.
 template <typename Interface> std::string SlotsOf(Interface& object) {
     void** slot = *reinterpret_cast<void***>(&object);
     static std::map<void*, FunctionNames> modules;
@@ -102,7 +102,7 @@ template <typename Interface> std::string SlotsOf(Interface& object) {
     return line;
 }
 
-/// Lines in any order. Their tests tell which are missing and which are too many.
+/// Lines in any order. The tests print missing and surplus lines.
 using Lines = std::set<std::string>;
 
 Lines Without(Lines lines, const Lines& others) {
@@ -114,7 +114,7 @@ template <typename... Records> Lines Sizes() {
     return {"size " + NameOf<Records>() + ": " + std::to_string(sizeof(Records))...};
 }
 
-/// Functions and interfaces by name; anything else but type information stands out as data.
+/// Functions and interfaces by name, and exported data other than type information.
 Lines Exports() {
     const std::string type = "typeinfo for ", typeName = "typeinfo name for ";
     Lines lines;
@@ -160,14 +160,14 @@ TEST_F(GoldenTest, BoundaryIsUnchanged) {
                         SDK4_AFE_PARAM, X4Error, SDK4_ENUM_COLORCODING>();
     built.insert({SlotsOf<IModelRegistry>(registry), SlotsOf<IControlPort>(port), SlotsOf(*orvik.Object())});
     ForEachOperation([&]<typename Owner, typename Operation>(const char*, Operation Owner::*) {
-        using Interface = std::conditional_t<std::is_same_v<Owner, IMediaType>, IVideoFrame, Owner>; // which inherits
+        using Interface = std::conditional_t<std::is_same_v<Owner, IMediaType>, IVideoFrame, Owner>; // derives from it
         for (const Camera* camera : {&orvik, &m2vx}) {
             if (Has<Interface>(*camera->Object())) {
                 built.insert(SlotsOf(Part<Interface>(*camera->Object())));
             }
         }
     });
-    // An interface that is exported has its slots in the file, which ForEachOperation is made from.
+    // An exported interface must have its slots in the file, from which ForEachOperation is generated.
     for (const std::string& line : Exports()) {
         const auto slots = golden.lower_bound(line + ":");
         const bool known = slots != golden.end() && slots->starts_with(line + ":");
@@ -175,8 +175,8 @@ TEST_F(GoldenTest, BoundaryIsUnchanged) {
             built.insert(line);
         }
     }
-    EXPECT_EQ(Without(built, golden), Lines{}) << "was built, and does not stand in " << QDV12_GOLDEN_FILE;
-    EXPECT_EQ(Without(golden, built), Lines{}) << "was not built, and stands in " << QDV12_GOLDEN_FILE;
+    EXPECT_EQ(Without(built, golden), Lines{}) << "built, but missing in " << QDV12_GOLDEN_FILE;
+    EXPECT_EQ(Without(golden, built), Lines{}) << "not built, but listed in " << QDV12_GOLDEN_FILE;
 }
 
 TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
@@ -193,7 +193,7 @@ TEST_F(GoldenTest, EveryOperationHasARowInEveryFamilyThatHasIt) {
         }
     });
     EXPECT_EQ(Without(published, rows), Lines{}) << "have no row in Tests/Operations";
-    EXPECT_EQ(Without(rows, published), Lines{}) << "have a row in Tests/Operations, and no camera has them";
+    EXPECT_EQ(Without(rows, published), Lines{}) << "have a row in Tests/Operations, but no camera has them";
 }
 
 TEST_F(GoldenTest, LoggingComesFromTheHost) {

@@ -1,4 +1,4 @@
-// What an M2VX camera remembers and refuses, how failures leave it, and what it logs.
+// What an M2VX camera caches, refuses and logs, and its state after failures.
 
 #include "Tests/Boundary/M2VXTest.h"
 
@@ -11,7 +11,7 @@ class M2VXControlTest : public M2VXTest {};
 TEST_F(M2VXControlTest, RemembersWhatTheCameraMadeOfAValueOutOfRange) {
     const struct {
         const char* set;
-        Preset made; ///< what the camera holds once it was given the value
+        Preset made; ///< what the camera holds after the write
         const char *get, *remembered;
     } cases[] = {
         {"IGain::SetGain above", {0x14010000, Words({568})}, "IGain::GetGain", "568"},
@@ -53,7 +53,7 @@ TEST_F(M2VXControlTest, RemembersWhatTheCameraMadeOfAValueOutOfRange) {
         SCOPED_TRACE(set);
         port = {};
         const Camera camera = Open(Row(set).state, 3);
-        port.FailAt(2, [this, &made = made] { // no failure: the access after the write finds this
+        port.FailAt(2, [this, &made = made] { // no failure: simulates how the camera changes the written value
             if (made.index < 0) {
                 port.Set(made.address, made.bytes);
             } else {
@@ -90,7 +90,7 @@ TEST_F(M2VXControlTest, SettersThatDoNotAskReachTheCameraOfADisabledProperty) {
             EXPECT_EQ(log.TakeTexts(), Texts{"warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"}) << name;
         }
     }
-    for (const char* sent : {"loadsettings", "savesettings", "motorcontrol"}) { // nothing to store
+    for (const char* sent : {"loadsettings", "savesettings", "motorcontrol"}) { // nothing is cached
         const Camera camera = Open(OnM2VX(Disabling(sent)));
         for (const char* row :
              {"IBasicSettings::LoadSettings", "IBasicSettings::SaveSettings", "IMotorControl::SetMotorControl"}) {
@@ -108,7 +108,7 @@ TEST_F(M2VXControlTest, ADisabledPropertyIsReadFromTheCameraOnly) {
     EXPECT_EQ(Observe(camera, Row("IDigitalEnhancement::GetBrightness").call), (Observation{disabled, ""}));
     EXPECT_EQ(log.TakeTexts(), Texts(2, "warn SDK4Exception [SDK4::X4Error(SDK4_ERR_DISABLED)]"));
     camera.As<IDigitalEnhancement>().SetHistogramEqualization(0);
-    EXPECT_EQ(OutcomeOf("IDigitalEnhancement::GetBrightness", camera), "1") << "the refused store kept the old value";
+    EXPECT_EQ(OutcomeOf("IDigitalEnhancement::GetBrightness", camera), "1") << "the refused update kept the old value";
 }
 
 TEST_F(M2VXControlTest, OnlyWhatReachedTheCameraStartsAndStopsTheAcquisition) {
@@ -161,7 +161,7 @@ TEST_F(M2VXControlTest, SettersLogTheirValues) {
          {"info Call(1)", "warn SDK4Exception [X4Error(SDK4_ERR_ACQUISITIONRUNNING)]"}},
         {"IGigECamera::EnablePersistentIP other subnet", {"warn Unreachable Subnet :0xffffff05"}},
         {"IMotorControl::SetMotorControl",
-         {"info Call(0,65535)", "info Call"}}, // the register map tells of motor, lens
+         {"info Call(0,65535)", "info Call"}}, // the register map logs the values of motor and lens
         {"ILensControl::GetLensControl", {"info Call"}},
         {"IStreamControl::Start", {"info Call"}},
         {"IBasicSettings::SetUpdateFile", {"warn SDK4Exception [X4Error(SDK4_ERR_NOT_IMPLEMENTED)]"}},

@@ -1,4 +1,4 @@
-// How an M2VX camera is opened: what that costs, what is remembered from it, and what can go wrong.
+// Opening an M2VX camera: its accesses, the cached values, and failures.
 
 #include "Tests/Boundary/M2VXTest.h"
 
@@ -136,7 +136,7 @@ TEST_F(M2VXOpeningTest, RemembersWhatTheCameraReportsWhateverTheLimits) {
     EXPECT_EQ(OutcomeOf("ILookUpTable::GetLUTInterpolatorIndex", camera), "-2147483648");
     EXPECT_EQ(OutcomeOf("IImageCorrection::GetShadingCorrection 2", camera), "500");
     EXPECT_EQ(camera.As<IPropertyState>().GetIntValue(1, "overlayposition.posx"), -1000);
-    EXPECT_EQ(OutcomeOf("ISignalFormat::GetColorCoding", camera), "6") << "the only one that it admits";
+    EXPECT_EQ(OutcomeOf("ISignalFormat::GetColorCoding", camera), "6") << "the only valid value";
     EXPECT_EQ(OutcomeOf("IVideoFrame::GetHeight", camera), "6000");
     EXPECT_EQ(camera.As<IPropertyState>().GetUIntValue("width"), 5000u);
     EXPECT_EQ(camera.As<IPropertyState>().GetUIntValue("height"), 6000u);

@@ -1,5 +1,4 @@
-// The properties of an M2VX camera as a host sees them: their list and limits, who is told what, and what a mode
-// switches on and off.
+// The properties of an M2VX camera as a host sees them: list, limits, notifications, and what modes enable and disable.
 
 #include "Tests/Boundary/M2VXTest.h"
 
@@ -96,7 +95,7 @@ TEST_F(M2VXPropertyTest, EveryPropertyHasTheseLimitsAndDefaults) {
         {"circularblankingposition.xpos circularblankingposition.ypos", "U 0 1023 512"},
         {"gammaindex", "S 0 12 0"},
         {"measurewindow.radius", "U 0 511 0"},
-        {"measurewindow.width", "U 1 3 2 = 1"}, // the minimum, set afterwards, lifts the value
+        {"measurewindow.width", "U 1 3 2 = 1"}, // setting the minimum afterwards raises the value
         {"measurewindow.xpos measurewindow.ypos", "S -511 511 0"},
         {"measurewindow.vstretch", "U 1 512 128 = 1"},
         {"agc abc startupsettings loadsettings", "Ue 0 2 0"},
@@ -237,7 +236,7 @@ TEST_F(M2VXPropertyTest, AnObserverMayCallBackAndRemoveItself) {
             auto& self = *static_cast<Curious*>(context);
             self.seen.push_back(std::string(name) + Row("IPropertyState::GetUIntValue").call(self.object) + " " +
                                 Row("IGain::GetGain").call(self.object));
-            Row("IDigitalEnhancement::SetSharpness").call(self.object); // tells once more, one level deeper
+            Row("IDigitalEnhancement::SetSharpness").call(self.object); // a nested notification
             if (self.seen.size() == 3) {
                 Part<IPropertyState>(self.object).RemoveCallback(Notify);
             }
@@ -327,9 +326,9 @@ TEST_F(M2VXPropertyTest, ModesSwitchWhatDependsOnThemWhenSetAndWhenReadAtOpening
             const int mode = firstMode + static_cast<int>(i);
             SCOPED_TRACE(names + (" in mode " + std::to_string(mode)));
             const State state = OnM2VX(With(address, static_cast<std::uint32_t>(mode)));
-            EXPECT_EQ(enabledOn(Open(state, 3)), enabled[i]) << "opened remembering";
+            EXPECT_EQ(enabledOn(Open(state, 3)), enabled[i]) << "cached";
             const Camera reading = Open(state, 0);
-            EXPECT_EQ(enabledOn(reading).find('0'), std::string::npos) << "opened reading: the mode is not known";
+            EXPECT_EQ(enabledOn(reading).find('0'), std::string::npos) << "uncached: the mode is not known";
             set(*reading.Object(), mode);
             EXPECT_EQ(enabledOn(reading), enabled[i]) << "set";
         }

@@ -38,14 +38,14 @@ TEST_P(OpeningFailureTest, AFailedAccessLeavesNothingBehind) {
             }
             SCOPED_TRACE(failure);
             const std::string first = UpTo(failure.nth, accesses);
-            const bool guarded = first.ends_with("r 0954"); // which some devices lack
+            const bool guarded = first.ends_with("r 0954"); // some devices lack the register
             const long live = LiveAllocations();
             EXPECT_EQ(Fail(failure, guarded ? accesses : first, open), guarded ? Thrown{} : failure.Expected());
             if (!guarded) {
                 left.insert(LiveAllocations() - live);
             }
         }
-        // What an Orvik camera has made by then leaves what its lists do not destroy, and as much each time.
+        // A failed opening leaves the objects that an Orvik camera does not destroy, the same amount each time.
         EXPECT_LE(left.size(), 1u);
         if (opened.state.IsM2VX()) {
             EXPECT_EQ(left, std::set<long>{0});
@@ -56,8 +56,8 @@ TEST_P(OpeningFailureTest, AFailedAccessLeavesNothingBehind) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, OpeningFailureTest,
-                         testing::Values(Opened{"Orvik", {}, 0, 0, 10}, Opened{"M2VXReading", OnM2VX(), 0, 10, 10},
-                                         Opened{"M2VXRemembering", OnM2VX(), 3, 600, 600}),
+                         testing::Values(Opened{"Orvik", {}, 0, 0, 10}, Opened{"M2VXUncached", OnM2VX(), 0, 10, 10},
+                                         Opened{"M2VXCached", OnM2VX(), 3, 600, 600}),
                          [](const auto& opened) { return opened.param.name; });
 
 } // namespace Test

@@ -1,4 +1,4 @@
-// Every row of the table of operations, and what holds for all of them.
+// Every row of the table of operations, and rules that hold for all of them.
 
 #include "Tests/Boundary/Rows.h"
 
@@ -8,7 +8,7 @@ namespace Test {
 
 namespace {
 
-/// The class that an operation logs as.
+/// The class name in the operation's log lines.
 std::string LoggingClass(const Operation& row) {
     if (row.state.IsM2VX()) {
         return IsOf("IPropertyState", row) ? "CBaseControlHelper" : "CM2VXBaseControl";
@@ -19,12 +19,12 @@ std::string LoggingClass(const Operation& row) {
     if (IsOf("ILookUpTable", row)) {
         return "KLookupTable";
     }
-    const std::string interface = InterfaceOf(row.name); // "IGain2" of KGain too
+    const std::string interface = InterfaceOf(row.name); // also IGain2, for KGain
     return IsOf("IACC", row) ? "KDigitalEnhancement"
                              : "K" + interface.substr(1, interface.find_last_not_of("23456789"));
 }
 
-/// Setters of an M2VX control write their values, at info level.
+/// Setters of an M2VX control log their values at info level.
 bool LogsItsValues(const Operation& row, const std::string& operation) {
     const bool isSetter = operation.starts_with("Set") || operation.starts_with("Store") ||
                           operation.starts_with("Load") || operation.starts_with("Save");
@@ -46,12 +46,12 @@ TEST_P(OperationTest, AnswersAtTheStatedCost) {
     EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.first}));
     EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.again})) << "repeated";
     const Camera uncached = Open(row.state, row.state.ReadingIndex());
-    EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.firstUncached})) << "not remembering";
+    EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.firstUncached})) << "uncached";
     EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.againUncached}))
-        << "not remembering, repeated";
+        << "uncached, repeated";
 }
 
-/// What the row states, once "all but" is taken from the getters that answered before the call.
+/// The affected getters that the row states. Resolves "all but" against the getters that were cached before the call.
 std::set<std::string> OperationTest::ExpectedAffected(const std::set<std::string>& valid) const {
     const std::string allBut = "all but ";
     if (!row.accesses.affected.starts_with(allBut)) {
@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(, OperationTest, testing::ValuesIn(Operations()), TestN
 
 TEST_F(CameraTest, NullPortIsRefusedAtTheFirstAccess) {
     for (const Operation& row : Operations()) {
-        if (row.accesses.first.empty() || row.state.before || row.state.IsM2VX()) { // M2VX refuses it when opened
+        if (row.accesses.first.empty() || row.state.before || row.state.IsM2VX()) { // M2VX refuses it at opening
             continue;
         }
         const Camera camera(plugin, row.state.model, nullptr);

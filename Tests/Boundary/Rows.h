@@ -1,6 +1,6 @@
 #pragma once
 
-// What tests that go through the whole table of operations share.
+// Helpers for tests that go through the whole table of operations.
 
 #include "Tests/Boundary/CameraTest.h"
 
@@ -28,8 +28,8 @@ inline bool IsOf(const char* interface, const Operation& row) {
     return row.name.substr(0, row.name.rfind("::")).ends_with(interface);
 }
 
-/// The rows of a family whose value the library remembers: getters whose repetition costs nothing. Width, height,
-/// format and time per frame of the video frame are other views of the same registers.
+/// The rows of a family whose value the library caches: getters whose repetition makes no access. Width, height, format
+/// and time per frame of the video frame are excluded, since they are other views of the same registers.
 inline std::vector<const Operation*> CachedGetters(bool ofM2VX) {
     std::vector<const Operation*> getters;
     for (const Operation& row : Operations()) {
@@ -41,7 +41,7 @@ inline std::vector<const Operation*> CachedGetters(bool ofM2VX) {
     return getters;
 }
 
-/// What a camera answers to these rows, "IGain::GetGain: 5".
+/// The results of these rows, "IGain::GetGain: 5".
 inline std::vector<std::string> Outcomes(const Camera& camera, const std::vector<const Operation*>& rows) {
     std::vector<std::string> outcomes;
     outcomes.reserve(rows.size());

@@ -1,6 +1,6 @@
 #pragma once
 
-// Every operation that takes numbers, to be called with any.
+// Every operation that takes numbers, for calls with arbitrary arguments.
 
 #include "Tests/Operations/Operations.h"
 #include "Tests/Operations/Published.h"
@@ -17,11 +17,11 @@ namespace Test {
 
 inline const std::string cantRead = "SDK4_ERR_CANTGETFEATURE";
 
-/// The words that hosts get wrong; as signed numbers the last four are INT_MAX, INT_MIN, -2 and -1.
+/// Words at the edges of ranges. As signed numbers, the last four are INT_MAX, INT_MIN, -2 and -1.
 inline constexpr std::uint32_t oddWords[] = {0,   1,   2,     3,          4,          6,          7,  128,
                                              255, 256, 65536, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFE, ~0u};
 
-/// An argument that consists of one word, or a record with this word in every field.
+/// The word as an argument, or a record with the word in every field.
 template <typename T> T Filled(std::uint32_t word) {
     if constexpr (std::is_class_v<T>) {
         T record{};
@@ -32,7 +32,7 @@ template <typename T> T Filled(std::uint32_t word) {
     }
 }
 
-/// An operation with a word for its first argument and another for the rest of them.
+/// An operation, called with one word as its first argument and another for the rest.
 struct Wild {
     std::string name; ///< as in the table of operations
     std::size_t arguments;
@@ -45,7 +45,7 @@ Call Bound(Result (Interface::*operation)(Parameters...), std::uint32_t first, s
     return On(operation, Filled<Parameters>(I == 0 ? first : rest)...);
 }
 
-/// Those that a camera has, without the software trigger, which would wait out every readout time that is set here.
+/// The operations that a camera has, except the software trigger, which would wait for every readout time set here.
 inline std::vector<Wild> WildCalls(IDynamicObject& camera, bool isM2VX) {
     std::vector<Wild> calls;
     ForEachOperation([&]<typename Interface, typename Result, typename... Parameters>(
@@ -62,7 +62,7 @@ inline std::vector<Wild> WildCalls(IDynamicObject& camera, bool isM2VX) {
     return calls;
 }
 
-/// What a first argument from @p first on is refused with; nothing where any number may be meant.
+/// The error code for first arguments from @p first on. Empty if any number may be valid.
 struct Refusal {
     std::uint32_t first = 0;
     std::string code{};
@@ -83,7 +83,7 @@ inline Refusal RefusalOf(const std::string& operation) {
         {"M2VX::IABC::SetABCThreshold", {2, invalid}},
         {"M2VX::IInternalTests::GetTestPattern", {2, invalid}},
         {"M2VX::IInternalTests::SetTestPattern", {2, invalid}},
-        {"M2VX::IDefectPixel::GetDefectPixel", {2, cantRead}}, // either position of a pair; the pair is the same number
+        {"M2VX::IDefectPixel::GetDefectPixel", {2, cantRead}}, // only the position within a pair; the pair has no limit
         {"M2VX::IDefectPixel::SetDefectPixel", {2, cantRead}},
         {"M2VX::IMotorControl::", {256, invalid}}};
     for (const auto& [name, refusal] : instances) {

@@ -1,5 +1,5 @@
-// The network classes of the two families, side by side: what they share and where they differ. Host calls of all
-// their operations are rows of the table of operations.
+// The network classes of the two families side by side: what they share and where they differ. The calls of hosts are
+// rows of the table of operations.
 
 #include "GigEBootstrap.h"
 #include "OrvikControlImpl/KGigECamera.h"

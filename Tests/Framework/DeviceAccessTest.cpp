@@ -1,5 +1,5 @@
-// The classes that know the registers of the property-based cameras: one row per method, on an empty camera, where a
-// word that was never written reads as its position in the block, counted from 1.
+// The classes for the registers of the property-based cameras: one row per method, on an empty camera, where a word
+// that was never written reads as its position in the block, counted from 1.
 
 #include "J40Camera.h"
 #include "M2VXCamera.h"
@@ -42,7 +42,7 @@ template <typename T> std::string AsText(const T& result) {
     }
 }
 
-/// The call of one operation of a device object, opened on a port.
+/// A call of one operation of a device object, opened on a port.
 template <typename Device, typename Result, typename... Parameters, typename... Arguments>
 Open On(Result (Device::*operation)(Parameters...), Arguments... arguments) {
     return [=](SDK4::IControlPort* port) -> Operation {
@@ -82,7 +82,7 @@ template <typename Device, typename Result, typename... Parameters> struct Resul
     using type = Result;
 };
 
-/// Adds the rows of one class. An address is given as RecordingPort writes it.
+/// Adds the rows of one class. Addresses are in the notation of RecordingPort.
 struct Table {
     std::vector<Row>& rows;
     std::string device;
@@ -97,7 +97,7 @@ struct Table {
 
     static std::uint32_t Number(Text at) { return static_cast<std::uint32_t>(std::stoul(at, nullptr, 16)); }
 
-    /// Plain words, written as 8 or -8; a signed one is read as -5.
+    /// Plain words, written as 8 or -8. A signed one reads -5.
     template <typename Getter> void Read(Text name, Getter get, Text at) {
         if constexpr (std::is_same_v<typename ResultOf<Getter>::type, std::int32_t>) {
             Add("Get" + name, On(get), "r " + at, "-5", {{Number(at), Words({0xFFFFFFFB})}});
@@ -115,7 +115,7 @@ struct Table {
         Add("Set" + name, On(set, isSigned ? -8 : 8), "w " + at + (isSigned ? "=4294967288" : "=8"), "done");
     }
 
-    /// Indexed words, of index 7.
+    /// Indexed words, with index 7.
     template <typename Getter> void ReadIndexed(Text name, Getter get, Text at) {
         const bool isSigned = std::is_same_v<typename ResultOf<Getter>::type, std::int32_t>;
         Add("Get" + name, On(get, 7), "w " + at + "=7; rp " + at, isSigned ? "-5" : "2",
@@ -138,7 +138,7 @@ struct Table {
         Add("Set" + name, On(set, Numbered<Record>(11)), "wp " + at + "=11,12", "done");
     }
 
-    /// Records behind the index 7, and whole blocks.
+    /// Records after the index 7, and whole blocks.
     template <typename Getter, typename Device, typename Record>
     void Indexed(Text name, Getter get, void (Device::*set)(std::uint32_t, Record), Text at, Text length, Text words,
                  Text written) {
@@ -349,7 +349,7 @@ TEST(DeviceAccess, EveryMethodMakesItsAccessesAndItsLogLines) {
         }
         LogCapture capture;
         const Operation operation = row.open(&port);
-        EXPECT_EQ(port.TakeLog() + Joined(capture.TakeTexts()), "") << "opening does nothing";
+        EXPECT_EQ(port.TakeLog() + Joined(capture.TakeTexts()), "") << "opening makes no access";
         EXPECT_EQ(operation(), row.result);
         EXPECT_EQ(port.TakeLog(), row.accesses);
         ASSERT_FALSE(capture.Lines().empty());

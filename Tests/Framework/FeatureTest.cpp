@@ -4,7 +4,7 @@ using namespace SDK4;
 
 namespace Test {
 
-/// A condition that counts how often it was asked.
+/// A condition that counts its evaluations.
 struct Condition final : IFeature, IGetter<bool> {
     Condition(std::string conditionName, bool conditionHolds) : name(std::move(conditionName)), holds(conditionHolds) {}
     std::string GetName() override { return name; }
@@ -62,7 +62,7 @@ TEST_F(FeatureTest, ConditionsAreCheckedInThisOrder) {
     usable.holds = true;
     EXPECT_EQ(Write<int>(feature, 9), "SDK4_ERR_CANTSETFEATURE () ");
     EXPECT_EQ(log.TakeTexts(), lines("is locked", "SDK4_ERR_CANTSETFEATURE"));
-    EXPECT_EQ(feature.GetValue(), 1) << "a lock does not forbid reading";
+    EXPECT_EQ(feature.GetValue(), 1) << "a locked feature can be read";
     lock.holds = false;
     EXPECT_EQ(Write<int>(feature, 9), "SDK4_ERR_INVALID_PARAMETER () ");
     EXPECT_EQ(log.TakeTexts(), Texts{"warn SDK4Exception [X4Error(SDK4_ERR_INVALID_PARAMETER)]"});
@@ -75,7 +75,8 @@ TEST_F(FeatureTest, ConditionsAreAskedUntilTheAnswerIsKnown) {
     Condition& yes = AddCondition("yes", true);
     Condition& no = AddCondition("no", false);
     Condition& last = AddCondition("last", true);
-    feature.implementedConditions = {"absent", "mode", "yes", "no", "last"}; // no feature; no condition
+    feature.implementedConditions = {"absent", "mode", "yes", "no",
+                                     "last"}; // "absent" is no feature, "mode" no condition
     EXPECT_FALSE(feature.IsImplemented());
     EXPECT_EQ(yes.asked * 100 + no.asked * 10 + last.asked, 110);
     feature.implementedConditions = {"absent", "mode"};
@@ -148,7 +149,7 @@ TEST_F(FeatureTest, UnderAMinimumAboveTheMaximumOnlyAChangedRecordIsRefused) {
     EXPECT_EQ(Write(rgb, {59, 60, 60}), "SDK4_ERR_OUTOFRANGE (W 0300=60,60,60) rgb");
 
     auto& level = Add(new CIntegerFeature<int>("level", &features, &AddPlain<int>("level", 0x400, 1), 70, 60));
-    EXPECT_EQ(Write(level, 60), "SDK4_ERR_OUTOFRANGE (W 0400=60) level") << "a number lies outside all the same";
+    EXPECT_EQ(Write(level, 60), "SDK4_ERR_OUTOFRANGE (W 0400=60) level") << "a number is still out of range";
 }
 
 TEST_F(FeatureTest, BoundsAreAskedForOnEveryWriteAfterTheLock) {
@@ -171,7 +172,7 @@ TEST_F(FeatureTest, BoundsAreAskedForOnEveryWriteAfterTheLock) {
     EXPECT_EQ(Write(level, 50), "SDK4_ERR_OUTOFRANGE (R 0200/4; R 0300/4; W 0100=60) level") << "minimum above maximum";
     level.minFeature = "absent";
     level.maxFeature = "unsigned";
-    EXPECT_EQ(Write(level, 1), "SDK4_ERR_OUTOFRANGE (W 0100=60) level") << "the last bounds stay";
+    EXPECT_EQ(Write(level, 1), "SDK4_ERR_OUTOFRANGE (W 0100=60) level") << "the last bounds still apply";
 }
 
 TEST_F(FeatureTest, StaleRegistersAreHeardOf) {
@@ -184,7 +185,7 @@ TEST_F(FeatureTest, StaleRegistersAreHeardOf) {
     EXPECT_EQ(Write<int>(area, 5), " (W 0100=5) area size area") << "stale by its own write, its dependant, written";
     const Texts texts = log.TakeTexts();
     const auto isName = [](const std::string& text) { return text.substr(text.find(' ') + 1) == "size register"; };
-    EXPECT_EQ(std::count_if(texts.begin(), texts.end(), isName), 1) << "the feature tells which register it was";
+    EXPECT_EQ(std::count_if(texts.begin(), texts.end(), isName), 1) << "the log line names the register";
 }
 
 TEST_F(FeatureTest, TheListMatchesNameAndTypeExactly) {

@@ -9,7 +9,7 @@
 
 namespace Test {
 
-/// Notes which register or feature was heard of, by name, and how often.
+/// Records the names of registers or features in events, and counts the events.
 template <typename Sender> struct Listener final : Utility::IEventHandler<unsigned int> {
     void notify(void* sender, unsigned int argument) override {
         EXPECT_EQ(argument, 0u);
@@ -19,7 +19,7 @@ template <typename Sender> struct Listener final : Utility::IEventHandler<unsign
     std::string heard;
 };
 
-/// A port and both lists. What enters a list is made with new and belongs to the list.
+/// A port and both lists. Objects created with new belong to the list.
 class FrameworkTest : public testing::Test {
 protected:
     template <typename T> using Plain = SDK4::CRegister<T, void>;

@@ -18,7 +18,7 @@ struct Grouping : std::numpunct<char> {
     std::string do_grouping() const override { return "\3"; }
 };
 
-/// What a host logs, on the stream that log4cxx lends to all lines of a thread.
+/// A log line of the host, on the stream that log4cxx shares among all lines of a thread.
 template <typename Write> std::string LogOfHost(const Write& write) {
     log4cxx::helpers::MessageBuffer buffer;
     std::ostream& stream = buffer;
@@ -43,13 +43,14 @@ TEST(Log, LinesFormatAsOnANewStreamWhateverTheHostLeft) {
     EXPECT_EQ(CodeOf([] { SDK4_THROW(SDK4_ERR_ERROR); }), "SDK4_ERR_ERROR");
     EXPECT_EQ(log.TakeTexts(), (Texts{"info Call", "info 1234567 Address=0x2805abcd", "info again 10",
                                       "warn SDK4Exception [X4Error(SDK4_ERR_ERROR)]"}));
-    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 0xABCD; }), "0XA.BCD*") << "the host's lines keep theirs";
+    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 0xABCD; }), "0XA.BCD*")
+        << "the host's formatting is restored";
     LogOfHost([](std::ostream& stream) {
         stream.copyfmt(std::ios(nullptr));
         stream.imbue(std::locale::classic());
     });
     SDK4_LOG(Info, std::hex << std::setfill('0') << std::setw(6) << 10);
-    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 10; }), "10") << "nothing of ours is left behind";
+    EXPECT_EQ(LogOfHost([](std::ostream& stream) { stream << 10; }), "10") << "the library leaves no formatting behind";
 }
 
 TEST(Log, LinesStandApartFromOneOfTheHostThatIsNotFinished) {

@@ -12,7 +12,7 @@ using namespace Test;
 
 namespace {
 
-/// Which side is in force, then of the unsigned and of the signed side minimum, maximum, default, value.
+/// Which side is valid, then minimum, maximum, default and value of the unsigned and the signed side.
 std::string State(const CPropertyParams& property) {
     std::string text = property.GetName() + (property.IsUnsigned() ? " U" : " S");
     for (const std::uint32_t number :
@@ -58,7 +58,7 @@ TEST(PropertyParams, ALimitMovesTheValueAndReportsOnlyItself) {
     EXPECT_EQ(observed.Take(), Texts{"p minimum"});
     property.SetMax(50u);
     EXPECT_EQ(observed.Take(), Texts{"p maximum"});
-    property.SetValue(150u); // in range or not is the caller's to test
+    property.SetValue(150u); // the caller checks the range
     EXPECT_EQ(observed.Take(), Texts{"p value"});
     property.SetMax(50u);
     EXPECT_EQ(State(property), "p U 10 50 0 50 | 0 0 0 0") << "an unchanged limit moves the value, too";
@@ -82,7 +82,7 @@ TEST(PropertyParams, TheLastLimitOrDefaultDecidesTheSideAndLeavesTheOther) {
 
 TEST(PropertyParams, SetValueTellsWhetherAnObserverWasTold) {
     CPropertyParams property("p", 0u, 9u, 0u);
-    EXPECT_FALSE(property.SetValue(6u)) << "changed, but nobody was told";
+    EXPECT_FALSE(property.SetValue(6u)) << "changed, but no observer notified";
     Observed observed;
     property.AddCallback(Observed::Notify, &observed);
     EXPECT_TRUE(property.SetValue(7u));
@@ -92,7 +92,7 @@ TEST(PropertyParams, SetValueTellsWhetherAnObserverWasTold) {
     Observed second;
     property.AddCallback(Observed::Notify, &second);
     property.RemoveCallback([](const char*, const char*, void*) {});
-    EXPECT_FALSE(property.SetValue(8u)) << "there is one observer, removed whichever is named";
+    EXPECT_FALSE(property.SetValue(8u)) << "there is only one observer, removed by any argument";
     EXPECT_EQ(second.Take(), Texts{});
 }
 
@@ -147,7 +147,7 @@ TEST(PropertyParams, AdmittedValuesReplaceTheLimits) {
     EXPECT_TRUE(property.IsValueInRange(9u));
     EXPECT_FALSE(property.IsValueInRange(2u) || property.IsValueInRange(3u));
     for (int i = 3; i < 20; ++i) {
-        property.SetEnumValue(9u); // the same again counts
+        property.SetEnumValue(9u); // setting the same again notifies, too
     }
     EXPECT_EQ(CodeOf([&] { property.SetEnumValue(0u); }), "SDK4_ERR_OUTOFRANGE");
     EXPECT_EQ(property.GetUIntMin(), 1u);
@@ -168,7 +168,7 @@ TEST(CompoundParams, BuildsNamedSubPropertiesFromEveryKindOfArguments) {
                              _Sdk4_4UInts{2, 3, 4, 5});
     EXPECT_EQ(States(records), (Texts{"c.a U 1 5 2 0 | 0 0 0 0", "c.b U 2 6 3 0 | 0 0 0 0", "c.d U 3 7 4 0 | 0 0 0 0",
                                       "c.e U 4 8 5 0 | 0 0 0 0"}));
-    // Literals of either sign stand for unsigned defaults, and braces for records.
+    // Literals of either sign give unsigned defaults, braces give records.
     for (C2PropertyParams* const literal :
          {new C2PropertyParams("c", "a", "b", 1, 2), new C2PropertyParams("c", "a", "b", 1u, 2)}) {
         const std::unique_ptr<C2PropertyParams> owned(literal);
@@ -196,14 +196,14 @@ TEST(CompoundParams, MovesARecordWordByWordOnEachWordsOwnSide) {
         std::int32_t b;
     } record = {4, -5};
     EXPECT_TRUE(mixed.IsValueInRange(&record));
-    EXPECT_FALSE(mixed.SetValue(&record)) << "nobody was told";
+    EXPECT_FALSE(mixed.SetValue(&record)) << "no observer was notified";
     EXPECT_EQ(States(mixed), (Texts{"c.a U 0 9 0 4 | 0 0 0 0", "c.b S 0 9 0 0 | -9 9 0 -5"}));
 
     Observed compound, sub;
     mixed.AddCallback(Observed::Notify, &compound);
     mixed.GetSubProperty(0)->AddCallback(Observed::Notify, &sub);
     record = {5, -6};
-    EXPECT_TRUE(mixed.SetValue(&record)) << "the second reports nothing, the first did";
+    EXPECT_TRUE(mixed.SetValue(&record)) << "the first word notified, the second did not";
     EXPECT_EQ(sub.Take(), Texts{"c.a value"});
     EXPECT_EQ(compound.Take(), Texts{}) << "only sub-properties report";
     Record read{};
@@ -226,9 +226,9 @@ TEST(CompoundParams, PassesFlagsOnAndChecksOnlyImplementedItself) {
     _Sdk4_2UInts read = {8, 9};
     compound.GetSubProperty(0)->SetEnabled(true);
     EXPECT_EQ(CodeOf([&] { compound.SetValue(&record); }), "SDK4_ERR_DISABLED");
-    EXPECT_EQ(compound.GetSubProperty(0)->GetUIntValue(), 4u) << "what precedes the refused word is stored";
+    EXPECT_EQ(compound.GetSubProperty(0)->GetUIntValue(), 4u) << "the words before the refused one are stored";
     EXPECT_EQ(CodeOf([&] { compound.GetValue(&read); }), "SDK4_ERR_DISABLED");
-    EXPECT_EQ(read.values[0], 8u) << "nothing is read unless all can be";
+    EXPECT_EQ(read.values[0], 8u) << "nothing is read unless all words can be read";
     compound.GetSubProperty(1)->SetEnabled(true);
     EXPECT_FALSE(compound.GetEnabled());
     compound.SetValue(&record);

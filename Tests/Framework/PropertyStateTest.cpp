@@ -15,7 +15,7 @@ namespace {
 const std::string longName(200, 'x');
 const std::string endless(100000, 'x');
 
-/// A control of a few properties, reached as a host reaches it.
+/// A control with a few properties, accessed through the host's interfaces.
 class TestControl : public CBaseControlHelper {
 public:
     TestControl() {
@@ -59,7 +59,7 @@ struct Question {
     Call call;
     const char* name;
     std::string result;
-    bool query = false; ///< answers false for a name that no property has, where the others refuse it
+    bool query = false; // returns false for an unknown name, where the others throw
 };
 
 using UIntOf = std::uint32_t (IPropertyState::*)(const char*);
@@ -119,7 +119,7 @@ TEST(PropertyState, TheFirstOfANameWinsAndAnIndexChooses) {
     EXPECT_EQ(control.GetPropertyParamsByName("position.x"), &control.first);
     EXPECT_EQ(control.GetPropertyParamsByName(1, "position.x"), &control.second);
     EXPECT_EQ(control.GetPropertyParamsByName(2, "position.x"), nullptr);
-    EXPECT_EQ(control.GetPropertyParamsByName(0, "gain"), &control.gain) << "never indexed, found all the same";
+    EXPECT_EQ(control.GetPropertyParamsByName(0, "gain"), &control.gain) << "not indexed, but found";
     EXPECT_EQ(control.GetPropertyParamsByName(1, "gain"), nullptr);
     EXPECT_EQ(CodeOf([&] { (void)control.State().GetUIntValue(1, "gain"); }), "SDK4_ERR_ERROR");
 }

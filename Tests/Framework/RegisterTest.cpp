@@ -14,7 +14,7 @@ TEST_F(RegisterTest, CacheModesDecideWhatTouchesTheCamera) {
         int mode;
         std::string readAgain, readAfterWrite, eventsOfWrite, eventsOfInvalidate;
     } cases[] = {
-        {0, "R 0100/4", "R 0100/4", "", ""}, // never valid, so there is nothing to lose either
+        {0, "R 0100/4", "R 0100/4", "", ""}, // never valid, so nothing becomes stale
         {1, "", "", "", "gain"},
         {2, "", "R 0100/4", "gain", "gain"},
     };
@@ -58,7 +58,7 @@ TEST_F(RegisterTest, AnUnknownCacheModeRefusesAfterTheWrite) {
     LogCapture log(log4cxx::Level::getWarn());
     EXPECT_EQ(Cost([&] { EXPECT_EQ(CodeOf([&] { gain.GetValue(); }), "SDK4_ERR_CANTGETFEATURE"); }), "");
     EXPECT_EQ(Cost([&] { EXPECT_EQ(CodeOf([&] { gain.SetValue(5); }), "SDK4_ERR_CANTSETFEATURE"); }), "W 0100=5");
-    EXPECT_EQ(Cost([&] { dependant.GetValue(); }), "") << "the cascade is skipped";
+    EXPECT_EQ(Cost([&] { dependant.GetValue(); }), "") << "no cascade";
     EXPECT_EQ(log.TakeTexts(), (Texts{"warn SDK4Exception [X4Error(SDK4_ERR_CANTGETFEATURE)]",
                                       "warn SDK4Exception [X4Error(SDK4_ERR_CANTSETFEATURE)]"}));
 }
@@ -105,7 +105,7 @@ TEST_F(RegisterTest, AFailureLeavesCacheFlagAndDependants) {
 }
 
 TEST_F(RegisterTest, CascadeFollowsTheRelationInNameOrder) {
-    // e names d, d names b and c, both name a; f names nothing of it.
+    // e names d, d names b and c, and both name a. f names none of them.
     for (const auto& [name, invalidators] : std::map<const char*, std::vector<const char*>>{
              {"e", {"d", "absent"}}, {"d", {"c", "b"}}, {"c", {"a"}}, {"b", {"a"}}, {"f", {}}}) {
         auto& entry = AddPlain<int>(name, 0x100, 1);
@@ -127,7 +127,7 @@ TEST_F(RegisterTest, CascadeFollowsTheRelationInNameOrder) {
 
     dynamic_cast<Plain<int>*>(registers.Find("e"))->GetValue();
     a.SetValue(2);
-    EXPECT_EQ(listener.Take(), "a e") << "invalid registers pass the cascade on";
+    EXPECT_EQ(listener.Take(), "a e") << "invalid registers continue the cascade";
     registers.Find("f")->AddInvalidator("b");
     a.SetValue(3);
     EXPECT_EQ(listener.Take(), "a f") << "the relation may grow later";
@@ -157,7 +157,7 @@ TEST_F(RegisterTest, AHandlerMayUnsubscribeAnyHandlerDuringTheEvent) {
     EXPECT_EQ((std::vector<int>{first.heard, second.heard, third.heard, fourth.heard}), (std::vector<int>{1, 1, 0, 2}));
 }
 
-/// A register that is none of the framework's.
+/// A register outside the framework.
 struct ForeignRegister final : IRegister {
     void Invalidate() override { ++invalidated; }
     void SetCacheMode(EnumCacheMode) override {}
@@ -170,7 +170,7 @@ struct ForeignRegister final : IRegister {
 
 TEST_F(RegisterTest, TheListServesAnyRegisterAndKeepsTheFirstOfAName) {
     auto& gain = AddPlain<int>("gain", 0x100, 1);
-    gain.SetValue(1); // before the entry: a list that remembers its relations must notice the newcomer
+    gain.SetValue(1); // before the new entry: the list must update cached relations
     auto* foreign = new ForeignRegister;
     registers.AddEntry(foreign);
     gain.SetValue(1);
@@ -207,14 +207,14 @@ TEST_F(RegisterTest, TheCountOfThePortIsTheLengthOfATextAndOfTheNextRead) {
         {8, "came", "8"},
         {3, "", "8"},
         {0, "", "8"},
-        {0xFFFFFFFFFFFF, "came" + std::string(28, '\0'), "36"}, // eight bytes were asked for, the others are zero
+        {0xFFFFFFFFFFFF, "came" + std::string(28, '\0'), "36"}, // eight bytes requested, the others are zero
         {4, "", "4"},
         {100, std::string(32, '\0'), "36"},
     };
     for (const auto& [reported, expected, nextLength] : cases) {
         port.reportedCount = reported;
         EXPECT_EQ(text.GetValue(), expected) << reported;
-        port.reportedCount = 0; // changes nothing
+        port.reportedCount = 0; // no effect
         EXPECT_EQ(Cost([&] { text.GetValue(); }), "R 0100/" + nextLength) << reported;
     }
 }

@@ -1,5 +1,5 @@
-// Plays one input: opens a camera, calls it, releases it, while the camera answers as the input says. For libFuzzer and
-// for Replay.cpp.
+// Plays one input: opens a camera, calls it and releases it. The input determines the camera's answers. For libFuzzer
+// and Replay.cpp.
 
 #include "Tests/Fuzz/Session.h"
 
@@ -14,7 +14,7 @@
 
 extern "C" void* CreateObject(const char* model, void* port, std::int32_t index);
 
-/// In place of the C library's: a software trigger waits as long as the camera says.
+/// Replaces the C library's: a software trigger waits for the time that the camera reports.
 extern "C" int usleep(useconds_t /*microseconds*/) { return 0; }
 
 namespace Fuzz {
@@ -24,7 +24,7 @@ namespace {
 constexpr std::array<const char*, 5> models = {"Orvik-31200M", "Orvik-710C", "Cerix7-MV", "Cerix-MV7", "Sollux G"};
 constexpr std::array<std::int32_t, 8> indices = {0, 2, 3, 0x13, 1, 0x12, -1, INT_MIN};
 
-/// Takes the lines and keeps none.
+/// Discards all lines.
 class NullAppender final : public log4cxx::AppenderSkeleton {
 public:
     void close() override {}
@@ -49,7 +49,7 @@ log4cxx::LoggerPtr Logger() {
 void Play(Input& input) {
     const char* model = input.One(models);
     const std::int32_t index = input.One(indices);
-    // Debug lines make an execution many times as long, so they are rare, and a camera with them is called less.
+    // Debug lines are slow, so they are rare, and sessions with them make fewer calls.
     const bool debug = input.Byte() >= 0xF0;
     Logger()->setLevel(debug ? log4cxx::Level::getDebug() : log4cxx::Level::getOff());
 

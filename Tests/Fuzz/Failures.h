@@ -9,7 +9,7 @@
 
 namespace Fuzz {
 
-/// What must hold whatever the camera and the host do. Ends the process when it does not, so that the input is kept.
+/// Checks an invariant. A violation aborts the process, so that the input is kept.
 inline void Require(bool holds, const char* what) {
     if (holds) {
         return;
@@ -18,12 +18,12 @@ inline void Require(bool holds, const char* what) {
     std::abort();
 }
 
-/// An exception that the library does not know. Each has a number of its own.
+/// An exception that the library does not know, with a number to identify it.
 struct Unplugged {
     unsigned int number;
 };
 
-/// What port and observer throw into the library: each exception comes out of the call that caused it, unchanged.
+/// The exceptions that port and observer throw into the library. Each must leave the call that caused it, unchanged.
 class Failures {
 public:
     [[noreturn]] void ThrowError(std::int32_t code) {
@@ -36,10 +36,10 @@ public:
         throw Unplugged{count};
     }
 
-    /// The one read whose failure the library swallows.
+    /// For the one read whose failure the library ignores.
     [[noreturn]] static void ThrowUnseen() { throw Unplugged{0}; }
 
-    /// Makes a call and judges its end. Any other exception than those two ends the process by itself.
+    /// Makes a call and checks its end. Any other exception terminates the process.
     template <typename Call> void Watch(const Call& call) {
         Require(!error && !foreign, "an exception was swallowed, and the call went on");
         try {
@@ -58,7 +58,7 @@ public:
     }
 
 private:
-    std::optional<std::int32_t> error;   ///< thrown, and not seen by Watch yet
+    std::optional<std::int32_t> error;   ///< thrown, and not yet seen by Watch
     std::optional<unsigned int> foreign; ///< the same
     unsigned int count = 0;
 };

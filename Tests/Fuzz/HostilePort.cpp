@@ -9,14 +9,14 @@ namespace Fuzz {
 namespace {
 
 constexpr std::uint32_t gvcpConfiguration = 0x0954;
-constexpr std::uint64_t largestBlock = 512; ///< no register of a camera is longer, and raw access asks for no more
+constexpr std::uint64_t largestBlock = 512; ///< no register is longer, and raw access reads no more
 
-/// Codes of the library's own, and such as it does not know.
+/// Codes of the library and unknown ones.
 constexpr std::array<std::int32_t, 6> codes = {SDK4_ERR_ERROR, SDK4_ERR_CANTGETFEATURE, SDK4_ERR_OUTOFRANGE, 0, 1, -1};
 
 } // namespace
 
-/// Every access begins here: the script says whether the manner changes, and a port that fails does so now.
+/// Begins every access: the input may change the manner, and may have the access fail.
 void HostilePort::Begin(std::uint32_t address) {
     ++accesses;
     text.reset();
@@ -25,7 +25,7 @@ void HostilePort::Begin(std::uint32_t address) {
     } else {
         const std::uint8_t next = input.Byte();
         manner = static_cast<Manner>((next & 0xFu) % static_cast<unsigned int>(Manner::Count));
-        left = (1u << (next >> 4)) - 1; // up to 32767 more: as good as for ever
+        left = (1u << (next >> 4)) - 1; // up to 32767 more: practically forever
     }
     const bool unseen = opening && address == gvcpConfiguration;
     if (manner == Manner::Error && !unseen) {
@@ -54,7 +54,7 @@ void HostilePort::Fill(std::uint32_t address, void* buffer, std::size_t length) 
     }
 }
 
-/// Looks at every byte that the library hands over.
+/// Reads every byte that the library passes.
 void HostilePort::Store(std::uint32_t address, const void* buffer, std::size_t length) {
     const auto* bytes = static_cast<const std::uint8_t*>(buffer);
     memory[address].assign(bytes, bytes + length);
@@ -105,7 +105,7 @@ char* HostilePort::ReadString(std::uint32_t address, std::uint32_t length) {
     std::vector<char> bytes(length);
     Fill(address, bytes.data(), length);
     if (bytes.back() != 0) {
-        bytes.push_back(0); // at the latest behind them, and nothing behind that
+        bytes.push_back(0); // terminates the text at the end of its buffer
     }
     text.reset(static_cast<char*>(std::malloc(bytes.size())));
     std::memcpy(text.get(), bytes.data(), bytes.size());

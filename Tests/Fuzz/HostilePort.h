@@ -13,14 +13,14 @@
 
 namespace Fuzz {
 
-/// A camera that answers as the input says: like a camera, with any words, with wrong counts, with nothing, with
-/// exceptions. The port itself keeps the contract: blocks and texts are exactly as large as they must be, and a text
-/// is gone with the next access.
+/// A camera whose answers are determined by the input: as a camera does, with random words, wrong counts, nothing, or
+/// exceptions. The port itself keeps its contract: blocks and texts have exactly their minimum size, and a text is
+/// valid only until the next access.
 class HostilePort final : public SDK4::IControlPort {
 public:
     HostilePort(Input& script, Failures& thrown) : input(script), failures(thrown) {}
 
-    bool opening = true; ///< while the control is built one read may fail without the host hearing of it
+    bool opening = true; ///< while the control is created, one read may fail unnoticed by the host
     [[nodiscard]] unsigned long Accesses() const { return accesses; }
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
@@ -35,18 +35,18 @@ public:
     void WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) override;
 
 private:
-    /// How accesses are answered. Where a kind means nothing for an access (a count that is wrong, of a word), it
-    /// answers like a camera.
+    /// How accesses are answered. A manner that does not apply to an access (a wrong count for a word) answers as a
+    /// camera does.
     enum class Manner : std::uint8_t {
-        Camera,   ///< what was written there, elsewhere the word that fills the camera
+        Camera,   ///< the value written there, else the camera's default word
         Words,    ///< any words
         Bytes,    ///< any bytes
         Short,    ///< fewer bytes than asked for
         Nothing,  ///< a count of zero, null for a block or a text
         Overlong, ///< a count beyond what was asked for
         Silent,   ///< the count that was asked for, and no bytes
-        Error,    ///< throws an X4Error
-        Foreign,  ///< throws anything else
+        Error,    ///< throws X4Error
+        Foreign,  ///< throws another exception
         Count
     };
 
@@ -63,10 +63,10 @@ private:
     Failures& failures;
     const std::uint32_t filling = input.Word();
     Manner manner = Manner::Camera;
-    unsigned int left = 0; ///< accesses that the manner still lasts
+    unsigned int left = 0; ///< remaining accesses of the manner
     unsigned long accesses = 0;
     std::map<std::uint32_t, std::vector<std::uint8_t>> memory;
-    std::unique_ptr<char, Free> text; ///< what ReadString returned last
+    std::unique_ptr<char, Free> text; ///< the last result of ReadString
 };
 
 } // namespace Fuzz

@@ -6,7 +6,7 @@
 
 namespace Fuzz {
 
-/// The bytes of one input, drawn from front to back. An input that has come to its end goes on with zeros.
+/// The bytes of one input, read from front to back. After its end, all bytes are zero.
 class Input {
 public:
     Input(const std::uint8_t* bytes, std::size_t size) : at(bytes), end(bytes + size) {}
@@ -15,14 +15,14 @@ public:
 
     std::uint8_t Byte() { return AtEnd() ? std::uint8_t{0} : *at++; }
 
-    /// Any number below @p count.
+    /// A number below @p count.
     std::size_t Choice(std::size_t count) { return Byte() % count; }
 
     template <typename T, std::size_t N> const T& One(const std::array<T, N>& candidates) {
         return candidates[Choice(N)];
     }
 
-    /// A number: mostly a small one or one at the edge of something, so that few bytes reach far.
+    /// A number, mostly small or at the edge of a range, so that few bytes reach far.
     std::uint32_t Word() {
         const std::uint8_t kind = Byte();
         if (kind < 0x80) {

@@ -1,4 +1,4 @@
-// Plays one input: a simulated camera on the network gets the datagrams that the input says, from several programs.
+// Plays one input: a simulated device receives the datagrams of the input, from several senders.
 
 #include "Tests/Fuzz/PacketFuzzer.h"
 
@@ -23,11 +23,11 @@ using Simulation::GigEVision::Device;
 using Simulation::GigEVision::Endpoint;
 
 constexpr std::size_t headerSize = 8;
-constexpr std::size_t largestDatagram = 548; // 576 bytes of IPv4 without the headers of IP and UDP
+constexpr std::size_t largestDatagram = 548; // 576 bytes of IPv4 minus the headers of IP and UDP
 
 constexpr std::array<const char*, 2> models = {"Orvik-710C", "Cerix-MV7"};
 constexpr std::array<Endpoint, 3> senders = {{{0x7F000001, 4711}, {0x7F000001, 4712}, {0xFFFFFFFF, 0xFFFF}}};
-// Discovery, address, resending, registers, memory, action; events and answers, which no camera is sent; none at all.
+// Discovery, address, resend, registers, memory, action; events and answers, which no camera receives; invalid ones.
 constexpr std::array<std::uint16_t, 16> commands = {0x0080, 0x0080, 0x0082, 0x0082, 0x0084, 0x0084, 0x0086, 0x0086,
                                                     0x0002, 0x0004, 0x0040, 0x0100, 0x00C0, 0x0083, 0x0089, 0x0000};
 constexpr std::array<std::uint32_t, 32> addresses = {
@@ -66,7 +66,7 @@ std::uint32_t PayloadWord(Input& input) {
     return kind < 0xE0 ? values[kind % values.size()] : Raw(input, 4);
 }
 
-/// A request whose header is right, whatever it asks for.
+/// A request with a valid header and any content.
 Datagram Request(Input& input) {
     static constexpr std::array<std::size_t, 8> lengths = {1, 2, 2, 2, 3, 4, 0, 9};
     const std::size_t words = input.Byte() < 0xF0 ? input.One(lengths) : input.Choice(140);
@@ -80,7 +80,7 @@ Datagram Request(Input& input) {
     return datagram;
 }
 
-/// A request with something wrong about it, or bytes that never were one.
+/// A damaged request, or random bytes.
 Datagram Spoiled(Input& input) {
     if (input.Choice(4) == 0) {
         Datagram noise(input.Choice(2) == 0 ? input.Choice(16) : Raw(input, 2) % 2048);
@@ -159,10 +159,10 @@ std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
         if (kind == 0x10 && input.Byte() < 0x20) {
             device.Reboot(now);
         }
-        if (kind < 0xF0 || datagram.empty()) { // else the same once more
+        if (kind < 0xF0 || datagram.empty()) { // else repeats the last one
             datagram = kind < 0xC0 ? Request(input) : Spoiled(input);
         }
-        // In memory that is no larger than the datagram.
+        // In a buffer of exactly the datagram's size.
         const Datagram received(datagram);
         if (const auto answer = device.Answer(senders[kind % senders.size()], received, now)) {
             CheckAnswer(received, *answer);

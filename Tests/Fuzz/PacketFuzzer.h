@@ -5,9 +5,9 @@
 
 namespace Fuzz {
 
-/// Sends the datagrams that the input says to a simulated camera on the network, without one. Ends the process if the
-/// camera answers what it must not, or no longer serves.
-/// @return how many datagrams there were
+/// Passes the datagrams of the input to a simulated device, without a network. Aborts the process if the device answers
+/// incorrectly or stops working.
+/// @return the number of datagrams
 std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size);
 
 } // namespace Fuzz

@@ -1,4 +1,4 @@
-// packet-storm COUNT SEED: sends a camera as many datagrams, the same ones for the same seed.
+// packet-storm COUNT SEED: sends COUNT datagrams to a camera, reproducible by the seed.
 
 #include "Tests/Fuzz/PacketFuzzer.h"
 
@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
     std::mt19937 generator(static_cast<std::mt19937::result_type>(std::strtoul(argv[2], nullptr, 10)));
     std::size_t played = 0;
     while (played < count) {
-        std::vector<std::uint8_t> input(8192); // for some hundred datagrams to one camera
+        std::vector<std::uint8_t> input(8192); // a few hundred datagrams to one camera
         for (std::uint8_t& byte : input) {
             byte = static_cast<std::uint8_t>(generator());
         }

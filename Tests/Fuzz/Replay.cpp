@@ -1,4 +1,4 @@
-// Plays inputs from files and folders, for compilers without a fuzzer.
+// Plays inputs from files and folders, for compilers without libFuzzer.
 
 #include <cstdint>
 #include <cstdio>
@@ -17,8 +17,8 @@ void Play(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     const std::vector<char> bytes(std::istreambuf_iterator<char>(stream), {});
     std::printf("%s\n", file.c_str());
-    std::fflush(stdout); // the last one named is the one that fails
-    // As large as the input and no larger.
+    std::fflush(stdout); // so that the last file printed is the one that fails
+    // In a buffer of exactly the input's size.
     const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
     LLVMFuzzerTestOneInput(input.data(), input.size());
     ++played;

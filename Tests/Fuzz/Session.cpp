@@ -14,7 +14,7 @@ namespace Fuzz {
 
 namespace {
 
-/// Texts that mean something: properties of every kind, addresses good and bad.
+/// Meaningful texts: properties of every kind, valid and invalid addresses.
 constexpr std::array<std::string_view, 24> words = {
     "",
     "gain",
@@ -70,7 +70,7 @@ template <typename Interface> Interface* Part(Session& session) {
     }
 }
 
-/// Calls one operation with arguments from the input. Does nothing on a camera whose family does not have it.
+/// Calls one operation with arguments from the input. Does nothing if the camera does not have it.
 template <typename Interface, typename Result, typename... Parameters>
 void Invoke(Session& session, Result (Interface::*operation)(Parameters...), std::size_t longestText) {
     auto* interface = Part<Interface>(session);
@@ -78,7 +78,7 @@ void Invoke(Session& session, Result (Interface::*operation)(Parameters...), std
         return;
     }
     Arguments arguments(session);
-    const std::tuple<Parameters...> values{arguments.Draw<Parameters>()...}; // braces: from left to right
+    const std::tuple<Parameters...> values{arguments.Draw<Parameters>()...}; // braces: evaluated from left to right
     const auto invoke = [&](auto... value) { return (interface->*operation)(value...); };
     if constexpr (std::is_same_v<Result, const char*>) {
         const char* text = std::apply(invoke, values);
@@ -91,7 +91,7 @@ void Invoke(Session& session, Result (Interface::*operation)(Parameters...), std
 
 using Call = std::function<void(Session&)>;
 
-/// Everything that a host can call, on either family. An input chooses by the place.
+/// Every operation of both families. Inputs choose them by position.
 const std::vector<Call>& Calls() {
     static const std::vector<Call> all = [] {
         std::vector<Call> calls;

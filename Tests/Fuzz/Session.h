@@ -15,23 +15,23 @@
 
 namespace Fuzz {
 
-/// One camera, opened by one input and played with until the input ends.
+/// One camera, opened by one input and used until the input ends.
 struct Session {
     Input& input;
     Failures failures{};
     HostilePort port{input, failures};
     IDynamicObject* camera = nullptr;
-    unsigned int depth = 0; ///< operations that run: more than one when an observer calls back
+    unsigned int depth = 0; ///< nested operations: more than one when an observer calls back
 };
 
-/// Makes a call that the input chooses, and judges its end.
+/// Makes a call chosen by the input, and checks its end.
 void CallAny(Session& session);
 
 /// The host's observer of properties; the context is the session.
 void Observe(const char* name, const char* attribute, void* context);
 
-/// The arguments of one call, in the order of the parameters. What they point to is exactly as large as the host says,
-/// and gone after the call.
+/// The arguments of one call, in the order of the parameters. Pointers refer to buffers of exactly the stated size,
+/// which are freed after the call.
 class Arguments {
 public:
     explicit Arguments(Session& owner) : session(owner) {}

@@ -16,7 +16,7 @@ TEST_F(DeviceTest, LetsNobodyWriteWithoutControl) {
     EXPECT_EQ(Ask("4201 0086 0008 0002 14010000 05000000"), "8006 0087 0004 0002 00000000");
     EXPECT_EQ(Ask(readGain), "0000 0081 0004 0070 00000000");
     EXPECT_EQ(Ask(readApplication), "0000 0081 0008 0073 00000000 00000000");
-    // Control, and what it is for, may come in one packet.
+    // One packet may take control and use it.
     EXPECT_EQ(Ask("4201 0082 0010 0003 00000a00 00000002 14010000 00000005"), "0000 0083 0004 0003 00000002");
 }
 
@@ -49,34 +49,35 @@ TEST_F(DeviceTest, EndsAcquisitionAndStreamWithControl) {
     EXPECT_EQ(TakeControl(other), "0000 0083 0004 0001 00000001");
 }
 
-TEST_F(DeviceTest, TakesControlFromWhoFallsSilent) {
+TEST_F(DeviceTest, ReleasesControlAfterTheHeartbeatTimeout) {
     TakeControl();
     Ask(startAcquisition);
     for (int i = 0; i < 3; ++i) {
         time += 2900ms;
-        EXPECT_EQ(Ask(i == 2 ? "4200 0060 0000 0009" : readGain), // any request renews it, also a repeated one
-                  i == 2 ? "" : "0000 0081 0004 0070 00000000");
+        EXPECT_EQ(
+            Ask(i == 2 ? "4200 0060 0000 0009" : readGain), // any request resets the heartbeat, also a repeated one
+            i == 2 ? "" : "0000 0081 0004 0070 00000000");
     }
     time += 3000ms;
-    EXPECT_EQ(Ask(other, readPrivilege), "0000 0081 0004 0072 00000002"); // others do not
-    EXPECT_EQ(Ask("4201 0080 0004 0009 1401"), "");                       // nor does what is none
+    EXPECT_EQ(Ask(other, readPrivilege), "0000 0081 0004 0072 00000002"); // requests of others do not
+    EXPECT_EQ(Ask("4201 0080 0004 0009 1401"), "");                       // invalid requests do not either
     time += 1ms;
     EXPECT_EQ(Ask(other, "4201 0080 0008 0002 00000a00 00088134"), "0000 0081 0008 0002 00000000 00000000");
     EXPECT_EQ(Ask(writeGain), "8006 0083 0004 0071 00000000");
 
     TakeControl();
-    time += 3001ms; // a request that comes too late renews nothing
+    time += 3001ms; // a late request does not renew control
     EXPECT_EQ(Ask("4201 0082 0008 0002 14010000 00000005"), "8006 0083 0004 0002 00000000");
 }
 
-TEST_F(DeviceTest, TakesControlWithoutBeingAsked) {
+TEST_F(DeviceTest, ReleasesControlWithoutARequest) {
     TakeControl();
     Ask("4201 0082 0010 0002 00000938 000001f4 00088134 00000001");
     device.PassTime(start + 501ms);
     EXPECT_EQ(camera->Registers().Get("startacquisition")[0], 0U);
 }
 
-TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
+TEST_F(DeviceTest, AnswersARepeatedRequestWithoutExecutingIt) {
     TakeControl();
     const std::string answer = Ask(writeGain);
     camera->Registers().Set("gain", {9});
@@ -87,8 +88,8 @@ TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
     EXPECT_EQ(Ask("4201 0082 0008 0072 14010000 00000005"), "0000 0083 0004 0072 00000001"); // another id
     EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
     camera->Registers().Set("gain", {9});
-    Ask(writeGain); // ids come round again: the last request alone can be a repeated one
-    EXPECT_EQ(Ask(other, writeGain), "8006 0083 0004 0071 00000000"); // each sender has ids of its own
+    Ask(writeGain); // ids wrap around: only the last request can be a repetition
+    EXPECT_EQ(Ask(other, writeGain), "8006 0083 0004 0071 00000000"); // each sender has its own ids
     EXPECT_EQ(camera->Registers().Get("gain")[0], 5U);
 
     Ask("4200 0082 0008 0073 14010000 00000006");
@@ -97,7 +98,7 @@ TEST_F(DeviceTest, AnswersARepeatedRequestWithoutCarryingItOut) {
     EXPECT_EQ(camera->Registers().Get("gain")[0], 9U);
 }
 
-TEST_F(DeviceTest, StartsAnewWithPermanentMemoryAlone) {
+TEST_F(DeviceTest, KeepsOnlyPermanentMemoryOverAReboot) {
     TakeControl();
     const std::string write = "4201 0082 0018 0002 00000938 000007d0 000000e8 4c656674 14010000 00000005";
     EXPECT_EQ(Ask(write), "0000 0083 0004 0002 00000003");
@@ -107,7 +108,7 @@ TEST_F(DeviceTest, StartsAnewWithPermanentMemoryAlone) {
     EXPECT_EQ(Ask(readGain), "");
     EXPECT_EQ(Ask("4201 0002 0000 0003"), "");
     time = 5100ms;
-    EXPECT_EQ(Ask(write), "8006 0083 0004 0002 00000000"); // answers are forgotten too
+    EXPECT_EQ(Ask(write), "8006 0083 0004 0002 00000000"); // answers are reset, too
     EXPECT_EQ(Ask("4201 0080 0014 0004 00000024 00000a00 00000938 000000e8 14010000"),
               "0000 0081 0014 0004 7f00004d 00000000 00000bb8 4c656674 00000000");
     EXPECT_EQ(TakeControl(other), "0000 0083 0004 0001 00000001");
@@ -116,7 +117,7 @@ TEST_F(DeviceTest, StartsAnewWithPermanentMemoryAlone) {
 TEST_F(DeviceTest, LetsTheCamerasTimeGoOn) {
     TakeControl();
     time = 2000ms;
-    // The clock is read with the access, which takes the camera half a millisecond.
+    // The read of the clock is an access, which takes half a millisecond.
     Ask("4201 0082 0008 0002 00000944 00000002");
     EXPECT_EQ(Ask("4201 0080 000c 0003 00000944 00000948 0000094c"), "0000 0081 000c 0003 00000000 00000000 001e8674");
     device.PassTime(start + 4s);

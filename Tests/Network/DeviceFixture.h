@@ -21,7 +21,7 @@ using Simulation::GigEVision::Device;
 using Simulation::GigEVision::Endpoint;
 using Simulation::GigEVision::Time;
 
-/// Bytes from their hexadecimal digits; blanks are for the reader.
+/// Bytes from hexadecimal digits. Blanks are ignored.
 inline Bytes FromHex(const std::string& text) {
     std::string digits;
     for (const char character : text) {
@@ -34,7 +34,7 @@ inline Bytes FromHex(const std::string& text) {
     return bytes;
 }
 
-/// The digits of the bytes, in words of the protocol's header and of its payload.
+/// The bytes in hexadecimal, grouped into the words of header and payload.
 inline std::string ToHex(const Bytes& bytes) {
     std::string text;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -49,16 +49,16 @@ inline std::string ToHex(const Bytes& bytes) {
 constexpr Endpoint one{0x7F000001, 40001};
 constexpr Endpoint other{0x7F000001, 40002};
 
-/// An Orvik-710C at 127.0.0.77, and two applications that ask it; time stands still unless a test moves it.
+/// An Orvik-710C at 127.0.0.77 and two applications. Only tests advance the time.
 struct DeviceOnCamera {
-    /// What is answered, in hexadecimal digits; nothing if nothing is.
+    /// The answer in hexadecimal; empty if there is none.
     std::string Ask(const Endpoint& from, const std::string& request) {
         const auto answer = device.Answer(from, FromHex(request), start + time);
         return answer ? ToHex(*answer) : "";
     }
     std::string Ask(const std::string& request) { return Ask(one, request); }
 
-    /// Takes control for the application that asks: control access, or exclusive access.
+    /// Takes control for the application: control access or exclusive access.
     std::string TakeControl(const Endpoint& from = one, const std::string& kind = "02") {
         return Ask(from, "4201 0082 0008 0001 00000a00 000000" + kind);
     }

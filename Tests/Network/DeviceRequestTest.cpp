@@ -8,19 +8,19 @@ namespace {
 
 struct Step {
     std::string request;
-    std::string answer; ///< empty: none is due
+    std::string answer; ///< empty: no answer
 };
 
 struct Dialogue {
     const char* name;
-    std::vector<Step> steps; ///< of the application that has control
+    std::vector<Step> steps; ///< of the controlling application
 };
 
 void PrintTo(const Dialogue& dialogue, std::ostream* stream) { *stream << dialogue.name; }
 
 // clang-format off
 const std::vector<Dialogue> dialogues = {
-    // Single registers: numbers, big-endian, whatever lies in memory.
+    // Single registers: big-endian numbers, whatever the byte order in memory.
     {"ReadsARegister", {{"4201 0080 0004 0011 14010000", "0000 0081 0004 0011 00000000"}}},
     {"ReadsSeveral", {{"4201 0080 000c 0012 00000000 00000024 0a030004", "0000 0081 000c 0012 00010002 7f00004d 00004e20"}}},
     {"StopsReadingAtTheFirstThatFails", {{"4201 0080 000c 0013 00000000 14020000 00000004", "8003 0081 0004 0013 00010002"}}},
@@ -38,7 +38,7 @@ const std::vector<Dialogue> dialogues = {
     {"WritesAPartOfAText", {{"4201 0082 0008 001d 000000e8 4c656674", "0000 0083 0004 001d 00000001"},
                             {"4201 0084 0008 001e 000000e8 00000008", "0000 0085 000c 001e 000000e8 4c656674 00000000"}}},
 
-    // Memory: bootstrap words big-endian, texts as bytes, the camera's own words little-endian.
+    // Memory: bootstrap words are big-endian, texts are bytes, vendor registers are little-endian.
     {"ReadsAText", {{"4201 0084 0008 0021 00000068 0000000c", "0000 0085 0010 0021 00000068 4f727669 6b2d3731 30430000"}}},
     {"ReadsBootstrapWords", {{"4201 0084 0008 0022 00000934 00000014",
                               "0000 0085 0018 0022 00000934 c0000007 00000bb8 00000000 000f4240 00000000"}}},
@@ -62,12 +62,12 @@ const std::vector<Dialogue> dialogues = {
     {"ClipsWhatIsLongerThanTheRegister", {{"4201 0086 000c 0035 14010000 05000000 ffffffff", "0000 0087 0004 0035 00000008"},
                                           {"4201 0084 0008 0036 14010000 00000008", "0000 0085 000c 0036 14010000 05000000 00000000"}}},
     {"ProtectsMemory", {{"4201 0086 0008 0037 00000068 41414141", "8004 0087 0004 0037 00000000"},  // identity
-                        {"4201 0086 0008 0038 14010004 01000000", "8004 0087 0004 0038 00000000"},  // behind a register
+                        {"4201 0086 0008 0038 14010004 01000000", "8004 0087 0004 0038 00000000"},  // after a register
                         {"4201 0086 000c 0039 000000f4 00000000 00000000", "8003 0087 0004 0039 00000000"},
                         {"4201 0086 0004 003a 14010000", "8002 0087 0004 003a 00000000"},
                         {"4201 0086 0008 003b 14010001 01000000", "8005 0087 0004 003b 00000000"}}},
 
-    // Indexed registers: a selector may be written even of what is only shown; value and selector lie side by side.
+    // Indexed registers: the selector of a read-only register is writable; value and selector are adjacent.
     {"SelectsInWhatIsShown", {{"4201 0082 0008 0041 28090000 00000001", "0000 0083 0004 0041 00000001"},
                               {"4201 0084 0008 0042 28090000 00000014", "0000 0085 0018 0042 28090000 01000000 480c0000 60080000 870c0000 9f080000"},
                               {"4201 0080 0008 0043 2809000c 28090010", "0000 0081 0008 0043 00000c87 0000089f"},
@@ -94,8 +94,8 @@ const std::vector<Dialogue> dialogues = {
                               {"4201 0080 0004 0066 14010000", "0000 0081 0004 0066 00000009"}}},
     {"DropsWhatIsNoRequest", {{"", ""}, {"4201 0080 0000 00", ""},
                               {"4301 0080 0004 0071 14010000", ""},   // another key
-                              {"4201 0080 0004 0000 14010000", ""},   // no id
-                              {"4201 0080 0008 0072 14010000", ""},   // shorter than it says
+                              {"4201 0080 0004 0000 14010000", ""},   // id 0
+                              {"4201 0080 0008 0072 14010000", ""},   // shorter than its header says
                               {"4201 0080 0004 0073 14010000 00", ""}}},
 };
 // clang-format on
@@ -125,7 +125,7 @@ TEST_F(DeviceTest, ShowsItselfInADiscovery) {
     EXPECT_EQ(text.substr(8 + 0x68).c_str(), std::string("Orvik-710C"));
     EXPECT_EQ(text.substr(8 + 0xD8).c_str(), std::string("710C-0042"));
 
-    // Each is answered as things are now, although those who look for devices repeat their id.
+    // Discoveries are never answered from the cache, since applications repeat their ids.
     TakeControl();
     Ask("4201 0082 0008 0002 000000e8 4c656674");
     EXPECT_NE(Ask("4201 0002 0000 ffff"), answer);
@@ -143,7 +143,7 @@ TEST_F(DeviceTest, FillsThePacketsThatTheStandardAllows) {
     EXPECT_EQ(FromHex(Ask("4201 0084 0008 0003 00000200 00000218")).size(), 548U);
 }
 
-// One camera has the same addresses for a port in its process as over the control channel.
+// A camera has the same addresses in process as over the control channel.
 TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
     struct Row {
         std::uint32_t address;
@@ -153,16 +153,16 @@ TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
     };
     // clang-format off
     const Row rows[] = {
-        {0x00000000, 0xF8,  true,  true},  // what a discovery tells, with what the standard reserves there
+        {0x00000000, 0xF8,  true,  true},  // the discovery acknowledge, including reserved addresses
         {0x00000018, 4,     true,  true},
         {0x000000F4, 8,     false, false},
         {0x000000F8, 4,     false, false},
         {0x000001FC, 8,     false, false},
-        {0x00000200, 536,   true,  true},  // both addresses of the description
+        {0x00000200, 536,   true,  true},  // both URLs of the description
         {0x00000600, 4,     true,  true},
         {0x00000604, 4,     false, false},
         {0x0000064C, 8,     false, false},
-        {0x00000934, 24,    true,  true},  // capability to clock: also of the channel itself
+        {0x00000934, 24,    true,  true},  // capabilities to clock, with registers of the channel
         {0x00000950, 4,     false, false},
         {0x00000954, 4,     true,  true},
         {0x00000A00, 8,     true,  true},
@@ -179,9 +179,9 @@ TEST(AddressTest, AreTheSameInProcessAndOverTheChannel) {
         {0x1401FFFC, 4,     true,  true},
         {0x1401FFFC, 8,     false, false},
         {0x14020000, 4,     false, false},
-        {0x28090004, 16,    true,  false}, // behind a selector
+        {0x28090004, 16,    true,  false}, // after a selector
         {0x6E140000, 8,     false, true},
-        {0xE0010000, 4,     false, false}, // the camera's notes
+        {0xE0010000, 4,     false, false}, // internal state
         {0xFFFFFFFC, 4,     false, false},
         {0xFFFFFFFC, 8,     false, false},
     };

@@ -20,7 +20,7 @@ protected:
         return disturbed.Answer(one, FromHex(request), start + time);
     }
 
-    /// How many acknowledges each of a hundred requests meets.
+    /// The number of acknowledges of each of a hundred requests.
     std::string Counts(const Disturbances& disturbances, std::uint64_t seed) {
         DisturbedDevice disturbed(device, disturbances, seed);
         std::string counts;
@@ -39,7 +39,7 @@ TEST_F(DisturbanceTest, LosesAndRepeatsAsTheSeedSays) {
     for (const char count : {'0', '1', '2'}) {
         EXPECT_NE(counts.find(count), std::string::npos) << count;
     }
-    // A small share is kept, and befalls no request five times in a row: requests and acknowledges are lost alike.
+    // A small share is exact and never affects a request five times in a row. Requests and acknowledges are lost alike.
     const std::string few = Counts({.drop = 0.05}, 1);
     EXPECT_GE(std::count(few.begin(), few.end(), '0'), 9);
     EXPECT_LE(std::count(few.begin(), few.end(), '0'), 11);
@@ -49,7 +49,7 @@ TEST_F(DisturbanceTest, LosesAndRepeatsAsTheSeedSays) {
     EXPECT_EQ(Counts({}, 1), std::string(100, '1'));
 }
 
-TEST_F(DisturbanceTest, CarriesOutWhatLosesOnlyItsAcknowledge) {
+TEST_F(DisturbanceTest, ExecutesARequestWhoseAcknowledgeIsLost) {
     TakeControl();
     DisturbedDevice disturbed(device, {.drop = 0.5}, 3);
     int carriedOutUnanswered = 0;
@@ -64,7 +64,7 @@ TEST_F(DisturbanceTest, CarriesOutWhatLosesOnlyItsAcknowledge) {
     EXPECT_GT(carriedOutUnanswered, 10);
 }
 
-TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
+TEST_F(DisturbanceTest, RefusesAsBusyWithoutExecuting) {
     TakeControl();
     DisturbedDevice disturbed(device, {.nack = 1}, 1);
     const auto sendings = Send(disturbed, "4201 0082 0008 0002 14010000 00000005");
@@ -74,12 +74,12 @@ TEST_F(DisturbanceTest, RefusesAsBusyWithoutCarryingOut) {
     EXPECT_TRUE(Send(disturbed, "4200 0082 0008 0002 14010000 00000005").empty());
     EXPECT_TRUE(Send(disturbed, "4201 0040 0000 0003").empty());
     EXPECT_TRUE(Send(disturbed, "4301").empty());
-    EXPECT_EQ(Send(disturbed, "4201 0002 0000 0003").at(0).datagram.size(), 256U); // it can be found nevertheless
+    EXPECT_EQ(Send(disturbed, "4201 0002 0000 0003").at(0).datagram.size(), 256U); // still answers discoveries
     time += 2000ms;
-    Send(disturbed, readOfGain); // shows that the application is alive
+    Send(disturbed, readOfGain); // resets the heartbeat
     time += 2000ms;
     EXPECT_EQ(Ask(other, "4201 0080 0004 0001 00000a00"), "0000 0081 0004 0001 00000002");
-    // What was carried out already is not refused when it is repeated.
+    // A repetition of an executed request is not refused.
     const std::string carriedOut = "4201 0082 0008 0004 14010000 00000005";
     Ask(carriedOut);
     EXPECT_EQ(ToHex(Send(disturbed, carriedOut).at(0).datagram), "0000 0083 0004 0004 00000001");
@@ -98,7 +98,7 @@ TEST_F(DisturbanceTest, HoldsAcknowledgesBack) {
     EXPECT_LE(*most, 20ms);
 }
 
-TEST_F(DisturbanceTest, StartsAnewOnce) {
+TEST_F(DisturbanceTest, RebootsOnce) {
     DisturbedDevice disturbed(device, {.rebootAfter = 2}, 1);
     for (const std::size_t answers : {1U, 1U, 0U, 0U}) {
         EXPECT_EQ(Send(disturbed, readOfGain).size(), answers);

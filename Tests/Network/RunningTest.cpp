@@ -1,4 +1,4 @@
-// What the tests run programs with fails where a program hangs, instead of hanging with it.
+// The helper that runs programs fails if a program hangs, instead of hanging with it.
 
 #include "Tests/Support/Running.h"
 #include "Tests/Support/Files.h"
@@ -17,7 +17,7 @@ TEST(RunningTest, FailsWithWhatWasReadWhenNothingMoreComes) {
     EXPECT_TRUE(program.ReadUntil("begun"));
     EXPECT_NONFATAL_FAILURE(EXPECT_FALSE(program.ReadUntil("never")), "did not go on within 200 ms");
     EXPECT_EQ(program.Read(), "begun\n");
-    EXPECT_EQ(program.End(), -1); // it is killed, which is told once
+    EXPECT_EQ(program.End(), -1); // killed; reported once
 }
 
 TEST(RunningTest, FailsWithWhatWasReadWhenItDoesNotEnd) {
@@ -33,7 +33,7 @@ TEST(RunningTest, TakesWhatTheProgramStartedWithIt) {
         ASSERT_TRUE(program.ReadUntil("."));
         child = program.Read().substr(0, program.Read().find('.'));
     }
-    // Dead, if not yet buried.
+    // It may be a zombie.
     const auto isAlive = [&] {
         const std::string state = Content("/proc/" + child + "/stat");
         return !state.empty() && state.find(") Z ") == std::string::npos;

@@ -18,14 +18,14 @@ namespace {
 using Test::Content;
 using Test::TemporaryFile;
 
-/// An address of loopback that no other running test has.
+/// A loopback address that no other running test uses.
 std::string OwnAddress() {
     const auto process = static_cast<unsigned>(getpid());
     return "127." + std::to_string(77 + (process >> 16 & 0x3F)) + '.' + std::to_string(process >> 8 & 0xFF) + '.' +
            std::to_string(process & 0xFF);
 }
 
-/// Runs the program, whose one line says at the beginning what it serves, or else why it does not.
+/// Runs the program and reads its first line: the announcement or an error.
 class Simulator : public Test::Running {
 public:
     explicit Simulator(const std::vector<std::string>& arguments) : Running(QDV12_SIMULATOR, arguments, both) {
@@ -33,7 +33,7 @@ public:
     }
 };
 
-/// Asks the device at the address, over a socket.
+/// A client of the device, over a socket.
 class Application {
 public:
     explicit Application(const std::string& address) {
@@ -123,15 +123,15 @@ TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
     EXPECT_EQ(Application(address).Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
     const std::size_t size = 24 + 3 * (16 + 20 + 8 + 12); // a request, and two acknowledges
     for (int i = 0; i < 500 && Content(record).size() < size; ++i) {
-        usleep(10000); // the acknowledge may be here before it is in the file
+        usleep(10000); // the acknowledge may arrive before it is in the file
     }
-    simulator.Signal(SIGKILL); // which takes nothing from the file
+    simulator.Signal(SIGKILL); // the file must be complete all the same
     EXPECT_EQ(simulator.End(), -1);
 
     const std::string file = Content(record);
     ASSERT_EQ(file.size(), size);
     const Bytes packet(file.begin() + 24 + 16, file.begin() + 24 + 16 + 40);
-    EXPECT_EQ(file[20], 101); // packets of IPv4, without a link layer
+    EXPECT_EQ(file[20], 101); // IPv4 packets without a link layer
     EXPECT_EQ(ToHex(packet).substr(0, 27), "4500 0028 0001 4000 4011" + ToHex(packet).substr(24, 3));
     const auto sum = [](const Bytes& bytes, std::size_t from, std::uint32_t total) {
         for (std::size_t i = from; i < bytes.size(); i += 2) {
@@ -139,13 +139,13 @@ TEST(SimulatorProgramTest, RecordsWhatIsReceivedAndSent) {
         }
         return (total & 0xFFFF) + (total >> 16);
     };
-    // A sum over what a checksum covers, and the checksum itself, has all bits set.
+    // The sum over the data and its checksum has all bits set.
     EXPECT_EQ(sum({packet.begin(), packet.begin() + 20}, 0, 0), 0xFFFFU);
-    EXPECT_EQ(sum(packet, 12, 17 + 20), 0xFFFFU); // the pseudo header: both addresses, the protocol, the length
+    EXPECT_EQ(sum(packet, 12, 17 + 20), 0xFFFFU); // the pseudo header: both addresses, protocol, length
     std::filesystem::remove(record);
 }
 
-TEST(SimulatorProgramTest, GoesOnWhenNothingMoreIsRecorded) {
+TEST(SimulatorProgramTest, ContinuesWhenTheRecordingFails) {
     const std::string address = OwnAddress();
     const std::string record = TemporaryFile("pipe");
     const std::string state = TemporaryFile("state");
@@ -174,7 +174,7 @@ TEST(SimulatorProgramTest, HoldsAcknowledgesBack) {
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(application.Ask("4201 0080 0004 0001 14010000"), "0000 0081 0004 0001 00000000");
     }
-    EXPECT_GT(std::chrono::steady_clock::now() - start, 100ms); // 250 ms on the average
+    EXPECT_GT(std::chrono::steady_clock::now() - start, 100ms); // 250 ms on average
 }
 
 TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {

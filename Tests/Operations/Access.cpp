@@ -1,4 +1,4 @@
-// The control itself, the stream and its video frames, raw access, and who the camera is.
+// The control itself, the stream and its video frames, raw access, and the camera's identity.
 
 #include "Tests/Operations/Operations.h"
 
@@ -9,7 +9,7 @@ namespace Test {
 
 namespace {
 
-/// Raw memory access with a buffer of @p size bytes; the result is the count that came back and the words.
+/// Raw memory access with a buffer of @p size bytes. The result is the returned count and the words.
 Call RawMemory(void (IGigEVisionPort::*operation)(unsigned int, unsigned char*, unsigned int*), unsigned int size) {
     return [operation, size](IDynamicObject& camera) {
         Bytes buffer(size, 7);

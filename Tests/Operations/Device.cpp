@@ -1,4 +1,4 @@
-// Image memory, I/O lines, settings sets, test pictures and temperatures.
+// Image memory, I/O lines, settings sets, test patterns and temperatures.
 
 #include "Tests/Operations/Operations.h"
 
@@ -8,7 +8,7 @@ namespace Test {
 
 namespace {
 
-/// A function of the image memory: written, it must be asked what the camera made of the value.
+/// A function of the image memory. After a write, the value is read back.
 Accesses MemoryRead(const std::string& address) { return Cached("R " + address + "/4").AskingModel(); }
 Accesses MemoryWrite(const std::string& written) { return Always("W " + written).AskingModel(); }
 

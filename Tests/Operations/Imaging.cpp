@@ -1,4 +1,4 @@
-// Exposure, gain, timing, trigger, and the geometry and coding of the image.
+// Exposure, gain, timing, trigger, geometry and pixel coding.
 
 #include "Tests/Operations/Operations.h"
 
@@ -18,14 +18,14 @@ State Limits(const std::vector<std::uint32_t>& min, const std::vector<std::uint3
     return {{{roaLimits, Words(min), 0}, {roaLimits, Words(max), 1}, {roaLimits, Words({7, 7, 70, 70}), 2}}};
 }
 
-/// A write of the trigger delay asks for the exposure mode, which then stays known.
+/// A write of the trigger delay reads the exposure mode first, which is then cached.
 Accesses DelayWrite(const std::string& written) { return Settling("R 0A020000/4; " + written, written); }
 
-/// What is stale once the readout area is another.
+/// The getters made stale by a change of the readout area.
 const char* const moved = "GetImageSize, GetOverlayPosition line 1, GetOverlayPosition line 2, GetMeasureWindow, "
                           "GetMeasureWindow 2, GetReadoutTime, GetExposure, GetFrameDuration";
 
-/// A write of the readout area after its limits were read; they then stay known.
+/// A write of the readout area reads its limits first, which are then cached.
 Accesses AreaWrite(const std::string& written) {
     return Settling("w 28090000=0; R 28090000/20; w 28090000=1; R 28090000/20; W 28050000=" + written,
                     "W 28050000=" + written)

@@ -1,5 +1,4 @@
-// The M2VX family: the control itself, who and where the camera is, its settings sets, its motor and lens units, and
-// the properties behind it all.
+// The M2VX family: the control itself, the camera's identity and network, settings sets, motors and lenses, properties.
 
 #include "Tests/Operations/Operations.h"
 

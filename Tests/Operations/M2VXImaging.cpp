@@ -1,4 +1,4 @@
-// The M2VX family: exposure, gain, corrections of the image, what is drawn into it, and its memory.
+// The M2VX family: exposure, gain, image corrections, overlay and image memory.
 
 #include "Tests/Operations/Operations.h"
 
@@ -23,8 +23,8 @@ Call Pixel(SDK4_KDEFECTPIXELSELECT select, SDK4_KDEFECTPIXEL pixel) {
     return On(&M2VX::IDefectPixel::SetDefectPixel, select, pixel);
 }
 
-// Unless a row says otherwise, the modes of the camera enable everything but "automaticlevel" and "autogainstopmode";
-// of an indexed register, instance i holds the words 10 i + 5 and 10 i + 6, other registers 1, 2, ... (see Prepare).
+// By default, the modes of the camera enable everything but "automaticlevel" and "autogainstopmode". Instance i of an
+// indexed register holds the words 10 i + 5 and 10 i + 6, other registers hold 1, 2, ... (see Prepare).
 
 // clang-format off
 std::vector<Operation> SensorOperations() {

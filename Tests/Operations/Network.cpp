@@ -1,4 +1,4 @@
-// How the camera sits on the network: the bootstrap registers of the GigE Vision standard.
+// The camera on the network: the bootstrap registers of the GigE Vision standard.
 
 #include "Tests/Operations/Operations.h"
 
@@ -8,7 +8,7 @@ namespace Test {
 
 namespace {
 
-/// Reached at 192.168.1.10 / 255.255.255.0; @p supported and @p configured: bit 0 persistent IP, bit 1 DHCP.
+/// A camera at 192.168.1.10 / 255.255.255.0. @p supported and @p configured: bit 0 persistent IP, bit 1 DHCP.
 State Network(std::uint32_t supported, std::uint32_t configured) {
     return {{{0x0010, Words({supported})},
              {0x0014, Words({configured})},
@@ -25,7 +25,7 @@ Call Persistent(const char* ip, const char* mask, const char* gateway) {
     return On(&IGigECamera::EnablePersistentIP, ip, mask, gateway);
 }
 
-/// What a persistent address of 192.168.1.20 / 255.255.255.0 by way of 192.168.1.1 costs.
+/// The accesses that set a persistent address of 192.168.1.20 / 255.255.255.0, gateway 192.168.1.1.
 const char* const persistentIP =
     "r 0010; r 0024; r 0034; r 0014; w 0014=7; w 064C=3232235796; w 065C=4294967040; w 066C=3232235777";
 

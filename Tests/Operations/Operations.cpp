@@ -9,7 +9,7 @@ namespace Test {
 namespace {
 
 constexpr std::uint32_t functionModel = 0x64030000;
-const std::string ownGetter = "its getter"; // of the operation that a row is for
+const std::string ownGetter = "its getter"; // of the row's operation
 
 std::string Join(const std::string& first, const std::string& second) {
     return first + (first.empty() || second.empty() ? "" : "; ") + second;
@@ -26,7 +26,7 @@ template <typename Port> void PrepareOrvikModes(Port& port) {
 
 void PrepareOrvik(RecordingPort& port) {
     PrepareOrvikModes(port);
-    // Of these there are several, each with a value of its own.
+    // These have several instances, each with its own value.
     for (const std::uint32_t indexed : {0x17010000u, 0x17020000u, 0x17030000u, 0x17040000u, 0x1E030000u, 0x66020000u,
                                         0x66030000u, 0x660F0000u, 0x66110000u}) {
         port.SetInstance(indexed, 0, {});

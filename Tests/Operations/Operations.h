@@ -1,10 +1,10 @@
 #pragma once
 
-// The one table of everything a host can call on a camera: what it answers and which port accesses it costs. A new
-// operation is one row in the file of its group. The accesses are written as RecordingPort writes them down.
+// The one table of all operations that a host can call on a camera, with their results and port accesses. A new
+// operation is one row in the file of its group. Accesses are in the notation of RecordingPort.
 //
-// Every row holds for two ways to open the camera, by family: remembering what it can (Orvik index 0, M2VX index 3),
-// and reading the camera every time (Orvik index 2, M2VX index 0).
+// Every row holds for two ways to open the camera, by family: cached (Orvik index 0, M2VX index 3) and uncached (Orvik
+// index 2, M2VX index 0).
 
 #include "Tests/Support/FlatPort.h"
 #include "Tests/Support/RecordingPort.h"
@@ -22,45 +22,45 @@ namespace Test {
 /// Calls an operation on an opened camera and returns its result as text.
 using Call = std::function<std::string(IDynamicObject&)>;
 
-/// The accesses of the first and of an immediately repeated call, on a camera that remembers and on one that reads.
+/// The accesses of the first call and of the same call repeated at once, by a cached and by an uncached control.
 struct Accesses {
     std::string first, again, firstUncached, againUncached;
-    std::string affected; ///< the cached getters that notice the call, see Stales and Changes
+    std::string affected; ///< the cached getters that the call affects, see Stales and Changes
 
-    /// The names, without interface and in any order, of the getters whose cached value the call made stale; "all but "
-    /// in front names those that keep theirs. For calls without this, no getter may turn stale.
+    /// The names, without interface and in any order, of the getters whose cached value the call makes stale. "all but
+    /// " names those that stay valid instead. Other calls must make no getter stale.
     Accesses Stales(std::string names) const;
 
-    /// M2VX: the names of the getters that answer differently after the call, another value or another refusal. For
-    /// calls without this, all answer as before.
+    /// M2VX: the names of the getters that answer differently after the call, another value or another error. Other
+    /// calls must change no answer.
     Accesses Changes(std::string names) const { return Stales(std::move(names)); }
 
-    /// Adds, to the first call only, the read of the function-model identifier: it is kept even with index 2.
+    /// Adds the read of the function-model identifier to the first call. It is cached even with index 2.
     Accesses AskingModel() const;
 };
 
-Accesses Always(std::string accesses);                   ///< the same every time: cache mode 0, or a write
-Accesses Settling(std::string first, std::string again); ///< the second call at index 0 finds something in the cache
-Accesses Cached(std::string accesses);                   ///< the second call at index 0 costs nothing
-Accesses Kept(std::string accesses);                     ///< the second call costs nothing, even with index 2
-Accesses ReadThrough(std::string accesses);              ///< M2VX: only a camera that does not remember is read
+Accesses Always(std::string accesses);                   ///< the same for every call: cache mode 0, or a write
+Accesses Settling(std::string first, std::string again); ///< the second call at index 0 makes fewer accesses
+Accesses Cached(std::string accesses);                   ///< the second call at index 0 makes no access
+Accesses Kept(std::string accesses);                     ///< the second call makes no access, even with index 2
+Accesses ReadThrough(std::string accesses);              ///< M2VX: only an uncached control reads the camera
 inline Accesses Never() { return {}; }
 
-/// M2VX: the accesses of a setter, after which the getter of the same name answers differently, or its row for @p
-/// instance, "GetABCThreshold 1".
+/// M2VX: the accesses of a setter, after which the getter of the same name, or its row for @p instance such as
+/// "GetABCThreshold 1", answers differently.
 Accesses Sets(std::string accesses, const std::string& instance = "");
 
 struct Preset {
     std::uint32_t address;
     Bytes bytes;
-    int index = -1; ///< for one of several instances
+    int index = -1; ///< for one instance of an indexed register
 };
 
-/// The state of the camera before the call. Without anything: a mono camera with image memory, automatic modes off.
+/// The state of the camera before the call. By default a monochrome camera with image memory, automatic modes off.
 struct State {
     std::vector<Preset> presets{};
     const char* model = "Orvik-31200M";
-    Call before{}; ///< called first, for example the start of the acquisition
+    Call before{}; ///< called first, such as the start of the acquisition
 
     [[nodiscard]] bool IsM2VX() const { return std::string(model) == m2vxModel; }
     [[nodiscard]] int RememberingIndex() const { return IsM2VX() ? 3 : 0; }
@@ -69,18 +69,18 @@ struct State {
     static constexpr const char* m2vxModel = "Cerix7-MV";
 };
 
-/// The state that differs in one word, or in that of one of several instances.
+/// The default state with one different word, or one of an instance.
 State With(std::uint32_t address, std::uint32_t word, int index = -1);
 State Colour();                        ///< a colour camera with image memory
 State Streaming();                     ///< the acquisition runs
-State After(Call call);                ///< the host has called something
-State Disabling(const char* property); ///< M2VX: the host has disabled a property
-State WithoutMemory();                 ///< a mono camera without image memory
+State After(Call call);                ///< after a call by the host
+State Disabling(const char* property); ///< M2VX: the host has disabled the property
+State WithoutMemory();                 ///< a monochrome camera without image memory
 
 struct Operation {
-    std::string name; ///< "IGain::SetGain", and after a blank what is special about the row
+    std::string name; ///< "IGain::SetGain", then after a blank the circumstances of the row
     Call call;
-    std::string result; ///< the result as text or the name of the error code
+    std::string result; ///< the result as text, or the name of the error code
     Accesses accesses;
     State state{};
 };
@@ -94,13 +94,13 @@ const std::vector<Operation>& Operations();
 /// The row of that name. @throws std::out_of_range
 const Operation& FindOperation(const std::string& name);
 
-/// Brings the camera behind @p port into the state before the call, except for State::before.
+/// Sets up the camera behind @p port, without State::before.
 void Prepare(RecordingPort& port, const State& state);
 
-/// The same, but for the values of instances.
+/// The same, without the values of instances.
 void Prepare(FlatPort& port, const State& state);
 
-/// The result of a call, or the name of the code of the X4Error that it threw.
+/// The result of a call, or the name of the error code that it threw.
 std::string Outcome(const Call& call, IDynamicObject& camera);
 
 // ---- building rows ----
@@ -119,7 +119,7 @@ template <typename T> std::string Text(const T& value) {
     }
 }
 
-/// The interface as the camera has it, or as its media type has it.
+/// An interface of the camera or of its media type.
 template <typename Interface> Interface& Part(IDynamicObject& camera) {
     if constexpr (std::is_base_of_v<SDK4::IMediaType, Interface>) {
         return dynamic_cast<Interface&>(*dynamic_cast<SDK4::Control::IDSMediaType&>(camera).GetMediaType());
@@ -128,7 +128,7 @@ template <typename Interface> Interface& Part(IDynamicObject& camera) {
     }
 }
 
-/// Whether the camera has the interface. All have a media type.
+/// Whether the camera has the interface. All cameras have a media type.
 template <typename Interface> bool Has(IDynamicObject& camera) {
     return std::is_base_of_v<SDK4::IMediaType, Interface> || dynamic_cast<Interface*>(&camera) != nullptr;
 }
@@ -156,10 +156,10 @@ std::vector<Operation> DeviceOperations();
 std::vector<Operation> M2VXImagingOperations();
 std::vector<Operation> M2VXDeviceOperations();
 
-/// A firmware for SetUpdateFile, which no camera takes.
+/// A firmware for SetUpdateFile, which every camera refuses.
 inline unsigned char firmware[4];
 
-/// A state of an M2VX camera; rows of several groups as rows of that family.
+/// A state of an M2VX camera. Converts rows of several groups to rows of that family.
 State OnM2VX(State state = {});
 std::vector<Operation> OnM2VX(const std::vector<std::vector<Operation>>& groups);
 

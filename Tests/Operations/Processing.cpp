@@ -1,4 +1,4 @@
-// What the camera does with the picture: enhancement, colour, look-up table, overlay, measurement.
+// Image processing in the camera: enhancement, colour, look-up table, overlay, measurement.
 
 #include "Tests/Operations/Operations.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t colorCoding = 0x28020000, awb = 0x46040000, acc = 0x46050000, overlayPosition = 0x17020000;
 
-/// A colour camera with one more word set.
+/// A colour camera with one different word.
 State ColourWith(std::uint32_t address, std::uint32_t word) {
     State state = Colour();
     state.presets.push_back({address, Words({word})});

@@ -82,7 +82,7 @@ TEST(Afternoon, RawAccessGoesPastTheCaches) {
     unsigned char buffer[24] = {};
     unsigned int length = sizeof buffer;
     raw.ReadMem(0x64010000, buffer, &length);
-    EXPECT_STREQ(reinterpret_cast<const char*>(buffer + 4), "Orvik-390M"); // behind its leading word
+    EXPECT_STREQ(reinterpret_cast<const char*>(buffer + 4), "Orvik-390M"); // after its length word
     length = 4;
     raw.WriteMem(0x14010000, buffer + 20, &length); // zeros
     EXPECT_EQ(Registers(session).Get("gain"), Words{0});
@@ -100,7 +100,7 @@ TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
     EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(cached.GetGain(), 100U); }), 0U);
     EXPECT_EQ(CostOf(session, [&] { EXPECT_EQ(uncached.GetGain(), 200U); }), 1U);
 
-    // Each control has its own lock: the one that did not start the stream does not know of it.
+    // Each control has its own lock: only the one that started the stream is locked.
     As<SDK4::IStreamControl>(session).Start();
     auto& format = dynamic_cast<ISignalFormat&>(*second);
     EXPECT_EQ(CodeOf([&] { format.SetColorCoding(SDK4_COLORCODING_MONO8); }), 0);
@@ -108,7 +108,7 @@ TEST(Afternoon, ASecondControlAtIndexTwoSeesWhatTheFirstHasCached) {
 
 template <typename Interface> Interface& Of(const Host::Control& control) { return dynamic_cast<Interface&>(*control); }
 
-TEST(M2VXAfternoon, OnlyAControlOpenedAnewSeesWhatTheCameraChangedByItself) {
+TEST(M2VXAfternoon, OnlyANewControlSeesChangesByTheCamera) {
     Host::Session session(LoadedPlugin(), "Cerix-MV7");
     auto& gain = As<M2VX::IGain>(session);
     auto& settings = As<IBasicSettings>(session);
@@ -126,7 +126,7 @@ TEST(M2VXAfternoon, OnlyAControlOpenedAnewSeesWhatTheCameraChangedByItself) {
 
     (void)session.Port().Take();
     const Host::Control anew = session.CreateControl(3);
-    EXPECT_EQ(session.Port().Take().size(), 608U); // one pair of defect pixels more
+    EXPECT_EQ(session.Port().Take().size(), 608U); // one more pair of defect pixels
     EXPECT_EQ(Of<M2VX::IGain>(anew).GetGain(), 40U);
     EXPECT_EQ(Of<M2VX::IDefectPixel>(anew).GetDefectPixel({2, 0}).xpos, 302U);
 

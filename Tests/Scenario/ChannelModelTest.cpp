@@ -6,7 +6,7 @@ namespace Scenario {
 
 namespace {
 
-/// Aravis' own simulated camera, which is another program's idea of the bootstrap registers.
+/// Aravis' simulated camera, an independent implementation of the bootstrap registers.
 class AravisCamera {
 public:
     AravisCamera() : process("arv-fake-gv-camera-0.8", {"-i", "127.0.0.1"}, STDERR_FILENO) {
@@ -22,7 +22,7 @@ const std::string served =
     "use --force-model with one of Orvik-31200M, Orvik-31200C, Orvik-710M, Orvik-710C, Orvik-390M, Orvik-390C, "
     "Orvik-520M, Orvik-520C, Orvik-530M, Orvik-530C, Cerix7-MV, Cerix-MV7, Sollux G\n";
 
-/// What follows a label on its line.
+/// The text after a label on its line.
 std::string After(const std::string& label, const std::string& text) {
     const std::size_t at = text.find(label);
     EXPECT_NE(at, std::string::npos) << label << " in\n" << text;
@@ -84,7 +84,7 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
 TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
     const std::string unreachable = "qdv12host: no network interface with an IPv4 address is up, except loopback\n";
     const std::string discover = QDV12_HOST " discover";
-    for (const std::string& run : {discover, "unshare -n " + discover}) { // where loopback is up, and down
+    for (const std::string& run : {discover, "unshare -n " + discover}) { // with loopback up and down
         const Outcome outcome = RunHost("", run);
         EXPECT_EQ(outcome.code, 1) << run;
         EXPECT_EQ(outcome.out, "") << run;
@@ -94,14 +94,14 @@ TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
     EXPECT_EQ(json.code, 1);
     EXPECT_EQ(json.out, "[]\n");
 
-    // A card without an address, which discovery passes over, and then one with it.
+    // A card without an address, which discovery ignores, then one with an address.
     const std::string card = "ip link add card type veth peer name other && ip link set card up && ";
     const std::string address = "ip address add 192.168.7.1/24 dev card && ";
     const auto with = [&](const std::string& made) {
         return RunHost("", "unshare -n sh -c '" + made + discover + "'");
     };
     if (RunHost("", "unshare -n sh -c '" + card + "true'").code != 0) {
-        GTEST_SKIP() << "this machine makes no virtual network card";
+        GTEST_SKIP() << "cannot create a virtual network card";
     }
     EXPECT_EQ(with(card).err, unreachable);
     const Outcome none = with(card + address);
@@ -127,7 +127,7 @@ TEST(ChannelModel, TwoCamerasOfAModelAreToldApart) {
         EXPECT_TRUE(std::regex_search(
             found.out, std::regex("192\\.168\\.1\\.20 +02:00:12:34:56:78 +" + model + " +left-rig\\.042\n")))
             << found.out;
-        // From the bootstrap registers and from the camera's own one.
+        // In the bootstrap register and the vendor register.
         EXPECT_EQ(other.Run("get CAMERA serialnumber macaddress").out,
                   "serialnumber=left-rig.042\nmacaddress=02:00:12:34:56:78\n");
         EXPECT_FALSE(Has(one.Run("get CAMERA serialnumber macaddress").out, "left-rig.042"));
@@ -137,7 +137,7 @@ TEST(ChannelModel, TwoCamerasOfAModelAreToldApart) {
     }
 }
 
-// Its memory ends behind the bootstrap registers; it does not live on when it is asked for more.
+// Its memory ends after the bootstrap registers. It terminates when asked for more.
 TEST(ChannelModel, AgreesWithAravisAboutItsCamera) {
     const AravisCamera camera;
     const std::string aravis = RunHost("network", "arv-tool-0.8").out;
@@ -157,7 +157,7 @@ TEST(ChannelModel, AgreesWithAravisAboutItsCamera) {
     EXPECT_EQ(held("gigeversion"), word("0x00000000"));
     EXPECT_EQ(held("ipconfig"), word("0x00000014"));
     EXPECT_EQ(held("packetsize"), word("0x00000d04"));
-    EXPECT_EQ(held("packetsize"), 1400U); // not a zero as all the others
+    EXPECT_EQ(held("packetsize"), 1400U); // unlike the others, not zero
     EXPECT_EQ(held("packetdelay"), word("0x00000d08"));
     const std::string mac = std::regex_replace(After("macaddress=", run.out), std::regex(":"), "");
     EXPECT_EQ(std::stoul(mac, nullptr, 16), word("0x00000008") << 32 | word("0x0000000c"));

@@ -23,7 +23,7 @@ Bytes Memory(Host::GigEPort& port, std::uint32_t address, std::uint64_t length) 
     return bytes;
 }
 
-/// What is said of an access that fails.
+/// The message of a failed access.
 template <typename Error = Host::ChannelError, typename Call> std::string Failure(const Call& call) {
     try {
         call();
@@ -57,7 +57,7 @@ public:
         });
     }
     ~RefusingDevice() {
-        shutdown(handle, SHUT_RDWR); // ends the waiting
+        shutdown(handle, SHUT_RDWR); // ends the pending receive
         answering.join();
         close(handle);
     }
@@ -71,7 +71,7 @@ private:
 
 } // namespace
 
-TEST(ChannelPort, TellsEachStatusInItsOwnWords) {
+TEST(ChannelPort, DescribesEachStatus) {
     const std::pair<std::uint16_t, std::string> statuses[] = {
         {0x8001, "the camera does not implement the command (0x8001)"},
         {0x8002, "invalid parameter (0x8002)"},
@@ -96,10 +96,10 @@ TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
     EXPECT_TRUE(port.HasControl());
     EXPECT_EQ(port.ModelName(), "Orvik-710C");
     EXPECT_EQ(port.ReadRegister(0x64030000), 0x00070710U);
-    EXPECT_EQ(Memory(port, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // the camera's order
-    EXPECT_EQ(Memory(port, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // the standard's
+    EXPECT_EQ(Memory(port, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // vendor byte order
+    EXPECT_EQ(Memory(port, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // standard byte order
     EXPECT_EQ(port.ReadRegister(0x00000024), 0xC0A8010AU);
-    port.WriteRegisterPair(0x0A030000, 5000ULL << 32); // an exposure of base 0
+    port.WriteRegisterPair(0x0A030000, 5000ULL << 32); // an exposure with base 0
     EXPECT_EQ(port.ReadRegisterPair(0x0A030000), 5000ULL << 32);
     EXPECT_EQ(Memory(port, 0x0A030000, 8), (Bytes{0, 0, 0, 0, 0x88, 0x13, 0, 0}));
     port.WriteString(0x000000E8, "a name\0\0", 8);
@@ -114,7 +114,7 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
     EXPECT_EQ(Memory(port, 0x64010005, 3), (Bytes{'r', 'v', 'i'}));
     EXPECT_EQ(Memory(port, 0x64010003, 2), (Bytes{0, 'O'}));
     EXPECT_EQ(port.ReadRegister(0x64010005), 0x6B697672U); // "rvik"
-    const Bytes whole = Memory(port, 0x00010000, 1540);    // three packets and some
+    const Bytes whole = Memory(port, 0x00010000, 1540);    // three packets and a rest
     const Bytes shifted = Memory(port, 0x00010003, 1537);
     EXPECT_TRUE(std::equal(shifted.begin(), shifted.end(), whole.begin() + 3));
     EXPECT_EQ(Memory(port, 0x64010000, 0), Bytes{});
@@ -130,7 +130,7 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
               "WriteBlock at 0xFFFFFFFC failed: the access exceeds the address space");
 }
 
-TEST(ChannelPort, TellsHowTheCameraRefuses) {
+TEST(ChannelPort, DescribesRefusals) {
     const NetworkCamera camera("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
     EXPECT_EQ(Failure<Host::NoSuchAddress>([&] { (void)port.ReadRegister(0xE0000000); }),
@@ -152,8 +152,8 @@ TEST(ChannelPort, TellsHowTheCameraRefuses) {
         << opening.err;
 }
 
-// Nothing fails for want of an answer then; it is another camera all the same, to which nobody has set anything.
-TEST(ChannelPort, NoticesACameraThatStartedAnew) {
+// No access times out then, but the camera has lost its settings.
+TEST(ChannelPort, NoticesARestartedCamera) {
     auto camera = std::make_unique<NetworkCamera>("Orvik-710C");
     auto second = std::make_unique<NetworkCamera>("Orvik-710C", "192.168.1.11");
     Host::GigEPort port("192.168.1.10");
@@ -172,12 +172,12 @@ TEST(ChannelPort, NoticesACameraThatStartedAnew) {
               lost("ReadRegister at 0x00000A00", "192.168.1.11"));
 }
 
-TEST(ChannelPort, HearsOfALossFromTheHeartbeat) {
+TEST(ChannelPort, DetectsALossByTheHeartbeat) {
     auto camera = std::make_unique<NetworkCamera>("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
     camera.reset();
     camera = std::make_unique<NetworkCamera>("Orvik-710C");
-    const auto read = [&] { // the first of twenty seconds' reads that comes after a heartbeat
+    const auto read = [&] { // the first read after a heartbeat, within twenty seconds
         for (int tries = 0; tries < 200; ++tries) {
             (void)port.ReadRegister(0x14010000);
             std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -194,7 +194,7 @@ TEST(ChannelPort, OnceLostFailsAtOnce) {
     const std::string lost = " failed: the camera at 192.168.1.10 no longer answers";
     EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)port.ReadRegister(0x14010000); }),
               "ReadRegister at 0x14010000" + lost);
-    const NetworkCamera another("Orvik-710C"); // which knows nothing of this port
+    const NetworkCamera another("Orvik-710C"); // unknown to this port
     EXPECT_EQ(Failure<Host::ChannelLost>([&] { port.WriteRegister(0x14010000, 1); }),
               "WriteRegister at 0x14010000" + lost);
 }

@@ -8,8 +8,8 @@ namespace Scenario {
 
 namespace {
 
-/// What a result says whichever way the camera was reached: without what goes by the clock, and as if every camera
-/// stood where those in a process do.
+/// Makes results comparable: removes values that depend on time, and replaces the camera's address by that of cameras
+/// in process.
 std::string Comparable(std::string text, const std::string& address = "192.168.1.10") {
     text = std::regex_replace(text, std::regex(address), "192.168.1.10");
     text = std::regex_replace(text, std::regex("  \"date\": [^\n]*\n"), "");
@@ -17,7 +17,7 @@ std::string Comparable(std::string text, const std::string& address = "192.168.1
     return std::regex_replace(text, std::regex("(^|\n)temperature[^\n]*"), "");
 }
 
-/// The first line in which two texts differ, or nothing: whole ones would fill screens.
+/// The first line that differs, or empty. Whole texts would be too long to print.
 std::string Difference(const std::string& one, const std::string& other) {
     std::istringstream lines(one);
     std::istringstream otherLines(other);
@@ -33,12 +33,11 @@ std::string Difference(const std::string& one, const std::string& other) {
     return "";
 }
 
-/// Runs commands one after the other on a camera on the network and on one in the host's process, and expects the same
-/// of both.
+/// Runs commands on a camera on the network and on one in process, and expects the same results.
 void ExpectSame(const std::string& model, const std::string& address, const std::vector<std::string>& commands,
                 const std::vector<std::string>& disturbances = {}) {
     const NetworkCamera camera(model, address, disturbances);
-    // No address, which Comparable would replace in messages that name the files.
+    // No dots: Comparable would replace an address in messages that name the files.
     const std::string unique = std::regex_replace(address, std::regex("[.]"), "");
     const std::string state = TemporaryFile(unique + ".state");
     const std::string settings = TemporaryFile(unique + ".json");
@@ -57,7 +56,7 @@ void ExpectSame(const std::string& model, const std::string& address, const std:
     std::filesystem::remove(settings);
 }
 
-/// What is read of a camera that moves it by itself, as time passes.
+/// Whether the camera changes the value by itself as time passes.
 bool IsMoved(const std::string& operation) {
     static const std::regex moved(".*::Get(Exposure|Gain|Brightness|Contrast|ABCXRLevel|Temperature|MotorControl).*");
     return std::regex_match(operation, moved);
@@ -69,8 +68,8 @@ Host::Control OpenedAnew(Host::Session& session, int index) {
     return control;
 }
 
-/// Makes every call that its family has on a camera on the network and on one in this process, each time with the
-/// factory's settings, and expects the same results and refusals.
+/// Makes every call of the family on a camera on the network and on one in process, each time with factory settings,
+/// and expects the same results and error codes.
 void ExpectSameCalls(const std::string& model) {
     const std::string address = "192.168.1.10";
     const NetworkCamera camera(model, address);
@@ -100,7 +99,7 @@ const std::vector<std::string> afternoon = {
     "get CAMERA username overlayposition",
 };
 
-/// All of it on a camera of each family at once, since most of the time is waited.
+/// Runs all checks on a camera of each family, in parallel, since most of the time is waiting.
 void ExpectSameOfBoth(const std::vector<std::string>& checks, const std::vector<std::string>& disturbances = {}) {
     std::vector<std::future<void>> runs;
     int last = 10;
@@ -123,7 +122,7 @@ TEST(ChannelResult, EveryCallGivesTheSameAsInProcess) {
 
 TEST(ChannelLoss, LosesNoResult) {
     const std::vector<std::string> disturbances{"--drop", "0.05", "--duplicate", "0.05", "--delay", "2"};
-#ifdef QDV12_SANITIZED // of which each lost datagram costs half a second
+#ifdef QDV12_SANITIZED // each lost datagram takes half a second
     ExpectSame("Orvik-710C", "192.168.1.10", {"info CAMERA"}, disturbances);
 #else
     ExpectSameOfBoth({"selftest CAMERA"}, disturbances);

@@ -10,8 +10,8 @@ namespace Scenario {
 
 namespace {
 
-/// The rows tell what a camera with image memory and without colour answers. With index 0 an M2VX control takes every
-/// mode for on, as the rows do.
+/// The rows state the results of a monochrome camera with image memory. With index 0, an M2VX control assumes that all
+/// modes are on, as the rows do.
 bool IsAsInTheTable(std::string_view model, int index) {
     const bool monoWithMemory = model == "Orvik-710M" || model == "Orvik-390M" || model == "Orvik-530M";
     return monoWithMemory || (!model.starts_with("Orvik") && index == 0);
@@ -30,9 +30,8 @@ TEST_P(EveryOperation, FindsItsRegistersInTheSimulatedCamera) {
             SCOPED_TRACE(row->name + " with index " + std::to_string(index));
             Host::Session session(LoadedPlugin(), model, {.index = index});
             const std::string outcome = OutcomeOf(*row, *session.As<IDynamicObject>());
-            if (!row->name.starts_with("IGigEVisionPort::")) { // whose rows go to an address that no camera has
-                EXPECT_EQ(outcome.find(" failed: "), std::string::npos)
-                    << outcome << "; mend Simulation/*Registers.cpp";
+            if (!row->name.starts_with("IGigEVisionPort::")) { // its rows use addresses that no camera has
+                EXPECT_EQ(outcome.find(" failed: "), std::string::npos) << outcome << "; fix Simulation/*Registers.cpp";
             }
             if (row->state.presets.empty() && IsAsInTheTable(model, index)) {
                 EXPECT_EQ(RefusalIn(outcome), RefusalIn(row->result));
@@ -43,7 +42,7 @@ TEST_P(EveryOperation, FindsItsRegistersInTheSimulatedCamera) {
 
 TEST(EveryInterface, HasARowInTheHost) {
     std::set<std::string> known{"IControl",        "IStreamControl", "IVideoFrame",
-                                "IGigEVisionPort", "IPropertyState", "IPropertyList"}; // for which it has other uses
+                                "IGigEVisionPort", "IPropertyState", "IPropertyList"}; // used by the host in other ways
     for (const char* family : {"Orvik", "M2VX"}) {
         for (const Host::Function& row : *Host::TableOf(family)) {
             known.insert(row.interfaceName.substr(row.interfaceName.rfind(':') + 1));

@@ -68,7 +68,7 @@ TEST(HostCommandLine, KnowsHelpAsACommand) {
     EXPECT_EQ(unknown.err, "qdv12host: unknown command \"sett\"; did you mean \"set\"? (see qdv12host --help)\n");
 }
 
-TEST(HostCommandLine, CommentsStandBehindCommandsOfAShell) {
+TEST(HostCommandLine, ShellCommandsMayEndInComments) {
     const std::string script = TemporaryFile("script");
     std::ofstream(script) << "# all\n  # more\nset gain=3 # as on line 2\nset username='# 1' #it's\nset username=#2\n"
                           << "get gain#\nhelp get # it\n";
@@ -102,7 +102,7 @@ TEST(HostCommandLine, TakesSeedsOf64Bits) {
     }
 }
 
-// Of the two, this program was linked with what is compiled where Aravis is missing.
+// Of the two implementations, this program links the one that is compiled without Aravis.
 TEST(HostCommandLine, WithoutAravisItSaysWhatIsMissing) {
     for (const std::string& said :
          {Refusal([] { (void)Host::ConnectGigE("127.0.0.1"); }), Refusal([] { (void)Host::DiscoverCameras(); })}) {

@@ -62,7 +62,8 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
          "gain=100\nexposure=1:2000\nreadoutarea=0,0,1279,1023\nexposuremode=resetrestart\niomode.0=1\n", ""},
         {"set Orvik-710C gain=600", 1, "gain=511\n",
          "qdv12host: gain: SDK4_ERR_OUTOFRANGE: 600 was clamped, the camera now holds 511\n"},
-        {"set Orvik-710C agc=off gain=100 --fault ignore:gain", 1, "agc=off\ngain=0\n", // not what the control caches
+        {"set Orvik-710C agc=off gain=100 --fault ignore:gain", 1,
+         "agc=off\ngain=0\n", // the camera's value, not the control's cached one
          "qdv12host: gain: 100 was accepted, but the camera now holds 0\n"},
         {"set Cerix-MV7 overlayposition.1=-501,7", 1, "overlayposition.1=-500,7\n",
          "qdv12host: overlayposition.1: SDK4_ERR_OUTOFRANGE: -501,7 was clamped, the camera now holds -500,7\n"},
@@ -83,7 +84,7 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
     });
 }
 
-/// What a row announces ends well; any other difference does not.
+/// Announced rounding is success. Any other difference is not.
 TEST(HostCommand, SetTellsRoundingFromOtherDifferences) {
     ExpectRuns({
         {"set Orvik-710C packetsize=1503", 0, "packetsize=1500\n", "qdv12host: packetsize: 1503 was rounded to 1500\n"},
@@ -114,9 +115,9 @@ TEST(HostCommand, SetTellsWhatLocksAFunction) {
         EXPECT_EQ(run.code, 1);
         EXPECT_TRUE(Has(run.err, model[0] == 'O' ? "gain: SDK4_ERR_CANTSETFEATURE (locked by agc=1)"
                                                  : "gain: SDK4_ERR_DISABLED (locked by agc=1)"));
-        EXPECT_TRUE(Has(run.out, "exposuremode=freerunning\n")); // goes on with the rest
+        EXPECT_TRUE(Has(run.out, "exposuremode=freerunning\n")); // continues with the rest
     }
-    // A mode that an earlier run has set locks too.
+    // A mode set by an earlier run locks, too.
     const std::string state = " --state " + TemporaryFile("state");
     EXPECT_EQ(RunHost("set 'Sollux G' circularblankingsize=80" + state).code, 1);
     EXPECT_EQ(RunHost("set 'Sollux G' agc=1" + state).code, 0);
@@ -222,7 +223,7 @@ TEST(HostCommand, ListOfACameraThatIsLostAtOnceHasNoHeading) {
     EXPECT_EQ(out.str(), "");
 }
 
-/// The one thing that a look at a camera writes is which instance of a register the next read is for.
+/// The only writes of a read-only command are index selections.
 TEST(HostCommand, ListNeverTriesAWrite) {
     std::set<std::string> written;
     for (const std::string& line : Lines(RunHost("list Orvik-710C --trace").err)) {
@@ -341,7 +342,7 @@ TEST(HostCommand, TheInstalledProgramLoadsTheInstalledPlugin) {
 TEST(HostCommand, AStateFileKeepsTheCameraBetweenRuns) {
     const std::string file = TemporaryFile("state");
     const std::string state = " --state " + file;
-    EXPECT_EQ(RunHost("set Orvik-710C gain=600 saturation=9" + state).code, 1); // what was done is kept all the same
+    EXPECT_EQ(RunHost("set Orvik-710C gain=600 saturation=9" + state).code, 1); // the first assignment is kept
     EXPECT_EQ(RunHost("get Orvik-710C gain saturation" + state).out, "gain=511\nsaturation=9\n");
 
     const Outcome other = RunHost("get Orvik-710M gain" + state);

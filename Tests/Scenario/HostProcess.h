@@ -15,14 +15,14 @@ using Test::Replaced;
 using Test::Running;
 using Test::TemporaryFile;
 
-/// How a run of the reference host ended.
+/// The result of a run of the reference host.
 struct Outcome {
     int code;
     std::string out;
     std::string err;
 };
 
-/// Runs the reference host, or another program, as a user does; the shell reads the arguments. Several may run at once.
+/// Runs the reference host, or another program, through a shell. Several may run at once.
 inline Outcome RunHost(const std::string& arguments, const std::string& program = QDV12_HOST,
                        const std::string& input = "/dev/null") {
     static std::atomic<int> runs = 0;
@@ -30,7 +30,7 @@ inline Outcome RunHost(const std::string& arguments, const std::string& program 
     const std::string out = TemporaryFile("out" + run);
     const std::string err = TemporaryFile("err" + run);
     const std::string files = " >" + out + " 2>" + err + " <" + input;
-    const std::chrono::minutes deadline{10}; // what a camera loses takes minutes
+    const std::chrono::minutes deadline{10}; // timeouts take minutes
     Running shell("/bin/sh", {"-c", program + " " + arguments + files}, Running::both, deadline);
     const int code = shell.End();
     Outcome outcome{code, Content(out), Content(err)};

@@ -14,13 +14,13 @@ namespace {
 using Host::Parameter;
 
 constexpr std::uint32_t agc = 0x46020000;
-constexpr std::uint32_t sharpness = 0x18030000; // of a setting in the middle
+constexpr std::uint32_t sharpness = 0x18030000; // a setting in the middle of the file
 
-/// The camera holds other settings than the file, with automatic modes on.
+/// The camera's settings differ from the file's, and automatic modes are on.
 class HostRestore : public HostSettings {
 protected:
-    /// @param first   what the file holds
-    /// @param changed what the camera is set to after that
+    /// @param first   the settings saved to the file
+    /// @param changed the settings of the camera afterwards
     void Prepare(const std::string& cameraModel, const std::string& first, const std::string& changed) {
         model = cameraModel;
         std::filesystem::remove(state);
@@ -29,7 +29,7 @@ protected:
         ASSERT_EQ(Run("set " + model + " " + changed).code, 0);
     }
     [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
-        signal(SIGHUP, SIG_DFL); // which nohup has ignored
+        signal(SIGHUP, SIG_DFL); // nohup may have ignored it
         return RunInProcess(Host::Restore, {{Parameter::Camera, {model}}, {Parameter::File, {saved}}}, observer, state,
                             json);
     }
@@ -40,7 +40,7 @@ protected:
 
 bool Writes(const Host::Access& access, std::uint32_t address) { return access.write && access.address == address; }
 
-/// Acts once an access of that kind was made.
+/// Acts once, after the first matching access.
 Observer Once(const std::function<bool(const Host::Access&)>& isIt, const std::function<void()>& action) {
     return [=, done = false](const Host::Access& access) mutable {
         if (!done && isIt(access)) {
@@ -50,7 +50,7 @@ Observer Once(const std::function<bool(const Host::Access&)>& isIt, const std::f
     };
 }
 
-/// How many functions the lines of a restore show as restored.
+/// The number of functions shown as restored.
 std::string RestoredIn(const std::string& out) {
     const std::regex line("(^|\n)[a-z.0-9]+ +(ok|unchanged|rounded) ");
     return std::to_string(std::distance(std::sregex_iterator(out.begin(), out.end(), line), std::sregex_iterator()));
@@ -193,7 +193,7 @@ TEST_F(HostRestore, SaysWhyAValueCannotBeReadBack) {
     }
 }
 
-/// Its output can no longer be written from then on; the camera is set to all of the file.
+/// Its output cannot be written any more; the camera must get all settings of the file.
 TEST_F(HostRestore, GoesOnWhenNobodyReadsOn) {
     Prepare("Cerix-MV7", "agc=2 sharpness=3", "agc=1 sharpness=9");
     {

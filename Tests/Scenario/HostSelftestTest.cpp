@@ -15,7 +15,7 @@ namespace Scenario {
 
 namespace {
 
-/// A camera with settings of its own, and a file that holds them.
+/// A camera with changed settings, and a file that holds them.
 class HostSelftestEnds : public HostSettings {
 protected:
     void SetUp() override {
@@ -28,7 +28,7 @@ protected:
     }
 
     const std::vector<std::string> arguments{"selftest", "Sollux G", "--trace", "--outputs", "--state", state};
-    const std::string begun = "0x14010000  568"; ///< the gain is being tested
+    const std::string begun = "0x14010000  568"; ///< the gain test has begun
 };
 
 } // namespace
@@ -73,7 +73,7 @@ TEST(HostSelftest, FailsOnEachFault) {
     struct Case {
         const char* model;
         const char* fault;
-        const char* found; ///< a pattern: a mode that was tested before may have moved what the function holds
+        const char* found; ///< a pattern: an automatic mode tested before may have changed the function's value
     };
     const Case cases[] = {
         {"Orvik-390C", "ignore:gain", "    maximum \\(511\\): the camera holds [0-9]+ instead of 511\n"},
@@ -128,7 +128,7 @@ TEST_F(HostSelftestEnds, WithItsSettingsPutBackWhenNobodyReadsOn) {
     ExpectSettingsBack();
 }
 
-/// SIGHUP comes, and what is written to the terminal fails from then on.
+/// SIGHUP arrives, and writes to the terminal fail from then on.
 TEST_F(HostSelftestEnds, WithItsSettingsPutBackWhenTheTerminalIsClosed) {
     int terminal = -1;
     const pid_t process = forkpty(&terminal, nullptr, nullptr, nullptr);
@@ -151,7 +151,7 @@ TEST_F(HostSelftestEnds, WithItsSettingsPutBackWhenTheTerminalIsClosed) {
     ExpectSettingsBack();
 }
 
-/// Of a signal that is ignored since nohup started it, it takes no notice.
+/// It ignores a signal that nohup has ignored.
 TEST_F(HostSelftestEnds, AsUsualWhenItIsToOutliveItsTerminal) {
     std::vector<std::string> words{"-c", "trap \"\" HUP; exec \"$0\" \"$@\"", QDV12_HOST};
     words.insert(words.end(), arguments.begin(), arguments.end());
@@ -163,7 +163,7 @@ TEST_F(HostSelftestEnds, AsUsualWhenItIsToOutliveItsTerminal) {
 }
 
 TEST(HostSelftest, LeavesALockOutWhoseModeCanNoLongerBeRead) {
-    bool isTested = false; // the gain itself, with one above its maximum at the end
+    bool isTested = false; // the gain test, whose last write exceeds the maximum
     const Outcome run =
         RunInProcess(Host::Selftest, {{Host::Parameter::Camera, {"Sollux G"}}}, [&](const Host::Access& access) {
             isTested = isTested || (access.write && access.address == 0x14010000 && access.data[0] == 0x39);
@@ -193,7 +193,7 @@ TEST(HostSelftest, HoldsRoundingToWhatIsAnnounced) {
     const Host::UncachedCamera reader(session);
     const Host::ComplianceTest test(setter.Camera(), reader.Camera(), Host::MakeWait(session), false);
     const auto failures = [&](const char* name) { return test.Test(setter.Camera().FindOne(name)).failures; };
-    EXPECT_EQ(failures("exposure"), std::vector<std::string>()); // another count
+    EXPECT_EQ(failures("exposure"), std::vector<std::string>()); // only the counter differs
     EXPECT_EQ(failures("measurewindow.0"),
               std::vector<std::string>{"0,0,64,63: the camera holds 0,0,65,63 instead"}); // within the image
 }

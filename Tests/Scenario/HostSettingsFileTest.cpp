@@ -19,8 +19,8 @@ namespace {
 using Given = Host::Invocation::Given;
 using Host::Parameter;
 
-/// A camera of another firmware, which lacks the registers of sharpness, as on the network, and of the levels of the
-/// I/O lines, as in this process.
+/// A camera of another firmware, without the registers of sharpness, as on the network, and of the levels of the I/O
+/// lines, as in process.
 void Lack(const Host::Access& access) {
     if (access.address == 0x18030000) {
         throw Host::NoSuchAddress(access.operation, access.address, "the camera has no such address (0x8003)");
@@ -101,10 +101,10 @@ TEST_F(HostSettings, KeepATextThatIsNoUtf8) {
     };
     const Case cases[] = {
         {"Orvik-390M", "caf\xE9", "{\n      \"hex\": \"636166e9\"\n    }"},          // Latin-1
-        {"Cerix-MV7", "caf\xC3", "{\n      \"hex\": \"636166c3\"\n    }"},           // cut off
+        {"Cerix-MV7", "caf\xC3", "{\n      \"hex\": \"636166c3\"\n    }"},           // truncated
         {"Orvik-390M", "\xED\xA0\x80", "{\n      \"hex\": \"eda080\"\n    }"},       // a surrogate
-        {"Orvik-390M", "\xC0\xAF", "{\n      \"hex\": \"c0af\"\n    }"},             // could be shorter
-        {"Orvik-390M", "\xF4\x90\x80\x80", "{\n      \"hex\": \"f4908080\"\n    }"}, // beyond the last one
+        {"Orvik-390M", "\xC0\xAF", "{\n      \"hex\": \"c0af\"\n    }"},             // overlong
+        {"Orvik-390M", "\xF4\x90\x80\x80", "{\n      \"hex\": \"f4908080\"\n    }"}, // above U+10FFFF
         {"Cerix-MV7", "caf\xC3\xA9", "\"caf\xC3\xA9\""},
         {"Orvik-390M", "\xF0\x9F\x93\xB7", "\"\xF0\x9F\x93\xB7\""},
     };
@@ -135,7 +135,7 @@ TEST_F(HostSettings, ThatAreWriteProtectedStay) {
     Write(saved, "precious");
     std::filesystem::permissions(saved, std::filesystem::perms::owner_read);
     if (access(saved.c_str(), W_OK) == 0) {
-        GTEST_SKIP() << "this user may write to any file";
+        GTEST_SKIP() << "this user may write any file";
     }
     EXPECT_EQ(Run("save Orvik-390M " + saved).code, 2);
     EXPECT_EQ(Content(saved), "precious");
@@ -201,7 +201,7 @@ TEST_F(HostSettings, ThatCannotBeWrittenAreToldAndReplaceNothing) {
 
 TEST_F(HostSettings, MayBeSavedToOneFileAtTheSameTime) {
     const std::filesystem::path folder = TemporaryFile("folder");
-    std::filesystem::create_directories(folder / "a.json.part"); // a name that somebody else may use
+    std::filesystem::create_directories(folder / "a.json.part"); // a name that another program may use
     const std::string file = folder / "a.json";
     std::array<std::future<int>, 6> saves;
     for (auto& save : saves) {
@@ -243,7 +243,7 @@ TEST_F(HostSettings, HoldTheFieldsOfRecordsByTheirNames) {
               "{\"measurewindow\":{\"radius\":100,\"width\":2,\"xpos\":0,\"ypos\":0,\"vstretch\":128},"
               "\"overlaystyle.1\":{\"color\":1,\"style\":0},"
               "\"defectpixel.2\":{\"xpos\":512,\"ypos\":44,\"mode\":2}}");
-    // They come back in whatever order they stand in.
+    // The order of fields does not matter.
     ASSERT_EQ(Run("set Orvik-390C binning=1,1 colorbalance=1,2,3 overlayposition.1=20,30").code, 1); // no binning
     ASSERT_EQ(Run("save Orvik-390C " + saved).code, 0);
     const std::string text = Content(saved);

@@ -9,7 +9,7 @@ namespace Scenario {
 
 namespace {
 
-/// What a trace shows as written, without the durations.
+/// The writes in a trace, without durations.
 std::set<std::string> WritesIn(const std::string& trace) {
     std::set<std::string> writes;
     std::istringstream lines(trace);
@@ -26,9 +26,9 @@ std::set<std::string> WritesIn(const std::string& trace) {
 TEST_F(HostSettings, ComeBackAsTheyWereSaved) {
     struct Case {
         const char* model;
-        const char* first;   ///< settings
-        const char* changes; ///< of them
-        const char* outputs; ///< and of what is wired to the camera
+        const char* first;   ///< settings, saved to the file
+        const char* changes; ///< changes of settings
+        const char* outputs; ///< changes of outputs
         const char* found;   ///< a line of the comparison
     };
     const Case cases[] = {
@@ -79,7 +79,7 @@ TEST_F(HostSettings, AreReadableText) {
                                  "  \"date\": \"20"));
     EXPECT_TRUE(Has(text, "    \"exposuremode\": \"freerunning\",\n"));
     EXPECT_TRUE(Has(text, "    \"exposure\": {\n      \"base\": 0,\n      \"counter\": 20000\n    },\n"));
-    EXPECT_FALSE(Has(text, "binning")); // which a colour model lacks
+    EXPECT_FALSE(Has(text, "binning")); // a colour model does not have it
 }
 
 TEST_F(HostSettings, AreNotWrittenByADryRun) {
@@ -88,7 +88,7 @@ TEST_F(HostSettings, AreNotWrittenByADryRun) {
     const Outcome dry = Run("restore --dry-run --trace " + saved + " Orvik-390M");
     EXPECT_EQ(dry.code, 0);
     EXPECT_TRUE(Has(dry.out, "binning                   would set   2,2 -> 1,1\n"));
-    const auto selectors = WritesIn(reading.err); // reading chooses among several values by writing an index
+    const auto selectors = WritesIn(reading.err); // reading an indexed value writes its index
     EXPECT_FALSE(selectors.empty());
     for (const std::string& write : WritesIn(dry.err)) {
         EXPECT_TRUE(selectors.contains(write)) << write;
@@ -102,7 +102,7 @@ TEST_F(HostSettings, OfAnAutomaticModeThatIsOnAreNotCompared) {
     Write(other, Replaced(Content(saved), "\"gain\": ", "\"gain\": 4"));
     EXPECT_EQ(Run("diff " + saved + " " + other).code, 0);
 
-    // They are restored all the same, under the mode that is switched off for that while.
+    // They are restored nevertheless, with the mode off meanwhile.
     const Outcome restored = Run("restore --trace " + other + " Orvik-390M");
     EXPECT_EQ(restored.code, 0) << restored.out;
     const std::size_t off = restored.err.find("write WriteMem          0x46020000  0  ");
@@ -194,7 +194,7 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
     EXPECT_TRUE(Has(ours.out, "callback  gain                    value = 568\n"));
     EXPECT_TRUE(Has(ours.out, "camera    agc                     off -> 1\n"));
 
-    // The camera moves the gain on.
+    // The camera changes the gain.
     Running theirs(QDV12_HOST, {"watch", "--json", "Orvik-390M", "agc=1"}, Running::both);
     EXPECT_TRUE(theirs.ReadUntil("\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":"));
     theirs.Signal(SIGINT);
@@ -207,7 +207,7 @@ TEST_F(HostSettings, AreDrivenFromAShell) {
                      "\n# a comment\nget gian\nrestre\n'\nrestore --dry-run " + saved + "\nrestore \"" + saved +
                      "\"\nget gain --json\nget agc\nquit\nset gain=11\n");
     const Outcome run = RunHost("shell Orvik-390M --state " + state, QDV12_HOST, input);
-    EXPECT_EQ(run.code, 1); // of the comparison, the first that did not end well
+    EXPECT_EQ(run.code, 1); // of the comparison, the first failed command
     EXPECT_TRUE(Has(run.out, "gain                      5                       9\n"));
     EXPECT_TRUE(Has(run.out, "gain                      would set   9 -> 5\n"));
     EXPECT_TRUE(Has(run.out, "gain                      ok          9 -> 5\n"));

@@ -8,7 +8,7 @@ TEST(HostShell, CompletesNamesAndOutlivesCtrlC) {
     const std::string prompt = "Orvik-390M> ";
     const std::string all = AtTerminal({"shell", "Orvik-390M"}, {},
                                        {{prompt, "set ga\t"},
-                                        {"in=", "7"}, // the completion shows that the editor is at work
+                                        {"in=", "7"}, // the completion shows that the editor is active
                                         {"7", "\x03"},
                                         {prompt, "watch agc=1\r"},
                                         {"off -> 1", "\x03"},
@@ -42,7 +42,7 @@ TEST(HostTerminal, ShowsColourAndProgressWhereTheyAreWelcome) {
     }
 }
 
-/// Scripts that do not get to their end.
+/// Scripts that are interrupted.
 class HostShellEnds : public HostSettings {
 protected:
     [[nodiscard]] std::vector<std::string> Shell(const std::string& lines) const {

@@ -16,10 +16,11 @@ TEST(HostText, IsEscapedWhereATerminalWouldObey) {
         {"a\\nb", "a\\\\nb"},
         {"K\u00FChl \u00A0 \u20AC \U0001F4F7", "K\u00FChl \u00A0 \u20AC \U0001F4F7"},
         {"\u0080 \u009B31m", "\\xC2\\x80 \\xC2\\x9B31m"}, // C1
-        {"\x9b \xff \xc3", "\\x9B \\xFF \\xC3"},          // no UTF-8: alone, ...
+        {"\x9b \xff \xc3", "\\x9B \\xFF \\xC3"},          // invalid UTF-8: alone, ...
         {"\xc1\x81 \xe0\x81\x81 \xf0\x80\x81\x81",
          "\\xC1\\x81 \\xE0\\x81\\x81 \\xF0\\x80\\x81\\x81"}, // ... overlong, ...
-        {"\xed\xa0\x80 \xf4\x90\x80\x80 \xe2\x82", "\\xED\\xA0\\x80 \\xF4\\x90\\x80\\x80 \\xE2\\x82"}, // ... cut off
+        {"\xed\xa0\x80 \xf4\x90\x80\x80 \xe2\x82",
+         "\\xED\\xA0\\x80 \\xF4\\x90\\x80\\x80 \\xE2\\x82"}, // ... surrogate, too large, truncated
     };
     for (const auto& [text, escaped] : cases) {
         EXPECT_EQ(Common::Escaped(text), escaped);
@@ -38,10 +39,10 @@ TEST(HostText, OfBytesIsTheirWordsOrTheTextInThem) {
     };
     const std::pair<std::string, std::string> cases[] = {
         {std::string("\1\0\0\0\0\0\1\0", 8), "1 0x00010000"},
-        {std::string("\1\0\0\0\2\3", 6), "1 2 3"}, // bytes behind the last word
+        {std::string("\1\0\0\0\2\3", 6), "1 2 3"}, // bytes after the last word
         {std::string("a\\b c\0\0", 7), "\"a\\\\b c\""},
-        {std::string("\5\0\0\0name\0", 9), "5 \"name\""}, // a text behind its leading word
-        {std::string("abc\0", 4), "0x00636261"},          // too short to be one
+        {std::string("\5\0\0\0name\0", 9), "5 \"name\""}, // a text after its length word
+        {std::string("abc\0", 4), "0x00636261"},          // too short for a length word
         {std::string(52, '\0'), "0 0 0 0 0 0 0 0 0 0 0 0 ... (52 bytes)"},
         {"", ""},
     };
@@ -65,7 +66,7 @@ TEST(HostText, FillsColumnsByWhatIsSeen) {
     std::filesystem::remove(saved);
 }
 
-/// Also a number that has no name and lies between two that have one.
+/// Numbers between those with names have none.
 TEST(HostText, NamesACodeByItsOwnName) {
     constexpr Host::Code codes[] = {{0, "off"}, {2, "two"}, {5, "five"}};
     Host::Function function;
@@ -88,7 +89,7 @@ TEST(HostText, NamesACodeByItsOwnName) {
 
 namespace {
 
-/// Whether nothing in a text is a command to a terminal.
+/// Whether the text contains no terminal commands.
 testing::AssertionResult IsHarmless(const std::string& text) {
     std::string rest = text;
     std::erase(rest, '\n');

@@ -12,17 +12,17 @@
 
 namespace Scenario {
 
-/// Told of each port access once it was made; what it throws is how the access failed.
+/// Called after each port access. If it throws, the access fails.
 using Observer = std::function<void(const Host::Access&)>;
 
-/// Runs a command of the host in this process, on a simulated camera that lives on in a file if one is given.
+/// Runs a command of the host in this process, on a simulated camera, which a state file keeps if one is given.
 inline Outcome RunInProcess(int (*command)(const Host::Invocation&), const Host::Invocation::Given& given,
                             const Observer& observer, const std::string& state = "", bool json = false) {
     Host::ConfigureLogging("off");
     Host::Options options;
     options.plugin = QDV12_PLUGIN;
     options.json = json;
-    static Observer told; // since the host takes a plain function
+    static Observer told; // the host takes a plain function
     told = observer;
     options.camera.accesses = [](const Host::Access& access) { told(access); };
     options.camera.simulation.state = state;

@@ -4,8 +4,8 @@
 
 namespace Scenario {
 
-/// A simulated camera on the network of this test, which is loopback alone: see Tests/on-loopback-alone. There the
-/// whole of 192.168.1.0/24 is this machine, and the simulated cameras say of themselves that they are 192.168.1.10.
+/// A simulated camera on the network of this test, which is loopback only (see Tests/on-loopback-alone). There all of
+/// 192.168.1.0/24 belongs to this machine. The simulated cameras report the address 192.168.1.10.
 class NetworkCamera {
 public:
     explicit NetworkCamera(const std::string& model, const std::string& address = "192.168.1.10",
@@ -15,10 +15,10 @@ public:
         EXPECT_TRUE(process.ReadUntil("serial number")) << process.Read();
     }
 
-    /// Stops, continues or kills it.
+    /// Stops, continues or terminates it.
     void Signal(int signal) const { process.Signal(signal); }
 
-    /// Runs a command of the host, in which CAMERA stands for it.
+    /// Runs a command of the host, with CAMERA replaced by this camera.
     [[nodiscard]] Outcome Run(std::string command) const {
         const std::size_t at = command.find("CAMERA");
         return RunHost(at == std::string::npos ? command : command.replace(at, 6, camera));

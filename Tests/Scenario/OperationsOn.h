@@ -11,7 +11,7 @@
 
 namespace Scenario {
 
-/// Every operation that the model's family has.
+/// All operations of the model's family.
 inline std::vector<const ::Test::Operation*> OperationsOf(std::string_view model) {
     std::vector<const ::Test::Operation*> rows;
     for (const ::Test::Operation& row : ::Test::Operations()) {
@@ -22,7 +22,7 @@ inline std::vector<const ::Test::Operation*> OperationsOf(std::string_view model
     return rows;
 }
 
-/// The result of an operation, the name of the code that refuses it, or what the port says of an access that fails.
+/// The result of an operation, the name of its error code, or the port's message.
 inline std::string OutcomeOf(const ::Test::Operation& row, IDynamicObject& camera) {
     try {
         if (row.state.before) {

@@ -1,4 +1,4 @@
-// A plug-in that asks its host for a log4cxx which the host does not bring.
+// A plug-in that requires a log4cxx which the host does not provide.
 
 extern "C" void log4cxx_of_another_version();
 

@@ -13,8 +13,8 @@
 
 namespace Scenario {
 
-/// The plug-in, loaded once for all tests, with logging off: an unconfigured log4cxx logs at debug level, and there
-/// the control reads its network registers when it is opened.
+/// The plug-in, loaded once for all tests, with logging off. An unconfigured log4cxx logs at debug level, at which the
+/// control reads its network registers when it is opened.
 inline const Host::Plugin& LoadedPlugin() {
     static const Host::Plugin plugin = [] {
         Host::ConfigureLogging("off");
@@ -23,17 +23,17 @@ inline const Host::Plugin& LoadedPlugin() {
     return plugin;
 }
 
-/// The interface of an opened camera; the test fails if the control lacks it.
+/// An interface of an opened camera. Fails the test if the control does not have it.
 template <typename Interface> Interface& As(const Host::Session& session) {
     return dynamic_cast<Interface&>(*session.As<IDynamicObject>());
 }
 
-/// What the simulated camera of a session holds.
+/// The registers of a session's simulated camera.
 inline Simulation::RegisterSpace& Registers(Host::Session& session) {
     return dynamic_cast<Host::SimulatedConnection&>(session.Connection()).Camera().Registers();
 }
 
-/// The error code that the call ends with, 0 if it ends well.
+/// The error code of the call, or 0.
 template <typename Call> std::int32_t CodeOf(const Call& call) {
     try {
         call();
@@ -43,7 +43,7 @@ template <typename Call> std::int32_t CodeOf(const Call& call) {
     }
 }
 
-/// How many port accesses the call costs.
+/// The number of port accesses of the call.
 template <typename Call> std::size_t CostOf(Host::Session& session, const Call& call) {
     (void)session.Port().Take();
     call();

@@ -4,7 +4,7 @@
 
 namespace Scenario {
 
-/// A simulated camera whose memory lies in a file of the running test, and a file for its settings.
+/// A simulated camera with a state file for the running test, and a file for its settings.
 class HostSettings : public testing::Test {
 protected:
     ~HostSettings() override {

@@ -14,7 +14,7 @@ namespace Scenario {
 using Simulation::Words;
 using namespace std::chrono_literals;
 
-/// A simulated camera that is driven through its port and looked at past it.
+/// A simulated camera, controlled through its port and inspected directly.
 class Simulated {
 public:
     explicit Simulated(const char* model, std::uint64_t seed = 0) : camera(Simulation::MakeCamera(model, seed)) {}

@@ -1,4 +1,4 @@
-// What simulated cameras do by themselves. They are driven through the port and looked at past it.
+// The behaviour of simulated cameras, controlled through the port and inspected directly.
 
 #include "Tests/Scenario/Simulated.h"
 
@@ -26,10 +26,10 @@ TEST(SimulatedGeometry, FollowsBinningAndAreaAndGoesBackWithThem) {
     camera.Write(0x28050000, {0, 0, 3207, 2207});
     EXPECT_EQ(camera.Get("overlayposition", 1), (Words{1700, 1200}));
     EXPECT_EQ(camera.Get("measurewindow", 1), (Words{2000, 100, 3000, 2000}));
-    camera.Write(0x0A0B0000, {9, 0}); // a factor of 8, and one of 1
+    camera.Write(0x0A0B0000, {9, 0}); // factors 8 and 1
     EXPECT_EQ(camera.Get("imagesize"), (Words{401, 2208}));
 
-    const Simulated color("Orvik-710C"); // which cannot bin
+    const Simulated color("Orvik-710C"); // cannot bin
     color.Write(0x0A0B0000, {2, 2});
     EXPECT_EQ(color.Get("binning"), (Words{1, 1}));
 }
@@ -42,7 +42,7 @@ TEST(SimulatedTiming, FollowsWhatIsReadOutExposedAndSent) {
     EXPECT_EQ(camera.Get("frameduration"), Words{28333});
     camera.Write(0x0A030000, {3, 50}); // 50 ms
     EXPECT_EQ(camera.Get("frameduration"), Words{50100});
-    camera.Write(0x0A020000, {3}); // triggered: no image is exposed while another is read out
+    camera.Write(0x0A020000, {3}); // triggered: no exposure during readout
     EXPECT_EQ(camera.Get("frameduration"), Words{72235});
 
     camera.Write(0x0A0A0000, {12000});
@@ -60,16 +60,16 @@ TEST(SimulatedAutomatic, MovesWhatItOwnsStepByStepWhileItIsOn) {
     camera.Write(0x46010000, {1});
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 20000}));
     camera.Advance(32ms);
-    EXPECT_EQ(camera.Get("exposure"), (Words{0, 22800})); // half of the way to 25600, which gives a level of 128
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 22800})); // halfway to 25600, which gives a level of 128
     for (int i = 0; i < 64; ++i) {
         (void)camera.camera->ReadRegister(0x46010000);
     }
-    EXPECT_EQ(camera.Get("exposure"), (Words{0, 24200})); // as many accesses take as long
+    EXPECT_EQ(camera.Get("exposure"), (Words{0, 24200})); // the accesses take one time step
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("exposure"), (Words{0, 25600}));
     EXPECT_EQ(camera.Get("frameduration"), Words{31228}); // three bytes per pixel, longer than the exposure
     camera.Write(0x0A030000, {3, 1});
-    EXPECT_EQ(camera.Get("exposure"), (Words{3, 13})); // written in milliseconds: it goes on from there
+    EXPECT_EQ(camera.Get("exposure"), (Words{3, 13})); // written in milliseconds: it continues from there
     camera.Write(0x46010000, {0});
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("exposure"), (Words{3, 13}));
@@ -94,15 +94,15 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{200});
 
-    camera.Write(0x0A020000, {3}); // exposure times are the host's
+    camera.Write(0x0A020000, {3}); // the exposure time is settable
     camera.Write(0x0A030000, {66});
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{100});
-    camera.Write(0x46090000, {1}); // what is found is kept, ...
+    camera.Write(0x46090000, {1}); // holds the converged value, ...
     camera.Write(0x0A030000, {99});
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{100});
-    camera.Write(0x46030000, {90}); // ... until something else is to be looked for
+    camera.Write(0x46030000, {90}); // ... until a setting changes
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("gain"), Words{120});
     camera.Write(0x0A020000, {1});
@@ -110,7 +110,7 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     camera.Write(0x0A020000, {3});
     EXPECT_EQ(camera.Get("exposure"), Words{99});
     EXPECT_EQ(camera.Get("frameduration"), Words{99000});
-    camera.Write(0x51030000, {1}); // what follows from a setting follows also when it is loaded
+    camera.Write(0x51030000, {1}); // dependent values follow also when settings are loaded
     camera.Write(0x51020000, {0});
     EXPECT_EQ(camera.Get("frameduration"), Words{33333});
     camera.Write(0x51020000, {1});
@@ -133,10 +133,10 @@ TEST(SimulatedRegister, IgnoresWhatItDoesNotTake) {
     camera.Write(0x28030000, {10, 10});        // image size
     camera.Write(0x5A030000, {0, 99});         // temperature
     camera.Write(0x28090000, {1, 0, 0, 9, 9}); // limits of the readout area
-    camera.Write(0x46010000, {3});             // automatic exposure has no mode 3
-    camera.Write(0x28020000, {110});           // nor has a monochrome camera a coding RGB8
-    camera.Write(0x66020000, {6, 1});          // nor any camera a line 6
-    camera.Write(0x51030000, {0});             // nor can the factory's settings be saved to
+    camera.Write(0x46010000, {3});             // there is no mode 3 of automatic exposure
+    camera.Write(0x28020000, {110});           // a monochrome camera has no coding RGB8
+    camera.Write(0x66020000, {6, 1});          // there is no line 6
+    camera.Write(0x51030000, {0});             // set 0 cannot be saved
     EXPECT_EQ(std::string(camera.camera->ReadString(0x64020000, 16) + 4), "390M-0042");
     EXPECT_EQ(camera.Get("imagesize"), (Words{2256, 1728}));
     EXPECT_EQ(camera.Get("temperature"), Words{41});
@@ -168,7 +168,7 @@ TEST(SimulatedAcquisition, ShowsAndLocksGeometryUntilItStops) {
     EXPECT_EQ(camera.Get("colorcoding"), Words{0});
     EXPECT_EQ(camera.Get("gain"), Words{0});
 
-    camera.Advance(60s); // and it gets warm
+    camera.Advance(60s); // the camera warms up
     EXPECT_GE(camera.Get("temperature")[0], 45U);
     camera.Write(0x00088138, {0});
     EXPECT_EQ(camera.Get("startacquisition"), Words{0});
@@ -184,7 +184,7 @@ TEST(SimulatedAcquisition, ShowsAndLocksGeometryUntilItStops) {
     EXPECT_EQ(other.Get("gain"), Words{7});
 }
 
-/// What a camera holds after some time with its automatic modes on.
+/// The registers of a camera after some time with its automatic modes on.
 Simulation::RegisterSpace::Content Afternoon(const char* model, std::uint64_t seed) {
     const Simulated camera(model, seed);
     for (const std::uint32_t mode : {0x46010000U, 0x46020000U, 0x46040000U, 0x46050000U, 0x47040000U, 0x0B030000U}) {

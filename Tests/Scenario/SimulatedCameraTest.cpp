@@ -62,7 +62,7 @@ TEST_F(SimulatedOrvik, ServesAnIndexedRegisterInEveryStyleOfBlock) {
 
 TEST_F(SimulatedOrvik, TakesAPartOfARegister) {
     WriteMem(0x66110000, {4, 1500}, 8);
-    camera->WriteRegister(0x66110004, 77); // the value alone, of the instance that is chosen
+    camera->WriteRegister(0x66110004, 77); // only the value, of the selected instance
     EXPECT_EQ(camera->ReadRegister(0x66110004), 77U);
     EXPECT_EQ(ReadMem(0x66110000, 8), (Block{4, 77}));
     std::uint64_t one = 1;
@@ -74,11 +74,11 @@ TEST_F(SimulatedOrvik, TakesAPartOfARegister) {
 
     EXPECT_EQ(ReadMem(0x0008, 8), (Block{0x00000200, 0x12070710})); // both words of the MAC
     EXPECT_STREQ(camera->ReadString(0x0068, 32), "Orvik-710C");
-    EXPECT_STREQ(camera->ReadString(0x64010000, 24) + 4, "Orvik-710C"); // behind its leading word
+    EXPECT_STREQ(camera->ReadString(0x64010000, 24) + 4, "Orvik-710C"); // after its length word
 }
 
 TEST_F(SimulatedOrvik, TakesSeveralRegistersAtOnce) {
-    WriteMem(0x0D00, {9, 8001, 77}, 12); // the first one is the control channel's
+    WriteMem(0x0D00, {9, 8001, 77}, 12); // the first belongs to the control channel
     EXPECT_EQ(ReadMem(0x0D00, 12), (Block{0, 8000, 77}));
 }
 
@@ -86,7 +86,7 @@ TEST_F(SimulatedOrvik, HoldsNothingBehindARegister) {
     WriteMem(0x14010000, {5, 6, 7}, 12);
     WriteMem(0x1401FFFC, {8}, 4);
     WriteMem(0x66110008, {9}, 4);
-    WriteMem(0x0014, {7, 0x11111111, 0x22222222}, 12); // with what the standard reserves behind it
+    WriteMem(0x0014, {7, 0x11111111, 0x22222222}, 12); // followed by reserved addresses
     EXPECT_EQ(ReadMem(0x14010000, 12), (Block{5, 0, 0}));
     EXPECT_EQ(camera->ReadRegister(0x1401FFFC), 0U);
     EXPECT_EQ(ReadMem(0x66110000, 12), (Block{0, 0, 0}));
@@ -103,12 +103,12 @@ TEST_F(SimulatedOrvik, RefusesAnAddressThatItDoesNotHave) {
         EXPECT_EQ(error.address, 0x00030000U);
         EXPECT_STREQ(error.what(), "WriteRegisterPair at 0x00030000 failed: the camera has no such address (0x8003)");
     }
-    EXPECT_EQ(camera->Time() - before, std::chrono::microseconds(500)); // an access as any other
+    EXPECT_EQ(camera->Time() - before, std::chrono::microseconds(500)); // takes time like any access
     EXPECT_THROW((void)camera->ReadString(0x00F4, 8), Simulation::PortError);
-    EXPECT_THROW((void)camera->ReadString(0x064B, 1), Simulation::InvalidAddressError); // right before a register
+    EXPECT_THROW((void)camera->ReadString(0x064B, 1), Simulation::InvalidAddressError); // just before a register
     EXPECT_NO_THROW((void)camera->ReadString(0x064F, 1));
     EXPECT_THROW((void)camera->ReadString(0x064F, 2), Simulation::InvalidAddressError);
-    EXPECT_THROW(WriteMem(0x0D08, {2000, 1}, 8), Simulation::InvalidAddressError); // half of it
+    EXPECT_THROW(WriteMem(0x0D08, {2000, 1}, 8), Simulation::InvalidAddressError); // half of the access
     EXPECT_EQ(camera->ReadRegister(0x0D08), 0U);
 }
 
@@ -121,7 +121,7 @@ TEST_F(SimulatedOrvik, ActsAfterAWriteOfAnyStyle) {
     EXPECT_EQ(camera->ReadRegisterPair(0x28030000), 2208ULL << 32 | 3208);
 }
 
-TEST(SimulatedM2VX, TakesASelectionOfTwoWordsExchangedWhenItIsWrittenAlone) {
+TEST(SimulatedM2VX, SwapsASelectorOfTwoWordsThatIsWrittenAlone) {
     const auto camera = Simulation::MakeCamera("Cerix7-MV");
     for (const std::uint32_t address : {0x0B020000U, 0x0A0C0000U}) { // defect pixels, analogue front end
         WriteBlock(*camera, address, {1, 0, 7, 8, 2});
@@ -131,7 +131,7 @@ TEST(SimulatedM2VX, TakesASelectionOfTwoWordsExchangedWhenItIsWrittenAlone) {
         const auto block = ReadBlock(*camera, address, 20);
         EXPECT_EQ(block, (std::array<std::uint32_t, 12>{1, 0, 7, 8, 2}));
     }
-    WriteBlock(*camera, 0x50050000, {1, 0, 0}); // a device register: three words, as they are
+    WriteBlock(*camera, 0x50050000, {1, 0, 0}); // a device register: a selector of three words is not swapped
     EXPECT_EQ(ReadBlock(*camera, 0x50050000, 16)[3], 1207U);
 }
 

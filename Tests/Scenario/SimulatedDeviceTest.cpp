@@ -1,4 +1,4 @@
-// What simulated cameras do by themselves when they start, where their motors, lenses and defect pixels are concerned.
+// The behaviour of simulated cameras at restart, and of their motors, lenses and defect pixels.
 
 #include "Tests/Scenario/Simulated.h"
 
@@ -9,7 +9,7 @@ TEST(SimulatedRestart, TakesTheStartUpSet) {
         const Simulated camera(model);
         camera.Write(0x14010000, {40});
         camera.Write(0x51030000, {2}); // saved,
-        camera.Write(0x51040000, {2}); // and to be started with
+        camera.Write(0x51040000, {2}); // and selected for the start
         camera.Write(0x14010000, {50});
         camera.Write(0x0D04, {8000, 77});
         camera.Write(0x00088134, {1});
@@ -30,8 +30,8 @@ TEST(SimulatedRestart, TakesThePersistentAddressWhereThatIsSwitchedOn) {
     const Row rows[] = {
         {7, 0xC0A80114, true}, // persistent, DHCP, link-local
         {1, 0xC0A80114, true},
-        {6, 0xC0A80114, false}, // not to be used
-        {7, 0, false},          // none there
+        {6, 0xC0A80114, false}, // disabled
+        {7, 0, false},          // not set
     };
     for (const char* model : {"Orvik-31200C", "Cerix7-MV"}) {
         for (const Row& row : rows) {
@@ -46,23 +46,23 @@ TEST(SimulatedRestart, TakesThePersistentAddressWhereThatIsSwitchedOn) {
             camera.Write(0x064C, {row.address});
             camera.Write(0x065C, {0xFFFF0000});
             camera.Write(0x066C, {0xC0A80101});
-            expectAddress({0xC0A8010A}, {0xFFFFFF00}, {0xC0A80101}); // until it starts
+            expectAddress({0xC0A8010A}, {0xFFFFFF00}, {0xC0A80101}); // until the restart
             camera.Write(0x066C, {0xC0A801FE});
             camera.Write(0x51010000, {0});
             if (row.taken) {
                 expectAddress({row.address}, {0xFFFF0000}, {0xC0A801FE});
                 camera.Write(0x0014, {6});
-                camera.Write(0x51010000, {0}); // and is given one again
+                camera.Write(0x51010000, {0}); // assigned again
             }
             expectAddress({0xC0A8010A}, {0xFFFFFF00}, {0xC0A80101});
-            EXPECT_EQ(camera.Get("persistentipaddress"), Words{row.address}); // which is kept
+            EXPECT_EQ(camera.Get("persistentipaddress"), Words{row.address}); // is kept
         }
     }
 }
 
-TEST(SimulatedRegister, HoldsTheWaysToAnAddressThatAreSupported) {
+TEST(SimulatedRegister, KeepsOnlySupportedIpConfigurations) {
     const Simulated camera("Orvik-710M");
-    camera.Write(0x0014, {0}); // link-local stays
+    camera.Write(0x0014, {0}); // link-local stays on
     EXPECT_EQ(camera.Get("currentipconfig"), Words{4});
     camera.Write(0x0014, {0xFFFFFFFF});
     EXPECT_EQ(camera.Get("currentipconfig"), Words{7});
@@ -76,7 +76,7 @@ TEST(SimulatedMotor, TravelsToWhereItIsSent) {
     EXPECT_EQ(camera.Get("motorcontrol", 3), Words{5});
     camera.Advance(64ms);
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{24576});
-    camera.Write(0x6E140000, {255, 100}); // sent back on its way
+    camera.Write(0x6E140000, {255, 100}); // moves back on its way
     camera.Advance(1s);
     EXPECT_EQ(camera.Get("motorcontrol", 255), Words{100});
     camera.Advance(1s);
@@ -85,19 +85,19 @@ TEST(SimulatedMotor, TravelsToWhereItIsSent) {
 
 TEST(SimulatedLens, TravelsByItself) {
     const Simulated camera("Sollux G");
-    camera.Write(0x0C080000, {0, 1024}); // as far as one step goes
+    camera.Write(0x0C080000, {0, 1024}); // within one step
     camera.Write(0x0C080000, {1, 3000}); // from 120
     camera.Write(0x0C080000, {3, 1500});
     EXPECT_EQ(camera.Get("lenscontrol", 0), Words{1024});
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{1144});
     EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1024});
-    camera.Advance(31ms); // with the accesses it is one step
+    camera.Advance(31ms); // with the accesses, one step
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{2168});
     EXPECT_EQ(camera.Get("lenscontrol", 3), Words{1500});
     camera.Write(0x6E140000, {0, 65535}); // a motor moves meanwhile
     camera.Advance(32ms);
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{3000});
-    EXPECT_EQ(camera.Get("lenscontrol", 2), Words{64}); // was not sent anywhere
+    EXPECT_EQ(camera.Get("lenscontrol", 2), Words{64}); // no target set
     camera.Write(0x0C080000, {1, 0});
     EXPECT_EQ(camera.Get("lenscontrol", 1), Words{1976});
     camera.Advance(1s);
@@ -107,7 +107,7 @@ TEST(SimulatedLens, TravelsByItself) {
     camera.Advance(4s);
     EXPECT_EQ(camera.Get("lenscontrol", 0), Words{65535});
     camera.Write(0x51010000, {0});
-    EXPECT_EQ(camera.Get("lenscontrol", 0), Words{65535}); // where it stands
+    EXPECT_EQ(camera.Get("lenscontrol", 0), Words{65535}); // its current position
 }
 
 TEST(SimulatedDefectPixels, AreCountedUpToTheLastPairInUse) {

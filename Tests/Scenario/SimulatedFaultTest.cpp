@@ -59,7 +59,7 @@ TEST(InjectedFault, ClampsAndShiftsEachWord) {
     EXPECT_EQ(held("circularblankingposition"), (Words{700, 700}));
     write(0x1B050000, {699, 5});
     EXPECT_EQ(held("circularblankingposition"), (Words{699, 5}));
-    write(0x1E030000, {0, 1, 9, 0U - 511U, 512}); // past the limits too
+    write(0x1E030000, {0, 1, 9, 0U - 511U, 512}); // even past the limits
     EXPECT_EQ(held("measurewindow"), (Words{0U - 3U, 0U - 2U, 6, 0U - 514U, 509}));
     write(0x14010000, {301});
     EXPECT_EQ(held("gain"), Words{302}); // clamped, then shifted
@@ -71,7 +71,7 @@ TEST(InjectedFault, ClampsAndShiftsEachWord) {
     EXPECT_EQ(held("shadingcorrection", 3), Words{0U - 5U});
     write(0x17040000, {2, 3, 7});
     EXPECT_EQ(held("overlaysize", 2), (Words{1, 10}));
-    write(0x17040000, {2}); // its selector is not the register
+    write(0x17040000, {2}); // a write of the selector is not affected
     EXPECT_EQ(camera->ReadRegister(0x17040000), 2U);
 }
 
@@ -80,7 +80,7 @@ TEST(InjectedFault, KeepsAnAutomaticModeFromStopping) {
         const auto camera = MakeCamera(model);
         camera->InjectFault("endless:agc");
         camera->WriteRegister(0x14010000, 500);
-        EXPECT_EQ(camera->Registers().Get("gain"), Words{500}) << model; // it was not on yet
+        EXPECT_EQ(camera->Registers().Get("gain"), Words{500}) << model; // was not on yet
         camera->WriteRegister(0x46020000, 1);
         camera->WriteRegister(0x46020000, 0);
         camera->WriteRegister(0x14010000, 500);

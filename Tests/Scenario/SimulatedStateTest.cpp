@@ -1,4 +1,4 @@
-// A simulated camera's memory in a file.
+// The state files of simulated cameras.
 
 #include "Tests/Support/Files.h"
 
@@ -31,7 +31,7 @@ protected:
     }
     ~CameraState() override { std::filesystem::remove_all(folder); }
 
-    /// Why the file is not loaded, empty if it is; and a camera that refuses it holds what it held.
+    /// Why the file is refused, or empty. A refusal must leave the camera unchanged.
     [[nodiscard]] std::string Refusal(const std::string& content, const char* model = "Orvik-710M") const {
         std::ofstream(file) << content;
         const auto camera = MakeCamera(model);
@@ -68,7 +68,7 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
         Simulation::LoadState(*next, file);
         EXPECT_STREQ(next->ReadString(0x00E8, 16), "door\xFF");
         EXPECT_EQ(next->Registers().Get("gain"), Words{12}) << model;
-        EXPECT_EQ(next->Registers().Get("startacquisition"), Words{0}); // nobody is connected any more
+        EXPECT_EQ(next->Registers().Get("startacquisition"), Words{0}); // acquisition does not continue
         next->WriteRegister(0x51010000, 0);
         EXPECT_EQ(next->Registers().Get("gain"), Words{11});
 
@@ -77,7 +77,7 @@ TEST_F(CameraState, IsKeptWholeForEveryModel) {
         Simulation::SaveState(*next, file);
         EXPECT_EQ(Content(file), saved);
     }
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1); // nothing else is left behind
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1); // no other files are left
 }
 
 TEST_F(CameraState, TellsWhichCameraOfItsModelItIs) {
@@ -91,7 +91,8 @@ TEST_F(CameraState, TellsWhichCameraOfItsModelItIs) {
     EXPECT_STREQ(camera->ReadString(0x64020000, 16) + 4, "710M-0043");
     EXPECT_EQ(camera->ReadRegister(0x000C), 0x12060711U);
 
-    std::ofstream(file) << Replaced(saved, "  \"MAC address\": \"02:00:12:06:07:10\",\n", ""); // as it once was written
+    std::ofstream(file) << Replaced(saved, "  \"MAC address\": \"02:00:12:06:07:10\",\n",
+                                    ""); // as older versions wrote it
     const auto next = MakeCamera("Orvik-710M");
     Simulation::LoadState(*next, file);
     EXPECT_EQ(next->ReadRegister(0x000C), 0x12060710U);

@@ -17,10 +17,10 @@ namespace Scenario {
 
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-/// Runs the reference host at a terminal of its own, and types: each text when what it waits for has appeared, and
-/// again where nothing comes of it.
-/// @param environment variables of it, by name
-/// @return all that appeared, in lines that end with "\r\n"
+/// Runs the reference host in a terminal. Types each text when the text that it waits for has appeared, and repeats it
+/// if nothing happens.
+/// @param environment variables, by name
+/// @return the complete output, in lines that end with "\r\n"
 inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& environment, const Pairs& typed = {}) {
     arguments.insert(arguments.begin(), QDV12_HOST);
     std::vector<char*> words;

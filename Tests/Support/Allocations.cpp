@@ -16,7 +16,7 @@ std::int64_t Test::LiveAllocations() { return live.load(std::memory_order_relaxe
 
 #ifdef QDV12_SANITIZED
 
-// The sanitizer replaces the allocator itself, and tells of every block.
+// The sanitizer replaces the allocator and reports leaked blocks itself.
 
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void*, std::size_t),
                                                          void (*released)(const volatile void*));
@@ -31,10 +31,10 @@ namespace {
 
 #else
 
-// The program's definitions come first for everything that is loaded into it, the plug-in included. operator new of the
-// C++ run-time library ends here too.
+// Definitions of the program take precedence for everything loaded into it, including the plug-in. operator new of the
+// C++ run-time library calls these, too.
 
-// The names are the C library's own.
+// The C library defines the names.
 // NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
 extern "C" {
 void* __libc_malloc(std::size_t size) noexcept;

@@ -4,13 +4,13 @@
 
 namespace Test {
 
-// The heap of this process, the plug-in, its C++ run-time library and C code included. For programs that are built with
+// The heap of this process, including the plug-in, its C++ run-time library and C code. For programs built with
 // Allocations.cpp.
 
-/// How often memory was asked for until now.
+/// The number of allocations so far.
 std::uint64_t Allocations();
 
-/// The blocks that are held right now. Sanitized runs have the leak check instead and always answer 0.
+/// The number of allocated blocks. In sanitized builds, which have the leak check instead, always 0.
 std::int64_t LiveAllocations();
 
 } // namespace Test

@@ -10,11 +10,11 @@
 
 namespace Test {
 
-/// A port over flat memory that does as little as a port can: it counts its accesses and copies bytes. What was never
-/// set reads as zeros. The instances behind an indexed register share one place.
+/// A minimal port over flat memory: it counts its accesses and copies bytes. Unset bytes read as zero. All instances of
+/// an indexed register share one place.
 class FlatPort final : public SDK4::IControlPort {
 public:
-    /// Sets what lies at an address.
+    /// Sets the bytes at an address.
     void Set(std::uint32_t address, const std::vector<std::uint8_t>& bytes) {
         std::memcpy(At(address), bytes.data(), bytes.size());
     }
@@ -56,7 +56,7 @@ public:
     }
 
 private:
-    // A camera's own registers lie 64 kB apart, of which 64 bytes are kept; the bootstrap registers lie below them.
+    // Vendor registers are 64 kB apart; 64 bytes of each are kept. The bootstrap registers are below them.
     static constexpr std::size_t kept = 64, slots = 0x10000, bootstrap = 0x10000;
 
     std::uint8_t* At(std::uint32_t address) { return &memory[(address >> 16) * kept + (address & 0xFFFF)]; }

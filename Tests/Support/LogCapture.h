@@ -8,7 +8,7 @@
 
 namespace Test {
 
-/// What the library logs while this object lives. Outside of its life the library's logger is off (see Main.cpp).
+/// Captures the library's log lines during its lifetime. Otherwise the library's logger is off (see Main.cpp).
 class LogCapture {
 public:
     explicit LogCapture(const log4cxx::LevelPtr& level = log4cxx::Level::getDebug());
@@ -29,7 +29,7 @@ public:
     /// The texts of the lines since the last call.
     std::vector<std::string> TakeTexts();
 
-    /// Turns the library's logger off, as every test starts.
+    /// Turns the library's logger off, as at the start of every test.
     static void Silence();
 
 private:

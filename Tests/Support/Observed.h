@@ -11,7 +11,7 @@ namespace Test {
 
 using Texts = std::vector<std::string>;
 
-/// An observer of properties that notes what it is told, "gain value". Register it with Notify and its own address.
+/// An observer of properties that records its notifications, as in "gain value". Register Notify with its address.
 struct Observed {
     static void Notify(const char* name, const char* attribute, void* context) {
         static_cast<Observed*>(context)->events.push_back(std::string(name) + " " + attribute);
@@ -22,7 +22,7 @@ struct Observed {
     Texts events;
 };
 
-/// The name of the code that a call throws, or "" if it throws none.
+/// The name of the error code that a call throws, or "".
 template <typename Call> std::string CodeOf(const Call& call) {
     try {
         call();

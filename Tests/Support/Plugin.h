@@ -7,8 +7,8 @@
 
 namespace Test {
 
-/// The built library, loaded the way a host loads it. Sanitized runs keep it in the process: reports then know the
-/// names of its functions.
+/// The built library, loaded as a host loads it. Sanitized builds keep it loaded, so that reports have the names of its
+/// functions.
 class Plugin {
 public:
     Plugin();
@@ -25,7 +25,7 @@ private:
     void* handle;
 };
 
-/// A camera that the plug-in opened; null for a model that it does not serve. Goes back with Release.
+/// A camera opened by the plug-in, or null for an unknown model. Released with Release.
 class Camera {
 public:
     Camera(const Plugin& plugin, const char* model, SDK4::IControlPort* port, std::int32_t index = 0)
@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] IDynamicObject* Object() const { return object.get(); }
 
-    /// One of the camera's interfaces. @throws std::bad_cast when it has none such
+    /// An interface of the camera. @throws std::bad_cast if it does not have it
     template <typename Interface> Interface& As() const { return dynamic_cast<Interface&>(*object); }
 
 private:

@@ -13,13 +13,13 @@ namespace Test {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Words as they lie in memory.
+/// The words in the host's byte order.
 Bytes Words(const std::vector<std::uint32_t>& words);
 
-/// A text block of @p length bytes: a word that is no text, the text, NUL bytes up to the end.
+/// A text block of @p length bytes: a word that is not part of the text, the text, NUL bytes.
 Bytes TextBlock(std::size_t length, const std::string& text);
 
-/// A port over plain bytes that writes down every access as one short text. The legend:
+/// A port over plain bytes that records every access as a short text:
 ///
 ///     r 0014              ReadRegister             w 0D04=1500         WriteRegister
 ///     R 14010000/4        ReadMem of 4 bytes       W 14010000=511      WriteMem
@@ -27,30 +27,30 @@ Bytes TextBlock(std::size_t length, const std::string& text);
 ///     rb 0100/8           ReadBlock                wb 0100=1,2         WriteBlock
 ///     rs 0200/512         ReadString               ws 00E8/16=name     WriteString
 ///
-/// Addresses are hexadecimal of 4 or 8 digits, values are decimal words joined by ","; bytes beyond the last whole word
-/// follow as x0A. A word that was never set reads as its position, counted from 1: a block of three words reads 1,2,3.
+/// Addresses are hexadecimal with 4 or 8 digits, values are decimal words joined by ","; bytes after the last whole
+/// word follow as x0A. An unset word reads as its position, counted from 1: a block of three words reads 1,2,3.
 class RecordingPort final : public SDK4::IControlPort {
 public:
     void Set(std::uint32_t address, Bytes bytes) { memory[address] = std::move(bytes); }
     void Set(std::uint32_t address, std::uint32_t word) { Set(address, Words({word})); }
 
-    /// Sets one of several instances at an address: what a read delivers behind the index word that selected it.
+    /// Sets one of several instances at an address: the bytes that a read returns after its index word was written.
     void SetInstance(std::uint32_t address, std::uint32_t index, Bytes bytes) {
         instances[address][index] = std::move(bytes);
     }
 
-    /// What lies at an address, as Set or a write left it.
+    /// The bytes at an address, as set or written.
     Bytes Get(std::uint32_t address) const;
 
     /// The accesses since the last call, joined by "; ".
     std::string TakeLog();
 
-    /// The @p nth access from now on, counted from 1, is written down and then fails by calling @p failure, which
-    /// throws.
+    /// The @p nth access from now on, counted from 1, is recorded and then fails: it calls @p failure, which throws.
     void FailAt(unsigned int nth, std::function<void()> failure);
 
-    std::optional<std::uint64_t> reportedCount; ///< when set: what ReadMem and WriteMem report; ReadMem fills no more
-    bool refuseBlocks = false;                  ///< ReadBlock and ReadString answer null
+    std::optional<std::uint64_t>
+        reportedCount;         ///< if set, the count returned by ReadMem and WriteMem; ReadMem fills no more bytes
+    bool refuseBlocks = false; ///< ReadBlock and ReadString return null
 
     void WriteRegister(std::uint32_t address, std::uint32_t value) override;
     std::uint32_t ReadRegister(std::uint32_t address) override;
@@ -71,7 +71,7 @@ private:
     std::map<std::uint32_t, Bytes> memory;
     std::map<std::uint32_t, std::map<std::uint32_t, Bytes>> instances;
     std::string log;
-    std::string text; ///< what ReadString returned last
+    std::string text; ///< the last result of ReadString
     unsigned int failIn = 0;
     std::function<void()> fail;
 };

@@ -18,8 +18,8 @@
 
 namespace Test {
 
-/// A program whose output is read while it runs, and which ends with this object at the latest, with all that it
-/// started. One that keeps the test waiting for longer than a deadline is killed, and the test fails.
+/// A program whose output is read while it runs. The destructor ends it and all processes that it started. If it keeps
+/// the test waiting longer than a deadline, it is killed and the test fails.
 class Running {
     using Clock = std::chrono::steady_clock;
 
@@ -28,17 +28,17 @@ public:
 #ifdef QDV12_SANITIZED
     static constexpr std::chrono::seconds usualDeadline{180};
 #else
-    static constexpr std::chrono::seconds usualDeadline{60}; ///< long, as the machine may be busy
+    static constexpr std::chrono::seconds usualDeadline{60}; ///< long, since the machine may be busy
 #endif
 
-    /// @param stream STDOUT_FILENO or STDERR_FILENO, the other one goes nowhere; or both
-    /// @param longestWait of ReadUntil and of End
+    /// @param stream STDOUT_FILENO, STDERR_FILENO or both; the other is discarded
+    /// @param longestWait deadline of ReadUntil and of End
     Running(const std::string& program, std::vector<std::string> arguments, int stream,
             std::chrono::milliseconds longestWait = usualDeadline)
         : deadline(longestWait) {
         std::array<int, 2> ends{};
         EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
-        fcntl(ends[1], F_SETPIPE_SZ, 4096); // so that the program is never far ahead of who reads
+        fcntl(ends[1], F_SETPIPE_SZ, 4096); // a small pipe, so that the program cannot run far ahead of the reader
         arguments.insert(arguments.begin(), program);
         std::vector<char*> words;
         words.reserve(arguments.size() + 1);
@@ -51,9 +51,9 @@ public:
         if (process == 0) {
             setpgid(0, 0);
             for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) {
-                ::signal(signal, SIG_DFL); // whatever the tests were started from
+                ::signal(signal, SIG_DFL); // undo signal settings of the parent
             }
-            prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that dies leaves no camera behind
+            prctl(PR_SET_PDEATHSIG, SIGKILL); // if the test dies, the program does too
             const int nowhere = open("/dev/null", O_RDWR);
             dup2(nowhere, STDIN_FILENO);
             dup2(stream == STDERR_FILENO ? nowhere : ends[1], STDOUT_FILENO);
@@ -61,7 +61,7 @@ public:
             execvp(words[0], words.data());
             _exit(127);
         }
-        setpgid(process, process); // whichever of the two processes comes first
+        setpgid(process, process); // in both processes, since either may be first
         close(ends[1]);
         from = ends[0];
     }
@@ -75,7 +75,7 @@ public:
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
 
-    /// Reads until the text has come. As long as nobody reads on, the program stands still when the pipe is full.
+    /// Reads until the text appears. Afterwards the program blocks when the pipe is full.
     bool ReadUntil(const std::string& text) {
         const auto end = Clock::now() + deadline;
         while (read.find(text) == std::string::npos) {
@@ -85,10 +85,10 @@ public:
         }
         return true;
     }
-    /// Leaves it with output that nobody reads.
+    /// Closes the output, so that the program's writes fail.
     void StopReading() { close(std::exchange(from, -1)); }
     void Signal(int signal) const { kill(process, signal); }
-    /// Reads the rest. @return the exit code, -1 if a signal ended it
+    /// Reads the rest. @return the exit code, or -1 after a signal
     int End() {
         const auto end = Clock::now() + deadline;
         while (ReadSome(end)) {
@@ -103,7 +103,7 @@ public:
         process = -1;
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
-    /// Whether it kept the test waiting for too long.
+    /// Whether a deadline has passed.
     [[nodiscard]] bool HasTimedOut() const { return timedOut; }
     [[nodiscard]] const std::string& Read() const { return read; }
 
@@ -130,7 +130,7 @@ private:
         }
     }
 
-    std::string command; ///< with a blank behind each word
+    std::string command; ///< with a blank after each word
     std::chrono::milliseconds deadline;
     bool timedOut = false;
     pid_t process = -1;

@@ -1,8 +1,8 @@
-// A host that loads the library, uses cameras of both families and unloads it again, a thousand times over: the library
-// leaves the process each time, and memory grows by nothing but what ARCHITECTURE.md says a released camera leaves.
+// A host that loads the library, uses cameras of both families and unloads it, a thousand times. The library must leave
+// the process each time, and memory may grow only by what ARCHITECTURE.md says a released camera leaves.
 //
-// A host like any other: C++17, the public headers, log4cxx. It is built by more than one compiler. So that freed
-// memory counts as free at once, run it with GLIBC_TUNABLES=glibc.malloc.tcache_count=0.
+// An ordinary host: C++17, the public headers, log4cxx. Built by more than one compiler. Run it with
+// GLIBC_TUNABLES=glibc.malloc.tcache_count=0, so that freed memory counts as free at once.
 
 #include <SDK4/SDK4.h>
 
@@ -26,11 +26,11 @@
 
 namespace {
 
-/// What a camera may leave behind when it is released, in bytes ("Who owns what" in ARCHITECTURE.md).
+/// The bytes that a released camera may leave ("Who owns what" in ARCHITECTURE.md).
 constexpr long orvikRemainder = 24 * 1024L, m2vxRemainder = 0;
 
 constexpr int rounds = 1000;
-constexpr int firstSteadyRound = 100; ///< by then all that log4cxx and the loader keep has been made
+constexpr int firstSteadyRound = 100; ///< by then log4cxx and the loader have allocated all that they keep
 
 int failures = 0;
 
@@ -50,7 +50,7 @@ long CountOfMappings() {
     return static_cast<long>(std::count(std::istreambuf_iterator<char>(maps), {}, '\n'));
 }
 
-/// A camera whose registers hold what was written, and zeros before. Texts fill their register.
+/// A camera whose registers hold the written values, initially zero. Texts fill their register.
 class Port final : public SDK4::IControlPort {
 public:
     void WriteRegister(std::uint32_t address, std::uint32_t value) override { Store(address, &value, sizeof value); }
@@ -107,7 +107,7 @@ struct Registry final : IModelRegistry {
     int models = 0;
 };
 
-/// Takes log lines as a file would.
+/// Formats log lines as a file appender would.
 struct Sink final : log4cxx::AppenderSkeleton {
     void close() override {}
     bool requiresLayout() const override { return false; }
@@ -145,9 +145,9 @@ void UseOrvik(IDynamicObject& camera, int round) {
     gain.SetGain(7);
     Expect(gain.GetGain() == 7, "Orvik: the gain is not the one set", round);
     Expect(CodeOf([&] { gain.SetGain(512); }) == SDK4_ERR_OUTOFRANGE, "Orvik: no X4Error for a gain of 512", round);
-    auto& identity = As<IGufi>(camera); // the cache of each of these texts stays
+    auto& identity = As<IGufi>(camera); // the caches of these texts stay after the release
     const std::string name = identity.GetDeviceName();
-    Expect(name.size() > 15, "Orvik: a name that needs no storage", round);
+    Expect(name.size() > 15, "Orvik: the name fits without allocation", round);
     identity.GetSerialNumber();
     identity.GetSoftwareBuild();
     auto* media = As<IDSMediaType>(camera).GetMediaType();
@@ -162,9 +162,9 @@ void UseM2VX(IDynamicObject& camera, int round) {
     gain.SetGain(7);
     Expect(gain.GetGain() == 7, "M2VX: the gain is not the one set", round);
     Expect(CodeOf([&] { gain.SetGain(9999); }) == SDK4_ERR_OUTOFRANGE, "M2VX: no X4Error for a gain of 9999", round);
-    Expect(std::strlen(As<IGufi>(camera).GetDeviceName()) > 15, "M2VX: a name that needs no storage", round);
+    Expect(std::strlen(As<IGufi>(camera).GetDeviceName()) > 15, "M2VX: the name fits without allocation", round);
     auto& properties = As<IPropertyState>(camera);
-    properties.AddCallback([](const char*, const char*, void*) {}, nullptr); // and it stays until the release
+    properties.AddCallback([](const char*, const char*, void*) {}, nullptr); // and is not removed before the release
     properties.SetEnabled("sharpness", false);
     Expect(properties.GetUIntValue("gain") <= 9999, "M2VX: the property lost the gain", round);
     auto* media = As<IDSMediaType>(camera).GetMediaType();
@@ -176,8 +176,8 @@ struct Case {
     const char* model;
     std::int32_t index;
     void (*use)(IDynamicObject& camera, int round);
-    long allowed;    ///< bytes that may stay
-    long opened = 0; ///< most bytes that stayed after opening and releasing
+    long allowed;    ///< allowed remaining bytes
+    long opened = 0; ///< most bytes left after opening and releasing
     long used = 0;   ///< the same with operations in between
 };
 
@@ -190,7 +190,7 @@ Case cases[] = {
 
 using CreateFunction = void*(const char* model, void* port, std::int32_t index);
 
-/// Opens and releases a camera; the bytes that this leaves in use.
+/// Opens and releases a camera. @return the bytes that remain in use
 long BytesLeftBy(CreateFunction* create, const Case& camera, bool use, int round) {
     const long before = BytesInUse();
     {
@@ -209,7 +209,7 @@ long BytesLeftBy(CreateFunction* create, const Case& camera, bool use, int round
     return BytesInUse() - before;
 }
 
-/// One life of the library in this process; the bytes that it leaves in use beside those of its cameras.
+/// Loads, uses and unloads the library once. @return the bytes that remain in use, without those of the cameras
 long Round(const char* path, int round) {
     const long before = BytesInUse();
     long leftByCameras = 0;
@@ -268,7 +268,7 @@ int main(int argc, char** argv) {
         Expect(camera.opened <= camera.allowed && camera.used <= camera.allowed,
                "a camera leaves more than ARCHITECTURE.md states", rounds);
     }
-    std::printf("beside that a round leaves %ld bytes at most; %ld log lines\n", beside, sink->lines);
+    std::printf("otherwise at most %ld bytes left per round; %ld log lines\n", beside, sink->lines);
     Expect(beside <= 0, "loading and unloading leaves memory behind", rounds);
     Expect(CountOfMappings() == mappings, "the process has other mappings than at the beginning", rounds);
     Expect(sink->lines > 0, "nothing was logged at debug level", rounds);
