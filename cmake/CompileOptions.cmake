@@ -1,7 +1,7 @@
 # Compile options shared by all targets.
 
-# Source locations in log lines are relative to the project, wherever it was built. They all have a directory part, since
-# without one log4cxx computes an address before the text.
+# Source locations in log lines are relative to the project, wherever it was built. They all have a directory part,
+# since without one log4cxx computes an address before the text.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=./)
 
 # Unique symbols would keep the plug-in loaded after dlclose.

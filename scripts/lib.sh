@@ -5,8 +5,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit
 jobs=$(nproc)
 
-# Debian 12 packages: for the build, and additionally for tests, sanitizers, static analysis and benchmarks. clang-14 does
-# not depend on the sanitizers' run-time libraries or on llvm-symbolizer, without which leaks have no names and
+# Debian 12 packages: for the build, and additionally for tests, sanitizers, static analysis and benchmarks. clang-14
+# does not depend on the sanitizers' run-time libraries or on llvm-symbolizer, without which leaks have no names and
 # suppressions do not match. The pkg-config file of Aravis requires libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
     nlohmann-json3-dev libedit-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev binutils help2man dpkg-dev file)
@@ -50,8 +50,8 @@ build() {
     cmake --build --preset "$preset" --parallel "$jobs" "${targets[@]}"
 }
 
-# The leak check uses ptrace, which some containers forbid. All tests would fail without saying why. So it is tried once,
-# on a program without leaks; if it fails, the summary adds $leaks_unchecked.
+# The leak check uses ptrace. In containers that forbid it, every test would fail without saying why. So it is tried
+# once on a program without leaks. If that fails, the summary contains $leaks_unchecked.
 leaks_unchecked=
 check_leak_detection() {
     local probe
