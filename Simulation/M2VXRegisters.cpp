@@ -31,7 +31,7 @@ std::vector<Register> M2VXRegisters(const M2VXModel& model) {
 
     // clang-format off
     return {
-        // name                      address     role         kind and power-up value  and what each word admits
+        // name                      address     role         kind and power-up value  valid values of each word
         {"width",                    0x00088120, Status,      Word(1024)},
         {"height",                   0x00088124, Status,      Word(1024)},
         {"pixelformat",              0x00088128, Status,      Word(0x01100025)},      // Mono14

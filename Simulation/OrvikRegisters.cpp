@@ -42,7 +42,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
 
     // clang-format off
     return {
-        // name                address     role         kind and power-up value  and what each word admits
+        // name                address     role         kind and power-up value  valid values of each word
         {"acquisitionmode",    0x00088130, Volatile,    Word(0),                {Codes(0, 1)}}, // for GenICam: continuous, single frame
         {"startacquisition",   0x00088134, Volatile,    Word(0),                {Codes({1})}},
         {"stopacquisition",    0x00088138, Volatile,    Word(0)},

@@ -176,7 +176,7 @@ void RegisterSpace::Load(const Content& content) {
 RegisterSpace::Cell& RegisterSpace::Named(const std::string& name) const {
     const auto found = byName.find(name);
     if (found == byName.end()) {
-        throw std::logic_error("no register is named " + name);
+        throw std::logic_error("no register named " + name);
     }
     return *found->second;
 }

@@ -81,12 +81,12 @@ host is built with.")
 if(QDV12_BUILD_TOOLS)
     string(APPEND CPACK_DEBIAN_PACKAGE_DESCRIPTION "
 .
-qdv12host is the reference host, with simulated cameras; qdv12sim puts a
-simulated camera on the network.")
+qdv12host is the reference host, with simulated cameras; qdv12sim simulates a
+camera on the network.")
 endif()
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS liblog4cxx-dev) # which a host is built with
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS liblog4cxx-dev) # hosts are built with it
 include(CPack)
