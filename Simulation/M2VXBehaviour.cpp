@@ -11,8 +11,6 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::uint32_t frameTime = 33; // milliseconds
-
 void UpdateFrameDuration(RegisterSpace& space) {
     space.Set("frameduration", {std::max(33333U, 1000 * space.Get("exposure")[0])});
 }
@@ -67,7 +65,9 @@ void AddControlLoop(SimulatedCamera& camera, const ControlLoop& loop, const std:
 std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
     const std::uint32_t levelOfModeOne = 40;
     const std::uint32_t level = space.Get("agc")[0] == 2 ? space.Get("automaticlevel")[0] : levelOfModeOne;
-    return std::min(568U, 4 * level * 100 * frameTime / (illumination * space.Get("exposure")[0]));
+    const std::uint32_t exposure = std::max(space.Get("exposure")[0], 1U);
+    const std::uint32_t needed = 4 * level * 100 * frameTime / (illumination * exposure);
+    return std::clamp(needed, gainOffset, gainOffset + 568) - gainOffset;
 }
 
 void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {

@@ -27,6 +27,16 @@ struct OrvikModel {
 
 constexpr std::uint32_t smallestArea = 64; ///< minimum width and height of a readout area, in pixels
 
+// The level of an image is the illumination, times the exposure time over 20 ms, times the gain factor, 1 at gain 0 and
+// 5 at gain 511. The nominal scene gives 100; "autoexposurelevel" is the target of the automatic modes.
+constexpr std::uint64_t nominalExposure = 20000; // microseconds
+constexpr std::uint64_t nominalLevel = 100;      // of 255
+constexpr std::uint64_t unityGain = 256;
+[[nodiscard]] constexpr std::uint64_t GainFactor(std::uint64_t gain) { return unityGain + 2 * gain; }
+
+/// The balance that makes white white in the light of that source, in this world.
+[[nodiscard]] Words WhiteBalanceOf(std::uint32_t lightSource, const World& world);
+
 /// Converts a time, held as base and counter, to microseconds.
 [[nodiscard]] std::uint64_t MicrosecondsOf(const Words& time);
 /// Updates readout time and frame duration.

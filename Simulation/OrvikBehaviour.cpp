@@ -3,18 +3,13 @@
 #include "Simulation/Temperature.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Simulation {
 
 namespace {
 
-// The level of an image is the illumination, times the exposure time over 20 ms, times the gain factor, which is 1 at
-// gain 0 and 5 at gain 511. The nominal level is 100. "autoexposurelevel" is the target of the automatic modes.
-constexpr std::uint64_t nominalExposure = 20000; // microseconds
-constexpr std::uint64_t longestAutomaticExposure = 1000000;
-constexpr std::uint64_t unityGain = 256;
-
-std::uint64_t GainFactor(std::uint64_t gain) { return unityGain + 2 * gain; }
+constexpr std::uint64_t longestAutomaticExposure = 1000000; // microseconds
 
 Words ExposureFor(const RegisterSpace& space, std::uint64_t illumination) {
     const std::uint64_t level = space.Get("autoexposurelevel")[0];
@@ -33,16 +28,6 @@ Words GainFor(const RegisterSpace& space, std::uint64_t illumination) {
     return {static_cast<std::uint32_t>(std::min<std::uint64_t>(gain, 511))};
 }
 
-/// The white balance for the selected light source and this scene.
-Words WhiteBalanceFor(const RegisterSpace& space, const World& world) {
-    const Words balances[] = {{128, 128, 128}, {104, 128, 176}, {120, 128, 148}, {140, 128, 112}};
-    Words balance = balances[space.Get("lightsource")[0]];
-    for (std::uint32_t i = 0; i < balance.size(); ++i) {
-        balance[i] += static_cast<std::uint32_t>(world.Deviation(Stream::WhitePoint, 20, i));
-    }
-    return balance;
-}
-
 void AddAutomatics(SimulatedCamera& camera, const World& world) {
     const std::uint64_t illumination = world.Illumination();
     const auto compensation = static_cast<std::uint32_t>(200 - illumination);
@@ -50,7 +35,7 @@ void AddAutomatics(SimulatedCamera& camera, const World& world) {
     const auto gain = [=](const RegisterSpace& space) { return GainFor(space, illumination); };
     const auto brightness = [=](const RegisterSpace& space) { return Words{space.Get("acc")[0] * compensation}; };
     const auto contrast = [](const RegisterSpace& space) { return Words{64 + 16 * space.Get("acc")[0]}; };
-    const auto balance = [=](const RegisterSpace& space) { return WhiteBalanceFor(space, world); };
+    const auto balance = [=](const RegisterSpace& space) { return WhiteBalanceOf(space.Get("lightsource")[0], world); };
     // clang-format off
     AddAutomaticMode(camera, {"aet", "exposure",     exposure, UpdateTiming});
     AddAutomaticMode(camera, {"agc", "gain",         gain});
@@ -61,6 +46,15 @@ void AddAutomatics(SimulatedCamera& camera, const World& world) {
 }
 
 } // namespace
+
+Words WhiteBalanceOf(std::uint32_t lightSource, const World& world) {
+    const Words balances[] = {{128, 128, 128}, {104, 128, 176}, {120, 128, 148}, {140, 128, 112}};
+    Words balance = balances[std::min<std::size_t>(lightSource, std::size(balances) - 1)];
+    for (std::uint32_t i = 0; i < balance.size(); ++i) {
+        balance[i] += static_cast<std::uint32_t>(world.Deviation(Stream::WhitePoint, 20, i));
+    }
+    return balance;
+}
 
 void AddOrvikBehaviour(SimulatedCamera& camera, const OrvikModel& model, const World& world) {
     AddOrvikGeometry(camera, model);

@@ -10,6 +10,8 @@ enum class Stream : std::uint32_t {
     StartTemperature = 2,
     TemperatureNoise = 3,
     MeasureNoise = 4,
+    PictureNoise = 5,
+    PictureLine = 6,        ///< where its noise begins
     WhitePoint = 10,        ///< and 11, 12: red, green, blue
     DefectPixelColumn = 20, ///< and following: one for each pair of defect pixels
 };

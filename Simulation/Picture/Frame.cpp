@@ -7,19 +7,19 @@ namespace Simulation::Picture {
 std::uint32_t PixelFormatOf(std::uint32_t colorCoding) {
     switch (colorCoding) {
     case SDK4_COLORCODING_MONO8:
-        return 0x01080001;
+        return mono8;
     case SDK4_COLORCODING_MONO14:
-        return 0x01100025;
+        return mono14;
     case SDK4_COLORCODING_MONO12PACKED:
-        return 0x010C0006;
+        return mono12Packed;
     case SDK4_COLORCODING_YUV422PACKED:
-        return 0x0210001F;
+        return yuv422Packed;
     case SDK4_COLORCODING_RGB8:
-        return 0x02180014;
+        return rgb8;
     case SDK4_COLORCODING_BGR8:
-        return 0x02180015;
+        return bgr8;
     case SDK4_COLORCODING_RAW14:
-        return 0x82100025;
+        return raw14;
     default:
         return 0;
     }

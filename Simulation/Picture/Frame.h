@@ -6,6 +6,15 @@
 
 namespace Simulation::Picture {
 
+// Pixel formats of the GigE Vision standard, and the device's own of raw pixels.
+constexpr std::uint32_t mono8 = 0x01080001;
+constexpr std::uint32_t mono14 = 0x01100025;
+constexpr std::uint32_t mono12Packed = 0x010C0006;
+constexpr std::uint32_t yuv422Packed = 0x0210001F;
+constexpr std::uint32_t rgb8 = 0x02180014;
+constexpr std::uint32_t bgr8 = 0x02180015;
+constexpr std::uint32_t raw14 = 0x82100025; ///< a mosaic; its first line begins with green and red
+
 /// A frame as a camera sends it.
 struct Frame {
     std::uint32_t pixelFormat = 0; ///< of the GigE Vision standard

@@ -1,13 +1,118 @@
 #include "Simulation/Picture/Renderer.h"
 
+#include "Simulation/Picture/Coding.h"
+#include "Simulation/Picture/Patterns.h"
+
+#include <algorithm>
+#include <utility>
+
 namespace Simulation::Picture {
 
+namespace {
+
+/// The channel that a sensor with colour filters has at a place: green and red, below them blue and green.
+std::size_t Filter(std::uint32_t column, std::uint32_t row) {
+    const std::size_t filters[2][2] = {{1, 0}, {2, 1}};
+    return filters[row % 2][column % 2];
+}
+
+void Saturate(std::vector<std::uint16_t>& line, std::uint32_t saturation) {
+    const auto factor = static_cast<std::int32_t>(saturation);
+    for (std::size_t i = 0; i + 2 < line.size(); i += 3) {
+        const std::int32_t gray = (77 * line[i] + 150 * line[i + 1] + 29 * line[i + 2]) >> 8;
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            const std::int32_t value = gray + (line[i + channel] - gray) * factor / 128;
+            line[i + channel] = static_cast<std::uint16_t>(std::clamp(value, 0, Tables::fullScale));
+        }
+    }
+}
+
+void Mirror(std::vector<std::uint16_t>& line, std::size_t channels) {
+    const std::size_t count = line.size() / channels;
+    for (std::size_t x = 0; x < count / 2; ++x) {
+        std::swap_ranges(&line[x * channels], &line[x * channels] + channels, &line[(count - 1 - x) * channels]);
+    }
+}
+
+} // namespace
+
+void Renderer::Update(const Settings& settings) {
+    if (made == settings) {
+        return;
+    }
+    view.Update(settings);
+    tables.Update(settings, world, view.MeanLight());
+    noise.Scale(tables.Deviation());
+    channels = settings.pixelFormat == raw14 ? 1 : view.Channels();
+    line.resize(settings.width * channels);
+    made = settings;
+}
+
 void Renderer::Render(const Settings& settings, std::uint64_t number, Frame& frame) {
+    Update(settings);
     frame.pixelFormat = settings.pixelFormat;
     frame.width = settings.width;
     frame.height = settings.height;
-    frame.bytes.assign(PayloadSize(settings.pixelFormat, settings.width, settings.height),
-                       static_cast<std::uint8_t>(number));
+    frame.offsetX = settings.readout.offsetX;
+    frame.offsetY = settings.readout.offsetY;
+    frame.bytes.resize(PayloadSize(settings.pixelFormat, settings.width, settings.height));
+    for (std::uint32_t y = 0; y < settings.height; ++y) {
+        MakeLine(settings.flipY ? settings.height - 1 - y : y, number);
+        CodeLine(settings.pixelFormat, line, channels, y, frame.bytes);
+    }
+}
+
+void Renderer::MakeLine(std::uint32_t y, std::uint64_t number) {
+    MakePixels(y, number);
+    for (std::size_t half = 0; half < made->patterns.size(); ++half) {
+        if (made->patterns.at(half) != Pattern::None) {
+            MakePattern(y, half);
+        }
+    }
+    if (channels == 3 && made->saturation != 128) {
+        Saturate(line, made->saturation);
+    }
+    if (made->flipX) {
+        Mirror(line, channels);
+    }
+}
+
+void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
+    const Readout& readout = made->readout;
+    const std::uint8_t* const tones = view.Line(y, Mark(number));
+    // Counted in the sensor, so that a part of it has the noise that it has in the whole.
+    const std::size_t start =
+        noise.Start(world, number, std::uint64_t{readout.offsetY} + y) + std::size_t{readout.offsetX} * view.Channels();
+    const auto value = [&](std::size_t channel, std::size_t i) {
+        return tables.Of(channel)[tones[i] * Tables::steps + noise.At(start + i)];
+    };
+    if (view.Channels() == 1) {
+        for (std::size_t x = 0; x < line.size(); ++x) {
+            line[x] = value(0, x);
+        }
+    } else if (channels == 1) { // raw
+        for (std::uint32_t x = 0; x < made->width; ++x) {
+            const std::size_t channel = Filter(readout.offsetX + x, readout.offsetY + y);
+            line[x] = value(channel, 3 * std::size_t{x} + channel);
+        }
+    } else {
+        for (std::size_t i = 0; i + 2 < line.size(); i += 3) {
+            line[i] = value(0, i);
+            line[i + 1] = value(1, i + 1);
+            line[i + 2] = value(2, i + 2);
+        }
+    }
+}
+
+void Renderer::MakePattern(std::uint32_t y, std::size_t half) {
+    const std::uint32_t middle = made->width / 2;
+    for (std::uint32_t x = half == 0 ? 0 : middle, end = half == 0 ? middle : made->width; x < end; ++x) {
+        const auto values = PatternAt(made->patterns.at(half), x, y, made->width, made->height);
+        const std::size_t first = channels == 1 ? Filter(made->readout.offsetX + x, made->readout.offsetY + y) : 0;
+        for (std::size_t i = 0; i < channels; ++i) {
+            line[x * channels + i] = tables.AfterSensor(first + i)[values.at(first + i)];
+        }
+    }
 }
 
 } // namespace Simulation::Picture
