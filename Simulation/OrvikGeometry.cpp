@@ -50,6 +50,7 @@ void ClipMeasureWindow(RegisterSpace& space, std::uint32_t window) {
 
 void ApplyArea(RegisterSpace& space, const Words& area) {
     space.Set("readoutarea", area);
+    space.Set("offset", {area[0], area[1]});
     space.Set("readoutarealimits", area, SDK4_ROADOMAIN_ACTIVE);
     space.Set("imagesize", {area[2] - area[0] + 1, area[3] - area[1] + 1});
     for (std::uint32_t i = 0; i < 2; ++i) {
@@ -74,15 +75,27 @@ void ApplyReadoutArea(RegisterSpace& space) {
     ApplyArea(space, area);
 }
 
+/// Keeps the size, as GenICam programs expect of an offset.
+void MoveArea(RegisterSpace& space) {
+    const Words offset = space.Get("offset");
+    const Words size = space.Get("imagesize");
+    const Words max = space.Get("readoutarealimits", SDK4_ROADOMAIN_MAX);
+    const std::uint32_t left = std::min(offset[0], max[2] + 1 - size[0]);
+    const std::uint32_t top = std::min(offset[1], max[3] + 1 - size[1]);
+    space.Set("readoutarea", {left, top, left + size[0] - 1, top + size[1] - 1});
+    ApplyReadoutArea(space);
+}
+
 } // namespace
 
 void AddOrvikGeometry(SimulatedCamera& camera, const OrvikModel& model) {
     camera.Derive([model](RegisterSpace& space) { UpdateBinning(space, model); });
     camera.AfterWrite("binning", [model](RegisterSpace& space) { UpdateBinning(space, model); });
     camera.AfterWrite("readoutarea", ApplyReadoutArea);
+    camera.AfterWrite("offset", MoveArea);
     camera.AfterWrite("overlayposition", [](auto& space, const auto& change) { ClipOverlay(space, change.index); });
     camera.AfterWrite("measurewindow", [](auto& space, const auto& change) { ClipMeasureWindow(space, change.index); });
-    for (const char* name : {"readoutarea", "binning", "colorcoding"}) {
+    for (const char* name : {"readoutarea", "offset", "binning", "colorcoding"}) {
         camera.LockWhileAcquiring(name);
     }
 }

@@ -47,6 +47,7 @@ std::vector<Register> OrvikRegisters(const OrvikModel& model) {
         {"startacquisition",   0x00088134, Volatile,    Word(0),                {Codes({1})}},
         {"stopacquisition",    0x00088138, Volatile,    Word(0)},
         {"acquisitionframerate", 0x00088140, Volatile,  Word(0)},               // mHz; for GenICam; 0: the frame duration's
+        {"offset",             0x00088150, Volatile,    Record({0, 0})},        // for GenICam: moves the readout area
 
         {"exposuremode",       0x0A020000, Setting,     Word(1),                {Codes(1, 4)}}, // free running
         {"exposure",           0x0A030000, Setting,     Record({0, 20000}),     {Range(0, 7)}}, // base, counter
