@@ -77,7 +77,7 @@ void AddStream(CLI::App& app, Options& options) {
 }
 
 std::string Describe(const CLI::App& app, const CLI::ParseError& error) {
-    const std::string text = error.what();
+    std::string text = error.what();
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
         return text.substr(0, text.find(':')) +
                (text.ends_with("missing") ? ": a value is required" : " is given twice");
