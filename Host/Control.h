@@ -6,7 +6,7 @@
 
 namespace Host {
 
-/// What CreateObject made, given back through Release.
+/// An object from CreateObject, destroyed by Release.
 struct ReleaseControl {
     void operator()(IDynamicObject* control) const { control->Release(); }
 };

@@ -41,7 +41,7 @@ public:
     std::string GetName() const { return name; }
     const std::string& Name() const { return name; } ///< without the copy
 
-    void SetIndex(std::int32_t i); ///< makes the property indexed, for good
+    void SetIndex(std::int32_t i); ///< makes the property indexed
     std::int32_t GetIndex() const { return index; }
     bool IsIndexed() const { return indexed; }
     bool IsEnumerated() const { return enumerated; }

@@ -1,5 +1,5 @@
-// The smallest host: loads the plug-in, gives it a port, sets an exposure time. The port prints what reaches the
-// camera.
+// The smallest host: loads the plug-in, opens a camera on a port, sets an exposure time. The port prints what is
+// written.
 
 #include "BytePort.h"
 

@@ -94,7 +94,7 @@ private:
     /// Reads an optional register: 0 if it is missing.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);
     [[nodiscard]] Controller ReadController();
-    /// Whether the camera reports another controller than before, or does not answer.
+    /// Whether the camera reports a different controller, or does not answer.
     [[nodiscard]] bool IsLost();
 
     std::string camera;

@@ -80,7 +80,7 @@ private:
         if (attribute == "enabled") {
             return properties->GetEnabled(name);
         }
-        if (attribute != "value" || properties->IsIndexed(name)) { // a callback does not tell the index
+        if (attribute != "value" || properties->IsIndexed(name)) { // a callback has no index
             return std::nullopt;
         }
         try {

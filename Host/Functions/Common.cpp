@@ -36,7 +36,7 @@ void SetUserName(IGigECamera& camera, const char* name) {
         Common::CutAtCharacter(name, userNameLength).c_str()); // the library truncates at any byte
 }
 
-int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the one sensor of either family
+int BoardTemperature(IInternalTests& tests) { return tests.GetTemperature(0); } // the only sensor of both families
 
 } // namespace
 

@@ -44,9 +44,9 @@ public:
 
     /// Gives the camera a persistent address: sets bit 0 of 0x0014, then writes 0x064C (address), 0x065C (mask) and
     /// 0x066C (gateway). Silently does nothing when the camera supports no persistent address (bit 0 of 0x0010), or
-    /// when address and mask name another subnet than the one through which the camera is reached now. Numbers are
-    /// truncated to one octet. Invalid addresses are not detected: a missing number is 0 (Orvik), or that of the text
-    /// before it, 0 for the first text (M2VX).
+    /// when address and mask do not match the current subnet of the camera. Numbers are truncated to one octet. Invalid
+    /// addresses are not detected: a missing number is 0 (Orvik), or that of the text before it, 0 for the first text
+    /// (M2VX).
     /// @throws SDK4_ERR_INVALID_PARAMETER for a null text, before any access.
     virtual void EnablePersistentIP(const char* ip, const char* mask, const char* gateway) = 0;
 

@@ -2,7 +2,7 @@
 
 #include <SDK4/Export.h>
 
-/// The host's model registry, handed to InitLibrary. The host implements and owns it.
+/// The host's model registry, passed to InitLibrary. The host implements and owns it.
 class SDK4_PUBLIC IModelRegistry {
 public:
     /// Called once for each model that the library serves.

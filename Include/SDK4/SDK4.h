@@ -29,11 +29,11 @@
 ///
 ///   | Reason                                    | Code                       | What the camera holds then  |
 ///   |-------------------------------------------|----------------------------|-----------------------------|
-///   | the camera does not have the function     | SDK4_ERR_NOT_IMPLEMENTED   | what it held                |
-///   | it has it, but not in its present state   | SDK4_ERR_DISABLED          | what it held                |
-///   | writing is locked by another setting      | SDK4_ERR_CANTSETFEATURE    | what it held                |
-///   | the value is not one of those admitted    | SDK4_ERR_INVALID_PARAMETER | what it held                |
-///   | the value lies outside its range          | SDK4_ERR_OUTOFRANGE        | the nearest admitted value! |
+///   | the camera does not have the function     | SDK4_ERR_NOT_IMPLEMENTED   | its old value               |
+///   | the function is not available now         | SDK4_ERR_DISABLED          | its old value               |
+///   | writing is locked by another setting      | SDK4_ERR_CANTSETFEATURE    | its old value               |
+///   | the value is not an admitted one          | SDK4_ERR_INVALID_PARAMETER | its old value               |
+///   | the value is out of range                 | SDK4_ERR_OUTOFRANGE        | the nearest admitted value! |
 ///
 ///   The Orvik family checks in the order of the table, so a lock is reported before a bad value; a value out of range
 ///   is reported *after* the clamped write. A bad index or a null pointer is SDK4_ERR_INVALID_PARAMETER before
@@ -58,7 +58,7 @@
 /// - **Texts** are valid until the next call on any object of the library, because all objects share the buffers. Do
 ///   not ask for texts from two threads at once, even of different objects.
 /// - **Registers** are given by their address in the camera or, in IGigECamera, by that of the bootstrap register of
-///   the GigE Vision standard. "Not checked" means that the value goes to the camera as it is.
+///   the GigE Vision standard. "Not checked" means that the value is written unchanged.
 
 #include <SDK4/Callback.h>
 #include <SDK4/Enums.h>

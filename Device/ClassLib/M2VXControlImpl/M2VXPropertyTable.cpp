@@ -4,7 +4,7 @@ namespace SDK4::Control {
 
 namespace {
 
-/// Sets the limits of a part of a compound property that was made without. Raises its value to the minimum.
+/// Sets the limits of a part of a compound property, and raises its value to the minimum.
 template <typename T> void SetLimits(CPropertyParams& property, T minimum, T maximum, T defaultValue) {
     property.SetMin(minimum);
     property.SetMax(maximum);

@@ -87,7 +87,7 @@ int CM2VXBaseControl::GetTemperaturePCB() {
     return family->GetTemperaturePCB();
 }
 
-// The only sensor answers to every number.
+// There is only one sensor; the number is ignored.
 int CM2VXBaseControl::GetTemperature(int /*sensor*/) {
     SDK4_LOG_CALL();
     return family->GetTemperaturePCB();
