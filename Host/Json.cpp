@@ -36,6 +36,9 @@ OrderedJson ToDocument(const Json& json) {
     if (const auto* const number = json.Number()) {
         return *number;
     }
+    if (const auto* const fraction = json.Fraction()) {
+        return *fraction;
+    }
     return json.Bool() != nullptr ? OrderedJson(*json.Bool()) : OrderedJson();
 }
 

@@ -28,6 +28,7 @@ public:
     Json(std::int64_t value) : content(value) {}
     Json(int value) : content(std::int64_t{value}) {}
     Json(unsigned int value) : content(std::int64_t{value}) {}
+    Json(double value) : content(value) {} ///< for printing alone: none is read back
     Json(std::string value) : content(std::move(value)) {}
     Json(std::string_view value) : content(std::string(value)) {}
     Json(const char* value) : content(std::string(value)) {}
@@ -45,6 +46,7 @@ public:
     // The content, or a null pointer if it has another type.
     [[nodiscard]] const bool* Bool() const { return std::get_if<bool>(&content); }
     [[nodiscard]] const std::int64_t* Number() const { return std::get_if<std::int64_t>(&content); }
+    [[nodiscard]] const double* Fraction() const { return std::get_if<double>(&content); }
     [[nodiscard]] const std::string* Text() const { return std::get_if<std::string>(&content); }
     [[nodiscard]] const List* Elements() const { return std::get_if<List>(&content); }
     [[nodiscard]] const Object* Members() const { return std::get_if<Object>(&content); }
@@ -58,7 +60,7 @@ public:
     [[nodiscard]] static Json Parse(const std::string& text);
 
 private:
-    std::variant<std::monostate, bool, std::int64_t, std::string, List, Object> content;
+    std::variant<std::monostate, bool, std::int64_t, double, std::string, List, Object> content;
 };
 
 } // namespace Host

@@ -1,5 +1,6 @@
 #include "Host/Program.h"
 
+#include "Host/Channel/ChannelErrors.h"
 #include "Host/Command.h"
 
 #include <utility>
@@ -36,7 +37,12 @@ void Program::SaveState() {
 
 void Program::Finish() {
     if (session && !std::exchange(finished, true)) {
-        session->Connection().RequireUnbroken();
+        try {
+            session->Connection().RequireUnbroken();
+        } catch (ChannelLost& error) {
+            error.SetFunction("at the end");
+            throw;
+        }
         SaveState();
     }
 }

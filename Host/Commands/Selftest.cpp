@@ -4,6 +4,7 @@
 #include "Host/Commands/Commands.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
+#include "Host/Progress.h"
 #include "Host/Settings/Restorer.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Host/Settings/UncachedCamera.h"
@@ -19,33 +20,6 @@ namespace Host {
 namespace {
 
 constexpr const char* notPutBack = "the settings could not be restored";
-
-/// Progress bar, on a styled terminal only.
-class Progress {
-public:
-    explicit Progress(std::size_t totalSteps) : total(totalSteps), shown(IsStyled(STDERR_FILENO)) {}
-    ~Progress() {
-        if (shown) {
-            std::cerr << "\r\033[K" << std::flush;
-        }
-    }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-
-    void Step(const std::string& name) {
-        const std::size_t width = 40;
-        const std::size_t filled = width * done++ / total;
-        if (shown) {
-            std::cerr << "\r[" << std::string(filled, '#') << std::string(width - filled, ' ') << "] " << name
-                      << "\033[K" << std::flush;
-        }
-    }
-
-private:
-    std::size_t total;
-    std::size_t done = 0;
-    bool shown;
-};
 
 /// Saves the settings of the camera and restores them when the test ends.
 class SettingsGuard {

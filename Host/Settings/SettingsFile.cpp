@@ -6,9 +6,6 @@
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <filesystem>
 #include <iostream>
 #include <sstream>
 #include <system_error>
@@ -153,17 +150,7 @@ Json ToJson(const Settings& settings) {
     return document;
 }
 
-/// Whether the error is due to the file name.
-bool IsOfName(const std::error_code& code) {
-    const int names[] = {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EINVAL, ENAMETOOLONG, ELOOP};
-    return std::find(std::begin(names), std::end(names), code.value()) != std::end(names);
-}
-
 } // namespace
-
-std::string DescribeFile(const std::string& file) {
-    return file == standardStream ? "standard input" : '"' + file + '"';
-}
 
 Settings ReadSettings(const std::string& file, bool inShell) {
     if (file == standardStream && inShell) {
@@ -186,24 +173,7 @@ Settings ReadSettings(const std::string& file, bool inShell) {
 }
 
 void WriteSettings(const Settings& settings, const std::string& file) {
-    const std::string text = ToJson(settings).Print() + '\n';
-    if (file == standardStream) {
-        std::cout << text << std::flush;
-        return;
-    }
-    std::error_code ignored;
-    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
-        Fail(file, "not a regular file; use " + std::string(standardStream) + " for standard output");
-    }
-    try {
-        Common::ReplaceFile(file, text);
-    } catch (const std::system_error& error) {
-        const std::string why = "cannot be written: " + error.code().message();
-        if (IsOfName(error.code())) {
-            Fail(file, why);
-        }
-        throw std::runtime_error(DescribeFile(file) + ": " + why);
-    }
+    WriteOutput(file, ToJson(settings).Print() + '\n');
 }
 
 } // namespace Host

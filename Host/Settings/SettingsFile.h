@@ -1,16 +1,11 @@
 #pragma once
 
+#include "Host/OutputFile.h"
 #include "Host/Settings/Settings.h"
 
 #include <string>
 
 namespace Host {
-
-/// File name for standard input or standard output.
-constexpr const char* standardStream = "-";
-
-/// The name of an input file for messages: in quotes, or "standard input".
-[[nodiscard]] std::string DescribeFile(const std::string& file);
 
 /// Writes settings as JSON. An existing file is replaced atomically.
 /// @throws UsageError for an invalid file name; std::runtime_error if writing fails

@@ -1,0 +1,49 @@
+#include "Host/OutputFile.h"
+
+#include "Common/File.h"
+#include "Host/Errors.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
+
+namespace Host {
+
+namespace {
+
+/// Whether the name of a file was wrong, and not what happened to it.
+bool IsOfName(const std::error_code& code) {
+    const int names[] = {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EINVAL, ENAMETOOLONG, ELOOP};
+    return std::find(std::begin(names), std::end(names), code.value()) != std::end(names);
+}
+
+} // namespace
+
+std::string DescribeFile(const std::string& file) {
+    return file == standardStream ? "standard input" : '"' + file + '"';
+}
+
+void WriteOutput(const std::string& file, std::string_view content) {
+    if (file == standardStream) {
+        std::cout << content << std::flush;
+        return;
+    }
+    std::error_code ignored;
+    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
+        throw UsageError(DescribeFile(file) + ": is no regular file; " + standardStream +
+                         " stands for standard output");
+    }
+    try {
+        Common::ReplaceFile(file, content);
+    } catch (const std::system_error& error) {
+        const std::string text = DescribeFile(file) + ": cannot be written: " + error.code().message();
+        if (IsOfName(error.code())) {
+            throw UsageError(text);
+        }
+        throw std::runtime_error(text);
+    }
+}
+
+} // namespace Host

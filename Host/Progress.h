@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace Host {
+
+/// How far a run is: a bar on standard error, on a styled terminal alone.
+class Progress {
+public:
+    explicit Progress(std::size_t totalSteps);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    /// @param name of the step that begins
+    void Step(const std::string& name);
+
+private:
+    std::size_t total;
+    std::size_t done = 0;
+    bool shown;
+};
+
+} // namespace Host

@@ -1,0 +1,80 @@
+#include "Host/Settings/Assign.h"
+
+#include "Host/Command.h"
+#include "Host/Describe.h"
+#include "Host/ErrorReporting.h"
+#include "Host/Settings/ReadWhenSettled.h"
+#include "Host/Settings/UncachedCamera.h"
+
+namespace Host {
+
+namespace {
+
+/// @param reader tells what the camera holds, whatever the other control remembers
+Assigned Perform(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
+    Assigned result;
+    result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
+    if (result.failure.code != 0) {
+        result.lockedBy = camera.Inspect(assignment.instance).lockedBy;
+    }
+    if (assignment.instance->get != nullptr) {
+        const Reading reading = ReadWhenSettled(reader, assignment.instance, assignment.value, wait);
+        if (reading.code == 0) {
+            result.held = reading.value;
+            result.rounded = camera.RoundsTo(assignment.instance, assignment.value, reading.value);
+        } else if (result.failure.code == 0 && !reading.IsAbsent()) {
+            result.failure = {reading.code,
+                              "accepted, but what the camera now holds could not be read: " + reading.reason,
+                              reading.cause};
+        }
+    }
+    return result;
+}
+
+/// What became of a value that the camera does not hold as it was asked for.
+std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
+    const std::string asked = assignment.instance.Print(assignment.value);
+    const std::string held = assignment.instance.Print(*result.held);
+    if (result.failure.code == 0) {
+        return asked + (result.rounded ? " was rounded to " : " was accepted, but the camera now holds ") + held;
+    }
+    const bool clamped = result.failure.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
+    return clamped ? asked + " was clamped, the camera now holds " + held
+                   : asked + " was refused, the camera still holds " + held;
+}
+
+/// Says on standard error what did not go as asked for.
+/// @return whether it was refused
+bool Report(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
+    const bool differs = result.held && *result.held != assignment.value;
+    if (result.failure.code == 0 && !differs) {
+        return false;
+    }
+    std::string text = assignment.instance.Name();
+    if (result.failure.code != 0) {
+        text += ": " + result.failure.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
+    }
+    if (differs) {
+        text += ": " + DescribeHeld(camera, assignment, result);
+    }
+    PrintError(text);
+    return result.failure.code != 0 || !result.rounded;
+}
+
+} // namespace
+
+bool Assign(Session& session, const std::vector<FunctionValue>& assignments,
+            const std::function<void(const FunctionValue&, const Assigned&)>& told) {
+    const Camera camera = session.Camera();
+    const UncachedCamera reader(session);
+    const Wait wait = MakeWait(session);
+    bool refused = false;
+    for (const FunctionValue& assignment : assignments) {
+        const Assigned result = Perform(camera, reader.Camera(), wait, assignment);
+        told(assignment, result);
+        refused |= Report(camera, assignment, result);
+    }
+    return refused;
+}
+
+} // namespace Host
