@@ -11,7 +11,22 @@
 namespace Host {
 
 /// The parameters of commands.
-enum class Parameter { All, Assignments, Camera, DryRun, File, First, Names, Outputs, Plugin, Second, Seconds };
+enum class Parameter {
+    All,
+    Assignments,
+    Camera,
+    Count,
+    DryRun,
+    Every,
+    File,
+    First,
+    Names,
+    Outputs,
+    Plugin,
+    Raw,
+    Second,
+    Seconds,
+};
 
 /// Whether an operand is required.
 enum class Required { Always, OutsideShell, Never };

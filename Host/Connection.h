@@ -1,9 +1,12 @@
 #pragma once
 
+#include "Host/Pictures/PictureSource.h"
+
 #include <SDK4/IControlPort.h>
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace Host {
@@ -35,9 +38,14 @@ public:
     /// If a write failed since the last call because another program has control, a description of that program; else
     /// empty.
     [[nodiscard]] virtual std::string TakeDenial() = 0;
-    /// At the end of a command: checks that the connection was never lost and the camera has not restarted.
+    /// Checks that the connection was never lost and the camera has not restarted.
     /// @throws ChannelLost, unless already thrown
     virtual void RequireUnbroken() = 0;
+
+    /// Opens the stream of pictures, which needs control. Acquisition must be stopped. One stream at a time.
+    /// @param format of the pictures that the camera is set to
+    /// @throws std::runtime_error with the reason
+    [[nodiscard]] virtual std::unique_ptr<PictureSource> OpenStream(const PictureFormat& format) = 0;
 
     /// Saves the camera to the state file, if there is one.
     virtual void SaveState() const = 0;

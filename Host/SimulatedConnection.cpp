@@ -1,6 +1,7 @@
 #include "Host/SimulatedConnection.h"
 
 #include "Host/Errors.h"
+#include "Host/Pictures/SimulatedPictures.h"
 
 #include "Simulation/CameraState.h"
 #include "Simulation/Cameras.h"
@@ -34,6 +35,7 @@ std::unique_ptr<Simulation::SimulatedCamera> SwitchOn(const std::string& model, 
 
 SimulatedConnection::SimulatedConnection(const std::string& model, const SimulationOptions& options)
     : state(options.state),
+      seed(options.seed.value_or(0)),
       camera(SwitchOn(model, options)) {}
 
 SimulatedConnection::~SimulatedConnection() = default;
@@ -41,6 +43,13 @@ SimulatedConnection::~SimulatedConnection() = default;
 SDK4::IControlPort& SimulatedConnection::Port() { return *camera; }
 
 void SimulatedConnection::Wait(std::chrono::microseconds time) { camera->Advance(time); }
+
+std::unique_ptr<PictureSource> SimulatedConnection::OpenStream(const PictureFormat& /*format*/) {
+    if (!acquisition) {
+        acquisition = std::make_unique<Simulation::Acquisition>(*camera);
+    }
+    return std::make_unique<SimulatedPictures>(*camera, *acquisition, Simulation::World(seed));
+}
 
 void SimulatedConnection::SaveState() const {
     if (!state.empty()) {

@@ -8,8 +8,9 @@
 #include <vector>
 
 namespace Simulation {
+class Acquisition;
 class SimulatedCamera;
-}
+} // namespace Simulation
 
 namespace Host {
 
@@ -38,11 +39,14 @@ public:
     void RequireControl() override {}
     [[nodiscard]] std::string TakeDenial() override { return ""; }
     void RequireUnbroken() override {}
+    [[nodiscard]] std::unique_ptr<PictureSource> OpenStream(const PictureFormat& format) override;
     void SaveState() const override;
 
 private:
     std::string state;
+    std::uint64_t seed;
     std::unique_ptr<Simulation::SimulatedCamera> camera;
+    std::unique_ptr<Simulation::Acquisition> acquisition; ///< which the camera knows from the first stream on
 };
 
 } // namespace Host

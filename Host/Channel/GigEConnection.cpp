@@ -1,8 +1,8 @@
 #include "Host/Channel/GigEConnection.h"
 
-#include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/DeferredTermination.h"
 #include "Host/Channel/GigEPort.h"
+#include "Host/Channel/GigEStream.h"
 #include "Host/Errors.h"
 
 #include <thread>
@@ -29,13 +29,9 @@ public:
         }
     }
     [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.DescribeController() : ""; }
-    void RequireUnbroken() override {
-        try {
-            port.RequireUnbrokenControl();
-        } catch (ChannelLost& error) {
-            error.SetFunction("at the end");
-            throw;
-        }
+    void RequireUnbroken() override { port.RequireUnbrokenControl(); }
+    [[nodiscard]] std::unique_ptr<PictureSource> OpenStream(const PictureFormat& format) override {
+        return OpenGigEStream(port.Device(), format);
     }
     void SaveState() const override {} // a real camera keeps its state
 

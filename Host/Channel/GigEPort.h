@@ -38,6 +38,9 @@ public:
     /// The model name that the camera reports.
     [[nodiscard]] std::string ModelName();
 
+    /// For the stream of pictures.
+    [[nodiscard]] _ArvDevice& Device() { return *device; }
+
     [[nodiscard]] bool HasControl() const { return controls; }
     /// Takes control, if no other program has it now.
     void TryToTakeControl();

@@ -23,6 +23,14 @@ const std::vector<Command>& Commands() {
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Include I/O lines, motors and lenses, which act on connected devices"};
     static const Syntax dryRun{Parameter::DryRun, "--dry-run", "Print what would be set; set nothing"};
+    static const Syntax picture{Parameter::File, "FILE",
+                                "A PNG file for the picture; of several, FILE-0001 and so on; - is standard output",
+                                Required::Never};
+    static const Syntax before{Parameter::Assignments, "NAME=VALUE", "What to set before the first picture",
+                               Required::Never, true};
+    static const Syntax count{Parameter::Count, "--count N", "Take N pictures (default: 1)"};
+    static const Syntax every{Parameter::Every, "--every K", "Write the first picture and then each K-th"};
+    static const Syntax raw{Parameter::Raw, "--raw", "Write the bytes as the camera sent them, described in FILE.json"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
@@ -36,6 +44,7 @@ const std::vector<Command>& Commands() {
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if they cannot be compared",
                                                                             {first, second},                 Diff, true, NotCompared},
         {"restore",  "Restore saved settings",                                         {read, camera, outputs, dryRun}, Restore},
+        {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, later, seconds},        Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {camera, outputs},               Selftest},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},

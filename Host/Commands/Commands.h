@@ -15,6 +15,7 @@ int Set(const Invocation& invocation);
 int Save(const Invocation& invocation);
 int Diff(const Invocation& invocation);
 int Restore(const Invocation& invocation);
+int Grab(const Invocation& invocation);
 int Watch(const Invocation& invocation);
 int Selftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);

@@ -1,0 +1,161 @@
+#include "Host/Channel/GigEStream.h"
+
+#include "Host/Channel/AravisErrors.h"
+#include "Host/Channel/ReceiveSocket.h"
+#include "Host/Pictures/PixelFormat.h"
+
+#include <arv.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace Host {
+
+namespace {
+
+constexpr std::uint64_t bufferedBytes = std::uint64_t{256} << 20; ///< of all pictures that may wait to be taken, ...
+constexpr std::uint64_t fewestBuffers = 4;                        ///< ... of which there are that many at least
+constexpr std::uint64_t mostBuffers = 32;
+constexpr std::uint64_t largestPicture = std::uint64_t{1} << 30;
+constexpr std::uint64_t lateness = 1000; ///< a frame number that is lower by more is one after the numbers began anew
+
+struct Unreference {
+    void operator()(void* object) const { g_object_unref(object); }
+};
+using Buffer = std::unique_ptr<ArvBuffer, Unreference>;
+using Stream = std::unique_ptr<ArvStream, Unreference>;
+
+Stream Create(ArvDevice& device) {
+    arv_gv_device_set_packet_size_adjustment(ARV_GV_DEVICE(&device), ARV_GV_PACKET_SIZE_ADJUSTMENT_ALWAYS);
+    // Else what root receives is not counted with the socket, nor limited by its buffer.
+    arv_gv_device_set_stream_options(ARV_GV_DEVICE(&device), ARV_GV_STREAM_OPTION_PACKET_SOCKET_DISABLED);
+    GError* failure = nullptr;
+    Stream stream(arv_device_create_stream(&device, nullptr, nullptr, &failure));
+    const std::unique_ptr<GError, decltype(&g_error_free)> error(failure, &g_error_free);
+    if (stream == nullptr || error != nullptr) {
+        throw std::runtime_error("the stream of pictures could not be opened: " +
+                                 (error ? Reason(*error) : "unknown error"));
+    }
+    return stream;
+}
+
+class GigEStream final : public PictureSource {
+public:
+    GigEStream(ArvDevice& device, std::uint64_t payload)
+        : stream(Create(device)),
+          socket(arv_gv_stream_get_port(ARV_GV_STREAM(stream.get()))),
+          packetSize(arv_gv_device_get_packet_size(ARV_GV_DEVICE(&device), nullptr)),
+          wantedBuffer(2 * payload) {
+        socket.Enlarge(wantedBuffer); // before the first packet comes, as Aravis would not
+        const std::uint64_t buffers = std::clamp(bufferedBytes / payload, fewestBuffers, mostBuffers);
+        for (std::uint64_t i = 0; i < buffers; ++i) {
+            arv_stream_push_buffer(stream.get(), arv_buffer_new_allocate(payload));
+        }
+    }
+
+    [[nodiscard]] const Picture* Next(std::chrono::milliseconds longest) override;
+    [[nodiscard]] StreamStatistics Statistics() const override;
+    [[nodiscard]] std::string ExplainLosses() const override;
+
+private:
+    /// Takes note of a frame that came, or that began to come. @return whether it is there as a whole
+    bool Count(ArvBuffer* buffer);
+    [[nodiscard]] std::uint64_t Info(const char* name) const {
+        return arv_stream_get_info_uint64_by_name(stream.get(), name);
+    }
+
+    Stream stream;
+    ReceiveSocket socket;
+    std::uint32_t packetSize;
+    std::uint64_t wantedBuffer;
+    std::uint64_t last = 0; ///< frame; 0 before the first
+    std::uint64_t missing = 0;
+    Buffer held; ///< of the picture that was handed out
+    Picture picture{};
+};
+
+bool GigEStream::Count(ArvBuffer* buffer) {
+    const ArvBufferStatus status = arv_buffer_get_status(buffer);
+    if (status == ARV_BUFFER_STATUS_CLEARED || status == ARV_BUFFER_STATUS_ABORTED) {
+        return false;
+    }
+    const std::uint64_t number = arv_buffer_get_frame_id(buffer);
+    if (last != 0 && number > last) {
+        missing += number - last - 1;
+    } else if (last > number + lateness) { // 1 comes after 65535
+        missing += 65535 - std::min<std::uint64_t>(last, 65535) + number - 1;
+    }
+    last = number;
+    missing += status == ARV_BUFFER_STATUS_SUCCESS ? 0 : 1;
+    return status == ARV_BUFFER_STATUS_SUCCESS;
+}
+
+/// What Aravis knows of an image alone; of anything else nothing, which fits no format.
+PictureFormat FormatOf(ArvBuffer* buffer) {
+    if (arv_buffer_get_payload_type(buffer) != ARV_BUFFER_PAYLOAD_TYPE_IMAGE) {
+        return {};
+    }
+    return {arv_buffer_get_image_pixel_format(buffer), static_cast<std::uint32_t>(arv_buffer_get_image_width(buffer)),
+            static_cast<std::uint32_t>(arv_buffer_get_image_height(buffer))};
+}
+
+const Picture* GigEStream::Next(std::chrono::milliseconds longest) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + longest;
+    for (auto left = std::chrono::microseconds(longest); left.count() > 0;
+         left = std::chrono::duration_cast<std::chrono::microseconds>(end - Clock::now())) {
+        Buffer came(arv_stream_timeout_pop_buffer(stream.get(), static_cast<guint64>(left.count())));
+        if (came == nullptr) {
+            break;
+        }
+        if (!Count(came.get())) {
+            arv_stream_push_buffer(stream.get(), came.release());
+            continue;
+        }
+        if (held != nullptr) {
+            arv_stream_push_buffer(stream.get(), held.release());
+        }
+        held = std::move(came);
+        std::size_t size = 0;
+        const auto* const data = static_cast<const std::uint8_t*>(arv_buffer_get_data(held.get(), &size));
+        picture = {FormatOf(held.get()),
+                   arv_buffer_get_frame_id(held.get()),
+                   std::chrono::nanoseconds(arv_buffer_get_timestamp(held.get())),
+                   {data, size}};
+        return &picture;
+    }
+    return nullptr;
+}
+
+StreamStatistics GigEStream::Statistics() const {
+    return {missing, Info("n_resent_packets"), socket.Dropped(), packetSize, socket.BufferSize()};
+}
+
+std::string GigEStream::ExplainLosses() const {
+    if (Info("n_received_packets") == 0) {
+        return "no packet came: does a firewall let UDP from the camera through?";
+    }
+    const std::uint64_t dropped = socket.Dropped();
+    if (dropped == 0) {
+        return "this machine dropped none of the packets that reached it";
+    }
+    const std::uint64_t granted = socket.BufferSize();
+    return std::to_string(dropped) + " packets found no room in the socket buffer of " + std::to_string(granted) +
+           " bytes" +
+           (granted < wantedBuffer
+                ? ", which sysctl net.core.rmem_max limits; " + std::to_string(wantedBuffer) + " bytes were asked for"
+                : "");
+}
+
+} // namespace
+
+std::unique_ptr<PictureSource> OpenGigEStream(_ArvDevice& device, const PictureFormat& format) {
+    const std::uint64_t payload = PayloadSize(format.pixelFormat, format.width, format.height);
+    if (payload == 0 || payload > largestPicture) {
+        throw std::runtime_error("pictures of " + std::to_string(payload) + " bytes cannot be received");
+    }
+    return std::make_unique<GigEStream>(device, payload);
+}
+
+} // namespace Host

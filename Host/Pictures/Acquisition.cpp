@@ -1,0 +1,128 @@
+#include "Host/Pictures/Acquisition.h"
+
+#include "Host/Channel/ChannelErrors.h"
+#include "Host/Interrupts.h"
+#include "Host/Pictures/PixelFormat.h"
+
+#include <SDK4/IDSMediaType.h>
+#include <SDK4/IExposure.h>
+#include <SDK4/ITiming.h>
+#include <SDK4/IVideoFrame.h>
+
+#include <stdexcept>
+#include <utility>
+
+namespace Host {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr milliseconds slice{100};                 ///< within which a signal is noticed
+constexpr milliseconds reserve{2000};              ///< beyond what the frames themselves take
+constexpr int patientFrames = 3;                   ///< that may be waited for
+constexpr milliseconds unknownFrameDuration{1000}; ///< of a control without timing
+
+template <typename Interface> Interface& Require(const Session& session) {
+    if (auto* const found = session.As<Interface>()) {
+        return *found;
+    }
+    throw std::runtime_error("the control of " + session.Model() + " delivers no pictures");
+}
+
+PictureFormat FormatOf(const Session& session) {
+    auto* const frame = dynamic_cast<SDK4::IVideoFrame*>(Require<SDK4::Control::IDSMediaType>(session).GetMediaType());
+    if (frame == nullptr) {
+        throw std::runtime_error("the media type of " + session.Model() + " is none of video frames");
+    }
+    return {frame->GetFormat(), frame->GetWidth(), frame->GetHeight()};
+}
+
+/// The media type tells the duration as well, but in nanoseconds, which have no room for long exposures.
+milliseconds PatienceWith(const Session& session) {
+    auto* const timing = session.As<SDK4::Control::ITiming>();
+    const milliseconds frame =
+        timing == nullptr ? unknownFrameDuration : milliseconds(timing->GetFrameDuration() / 1000);
+    return reserve + patientFrames * frame;
+}
+
+SDK4::Control::ITrigger* TriggerOf(const Session& session) {
+    auto* const exposure = session.As<SDK4::Control::IExposure>();
+    const bool waits = exposure != nullptr && exposure->GetExposureMode() >= SDK4_EXPOSUREMODE_RESETRESTART;
+    return waits ? session.As<SDK4::Control::ITrigger>() : nullptr;
+}
+
+std::string Describe(const PictureFormat& format) {
+    return std::to_string(format.width) + " x " + std::to_string(format.height) + ' ' +
+           PixelFormatName(format.pixelFormat);
+}
+
+/// What makes up the picture, of what came.
+std::span<const std::uint8_t> RequireFitting(const Picture& came, const PictureFormat& announced) {
+    if (came.format != announced) {
+        throw std::runtime_error("the camera sent a frame of " + Describe(came.format) + " instead of " +
+                                 Describe(announced));
+    }
+    const std::uint64_t size = PayloadSize(announced.pixelFormat, announced.width, announced.height);
+    if (came.bytes.size() < size) {
+        throw std::runtime_error("the camera sent a frame of " + std::to_string(came.bytes.size()) + " bytes; " +
+                                 Describe(announced) + " takes " + std::to_string(size));
+    }
+    return came.bytes.first(size);
+}
+
+} // namespace
+
+Acquisition::Acquisition(Session& opened)
+    : session(opened),
+      control(Require<SDK4::IStreamControl>(opened)),
+      trigger(TriggerOf(opened)),
+      format(FormatOf(opened)),
+      patience(PatienceWith(opened)) {
+    control.Stop(); // a camera may still run for a program that died
+    source = session.Connection().OpenStream(format);
+    runs = true; // a camera that did not acknowledge the start may have started all the same
+    try {
+        control.Start();
+    } catch (...) {
+        Abandon();
+        throw;
+    }
+}
+
+Acquisition::~Acquisition() { Abandon(); }
+
+void Acquisition::Abandon() {
+    try {
+        Stop();
+    } catch (...) { // NOLINT(bugprone-empty-catch): what ended the acquisition is told
+    }
+}
+
+void Acquisition::Stop() {
+    if (std::exchange(runs, false)) {
+        control.Stop();
+    }
+}
+
+const Picture* Acquisition::Next() {
+    if (trigger != nullptr) {
+        trigger->SetSoftTrigger(1);
+    }
+    for (milliseconds waited{0}; waited < patience && !Interrupts::Received(); waited += slice) {
+        if (const Picture* const came = source->Next(slice)) {
+            picture = *came;
+            picture.bytes = RequireFitting(*came, format);
+            return &picture;
+        }
+    }
+    try {
+        session.Connection().RequireUnbroken();
+    } catch (ChannelLost& error) {
+        error.SetFunction("waiting for a picture");
+        throw;
+    }
+    return nullptr;
+}
+
+} // namespace Host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Host/Pictures/PictureSource.h"
+#include "Host/Pictures/PixelFormat.h"
+
+namespace Host {
+
+/// What the samples of a picture are like, those of all channels together.
+struct Measures {
+    std::uint32_t minimum = 0;
+    std::uint32_t maximum = 0;
+    double mean = 0;
+    double saturated = 0; ///< percent of the samples that are at full scale
+    double sharpness = 0; ///< mean difference of horizontal neighbours, in per mille of full scale
+};
+
+[[nodiscard]] Measures Measure(const Picture& picture, const PixelFormat& format);
+
+} // namespace Host

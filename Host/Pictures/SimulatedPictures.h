@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Host/Pictures/PictureSource.h"
+
+#include "Simulation/Acquisition.h"
+#include "Simulation/Picture/Renderer.h"
+
+namespace Host {
+
+/// The pictures of a simulated camera in this process. Nothing is lost, and the camera's time passes as fast as its
+/// pictures can be made.
+class SimulatedPictures final : public PictureSource {
+public:
+    SimulatedPictures(Simulation::SimulatedCamera& ofCamera, Simulation::Acquisition& ofItsFrames,
+                      const Simulation::World& world)
+        : camera(ofCamera),
+          acquisition(ofItsFrames),
+          renderer(world) {}
+
+    [[nodiscard]] const Picture* Next(std::chrono::milliseconds longest) override;
+    [[nodiscard]] StreamStatistics Statistics() const override { return {}; }
+    [[nodiscard]] std::string ExplainLosses() const override { return ""; }
+
+private:
+    Simulation::SimulatedCamera& camera;
+    Simulation::Acquisition& acquisition;
+    Simulation::Picture::Renderer renderer;
+    Simulation::Picture::Frame frame;
+    Picture picture;
+};
+
+} // namespace Host
