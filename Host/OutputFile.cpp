@@ -13,7 +13,7 @@ namespace Host {
 
 namespace {
 
-/// Whether the name of a file was wrong, and not what happened to it.
+/// Whether the error is due to the file name.
 bool IsOfName(const std::error_code& code) {
     const int names[] = {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EINVAL, ENAMETOOLONG, ELOOP};
     return std::find(std::begin(names), std::end(names), code.value()) != std::end(names);
@@ -32,8 +32,8 @@ void WriteOutput(const std::string& file, std::string_view content) {
     }
     std::error_code ignored;
     if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
-        throw UsageError(DescribeFile(file) + ": is no regular file; " + standardStream +
-                         " stands for standard output");
+        throw UsageError(DescribeFile(file) + ": not a regular file; use " + standardStream +
+                         " for standard output");
     }
     try {
         Common::ReplaceFile(file, content);

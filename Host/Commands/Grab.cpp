@@ -41,7 +41,7 @@ std::uint64_t NumberOf(const Invocation& invocation, Parameter parameter) {
     const std::string text = invocation.Text(parameter);
     const auto number = Common::ParseWhole<std::uint64_t>(text);
     if (!number || *number < 1 || *number > 1'000'000'000) {
-        throw UsageError("\"" + text + "\" is no number of pictures");
+        throw UsageError("invalid number of pictures \"" + text + "\"");
     }
     return *number;
 }
