@@ -65,7 +65,7 @@ void AddStream(CLI::App& app, Options& options) {
     const char* const group = "Stream";
     const std::uint64_t fastestLink = 1000000;
     app.add_option("--link", options.stream.megabytesPerSecond,
-                   "Speed of the link in megabytes per second (500); 0: as fast as this machine can")
+                   "Speed of the link in megabytes per second (125); 0: as fast as this machine can")
         ->type_name("MB/S")
         ->group(group)
         ->check(Between(0, fastestLink));

@@ -12,7 +12,7 @@ namespace Simulation::GigEVision {
 
 /// How a stream gets into the network.
 struct StreamOptions {
-    std::uint32_t megabytesPerSecond = 500; ///< of the link; 0: as fast as this machine can
+    std::uint32_t megabytesPerSecond = 125; ///< of the link: Gigabit Ethernet; 0: as fast as this machine can
     double drop = 0;                        ///< share of the packets that get lost
     std::chrono::milliseconds delay{0};     ///< the longest time for which a packet is held back
     std::uint64_t seed = 0;                 ///< of what the camera sees, and of what gets lost
