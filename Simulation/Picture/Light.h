@@ -30,7 +30,7 @@ private:
     std::vector<std::int16_t> scaled;
 };
 
-/// What becomes of the light of a tone: first a value of the sensor, of 14 bits, then one of a channel of the picture.
+/// What becomes of the light of a tone: a value of 14 bits of a channel of the picture.
 /// Noise that grows with the root of the light is as great for each tone, so it is added to the tone.
 class Tables {
 public:
@@ -43,8 +43,8 @@ public:
 
     /// The values by tones, from -Noise::peak steps to Noise::peak steps beyond the last tone.
     [[nodiscard]] const std::uint16_t* Of(std::size_t channel) const { return &tones[channel][Noise::peak]; }
-    /// The values by those of the sensor.
-    [[nodiscard]] const std::uint16_t* AfterSensor(std::size_t channel) const { return values[channel].data(); }
+    /// The values by those that a pattern puts in place of the sensor's.
+    [[nodiscard]] const std::uint16_t* OfPattern(std::size_t channel) const { return values[channel].data(); }
     /// How much noise there is, in steps.
     [[nodiscard]] std::uint32_t Deviation() const { return deviation; }
 

@@ -18,12 +18,15 @@ std::size_t Filter(std::uint32_t column, std::uint32_t row) {
 
 void Saturate(std::vector<std::uint16_t>& line, std::uint32_t saturation) {
     const auto factor = static_cast<std::int32_t>(saturation);
-    for (std::size_t i = 0; i + 2 < line.size(); i += 3) {
-        const std::int32_t gray = (77 * line[i] + 150 * line[i + 1] + 29 * line[i + 2]) >> 8;
-        for (std::size_t channel = 0; channel < 3; ++channel) {
-            const std::int32_t value = gray + (line[i + channel] - gray) * factor / 128;
-            line[i + channel] = static_cast<std::uint16_t>(std::clamp(value, 0, Tables::fullScale));
-        }
+    const auto saturate = [factor](std::int32_t value, std::int32_t gray) {
+        return static_cast<std::uint16_t>(std::clamp(gray + ((value - gray) * factor >> 7), 0, Tables::fullScale));
+    };
+    std::uint16_t* const end = line.data() + line.size();
+    for (std::uint16_t* pixel = line.data(); pixel != end; pixel += 3) {
+        const std::int32_t gray = (77 * pixel[0] + 150 * pixel[1] + 29 * pixel[2]) >> 8;
+        pixel[0] = saturate(pixel[0], gray);
+        pixel[1] = saturate(pixel[1], gray);
+        pixel[2] = saturate(pixel[2], gray);
     }
 }
 
@@ -63,9 +66,12 @@ void Renderer::Render(const Settings& settings, std::uint64_t number, Frame& fra
 }
 
 void Renderer::MakeLine(std::uint32_t y, std::uint64_t number) {
-    MakePixels(y, number);
+    const auto isPattern = [](Pattern pattern) { return pattern != Pattern::None; };
+    if (!std::all_of(made->patterns.begin(), made->patterns.end(), isPattern)) {
+        MakePixels(y, number);
+    }
     for (std::size_t half = 0; half < made->patterns.size(); ++half) {
-        if (made->patterns.at(half) != Pattern::None) {
+        if (isPattern(made->patterns.at(half))) {
             MakePattern(y, half);
         }
     }
@@ -105,12 +111,21 @@ void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
 }
 
 void Renderer::MakePattern(std::uint32_t y, std::size_t half) {
+    const PatternDrawer drawer(made->width, made->height);
+    const Pattern pattern = made->patterns.at(half);
     const std::uint32_t middle = made->width / 2;
-    for (std::uint32_t x = half == 0 ? 0 : middle, end = half == 0 ? middle : made->width; x < end; ++x) {
-        const auto values = PatternAt(made->patterns.at(half), x, y, made->width, made->height);
-        const std::size_t first = channels == 1 ? Filter(made->readout.offsetX + x, made->readout.offsetY + y) : 0;
-        for (std::size_t i = 0; i < channels; ++i) {
-            line[x * channels + i] = tables.AfterSensor(first + i)[values.at(first + i)];
+    const std::uint32_t begin = half == 0 ? 0 : middle;
+    const std::uint32_t end = half == 0 ? middle : made->width;
+    for (std::uint32_t x = begin; x < end; ++x) {
+        const PatternDrawer::Values values = drawer.At(pattern, x, y);
+        if (channels == 3) {
+            for (std::size_t i = 0; i < 3; ++i) {
+                line[3 * std::size_t{x} + i] = tables.OfPattern(i)[values[i]];
+            }
+        } else {
+            const bool isRaw = made->pixelFormat == raw14;
+            const std::size_t channel = isRaw ? Filter(made->readout.offsetX + x, made->readout.offsetY + y) : 0;
+            line[x] = tables.OfPattern(channel)[values.at(channel)];
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "Simulation/Picture/Scene.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdlib>
 
@@ -11,15 +12,16 @@ namespace {
 constexpr std::int64_t bottom = 16000; // half of the height
 constexpr std::int64_t unit = 16;      // what the chart is drawn in: thousandths of that
 
-constexpr Color paper{178, 180, 182};
-constexpr Color grid{150, 153, 157};
-constexpr Color ink{36, 38, 44};
-constexpr Color white{240, 240, 240};
-constexpr Color track{150, 166, 178};
+constexpr Color paper{180, 180, 180};
+constexpr Color grid{152, 152, 152};
+constexpr Color ink{38, 38, 38};
+constexpr Color white{250, 250, 250};
+constexpr Color track{228, 228, 228};
 
-constexpr Color Gray(std::int64_t tone) {
-    const auto byte = static_cast<std::uint8_t>(tone);
-    return {byte, byte, byte};
+/// A gray of a light in 1/4096 of the greatest.
+Color Gray(std::int64_t light) {
+    const std::uint8_t tone = ToneOf(static_cast<std::uint32_t>(light * 255 * 255 / 4096));
+    return {tone, tone, tone};
 }
 
 /// A part of the chart, in units.
@@ -41,24 +43,14 @@ constexpr Area trackArea{-690, 665, 690, 785};
 constexpr Place star{0, -65 * unit};
 constexpr std::int64_t starRadius = 330 * unit;
 
+// clang-format off
 constexpr Color patches[2][8] = {
-    {{226, 76, 60},
-     {236, 138, 52},
-     {238, 208, 58},
-     {120, 186, 70},
-     {50, 142, 86},
-     {64, 184, 196},
-     {52, 108, 184},
-     {98, 70, 160}},
-    {{186, 64, 128},
-     {232, 172, 190},
-     {226, 178, 146},
-     {142, 92, 66},
-     {206, 196, 160},
-     {128, 154, 116},
-     {150, 186, 222},
-     {70, 84, 118}},
+    {{222, 112, 100}, {226, 138, 70}, {236, 212, 100}, {132, 188, 92},
+     {104, 174, 126}, {84, 176, 196}, {98, 146, 214}, {146, 114, 196}},
+    {{208, 112, 168}, {234, 190, 206}, {230, 194, 168}, {170, 128, 106},
+     {218, 208, 178}, {154, 172, 126}, {176, 204, 234}, {110, 126, 160}},
 };
+// clang-format on
 
 /// "QDV12", seven lines of a glyph five columns wide, the highest bit of five is left.
 constexpr std::uint8_t title[][7] = {
@@ -118,13 +110,15 @@ Color LineAt(std::int64_t along, std::int64_t length, std::int64_t across) {
     return across % period < period / 2 ? ink : white;
 }
 
+constexpr std::int64_t lightest = 3937; // in 1/4096, about that of the white
+
 Color RampAt(Place place) {
-    return Gray((place.x - rampArea.left * unit) * 245 / ((rampArea.right - rampArea.left) * unit));
+    return Gray((place.x - rampArea.left * unit) * lightest / ((rampArea.right - rampArea.left) * unit));
 }
 
 Color StepAt(Place place) {
     const std::int64_t step = (place.x - stepArea.left * unit) * 12 / ((stepArea.right - stepArea.left) * unit);
-    return Gray(245 - step * 245 / 11);
+    return Gray(lightest - step * lightest / 11);
 }
 
 Color TrackAt(Place place) {
@@ -136,11 +130,24 @@ Color TrackAt(Place place) {
 Color PaperAt(Place place) {
     const std::int64_t pitch = 125 * unit;
     const std::int64_t line = 4 * unit;
-    const auto isOn = [=](std::int64_t coordinate) { return std::abs(coordinate + line / 2) % pitch < line; };
+    const auto isOn = [=](std::int64_t coordinate) { return (coordinate + 1000 * pitch + line / 2) % pitch < line; };
     return isOn(place.x) || isOn(place.y) ? grid : paper;
 }
 
 } // namespace
+
+std::uint8_t ToneOf(std::uint32_t light) {
+    static const auto tones = [] {
+        std::array<std::uint8_t, 255 * 255 + 1> roots{};
+        std::uint32_t root = 0;
+        for (std::uint32_t i = 0; i < roots.size(); ++i) {
+            root += i > root * root + root ? 1 : 0;
+            roots[i] = static_cast<std::uint8_t>(root);
+        }
+        return roots;
+    }();
+    return tones[light];
+}
 
 Scene::Scene(std::uint32_t sensorWidth, std::uint32_t sensorHeight)
     : width(sensorWidth),
@@ -197,7 +204,7 @@ Color Scene::At(Place place) const {
 }
 
 std::uint32_t Scene::MeanLight() const {
-    const std::int64_t samples = 512;
+    const std::int64_t samples = 311; // prime, so that it is no multiple of the lines
     std::uint64_t sum = 0;
     for (std::int64_t i = 0; i < samples * samples; ++i) {
         const std::int64_t column = i % samples;

@@ -14,6 +14,9 @@ struct Color {
     return (77U * color.red * color.red + 150U * color.green * color.green + 29U * color.blue * color.blue) >> 8;
 }
 
+/// The tone of a light: its square root, rounded.
+[[nodiscard]] std::uint8_t ToneOf(std::uint32_t light);
+
 /// A place in the scene, from its centre to the right and down. The sensor sees from -16000 to 16000 of its height,
 /// whatever its resolution.
 struct Place {
@@ -43,7 +46,7 @@ private:
 /// The mark that moves over the scene, from frame to frame.
 class Mark {
 public:
-    static constexpr Color color{224, 56, 40};
+    static constexpr Color color{206, 48, 40};
 
     explicit Mark(std::uint64_t frameNumber);
 

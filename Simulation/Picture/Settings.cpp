@@ -5,7 +5,7 @@
 #include "Simulation/Picture/Frame.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cstddef>
 
 namespace Simulation::Picture {
 
@@ -31,7 +31,8 @@ void SetExposure(const RegisterSpace& space, Settings& settings) {
 
 void SetColor(const RegisterSpace& space, Settings& settings) {
     const Words balance = space.Get("colorbalance");
-    std::copy_n(balance.begin(), settings.balance.size(), settings.balance.begin());
+    std::transform(balance.begin(), balance.end(), settings.balance.begin(),
+                   [](std::uint32_t factor) { return std::min(factor, 255U); });
     settings.saturation = std::min(space.Get("saturation")[0], 255U);
     settings.lightSource = space.Get("lightsource")[0];
 }

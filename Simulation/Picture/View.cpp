@@ -1,24 +1,20 @@
 #include "Simulation/Picture/View.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Simulation::Picture {
 
 namespace {
 
-/// The tone of each light: its square root, rounded.
-const std::vector<std::uint8_t>& ToneOf() {
-    static const auto tones = [] {
-        std::vector<std::uint8_t> roots(255 * 255 + 1);
-        std::uint32_t root = 0;
-        for (std::uint32_t i = 0; i < roots.size(); ++i) {
-            root += i > root * root + root ? 1 : 0;
-            roots[i] = static_cast<std::uint8_t>(root);
-        }
-        return roots;
-    }();
-    return tones;
+/// What a pixel of a monochrome sensor, or of one with colour filters, sees of a colour.
+void See(Color color, std::size_t channels, std::uint8_t* tones) {
+    if (channels == 1) {
+        *tones = ToneOf(LightOf(color));
+    } else {
+        tones[0] = color.red;
+        tones[1] = color.green;
+        tones[2] = color.blue;
+    }
 }
 
 } // namespace
@@ -44,31 +40,37 @@ void View::Update(const Settings& settings) {
     marked.resize(width * Channels());
     tones.resize(std::size_t{width} * height * Channels());
     for (std::uint32_t y = 0; y < height; ++y) {
-        MakeLine(scene, y);
+        std::uint8_t* const line = tones.data() + std::size_t{y} * width * Channels();
+        if (readout.binningX * readout.binningY == 1) {
+            MakeLine(scene, y, line);
+        } else {
+            MakeBinnedLine(scene, y, line);
+        }
     }
 }
 
-void View::MakeLine(const Scene& scene, std::uint32_t y) {
+void View::MakeLine(const Scene& scene, std::uint32_t y, std::uint8_t* line) const {
+    const std::size_t channels = Channels();
+    for (std::size_t x = 0; x < width; ++x) {
+        See(scene.At({columns[x], lines[y]}), channels, line + x * channels);
+    }
+}
+
+/// A pixel has the mean of the light of those that are binned, so that a picture stays as bright as it was.
+void View::MakeBinnedLine(const Scene& scene, std::uint32_t y, std::uint8_t* line) {
     const std::size_t channels = Channels();
     std::fill(light.begin(), light.end(), 0);
-    for (std::size_t line = std::size_t{y} * readout.binningY; line < std::size_t{y + 1} * readout.binningY; ++line) {
+    for (std::size_t i = std::size_t{y} * readout.binningY; i < std::size_t{y + 1} * readout.binningY; ++i) {
         for (std::size_t column = 0; column < columns.size(); ++column) {
-            const Color color = scene.At({columns[column], lines[line]});
-            std::uint32_t* const pixel = &light[column / readout.binningX * channels];
-            if (channels == 1) {
-                *pixel += LightOf(color);
-                continue;
-            }
-            const std::uint8_t parts[] = {color.red, color.green, color.blue};
-            for (std::size_t i = 0; i < channels; ++i) {
-                pixel[i] += std::uint32_t{parts[i]} * parts[i];
+            std::uint8_t seen[3];
+            See(scene.At({columns[column], lines[i]}), channels, seen);
+            for (std::size_t channel = 0; channel < channels; ++channel) {
+                light[column / readout.binningX * channels + channel] += std::uint32_t{seen[channel]} * seen[channel];
             }
         }
     }
     const std::uint32_t binned = readout.binningX * readout.binningY;
-    const std::vector<std::uint8_t>& toneOf = ToneOf();
-    std::transform(light.begin(), light.end(), tones.begin() + static_cast<std::ptrdiff_t>(y * light.size()),
-                   [&](std::uint32_t sum) { return toneOf[sum / binned]; });
+    std::transform(light.begin(), light.end(), line, [=](std::uint32_t sum) { return ToneOf(sum / binned); });
 }
 
 const std::uint8_t* View::Line(std::uint32_t y, const Mark& mark) {
@@ -78,12 +80,10 @@ const std::uint8_t* View::Line(std::uint32_t y, const Mark& mark) {
     if (!mark.TouchesLine(place)) {
         return line;
     }
-    const std::uint8_t gray = ToneOf()[LightOf(Mark::color)];
-    const std::uint8_t color[] = {Mark::color.red, Mark::color.green, Mark::color.blue};
     std::copy_n(line, marked.size(), marked.begin());
     for (std::size_t x = 0; x < width; ++x) {
         if (mark.Covers({columns[(2 * x + 1) * readout.binningX / 2], place})) {
-            std::copy_n(channels == 1 ? &gray : color, channels, &marked[x * channels]);
+            See(Mark::color, channels, &marked[x * channels]);
         }
     }
     return marked.data();

@@ -23,7 +23,8 @@ public:
     [[nodiscard]] std::uint32_t MeanLight() const { return meanLight; }
 
 private:
-    void MakeLine(const Scene& scene, std::uint32_t y);
+    void MakeLine(const Scene& scene, std::uint32_t y, std::uint8_t* line) const;
+    void MakeBinnedLine(const Scene& scene, std::uint32_t y, std::uint8_t* line);
 
     Readout readout{};
     std::uint32_t width = 0;
@@ -31,7 +32,7 @@ private:
     std::uint32_t meanLight = 1;
     std::vector<std::int64_t> columns; ///< where each column of pixels is in the scene
     std::vector<std::int64_t> lines;   ///< and each line
-    std::vector<std::uint32_t> light;  ///< of the line that is made
+    std::vector<std::uint32_t> light;  ///< of the binned line that is made
     std::vector<std::uint8_t> tones;   ///< of all lines
     std::vector<std::uint8_t> marked;  ///< the line that the mark is in
 };

@@ -88,23 +88,23 @@ TEST(SimulatedAutomatic, MovesWhatItOwnsStepByStepWhileItIsOn) {
 TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     const Simulated camera("Cerix-MV7");
     camera.Write(0x46020000, {2});
-    EXPECT_EQ(camera.Get("gain"), Words{120});
+    EXPECT_EQ(camera.Get("gain"), Words{28});
     camera.Write(0x46030000, {50});
-    EXPECT_EQ(camera.Get("gain"), Words{160}); // on the way to 200
+    EXPECT_EQ(camera.Get("gain"), Words{68}); // on the way to 108
     camera.Advance(1s);
-    EXPECT_EQ(camera.Get("gain"), Words{200});
+    EXPECT_EQ(camera.Get("gain"), Words{108});
 
     camera.Write(0x0A020000, {3}); // the exposure time is settable
     camera.Write(0x0A030000, {66});
     camera.Advance(1s);
-    EXPECT_EQ(camera.Get("gain"), Words{100});
+    EXPECT_EQ(camera.Get("gain"), Words{8});
     camera.Write(0x46090000, {1}); // holds the converged value, ...
     camera.Write(0x0A030000, {99});
     camera.Advance(1s);
-    EXPECT_EQ(camera.Get("gain"), Words{100});
+    EXPECT_EQ(camera.Get("gain"), Words{8});
     camera.Write(0x46030000, {90}); // ... until a setting changes
     camera.Advance(1s);
-    EXPECT_EQ(camera.Get("gain"), Words{120});
+    EXPECT_EQ(camera.Get("gain"), Words{28});
     camera.Write(0x0A020000, {1});
     EXPECT_EQ(camera.Get("exposure"), Words{33});
     camera.Write(0x0A020000, {3});
