@@ -64,17 +64,28 @@ template <bool BlueFirst, typename Line> void CodeRgb8(const Line& line, std::ui
     }
 }
 
-/// UYVY: two pixels share the colour of both. A last one without another has its own U.
+/// The colour of two pixels, of 0 to 255 each: their sum, weighed in 1/256.
+template <typename Line>
+std::uint8_t Difference(const Line& line, std::size_t left, std::size_t right, const std::int32_t (&weights)[3]) {
+    std::int32_t sum = 0;
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+        sum += weights[channel] * (line.Byte(left, channel) + line.Byte(right, channel));
+    }
+    return static_cast<std::uint8_t>(std::clamp(128 + (sum >> 9), 0, 255));
+}
+
+/// UYVY: two pixels share their colour. A last one without another has a U alone.
 template <typename Line> void CodeYuv422(const Line& line, std::uint8_t* bytes) {
-    const auto byte = [](std::int32_t value) { return static_cast<std::uint8_t>(std::clamp(value, 0, 255)); };
-    for (std::size_t x = 0; x < line.count; ++x) {
-        const std::size_t left = x - x % 2;
-        const std::size_t right = std::min(left + 1, line.count - 1);
-        const auto sum = [&](std::size_t channel) { return line.Byte(left, channel) + line.Byte(right, channel); };
-        const std::int32_t u = -43 * sum(0) - 85 * sum(1) + 128 * sum(2);
-        const std::int32_t v = 128 * sum(0) - 107 * sum(1) - 21 * sum(2);
-        bytes[2 * x] = byte(128 + (x % 2 == 0 ? u : v) / 512);
+    const std::int32_t blueness[] = {-43, -85, 128};
+    const std::int32_t redness[] = {128, -107, -21};
+    for (std::size_t x = 0; x < line.count; x += 2) {
+        const std::size_t right = std::min(x + 1, line.count - 1);
+        bytes[2 * x] = Difference(line, x, right, blueness);
         bytes[2 * x + 1] = static_cast<std::uint8_t>(line.Gray(x) >> 6);
+        if (right > x) {
+            bytes[2 * x + 2] = Difference(line, x, right, redness);
+            bytes[2 * x + 3] = static_cast<std::uint8_t>(line.Gray(right) >> 6);
+        }
     }
 }
 

@@ -27,7 +27,7 @@ std::uint64_t SquareRoot(std::uint64_t number) {
 
 } // namespace
 
-Noise::Noise(const World& world) : drawn(size), scaled(size) {
+Noise::Noise(const World& world) : drawn(size) {
     for (std::size_t i = 0; i < size; ++i) { // the sum of several is nearly normal
         std::int32_t sum = 0;
         for (std::size_t part = 0; part < 4; ++part) {
@@ -37,16 +37,19 @@ Noise::Noise(const World& world) : drawn(size), scaled(size) {
     }
 }
 
-void Noise::Scale(std::uint32_t deviation) {
+void Noise::Scale(std::uint32_t deviation, std::size_t lineSize) {
     const std::int32_t drawnDeviation = 147;
     const auto factor = static_cast<std::int32_t>(std::min(deviation, 590U)); // so that the peak is kept
-    std::transform(drawn.begin(), drawn.end(), scaled.begin(),
-                   [=](std::int16_t number) { return static_cast<std::int16_t>(number * factor / drawnDeviation); });
+    scaled.resize(size + lineSize);
+    for (std::size_t i = 0; i < scaled.size(); ++i) {
+        scaled[i] = static_cast<std::int16_t>(drawn[i % size] * factor / drawnDeviation);
+    }
 }
 
-std::size_t Noise::Start(const World& world, std::uint64_t frame, std::uint64_t line) const {
+const std::int16_t* Noise::Line(const World& world, std::uint64_t frame, std::uint64_t line, std::size_t first) const {
     const std::int32_t half = size / 2 - 1;
-    return static_cast<std::size_t>(world.Noise(Stream::PictureLine, (frame << 20) + line, half) + half);
+    const auto start = static_cast<std::size_t>(world.Noise(Stream::PictureLine, (frame << 20) + line, half) + half);
+    return &scaled[(start + first) % size];
 }
 
 Tables::Tables() {

@@ -18,16 +18,15 @@ public:
 
     explicit Noise(const World& world);
 
-    /// Makes the numbers that great on the average (root mean square).
-    void Scale(std::uint32_t deviation);
-    /// Where the numbers of a line begin.
-    [[nodiscard]] std::size_t Start(const World& world, std::uint64_t frame, std::uint64_t line) const;
-    /// Number @p i, counted on from the start of a line.
-    [[nodiscard]] std::int32_t At(std::size_t i) const { return scaled[i % size]; }
+    /// Makes the numbers that great on the average (root mean square), for lines of that many.
+    void Scale(std::uint32_t deviation, std::size_t lineSize);
+    /// The numbers of a line of the sensor, from one on.
+    [[nodiscard]] const std::int16_t* Line(const World& world, std::uint64_t frame, std::uint64_t line,
+                                           std::size_t first) const;
 
 private:
     std::vector<std::int16_t> drawn;
-    std::vector<std::int16_t> scaled;
+    std::vector<std::int16_t> scaled; ///< with the first ones again at the end, for lines that begin there
 };
 
 /// What becomes of the light of a tone: a value of 14 bits of a channel of the picture.

@@ -4,6 +4,7 @@
 #include "Simulation/Picture/Patterns.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace Simulation::Picture {
@@ -45,7 +46,7 @@ void Renderer::Update(const Settings& settings) {
     }
     view.Update(settings);
     tables.Update(settings, world, view.MeanLight());
-    noise.Scale(tables.Deviation());
+    noise.Scale(tables.Deviation(), settings.width * view.Channels());
     channels = settings.pixelFormat == raw14 ? 1 : view.Channels();
     line.resize(settings.width * channels);
     made = settings;
@@ -87,25 +88,27 @@ void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
     const Readout& readout = made->readout;
     const std::uint8_t* const tones = view.Line(y, Mark(number));
     // Counted in the sensor, so that a part of it has the noise that it has in the whole.
-    const std::size_t start =
-        noise.Start(world, number, std::uint64_t{readout.offsetY} + y) + std::size_t{readout.offsetX} * view.Channels();
-    const auto value = [&](std::size_t channel, std::size_t i) {
-        return tables.Of(channel)[tones[i] * Tables::steps + noise.At(start + i)];
+    const std::int16_t* const added =
+        noise.Line(world, number, std::uint64_t{readout.offsetY} + y, std::size_t{readout.offsetX} * view.Channels());
+    std::uint16_t* const values = line.data();
+    const std::array tablesOf{tables.Of(0), tables.Of(1), tables.Of(2)};
+    const auto value = [=](std::size_t channel, std::size_t i) {
+        return tablesOf[channel][tones[i] * Tables::steps + added[i]];
     };
     if (view.Channels() == 1) {
-        for (std::size_t x = 0; x < line.size(); ++x) {
-            line[x] = value(0, x);
+        for (std::size_t x = 0, width = line.size(); x < width; ++x) {
+            values[x] = value(0, x);
         }
     } else if (channels == 1) { // raw
-        for (std::uint32_t x = 0; x < made->width; ++x) {
+        for (std::uint32_t x = 0, width = made->width; x < width; ++x) {
             const std::size_t channel = Filter(readout.offsetX + x, readout.offsetY + y);
-            line[x] = value(channel, 3 * std::size_t{x} + channel);
+            values[x] = value(channel, 3 * std::size_t{x} + channel);
         }
     } else {
-        for (std::size_t i = 0; i + 2 < line.size(); i += 3) {
-            line[i] = value(0, i);
-            line[i + 1] = value(1, i + 1);
-            line[i + 2] = value(2, i + 2);
+        for (std::size_t i = 0, size = line.size(); i != size; i += 3) {
+            values[i] = value(0, i);
+            values[i + 1] = value(1, i + 1);
+            values[i + 2] = value(2, i + 2);
         }
     }
 }
