@@ -11,7 +11,8 @@ jobs=$(nproc)
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
     nlohmann-json3-dev libedit-dev libpng-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev binutils help2man
     dpkg-dev file)
-test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark)
+test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark gstreamer1.0-tools
+    gstreamer1.0-plugins-good)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-format-14 clang-tidy-14 cppcheck shellcheck)
 bench_packages=(libbenchmark-dev gnuplot-nox)

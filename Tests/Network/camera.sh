@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# Sourced by the tests that run other programs with simulated cameras. The first argument of such a test is qdv12sim. Run
-# it with on-loopback-alone, because these programs broadcast.
+# Sourced by the tests that run other programs with simulated cameras. Their first argument is qdv12sim. Run them with
+# on-loopback-alone, because the programs broadcast.
 set -euo pipefail
 
 sim=$1
