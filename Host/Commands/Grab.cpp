@@ -218,7 +218,7 @@ Json ToJson(const Result& result, const std::string& file, std::uint64_t written
 /// Says why fewer pictures came than were wanted, or not one after the other.
 /// @return whether that is so
 bool ReportLosses(const Result& result, const Order& order, const Acquisition& acquisition) {
-    const std::string why = result.losses.empty() ? "" : "; " + result.losses;
+    const std::string why = result.losses.empty() ? "" : ": " + result.losses;
     if (Interrupts::Received()) {
         PrintError("interrupted; acquisition is stopped");
         return true;

@@ -58,7 +58,7 @@ TEST(ChannelGrab, SaysWhatDidNotCome) {
     const NetworkCamera silent("Orvik-390M", "192.168.1.10", {"--stream-drop", "1"});
     const Outcome none = silent.Run("grab CAMERA");
     EXPECT_EQ(none.code, 1);
-    EXPECT_EQ(none.err, "qdv12host: no picture came within 2.1 s; no packet came: does a firewall let UDP from the "
+    EXPECT_EQ(none.err, "qdv12host: no picture came within 2.1 s: no packet came: does a firewall let UDP from the "
                         "camera through?\n");
     const NetworkCamera other("Orvik-710C", "192.168.1.11", {"--fault", "ignore:colorcoding"});
     const Outcome large = other.Run("grab CAMERA --index 0 colorcoding=mono8"); // three times the buffer
