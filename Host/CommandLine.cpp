@@ -44,7 +44,7 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
 bool Takes(const Syntax& syntax, bool inShell) { return !inShell || syntax.parameter != Parameter::Camera; }
 
 Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
-    Filled filled{app.add_subcommand(command.name, command.about), &command, {}};
+    Filled filled{app.add_subcommand(command.name, command.about)->group("Commands"), &command, {}};
     for (const Syntax& syntax : command.syntax) {
         if (Takes(syntax, inShell)) {
             filled.options.emplace_back(syntax.parameter, AddParameter(*filled.app, syntax, inShell));
@@ -70,13 +70,13 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N", "Camera index; with 2, the default, every value is read from the camera");
-    app.add_flag("--trace", trace, "Show each port access on standard error")->disable_flag_override();
-    add("--log", options.logLevel, "LEVEL", "Log level on standard error")
+    app.add_flag("--trace", trace, "Print each port access on standard error")->disable_flag_override();
+    add("--log", options.logLevel, "LEVEL", "What the library logs on standard error (default: off)")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
     add("--config", options.logConfig, "FILE", "A configuration file for log4cxx");
     add("--force-model", options.camera.forcedModel, "MODEL",
-        "Treat a camera on the network as this model, whatever it reports");
+        "Control a camera on the network as this model, whatever model it reports");
     auto& simulation = options.camera.simulation;
     add("--seed", simulation.seed, "N", "Select the environment of a simulated camera: light, noise, defect pixels")
         ->check(Common::CheckSeed);
@@ -188,7 +188,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, line.options, trace);
-        app.footer("Exit codes: 0 success; 1 the camera or the library refused; 2 wrong usage; 3 not opened.");
+        app.footer("Exit codes: 0 success; 1 refused or failed; 2 wrong usage; 3 the library or camera could not be opened.");
     }
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {
@@ -197,7 +197,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
         }
     }
     std::string helped;
-    CLI::App* const help = app.add_subcommand("help", "Show the help of a command");
+    CLI::App* const help = app.add_subcommand("help", "Show the help of a command")->group("Commands");
     help->add_option("COMMAND", helped, "A command; without it, all commands are listed")->type_name("");
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser expects

@@ -82,7 +82,7 @@ void AddModel(const Plugin& plugin, const std::string& model, std::map<std::stri
     for (Line& line : family.lines) {
         Session looked(plugin, model, {.index = 2});
         if (Enter(looked, line) && line.reached.empty()) {
-            Session called(plugin, model, {.index = 2}); // one that remembers nothing yet
+            Session called(plugin, model, {.index = 2}); // nothing is cached yet
             line.reached = RegisterOf(called, *line.function);
         }
     }

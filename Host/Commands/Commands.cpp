@@ -24,13 +24,13 @@ const std::vector<Command>& Commands() {
                                 "Include I/O lines, motors and lenses, which act on connected devices"};
     static const Syntax dryRun{Parameter::DryRun, "--dry-run", "Print what would be set; set nothing"};
     static const Syntax picture{Parameter::File, "FILE",
-                                "A PNG file for the picture; of several, FILE-0001 and so on; - is standard output",
+                                "A PNG file; of several pictures the names are numbered; - is standard output",
                                 Required::Never};
-    static const Syntax before{Parameter::Assignments, "NAME=VALUE", "What to set before the first picture",
+    static const Syntax before{Parameter::Assignments, "NAME=VALUE", "Values to set before the first picture",
                                Required::Never, true};
     static const Syntax count{Parameter::Count, "--count N", "Take N pictures (default: 1)"};
-    static const Syntax every{Parameter::Every, "--every K", "Write the first picture and then each K-th"};
-    static const Syntax raw{Parameter::Raw, "--raw", "Write the bytes as the camera sent them, described in FILE.json"};
+    static const Syntax every{Parameter::Every, "--every K", "Write the first of every K pictures (default: 1)"};
+    static const Syntax raw{Parameter::Raw, "--raw", "Write the bytes that the camera sent, and their format to FILE.json"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},

@@ -10,7 +10,7 @@ namespace Host {
 
 namespace {
 
-/// @param reader tells what the camera holds, whatever the other control remembers
+/// @param reader reads what the camera holds, whatever the other control has cached
 Assigned Perform(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
     Assigned result;
     result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });

@@ -46,7 +46,7 @@ void AddDisturbances(CLI::App& app, Disturbances& disturbances, StreamOptions& s
     const std::uint64_t mostRequests = 1000000000;
     add("--drop", disturbances.drop, "P", "Drop this share of the datagrams, in both directions")->check(Share());
     add("--duplicate", disturbances.duplicate, "P", "Send this share of the acknowledges twice")->check(Share());
-    add("--nack", disturbances.nack, "P", "Answer this share of the requests with status busy")->check(Share());
+    add("--nack", disturbances.nack, "P", "Refuse this share of the requests as busy")->check(Share());
     const auto addDelay = [&](const char* name, std::chrono::milliseconds& variable, const char* about) {
         const auto set = [&variable](const std::uint64_t& delay) { variable = std::chrono::milliseconds(delay); };
         app.add_option_function<std::uint64_t>(name, set, about)
@@ -69,10 +69,10 @@ void AddStream(CLI::App& app, Options& options) {
         ->type_name("MB/S")
         ->group(group)
         ->check(Between(0, fastestLink));
-    app.add_flag("--unpaced", options.unpaced, "Send frames one after the other, whatever the frame duration")
+    app.add_flag("--unpaced", options.unpaced, "Send each frame as soon as the one before is sent, whatever the frame duration")
         ->group(group);
     app.add_flag("--any-destination", options.anyDestination,
-                 "Send the stream where the controller says, not only to the controller's own address")
+                 "Send the stream to any address that the controller sets, not only to its own")
         ->group(group);
 }
 
@@ -109,10 +109,10 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         return app.add_option(name, variable, about)->type_name(value);
     };
     add("MODEL", options.model, "", "The camera's model, such as Orvik-710C")->required();
-    add("--address", address, "ADDRESS", "The camera's address, one of this machine (127.0.0.1)");
+    add("--address", address, "ADDRESS", "The camera's address, one of this machine (default: 127.0.0.1)");
     add("--seed", options.seed, "N", "Select the camera's environment and the sequence of disturbances")
         ->check(Common::CheckSeed);
-    add("--state", options.state, "FILE", "Keep the camera in a file between runs")->check(Common::CheckValue);
+    add("--state", options.state, "FILE", "File that keeps the state of the camera between runs")->check(Common::CheckValue);
     add("--serial", options.serial, "TEXT", "The camera's serial number");
     add("--mac", options.mac, "MAC", "The camera's MAC address, such as 02:00:12:07:07:11");
     add("--fault", options.faults, "TEXT", "Inject a fault into the camera, such as ignore:gain")
@@ -126,7 +126,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
-            throw UsageError(Describe(app, error) + " (qdv12sim --help says more)");
+            throw UsageError(Describe(app, error) + " (see qdv12sim --help)");
         }
         app.exit(error);
         return std::nullopt;

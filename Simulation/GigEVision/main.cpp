@@ -49,7 +49,7 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Options& options) {
     auto camera = MakeCamera(options.model, options.seed);
     if (!camera) {
         throw UsageError("unknown model \"" + options.model + '"' + Common::Suggestion(options.model, ModelNames()) +
-                         " (qdv12sim --help lists them)");
+                         " (see qdv12sim --help)");
     }
     if (HasState(options.state)) {
         LoadState(*camera, options.state);

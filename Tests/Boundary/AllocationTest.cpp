@@ -49,7 +49,7 @@ TEST_F(CameraTest, CachedGettersAllocateNothing) {
             if (row->result.size() > withoutAllocation || row->name == longText) {
                 continue;
             }
-            const Camera camera = Open(row->state, row->state.RememberingIndex());
+            const Camera camera = Open(row->state, row->state.CachedIndex());
             EXPECT_EQ(AllocationsOf(*row, camera), 0u) << row->name;
             ++tested;
         }
@@ -65,7 +65,7 @@ TEST_F(CameraTest, SettersAllocateNothing) {
         }
         FlatPort flat;
         Prepare(flat, row.state);
-        const Camera camera(plugin, row.state.model, &flat, row.state.RememberingIndex());
+        const Camera camera(plugin, row.state.model, &flat, row.state.CachedIndex());
         EXPECT_EQ(AllocationsOf(row, camera), 0u) << row.name;
         ++tested;
     }

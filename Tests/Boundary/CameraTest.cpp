@@ -5,7 +5,7 @@
 namespace Test {
 
 CameraTest::Effect CameraTest::EffectOf(const Operation& row) {
-    const Camera camera = Open(row.state, row.state.RememberingIndex());
+    const Camera camera = Open(row.state, row.state.CachedIndex());
     const std::vector<const Operation*> getters = CachedGetters(row.state.IsM2VX());
     std::map<const Operation*, std::string> before;
     for (const Operation* getter : getters) {

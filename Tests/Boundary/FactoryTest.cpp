@@ -146,7 +146,7 @@ TEST(UnloadTest, TheLibraryLeavesTheProcess) {
         for (const Operation& row : Operations()) {
             RecordingPort port;
             Prepare(port, row.state);
-            const Camera camera(plugin, row.state.model, &port, row.state.RememberingIndex());
+            const Camera camera(plugin, row.state.model, &port, row.state.CachedIndex());
             Outcome(row.call, *camera.Object());
         }
         EXPECT_TRUE(isLoaded());

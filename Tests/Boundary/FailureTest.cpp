@@ -113,10 +113,10 @@ TEST_P(FailureTest, AFailedAccessDoesNoHarm) {
     if (row.accesses.firstUncached.empty()) {
         return;
     }
-    std::vector<Opening> openings{{"remembering", row.state.RememberingIndex(), true},
-                                  {"reading", row.state.ReadingIndex(), false}};
+    std::vector<Opening> openings{{"cached", row.state.CachedIndex(), true},
+                                  {"uncached", row.state.UncachedIndex(), false}};
     if (!row.state.IsM2VX()) {
-        openings.push_back({"nothing remembered yet", row.state.RememberingIndex(), false});
+        openings.push_back({"nothing cached yet", row.state.CachedIndex(), false});
     }
 #ifdef QDV12_SANITIZED // see FailuresOf
     static std::size_t turn = 0;

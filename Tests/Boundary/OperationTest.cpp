@@ -42,10 +42,10 @@ protected:
 
 TEST_P(OperationTest, AnswersAtTheStatedCost) {
     SCOPED_TRACE("mend " + LoggingClass(row) + " or the row in Tests/Operations");
-    const Camera cached = Open(row.state, row.state.RememberingIndex());
+    const Camera cached = Open(row.state, row.state.CachedIndex());
     EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.first}));
     EXPECT_EQ(Observe(cached, row.call), (Observation{row.result, row.accesses.again})) << "repeated";
-    const Camera uncached = Open(row.state, row.state.ReadingIndex());
+    const Camera uncached = Open(row.state, row.state.UncachedIndex());
     EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.firstUncached})) << "uncached";
     EXPECT_EQ(Observe(uncached, row.call), (Observation{row.result, row.accesses.againUncached}))
         << "uncached, repeated";

@@ -109,7 +109,7 @@ std::string PortAccessTest::Noticing(const Operation& row) {
 /// What a row's call costs: cached, again, uncached, again.
 PortAccessTest::Cost PortAccessTest::CostOf(const Operation& row) {
     Cost cost;
-    for (const int index : {row.state.RememberingIndex(), row.state.ReadingIndex()}) {
+    for (const int index : {row.state.CachedIndex(), row.state.UncachedIndex()}) {
         OnNewCamera([&] {
             const Camera camera = Open(row.state, index);
             for (int repetition = 0; repetition < 2; ++repetition) {
@@ -151,7 +151,7 @@ std::string PortAccessTest::Interface(const std::string& name, const std::vector
 /// The accesses of CreateObject, counted by register in the order in which the registers come.
 std::string PortAccessTest::Opening(const char* family, const State& state) {
     std::string text;
-    for (const int index : {state.RememberingIndex(), state.ReadingIndex()}) {
+    for (const int index : {state.CachedIndex(), state.UncachedIndex()}) {
         OnNewCamera([&] {
             Prepare(port, state);
             const Camera camera(plugin, state.model, &port, index);

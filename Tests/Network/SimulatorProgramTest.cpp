@@ -183,13 +183,13 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         int code;
         std::string line;
     };
-    const std::string more = " (qdv12sim --help says more)";
+    const std::string more = " (see qdv12sim --help)";
     const std::string serial = "--serial: invalid serial number ";
     const std::string mac = "--mac: invalid MAC address ";
     const std::string device = ", expected a unicast address such as 02:00:12:07:07:10";
     const Row rows[] = {
         {{}, 2, "MODEL is required" + more},
-        {{"orvik710m"}, 2, "unknown model \"orvik710m\"; did you mean \"Orvik-710M\"? (qdv12sim --help lists them)"},
+        {{"orvik710m"}, 2, "unknown model \"orvik710m\"; did you mean \"Orvik-710M\"? (see qdv12sim --help)"},
         {{"Orvik-710C", "--address", "127.0.0.300"}, 2, "--address: \"127.0.0.300\" is not a unicast IPv4 address"},
         {{"Orvik\x1b[2J"}, 2, "unknown model \"Orvik\\x1B[2J\""},
         {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not a unicast IPv4 address"},

@@ -63,8 +63,8 @@ struct State {
     Call before{}; ///< called first, such as the start of the acquisition
 
     [[nodiscard]] bool IsM2VX() const { return std::string(model) == m2vxModel; }
-    [[nodiscard]] int RememberingIndex() const { return IsM2VX() ? 3 : 0; }
-    [[nodiscard]] int ReadingIndex() const { return IsM2VX() ? 0 : 2; }
+    [[nodiscard]] int CachedIndex() const { return IsM2VX() ? 3 : 0; }
+    [[nodiscard]] int UncachedIndex() const { return IsM2VX() ? 0 : 2; }
 
     static constexpr const char* m2vxModel = "Cerix7-MV";
 };

@@ -74,7 +74,7 @@ void ExpectSameCalls(const std::string& model) {
     const std::string address = "192.168.1.10";
     const NetworkCamera camera(model, address);
     const auto operations = OperationsOf(model);
-    const int index = operations.front()->state.ReadingIndex();
+    const int index = operations.front()->state.UncachedIndex();
     Host::Session here(LoadedPlugin(), model, {.index = index});
     Host::Session there(LoadedPlugin(), "gige:" + address, {.index = index});
     for (const ::Test::Operation* row : operations) {

@@ -26,7 +26,7 @@ class EveryOperation : public testing::TestWithParam<std::string> {};
 TEST_P(EveryOperation, FindsItsRegistersInTheSimulatedCamera) {
     const std::string& model = GetParam();
     for (const ::Test::Operation* row : OperationsOf(model)) {
-        for (const int index : {row->state.RememberingIndex(), row->state.ReadingIndex()}) {
+        for (const int index : {row->state.CachedIndex(), row->state.UncachedIndex()}) {
             SCOPED_TRACE(row->name + " with index " + std::to_string(index));
             Host::Session session(LoadedPlugin(), model, {.index = index});
             const std::string outcome = OutcomeOf(*row, *session.As<IDynamicObject>());
