@@ -123,7 +123,7 @@ TEST(SimulatedPicture, ComesToTheLevelOfTheAutomaticModes) {
         Photographed camera("Sollux G", seed);
         camera.Write(agc, {2});
         camera.Advance(1s);
-        EXPECT_NEAR(camera.Mean(1, 2) / 64, 0.30, 0.03 * 0.30 + 0.5 / 64) << seed; // of the high bytes
+        EXPECT_NEAR((camera.Mean(1, 2) * 256 + camera.Mean(0, 2)) / 16383, 0.30, 0.03 * 0.30) << seed;
     }
 }
 
@@ -162,24 +162,21 @@ TEST(SimulatedPicture, IsTheSameInEveryCoding) {
     const Bytes rgb = shoot(110), bgr = shoot(111), raw = shoot(153), yuv = shoot(52), mono8 = shoot(0),
                 mono14 = shoot(6), packed = shoot(14);
     for (std::size_t i = 0; i < 64UL * 64; ++i) {
-        const int red = rgb[3 * i], green = rgb[3 * i + 1], blue = rgb[3 * i + 2];
-        const std::size_t filter = (461 + i / 64) % 2 * 2 + (901 + i % 64) % 2; // green, red; blue, green
-        const auto high = static_cast<std::uint32_t>(i % 2 == 0 ? packed[i / 2 * 3] : packed[i / 2 * 3 + 2]);
-        const std::uint32_t low = packed[i / 2 * 3 + 1] >> (i % 2 == 0 ? 0 : 4) & 0x0FU;
+        const std::uint8_t red = rgb[3 * i], green = rgb[3 * i + 1], blue = rgb[3 * i + 2];
         ASSERT_NEAR(mono8[i], 0.30 * red + 0.59 * green + 0.11 * blue, 2) << i;
-        ASSERT_EQ(Word(mono14, i) >> 6, mono8[i]);
-        ASSERT_EQ(Word(mono14, i) >> 2, high << 4 | low) << i;
-        ASSERT_EQ(bgr[3 * i], blue);
-        ASSERT_EQ(bgr[3 * i + 1], green);
-        ASSERT_EQ(bgr[3 * i + 2], red);
-        ASSERT_EQ(Word(raw, i) >> 6, rgb[3 * i + (filter == 1 ? 0 : filter == 2 ? 2 : 1)]) << i;
-        ASSERT_EQ(yuv[2 * i + 1], mono8[i]);
-        const std::size_t pair = i / 2 * 4;
-        if (i % 2 == 0) { // of both pixels, which have nearly one colour inside of a patch
-            const double blueness = (rgb[3 * i + 2] + rgb[3 * i + 5] - mono8[i] - mono8[i + 1]) / 2.0;
-            const double redness = (rgb[3 * i] + rgb[3 * i + 3] - mono8[i] - mono8[i + 1]) / 2.0;
-            ASSERT_NEAR(yuv[pair] - 128, 0.564 * blueness, 2) << i;
-            ASSERT_NEAR(yuv[pair + 2] - 128, 0.713 * redness, 2) << i;
+        ASSERT_EQ(Bytes(&bgr[3 * i], &bgr[3 * i] + 3), (Bytes{blue, green, red})) << i;
+        const std::uint8_t filtered[] = {green, red, blue, green};
+        ASSERT_EQ(Word(raw, i) >> 6, filtered[(461 + i / 64) % 2 * 2 + (901 + i) % 2]) << i;
+        ASSERT_EQ(Word(mono14, i) >> 6, mono8[i]) << i;
+        const std::uint8_t* const pair = &packed[i / 2 * 3];
+        const std::uint32_t twelve = i % 2 == 0 ? pair[0] * 16U + pair[1] % 16U : pair[2] * 16U + pair[1] / 16U;
+        ASSERT_EQ(Word(mono14, i) >> 2, twelve) << i;
+        ASSERT_EQ(yuv[2 * i + 1], mono8[i]) << i;
+        if (i % 2 == 0) { // two pixels share their colour
+            const double blueness = (blue + rgb[3 * i + 5] - mono8[i] - mono8[i + 1]) / 2.0;
+            const double redness = (red + rgb[3 * i + 3] - mono8[i] - mono8[i + 1]) / 2.0;
+            ASSERT_NEAR(yuv[2 * i] - 128, 0.564 * blueness, 2) << i;
+            ASSERT_NEAR(yuv[2 * i + 2] - 128, 0.713 * redness, 2) << i;
         }
     }
 }
@@ -188,16 +185,13 @@ TEST(SimulatedPicture, HasAMarkThatMoves) {
     Photographed camera("Orvik-390M");
     const Bytes first = camera.Shoot(10).bytes, second = camera.Shoot(11).bytes;
     std::size_t moved = 0;
-    std::size_t lines = 0;
-    for (std::size_t y = 0, before = 0; y < 1728; ++y, before = moved) {
-        for (std::size_t x = 0; x < 2256; ++x) {
-            moved += std::abs(first[y * 2256 + x] - second[y * 2256 + x]) > 30 ? 1U : 0U;
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        if (std::abs(first[i] - second[i]) > 30) {
+            ++moved;
+            ASSERT_TRUE(i / 2256 > 1430 && i / 2256 < 1550) << i; // the lines of its track
         }
-        lines += moved > before ? 1U : 0U;
     }
     EXPECT_GT(moved, 200U);
-    EXPECT_LT(moved, 4000U);
-    EXPECT_LT(lines, 80U);
 }
 
 TEST(SimulatedPicture, IsBalancedAndSaturated) {
