@@ -66,17 +66,19 @@ void Tables::Update(const Settings& settings, const World& world, std::uint32_t 
     const std::uint64_t greatestLevel = std::uint64_t{1} << 32;
     const std::uint64_t level = std::min(settings.level, greatestLevel) * world.Illumination() / 100;
     const Words lamp = settings.readout.color ? WhiteBalanceOf(settings.lightSource, world) : Words(3, neutral);
-    // A full pixel of one colour is not full white: the sensor has room for what the balance takes back.
     const bool isRaw = settings.pixelFormat == raw14;
     for (std::size_t channel = 0; channel < tones.size(); ++channel) {
+        // What is done to the values of a channel one by one. A lamp's colour does not clip before the balance takes it
+        // back: the sensor has room for more than 14 bits.
         const std::uint64_t balance = isRaw ? neutral : settings.balance.at(channel);
+        const auto process = [=](std::uint64_t value, std::uint64_t white) { return Bounded(value * balance / white); };
         for (std::uint64_t value = 0; value < values[channel].size(); ++value) {
-            values[channel][value] = Bounded(value * balance / neutral);
+            values[channel][value] = process(value, neutral);
         }
         for (std::size_t i = 0; i < tones[channel].size(); ++i) {
             const auto tone = static_cast<std::uint64_t>(std::max(static_cast<std::int32_t>(i) - Noise::peak, 0));
             const std::uint64_t light = level * (tone * tone) / (std::uint64_t{256} * steps * steps * meanLight);
-            tones[channel][i] = Bounded(light * balance / lamp[channel]);
+            tones[channel][i] = process(light, lamp[channel]);
         }
     }
     // A full pixel has some 20000 electrons, whose number varies by its root. A root's variation is half of that of its
