@@ -68,6 +68,7 @@ TEST_F(ReceiverTest, StartsAndStopsOnOneStream) {
     const Bytes expected = Expected(mono);
     const Owned<ArvStream> stream(arv_camera_create_stream(camera.get(), nullptr, nullptr, nullptr), &g_object_unref);
     ASSERT_NE(stream, nullptr);
+    g_object_set(stream.get(), "frame-retention", 5'000'000, nullptr); // microseconds: the machine may be busy
     for (int i = 0; i < 10; ++i) {
         arv_stream_push_buffer(stream.get(), arv_buffer_new_allocate(expected.size()));
     }
