@@ -15,7 +15,7 @@ test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 
     gstreamer1.0-plugins-good)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-format-14 clang-tidy-14 cppcheck shellcheck)
-bench_packages=(libbenchmark-dev gnuplot-nox)
+bench_packages=(libbenchmark-dev gnuplot-nox aravis-tools)
 
 say() { printf '\n== %s\n' "$*"; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
