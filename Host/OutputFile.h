@@ -5,14 +5,14 @@
 
 namespace Host {
 
-/// Instead of the name of a file: standard input, or standard output.
+/// The file name that stands for standard input or standard output.
 constexpr const char* standardStream = "-";
 
-/// A file for messages: its name in quotes, or standard input.
+/// A file as messages name it: its name in quotes, or "standard input".
 [[nodiscard]] std::string DescribeFile(const std::string& file);
 
-/// Writes a file, or to standard output. A file that is there is replaced as a whole or not at all.
-/// @throws UsageError for a file that cannot be there; std::runtime_error for one that could not be written
+/// Writes a file, or to standard output. An existing file is replaced as a whole or not at all.
+/// @throws UsageError for a wrong name; std::runtime_error for a failed write
 void WriteOutput(const std::string& file, std::string_view content);
 
 } // namespace Host

@@ -5,7 +5,7 @@
 
 namespace Host {
 
-/// How far a run is: a bar on standard error, on a styled terminal alone.
+/// The progress of a run: a bar on standard error, only on a styled terminal.
 class Progress {
 public:
     explicit Progress(std::size_t totalSteps);

@@ -14,11 +14,11 @@ namespace Host {
 
 namespace {
 
-constexpr std::uint64_t bufferedBytes = std::uint64_t{256} << 20; ///< of all pictures that may wait to be taken, ...
-constexpr std::uint64_t fewestBuffers = 4;                        ///< ... of which there are that many at least
+constexpr std::uint64_t bufferedBytes = std::uint64_t{256} << 20; ///< memory of all buffers together, ...
+constexpr std::uint64_t fewestBuffers = 4;                        ///< ... but at least this number of buffers
 constexpr std::uint64_t mostBuffers = 32;
 constexpr std::uint64_t largestPicture = std::uint64_t{1} << 30;
-constexpr std::uint64_t lateness = 1000; ///< a frame number that is lower by more is one after the numbers began anew
+constexpr std::uint64_t lateness = 1000; ///< a frame number lower by more than this means that the numbers wrapped
 
 struct Unreference {
     void operator()(void* object) const { g_object_unref(object); }
@@ -28,7 +28,7 @@ using Stream = std::unique_ptr<ArvStream, Unreference>;
 
 Stream Create(ArvDevice& device) {
     arv_gv_device_set_packet_size_adjustment(ARV_GV_DEVICE(&device), ARV_GV_PACKET_SIZE_ADJUSTMENT_ALWAYS);
-    // Else what root receives is not counted with the socket, nor limited by its buffer.
+    // A packet socket, which Aravis opens as root, has neither the counts nor the buffer limit of the UDP socket.
     arv_gv_device_set_stream_options(ARV_GV_DEVICE(&device), ARV_GV_STREAM_OPTION_PACKET_SOCKET_DISABLED);
     GError* failure = nullptr;
     Stream stream(arv_device_create_stream(&device, nullptr, nullptr, &failure));
@@ -47,7 +47,7 @@ public:
           socket(arv_gv_stream_get_port(ARV_GV_STREAM(stream.get()))),
           packetSize(arv_gv_device_get_packet_size(ARV_GV_DEVICE(&device), nullptr)),
           wantedBuffer(2 * payload) {
-        socket.Enlarge(wantedBuffer); // before the first packet comes, as Aravis would not
+        socket.Enlarge(wantedBuffer); // Aravis does this only after the first packet
         const std::uint64_t buffers = std::clamp(bufferedBytes / payload, fewestBuffers, mostBuffers);
         for (std::uint64_t i = 0; i < buffers; ++i) {
             arv_stream_push_buffer(stream.get(), arv_buffer_new_allocate(payload));
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] std::string ExplainLosses() const override;
 
 private:
-    /// Takes note of a frame that came, or that began to come. @return whether it is there as a whole
+    /// Counts a frame that arrived, completely or in part. @return whether it is complete
     bool Count(ArvBuffer* buffer);
     [[nodiscard]] std::uint64_t Info(const char* name) const {
         return arv_stream_get_info_uint64_by_name(stream.get(), name);
@@ -71,7 +71,7 @@ private:
     std::uint64_t wantedBuffer;
     std::uint64_t last = 0; ///< frame; 0 before the first
     std::uint64_t missing = 0;
-    Buffer held; ///< of the picture that was handed out
+    Buffer held; ///< of the picture that Next returned
     Picture picture{};
 };
 
@@ -83,7 +83,7 @@ bool GigEStream::Count(ArvBuffer* buffer) {
     const std::uint64_t number = arv_buffer_get_frame_id(buffer);
     if (last != 0 && number > last) {
         missing += number - last - 1;
-    } else if (last > number + lateness) { // 1 comes after 65535
+    } else if (last > number + lateness) { // 1 follows 65535
         missing += 65535 - std::min<std::uint64_t>(last, 65535) + number - 1;
     }
     last = number;
@@ -91,7 +91,7 @@ bool GigEStream::Count(ArvBuffer* buffer) {
     return status == ARV_BUFFER_STATUS_SUCCESS;
 }
 
-/// What Aravis knows of an image alone; of anything else nothing, which fits no format.
+/// The format of an image; for any other payload an empty one, which matches no camera.
 PictureFormat FormatOf(ArvBuffer* buffer) {
     if (arv_buffer_get_payload_type(buffer) != ARV_BUFFER_PAYLOAD_TYPE_IMAGE) {
         return {};

@@ -46,7 +46,7 @@ void ReceiveSocket::Enlarge(std::uint64_t bytes) const {
     }
 }
 
-/// The system doubles what it grants, for its own needs.
+/// The system reports twice the granted size, including its own overhead.
 std::uint64_t ReceiveSocket::BufferSize() const {
     int size = 0;
     socklen_t length = sizeof size;

@@ -4,21 +4,21 @@
 
 namespace Host {
 
-/// A UDP socket of this process that a library keeps to itself, found by its port. The system knows how many packets it
-/// had no room for.
+/// A UDP socket of this process that a library does not expose, found by its port. The system counts the packets that
+/// it dropped.
 class ReceiveSocket {
 public:
     explicit ReceiveSocket(std::uint16_t port);
 
-    /// Asks for a buffer of that size. The system grants less, silently, if it is set up so.
+    /// Requests a buffer of that size. The system may silently grant less.
     void Enlarge(std::uint64_t bytes) const;
-    /// As the system granted it; 0 if there is no such socket.
+    /// The size that the system granted; 0 if there is no such socket.
     [[nodiscard]] std::uint64_t BufferSize() const;
-    /// Packets that came while the buffer was full.
+    /// The number of packets that arrived while the buffer was full.
     [[nodiscard]] std::uint64_t Dropped() const;
 
 private:
-    int descriptor = -1; ///< the library's
+    int descriptor = -1; ///< owned by the library
 };
 
 } // namespace Host

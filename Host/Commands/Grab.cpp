@@ -21,7 +21,7 @@ namespace Host {
 
 namespace {
 
-/// What is wanted of the camera.
+/// The pictures to take and to write.
 struct Order {
     std::uint64_t count = 1;
     std::uint64_t every = 1;
@@ -46,7 +46,7 @@ std::uint64_t NumberOf(const Invocation& invocation, Parameter parameter) {
     return *number;
 }
 
-/// FILE may be left out: an assignment in its place is one.
+/// FILE may be omitted: an assignment in its place is not a file.
 Order OrderOf(const Invocation& invocation) {
     Order order{NumberOf(invocation, Parameter::Count), NumberOf(invocation, Parameter::Every),
                 invocation.Has(Parameter::Raw), invocation.Text(Parameter::File),
@@ -61,7 +61,7 @@ Order OrderOf(const Invocation& invocation) {
     return order;
 }
 
-/// Writes pictures as they were ordered.
+/// Writes the pictures of an order.
 class Writer {
 public:
     Writer(const Order& given, std::string ofModel) : order(given), model(std::move(ofModel)) {}
@@ -87,7 +87,7 @@ public:
     [[nodiscard]] std::uint64_t Written() const { return written; }
 
 private:
-    /// One file as it is called; of several, "shot.png" becomes "shot-0001.png".
+    /// FILE for one picture; for several, "shot.png" becomes "shot-0001.png".
     [[nodiscard]] std::string NextFile() const {
         if (order.file == standardStream || order.Files() == 1) {
             return order.file;
@@ -118,7 +118,7 @@ private:
     std::uint64_t written = 0;
 };
 
-/// What came.
+/// What was received.
 struct Result {
     PictureFormat format{};
     std::uint64_t frames = 0;
@@ -128,7 +128,7 @@ struct Result {
     std::optional<Measures> measures{}; ///< of the last picture
     std::string losses{};               ///< why pictures may have been lost
 
-    /// By the camera's time; 0 of a single frame.
+    /// Pictures per second, by the camera's clock; 0 for a single picture.
     [[nodiscard]] double Rate() const {
         return last > first ? static_cast<double>(frames - 1) / std::chrono::duration<double>(last - first).count() : 0;
     }
@@ -152,7 +152,7 @@ Result Take(Acquisition& acquisition, const Order& order, Writer& writer) {
             if (order.IsWritten(++result.frames)) {
                 writer.Write(*picture);
             }
-            if (!std::cout) { // told at the end
+            if (!std::cout) { // reported at the end
                 break;
             }
         }
@@ -215,8 +215,8 @@ Json ToJson(const Result& result, const std::string& file, std::uint64_t written
     return document;
 }
 
-/// Says why fewer pictures came than were wanted, or not one after the other.
-/// @return whether that is so
+/// Reports an interruption, or missing pictures and the reason.
+/// @return whether there was anything to report
 bool ReportLosses(const Result& result, const Order& order, const Acquisition& acquisition) {
     const std::string why = result.losses.empty() ? "" : ": " + result.losses;
     if (Interrupts::Received()) {

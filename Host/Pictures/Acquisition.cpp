@@ -18,10 +18,10 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr milliseconds slice{100};                 ///< within which a signal is noticed
-constexpr milliseconds reserve{2000};              ///< beyond what the frames themselves take
-constexpr int patientFrames = 3;                   ///< that may be waited for
-constexpr milliseconds unknownFrameDuration{1000}; ///< of a control without timing
+constexpr milliseconds slice{100};                 ///< a signal is noticed after this time
+constexpr milliseconds reserve{2000};              ///< added to the duration of the frames
+constexpr int patientFrames = 3;                   ///< the frame durations to wait for a picture
+constexpr milliseconds unknownFrameDuration{1000}; ///< for a control without timing
 
 template <typename Interface> Interface& Require(const Session& session) {
     if (auto* const found = session.As<Interface>()) {
@@ -38,7 +38,7 @@ PictureFormat FormatOf(const Session& session) {
     return {frame->GetFormat(), frame->GetWidth(), frame->GetHeight()};
 }
 
-/// The media type tells the duration as well, but in nanoseconds, which have no room for long exposures.
+/// The media type has the duration too, but its 32 bits of nanoseconds are too small for long exposures.
 milliseconds PatienceWith(const Session& session) {
     auto* const timing = session.As<SDK4::Control::ITiming>();
     const milliseconds frame =
@@ -57,7 +57,8 @@ std::string Describe(const PictureFormat& format) {
            PixelFormatName(format.pixelFormat);
 }
 
-/// What makes up the picture, of what came.
+/// The bytes of the picture in a frame.
+/// @throws std::runtime_error if the frame has another format or is too short
 std::span<const std::uint8_t> RequireFitting(const Picture& came, const PictureFormat& announced) {
     if (came.format != announced) {
         throw std::runtime_error("the camera sent a frame of " + Describe(came.format) + " instead of " +
@@ -79,9 +80,9 @@ Acquisition::Acquisition(Session& opened)
       trigger(TriggerOf(opened)),
       format(FormatOf(opened)),
       patience(PatienceWith(opened)) {
-    control.Stop(); // a camera may still run for a program that died
+    control.Stop(); // the camera may still run for a program that crashed
     source = session.Connection().OpenStream(format);
-    runs = true; // a camera that did not acknowledge the start may have started all the same
+    runs = true; // a camera may start and its acknowledge get lost
     try {
         control.Start();
     } catch (...) {
@@ -95,7 +96,7 @@ Acquisition::~Acquisition() { Abandon(); }
 void Acquisition::Abandon() {
     try {
         Stop();
-    } catch (...) { // NOLINT(bugprone-empty-catch): what ended the acquisition is told
+    } catch (...) { // NOLINT(bugprone-empty-catch): the first error is the one to report
     }
 }
 

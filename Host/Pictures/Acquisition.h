@@ -10,24 +10,24 @@
 
 namespace Host {
 
-/// Acquisition of an opened camera, which runs while one lives.
+/// Acquires pictures from an open camera. Acquisition runs as long as the object exists.
 class Acquisition {
 public:
-    /// Opens the stream for pictures as the camera is set to, and starts acquisition. One that ran is stopped before.
+    /// Opens the stream for pictures of the present format, and starts acquisition. Stops it first if it runs.
     /// @throws std::runtime_error if the stream cannot be opened; X4Error; ChannelError
     explicit Acquisition(Session& opened);
-    /// Stops acquisition, unless that was done, whatever becomes of it.
+    /// Stops acquisition, unless Stop did. Ignores errors.
     ~Acquisition();
     Acquisition(const Acquisition&) = delete;
     Acquisition& operator=(const Acquisition&) = delete;
 
     [[nodiscard]] const PictureFormat& Format() const { return format; }
-    /// How long Next waits: longer than a frame takes, as far as the control tells that.
+    /// How long Next waits: longer than a frame takes, if the control knows its duration.
     [[nodiscard]] std::chrono::milliseconds Patience() const { return patience; }
 
-    /// Waits for the next picture; has the camera make it, in an exposure mode that waits for a trigger.
-    /// @return null if none came, or a signal (Interrupts). A picture stays valid until the next one, or the end.
-    /// @throws std::runtime_error for a frame that is not of that format; ChannelLost
+    /// Waits for the next picture. In an exposure mode that waits for a trigger, triggers it first.
+    /// @return null if none came, or after a signal (Interrupts). A picture is valid until the next call.
+    /// @throws std::runtime_error for a frame of another format; ChannelLost
     [[nodiscard]] const Picture* Next();
 
     /// @throws X4Error; ChannelError
@@ -40,7 +40,7 @@ private:
 
     Session& session;
     SDK4::IStreamControl& control;
-    SDK4::Control::ITrigger* trigger = nullptr; ///< null for a camera that runs freely
+    SDK4::Control::ITrigger* trigger = nullptr; ///< null in a free-running mode
     PictureFormat format;
     std::chrono::milliseconds patience;
     std::unique_ptr<PictureSource> source;

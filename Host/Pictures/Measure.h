@@ -5,12 +5,12 @@
 
 namespace Host {
 
-/// What the samples of a picture are like, those of all channels together.
+/// Statistics of the samples of a picture, all channels together.
 struct Measures {
     std::uint32_t minimum = 0;
     std::uint32_t maximum = 0;
     double mean = 0;
-    double saturated = 0; ///< percent of the samples that are at full scale
+    double saturated = 0; ///< percent of the samples at full scale
     double sharpness = 0; ///< mean difference of horizontal neighbours, in per mille of full scale
 };
 

@@ -21,18 +21,18 @@ constexpr PixelFormat knownFormats[] = {
 };
 // clang-format on
 
-/// One of the two pixels that lie in three bytes: the high bits of both are in the outer ones.
+/// One of the two pixels in three bytes: the outer bytes have the high bits, the middle one the low bits of both.
 std::uint16_t Packed12(const std::uint8_t* bytes, std::uint64_t pixel) {
     const std::uint8_t* const pair = bytes + pixel / 2 * 3;
     return pixel % 2 == 0 ? static_cast<std::uint16_t>(pair[0] << 4 | (pair[1] & 0x0F))
                           : static_cast<std::uint16_t>(pair[2] << 4 | pair[1] >> 4);
 }
 
-std::uint16_t Clamp8(int fixed) { // of 16 bits behind the point
+std::uint16_t Clamp8(int fixed) { // with 16 fractional bits
     return static_cast<std::uint16_t>(std::clamp((fixed + 0x8000) >> 16, 0, 255));
 }
 
-/// U Y V Y, of the full range of 8 bits; the weights are those of ITU-R BT.601.
+/// U Y V Y in the full range of 8 bits, with the weights of ITU-R BT.601.
 void ReadYuvLine(const std::uint8_t* line, std::uint32_t width, std::uint16_t* sample) {
     for (std::uint32_t x = 0; x < width; ++x, sample += 3) {
         const std::uint8_t* const pair = line + x / 2 * 4;
@@ -60,7 +60,7 @@ std::string PixelFormatName(std::uint32_t code) {
 
 void ReadLine(const PixelFormat& format, std::span<const std::uint8_t> bytes, std::uint32_t width, std::uint32_t line,
               std::span<std::uint16_t> samples) {
-    const std::uint64_t first = std::uint64_t{width} * line; // pixel of the line
+    const std::uint64_t first = std::uint64_t{width} * line; // pixel of the line in the picture
     const std::uint8_t* const data = bytes.data();
     switch (format.layout) {
     case PixelLayout::Mono8:

@@ -10,9 +10,9 @@ namespace Host {
 
 namespace {
 
-constexpr int fastestCompression = 1; ///< with the filter SUB: ten times as fast as usual, a quarter larger
+constexpr int fastestCompression = 1; ///< with the filter SUB: ten times as fast as the default, files a quarter larger
 
-/// What libpng works on. It reports errors by a jump to Write, so that nothing there may need a destructor.
+/// The data of libpng. It reports errors by a jump into Write, so Write has no objects with destructors.
 struct Encoder {
     const Picture& picture;
     const PixelFormat& format;
@@ -39,7 +39,7 @@ struct Encoder {
             }
             return;
         }
-        for (std::size_t i = 0; i < samples.size(); ++i) { // full scale becomes full scale
+        for (std::size_t i = 0; i < samples.size(); ++i) { // by repeating the high bits: full scale stays full scale
             const unsigned int wide = unsigned{samples[i]} << (16 - format.bits) | samples[i] >> (2 * format.bits - 16);
             row[2 * i] = static_cast<png_byte>(wide >> 8);
             row[2 * i + 1] = static_cast<png_byte>(wide & 0xFFU);
@@ -51,7 +51,7 @@ void Append(png_structp png, png_bytep data, std::size_t size) {
     bool appended = true;
     try {
         static_cast<std::string*>(png_get_io_ptr(png))->append(reinterpret_cast<const char*>(data), size);
-    } catch (const std::exception&) { // which must not pass through libpng
+    } catch (const std::exception&) { // must not pass through libpng
         appended = false;
     }
     if (!appended) {
@@ -59,7 +59,7 @@ void Append(png_structp png, png_bytep data, std::size_t size) {
     }
 }
 
-/// @return whether that went well
+/// @return whether it succeeded
 bool Write(Encoder& encoder) {
     png_structp const png = encoder.png;
     if (encoder.info == nullptr || setjmp(png_jmpbuf(png)) != 0) { // NOLINT(cert-err52-cpp): as libpng reports errors

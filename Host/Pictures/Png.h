@@ -7,8 +7,8 @@
 
 namespace Host {
 
-/// A picture as the content of a PNG file: grey of 8 bits, or of 16 to which the samples are scaled, or RGB of 8 bits.
-/// @throws std::runtime_error
+/// Encodes a picture as a PNG file: grey or RGB of 8 bits, or grey of 16 bits. Wider samples are scaled to 16 bits.
+/// @throws std::runtime_error if libpng fails
 [[nodiscard]] std::string EncodePng(const Picture& picture, const PixelFormat& format);
 
 } // namespace Host

@@ -7,8 +7,8 @@
 
 namespace Host {
 
-/// The pictures of a simulated camera in this process. Nothing is lost, and the camera's time passes as fast as its
-/// pictures can be made.
+/// The pictures of a simulated camera in this process. Nothing is lost. The simulated time advances as fast as pictures
+/// are rendered.
 class SimulatedPictures final : public PictureSource {
 public:
     SimulatedPictures(Simulation::SimulatedCamera& ofCamera, Simulation::Acquisition& ofItsFrames,

@@ -12,13 +12,13 @@ namespace Host {
 /// What became of a function that was set.
 struct Assigned {
     Outcome failure;
-    std::string lockedBy;      ///< if that is the reason
-    std::optional<Value> held; ///< by the camera, afterwards
-    bool rounded = false;      ///< to what it holds, as it may
+    std::string lockedBy;      ///< the function that locks this one, if that is the reason
+    std::optional<Value> held; ///< what the camera holds afterwards
+    bool rounded = false;      ///< the camera rounded the value, as it may
 };
 
-/// Sets functions in their order, and says on standard error what did not go as asked for.
-/// @param told of each, before what went wrong is said
+/// Sets functions in order, and prints on standard error what failed or was changed by the camera.
+/// @param told called for each function, before its error is printed
 /// @return whether something was refused
 bool Assign(Session& session, const std::vector<FunctionValue>& assignments,
             const std::function<void(const FunctionValue&, const Assigned&)>& told);

@@ -7,16 +7,16 @@
 #include <cstdint>
 #include <span>
 
-/// GVSP, the stream protocol of the GigE Vision standard: the packets that a frame becomes.
+/// GVSP, the stream protocol of the GigE Vision standard: the packets of a frame.
 namespace Simulation::GigEVision::Gvsp {
 
-constexpr std::uint32_t ipAndUdpSize = 20 + 8; ///< counts into the packet size
+constexpr std::uint32_t ipAndUdpSize = 20 + 8; ///< part of the packet size
 constexpr std::uint32_t headerSize = 8;
 constexpr std::size_t largestHead = 44;
 
-/// A packet, without a copy of the picture.
+/// A packet. It refers to the data of the frame.
 struct Packet {
-    std::array<std::uint8_t, largestHead> head; ///< the header, and what leader and trailer tell
+    std::array<std::uint8_t, largestHead> head; ///< the header, and the content of leader and trailer
     std::size_t headSize;
     std::span<const std::uint8_t> data; ///< a part of the frame
 
@@ -24,12 +24,12 @@ struct Packet {
     [[nodiscard]] std::size_t Size() const { return headSize + data.size(); }
 };
 
-/// A frame on its way: packet 0 is the leader, then comes the payload, the last packet is the trailer.
+/// A frame as packets: packet 0 is the leader, the last packet is the trailer, those between are the payload.
 class Block {
 public:
     /// @param blockId     1 to 65535
     /// @param ticks       the timestamp of the frame
-    /// @param packetSize  of all packets with payload but the last, from the IP header on
+    /// @param packetSize  of all payload packets except the last, including the IP header
     Block(std::uint16_t blockId, std::uint64_t ticks, std::uint32_t packetSize, Picture::Frame sent);
 
     [[nodiscard]] std::uint16_t Id() const { return id; }
@@ -45,12 +45,12 @@ private:
 
     std::uint16_t id;
     std::uint64_t timestamp;
-    std::uint32_t dataSize; ///< of a packet
+    std::uint32_t dataSize; ///< data per packet
     Picture::Frame frame;
     std::uint32_t payloadPackets;
 };
 
-/// Tells that a packet is not to be had any more.
+/// The answer to a request for a packet that is no longer available.
 [[nodiscard]] Packet Unavailable(std::uint16_t block, std::uint32_t packet);
 
 } // namespace Simulation::GigEVision::Gvsp

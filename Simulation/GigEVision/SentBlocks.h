@@ -8,20 +8,21 @@
 
 namespace Simulation::GigEVision {
 
-/// The blocks that were sent last, for receivers that missed packets of them.
+/// Keeps the last blocks, for receivers that missed packets.
 ///
-/// Of each block as many packets are sent again as it has, since receivers without memory of their requests would
-/// otherwise fill the link with them. Beyond that, or for a block that is gone, they are told that there is no more.
+/// For each block, at most as many packets are sent again as it has. Otherwise receivers that repeat their requests
+/// would fill the link. After that, or for a block that is no longer kept, the answer is that the packet is
+/// unavailable.
 class SentBlocks {
 public:
     static constexpr std::size_t mostBlocks = 16;
-    static constexpr std::size_t mostBytes = 128U << 20; ///< of pictures; three blocks are kept in any case
+    static constexpr std::size_t mostBytes = 128U << 20; ///< of pictures; three blocks are always kept
 
-    /// A frame to be filled, with the memory of one that is no longer needed.
+    /// An unused frame, with the memory of a block that is no longer kept.
     [[nodiscard]] Picture::Frame TakeFrame();
     const Gvsp::Block& Add(Gvsp::Block block);
 
-    /// Calls @p send with each packet that is the answer.
+    /// Calls @p send with each packet of the answer.
     template <typename Send> void Resend(const ResendRequest& request, const Send& send) {
         Sent* const sent = Find(request.block);
         for (std::uint32_t packet = request.first; packet <= request.last; ++packet) {
@@ -45,7 +46,7 @@ private:
 
     [[nodiscard]] Sent* Find(std::uint16_t id);
 
-    std::deque<Sent> blocks; ///< the oldest comes first
+    std::deque<Sent> blocks; ///< the oldest first
     std::size_t bytes = 0;
     Picture::Frame spare;
 };

@@ -19,7 +19,7 @@ constexpr std::uint32_t doesNotFragment = 0x40000000;
 constexpr std::uint32_t lowHalf = 0xFFFF; // the port; the packet size
 constexpr std::uint32_t packetId = 0x00FFFFFF;
 constexpr std::size_t resendSize = 12;
-constexpr std::size_t mostResends = 1024; // that wait
+constexpr std::size_t mostResends = 1024; // waiting
 
 } // namespace
 
@@ -44,7 +44,7 @@ void StreamChannel::BeforeWrite(const Register& entry, std::uint32_t value) {
 
 void StreamChannel::RequestResend(const Endpoint& from, std::span<const std::uint8_t> payload) {
     const auto target = Target();
-    // The request comes from the receiver's address, but from whichever port it likes.
+    // A receiver may send requests from any port.
     if (!target || target->receiver.address != from.address || payload.size() != resendSize || Get16(payload) != 0 ||
         resends.size() >= mostResends) {
         return;

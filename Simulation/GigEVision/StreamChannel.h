@@ -15,7 +15,7 @@ namespace Simulation::GigEVision {
 /// Where the stream goes, and how.
 struct StreamTarget {
     Endpoint receiver;
-    std::uint32_t packetSize; ///< from the IP header on
+    std::uint32_t packetSize; ///< including the IP header
     bool dontFragment;
     std::chrono::microseconds packetDelay; ///< between two packets
 };
@@ -24,10 +24,10 @@ struct StreamTarget {
 struct ResendRequest {
     std::uint16_t block;
     std::uint32_t first;
-    std::uint32_t last; ///< may lie beyond the last one of the block
+    std::uint32_t last; ///< may exceed the last packet of the block
 };
 
-/// A frame that is to be sent.
+/// A frame to send.
 struct DueBlock {
     std::uint16_t id;
     std::uint64_t timestamp; ///< ticks
@@ -35,40 +35,40 @@ struct DueBlock {
     ExposedFrame exposed;
 };
 
-/// The stream channel of a device: which frame is sent when, where to, in packets of which size. It has no socket and
-/// no clock; it follows from the registers, the camera's time and what receivers request.
+/// The stream channel of a device. It determines when a frame is sent, where to, and in packets of which size, from the
+/// registers, the camera's time and the requests of receivers. It has no socket and no clock.
 ///
-/// The channel is open while its port (0x0D00) is not 0. Block ids begin at 1 when it is opened, and go on over the end
-/// and the start of acquisition, since receivers take a frame whose id they had before for a late one.
+/// The channel is open while its port (0x0D00) is not 0. Block ids begin at 1 when it is opened. They continue when
+/// acquisition stops and starts, because receivers discard a frame with an id that they have seen as a late one.
 class StreamChannel {
 public:
     StreamChannel(SimulatedCamera& ofCamera, const ChannelRegisters& ofDevice);
 
-    /// Lets the stream go to other addresses than the controller's.
+    /// Permits a stream to other addresses than that of the controller.
     void AllowAnyDestination() { anyDestination = true; }
     [[nodiscard]] Acquisition& Frames() { return frames; }
 
     // For the control channel.
 
-    /// Whether the word may be written: a stream is not sent to those who did not ask for it.
+    /// Whether the word may be written. A stream is only sent to the application that requests it.
     /// @param controller the address of the application that writes
     [[nodiscard]] bool Admits(const Register& entry, std::uint32_t value, std::uint32_t controller) const;
-    /// Tells that the word is about to be written.
+    /// Call it before the word is written.
     void BeforeWrite(const Register& entry, std::uint32_t value);
-    /// Takes a request of the receiver's, which has no acknowledge. Those from elsewhere are ignored, and so are more
-    /// than can be served.
+    /// Takes a request of the receiver. It has no acknowledge. Requests from other addresses, and more than can be
+    /// served, are ignored.
     void RequestResend(const Endpoint& from, std::span<const std::uint8_t> payload);
 
     // For the sender.
 
     /// Nothing while the channel is closed.
     [[nodiscard]] std::optional<StreamTarget> Target() const;
-    /// The camera's time at which there is a block to be sent.
+    /// The camera's time at which the next block is ready.
     [[nodiscard]] std::optional<std::chrono::microseconds> Due() const;
     /// The next block, if its frame is ready.
     [[nodiscard]] std::optional<DueBlock> TakeBlock();
     [[nodiscard]] std::vector<ResendRequest> TakeResends();
-    /// Whether a test packet was asked for since the last call.
+    /// Whether a test packet was requested since the last call.
     [[nodiscard]] bool TakeTestPacket();
     [[nodiscard]] bool HasRequests() const { return testPacket || !resends.empty(); }
 

@@ -20,11 +20,10 @@ using std::chrono::nanoseconds;
 
 namespace {
 
-constexpr microseconds burstTime{
-    200}; ///< packets of that time are sent at once, as no sleep is shorter than some 50 us
-constexpr microseconds longestDebt{200}; ///< that is caught up with after a sleep that took too long
+constexpr microseconds burstTime{200};   ///< packets of this time are sent together: a sleep takes at least 50 us
+constexpr microseconds longestDebt{200}; ///< the delay that is made up for after a sleep that took too long
 
-/// When the link is free for the next packets.
+/// Determines when the link is free for the next packets.
 class Pace {
 public:
     Pace(std::uint32_t megabytesPerSecond, const StreamTarget& target)
@@ -46,7 +45,7 @@ private:
     Time free{};
 };
 
-/// A packet that is held back.
+/// A delayed packet.
 struct HeldPacket {
     Endpoint to;
     Bytes bytes;
@@ -84,13 +83,13 @@ public:
 
 private:
     void Run() {
-        prctl(PR_SET_TIMERSLACK, 1000, 0, 0, 0); // nanoseconds: sleeps are as long as the pace wants them
+        prctl(PR_SET_TIMERSLACK, 1000, 0, 0, 0); // nanoseconds; the default of 50 us is too coarse for the pace
         while (const auto block = AwaitBlock()) {
             Send(*block);
         }
     }
 
-    /// Serves requests until there is a block to be sent. Nothing at the end.
+    /// Serves requests until a block is ready. Returns nothing at the end.
     std::optional<DueBlock> AwaitBlock() {
         std::unique_lock lock(mutex);
         while (!ended) {
@@ -137,7 +136,7 @@ private:
         }
     }
 
-    /// Waits until the link is free, and serves requests meanwhile.
+    /// Serves requests until the link is free.
     /// @return whether the rest of the block is still wanted
     bool AwaitLink(const Pace& pace, const StreamTarget& target) {
         std::unique_lock lock(mutex);
@@ -155,8 +154,8 @@ private:
         }
     }
 
-    /// Answers what receivers request.
-    /// @return whether there was anything
+    /// Serves the requests of receivers.
+    /// @return whether there were any
     bool ServeRequests(std::unique_lock<std::mutex>& lock) {
         StreamChannel& stream = device.Stream();
         const auto target = stream.Target();
@@ -182,7 +181,7 @@ private:
         return true;
     }
 
-    /// A packet of the full size, which arrives or not, but never in pieces.
+    /// Sends a packet of the full size, never in fragments.
     void SendTestPacket(const StreamTarget& target) {
         const Bytes filling(target.packetSize - Gvsp::ipAndUdpSize);
         StreamTarget whole = target;
@@ -191,7 +190,7 @@ private:
         Flush(whole);
     }
 
-    /// Has the packet sent with the next Flush, unless it gets lost or is held back.
+    /// Adds the packet to the next Flush, unless it is lost or delayed.
     void Put(const StreamTarget& target, const Gvsp::Packet& packet) {
         if (drop.Occurs(random)) {
             return;
@@ -244,7 +243,7 @@ private:
     std::multimap<Time, HeldPacket> held;
     std::condition_variable changed;
     bool ended = false;
-    std::thread thread; // the last, since it uses all of them
+    std::thread thread; // the last member, because it uses all others
 };
 
 StreamSender::StreamSender(Device& guarded, std::mutex& mutex, std::uint32_t address, const StreamOptions& options,

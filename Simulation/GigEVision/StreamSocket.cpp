@@ -22,7 +22,7 @@ sockaddr_in SocketAddress(const Endpoint& endpoint) {
     return address;
 }
 
-/// What sendmmsg does not change, it does not declare so.
+/// sendmmsg does not change the bytes, but its declaration is not const.
 iovec VectorOf(std::span<const std::uint8_t> bytes) { return {const_cast<std::uint8_t*>(bytes.data()), bytes.size()}; }
 
 } // namespace
@@ -39,7 +39,7 @@ StreamSocket::StreamSocket(std::uint32_t address)
         throw std::runtime_error("no port for the stream: " + reason);
     }
     self.port = ntohs(name.sin_port);
-    const int size = 4 << 20; // so that a burst does not wait for the network card
+    const int size = 4 << 20; // a burst then does not wait for the network card
     setsockopt(descriptor, SOL_SOCKET, SO_SNDBUF, &size, sizeof size);
     dontFragment = true;
     SetDontFragment(false);
@@ -70,7 +70,7 @@ void StreamSocket::Send(const Endpoint& to, std::span<const Gvsp::Packet> packet
     }
     for (std::size_t sent = 0; sent < packets.size();) {
         const int count = sendmmsg(descriptor, &messages[sent], static_cast<unsigned int>(packets.size() - sent), 0);
-        sent += count > 0 ? static_cast<std::size_t>(count) : 1; // the first one that cannot be sent is lost
+        sent += count > 0 ? static_cast<std::size_t>(count) : 1; // a packet that cannot be sent is lost
     }
 }
 

@@ -11,7 +11,7 @@ namespace Simulation::GigEVision {
 /// A UDP socket that sends packets of streams.
 class StreamSocket {
 public:
-    static constexpr std::size_t mostPackets = 64; ///< that are sent at once
+    static constexpr std::size_t mostPackets = 64; ///< in one call of Send
 
     /// @throws std::runtime_error if the address has no port left
     explicit StreamSocket(std::uint32_t address);
@@ -19,10 +19,10 @@ public:
     StreamSocket(const StreamSocket&) = delete;
     StreamSocket& operator=(const StreamSocket&) = delete;
 
-    /// Where its packets come from.
+    /// The source address and port of its packets.
     [[nodiscard]] const Endpoint& Self() const { return self; }
     void SetDontFragment(bool set);
-    /// Sends at most mostPackets. What is too large for the path is lost, as it is in a camera.
+    /// Sends at most mostPackets. Packets that are too large for the path are lost, as with a camera.
     void Send(const Endpoint& to, std::span<const Gvsp::Packet> packets);
 
 private:
