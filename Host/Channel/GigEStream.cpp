@@ -136,16 +136,19 @@ std::string GigEStream::ExplainLosses() const {
     if (Info("n_received_packets") == 0) {
         return "no packet came: does a firewall let UDP from the camera through?";
     }
-    const std::uint64_t dropped = socket.Dropped();
-    if (dropped == 0) {
-        return "this machine dropped none of the packets that reached it";
-    }
     const std::uint64_t granted = socket.BufferSize();
-    return std::to_string(dropped) + " packets found no room in the socket buffer of " + std::to_string(granted) +
-           " bytes" +
-           (granted < wantedBuffer
-                ? ", which sysctl net.core.rmem_max limits; " + std::to_string(wantedBuffer) + " bytes were asked for"
-                : "");
+    std::string text;
+    if (const std::uint64_t dropped = socket.Dropped(); dropped > 0) {
+        text = std::to_string(dropped) + " packets found no room in the socket buffer of " + std::to_string(granted) +
+               " bytes" +
+               (granted < wantedBuffer
+                    ? " (net.core.rmem_max limits it; " + std::to_string(wantedBuffer) + " bytes were requested)"
+                    : "");
+    }
+    if (Info("n_underruns") > 0) {
+        text += (text.empty() ? "" : "; ") + std::string("frames came while earlier pictures were still being written");
+    }
+    return text.empty() ? "this machine dropped none of the packets that reached it" : text;
 }
 
 } // namespace

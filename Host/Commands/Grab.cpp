@@ -229,7 +229,8 @@ bool ReportLosses(const Result& result, const Order& order, const Acquisition& a
         return true;
     }
     if (result.stream.missing > 0) {
-        PrintError(std::to_string(result.stream.missing) + " frames are missing" + why);
+        const bool one = result.stream.missing == 1;
+        PrintError(std::to_string(result.stream.missing) + (one ? " frame is missing" : " frames are missing") + why);
         return true;
     }
     return false;

@@ -65,6 +65,12 @@ TEST(ChannelGrab, SaysWhatDidNotCome) {
     EXPECT_EQ(large.code, 1);
     EXPECT_TRUE(
         Has(large.err, "qdv12host: the camera sent a frame of 3208 x 2208 rgb8 instead of 3208 x 2208 mono8\n"));
+    Running slow(QDV12_HOST, {"grab", "gige:192.168.1.11", "-", "readoutarea=0,0,63,63", "--count", "90"},
+                 Running::both);
+    EXPECT_TRUE(slow.ReadUntil("PNG"));
+    std::this_thread::sleep_for(std::chrono::seconds(3)); // longer than the buffers last
+    EXPECT_EQ(slow.End(), 1);
+    EXPECT_TRUE(Has(slow.Read(), " frames are missing: frames came while earlier pictures were still being written\n"));
 }
 
 } // namespace Scenario
