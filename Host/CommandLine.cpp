@@ -188,7 +188,8 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, line.options, trace);
-        app.footer("Exit codes: 0 success; 1 refused or failed; 2 wrong usage; 3 the library or camera could not be opened.");
+        app.footer(
+            "Exit codes: 0 success; 1 refused or failed; 2 wrong usage; 3 the library or camera could not be opened.");
     }
     std::vector<Filled> commands;
     for (const Command& command : Commands()) {

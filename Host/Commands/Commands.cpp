@@ -30,7 +30,8 @@ const std::vector<Command>& Commands() {
                                Required::Never, true};
     static const Syntax count{Parameter::Count, "--count N", "Take N pictures (default: 1)"};
     static const Syntax every{Parameter::Every, "--every K", "Write the first of every K pictures (default: 1)"};
-    static const Syntax raw{Parameter::Raw, "--raw", "Write the bytes that the camera sent, and their format to FILE.json"};
+    static const Syntax raw{Parameter::Raw, "--raw",
+                            "Write the bytes that the camera sent, and their format to FILE.json"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},

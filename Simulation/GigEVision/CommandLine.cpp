@@ -69,7 +69,8 @@ void AddStream(CLI::App& app, Options& options) {
         ->type_name("MB/S")
         ->group(group)
         ->check(Between(0, fastestLink));
-    app.add_flag("--unpaced", options.unpaced, "Send each frame as soon as the one before is sent, whatever the frame duration")
+    app.add_flag("--unpaced", options.unpaced,
+                 "Send each frame as soon as the last one is sent, whatever the frame duration")
         ->group(group);
     app.add_flag("--any-destination", options.anyDestination,
                  "Send the stream to any address that the controller sets, not only to its own")
@@ -112,7 +113,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
     add("--address", address, "ADDRESS", "The camera's address, one of this machine (default: 127.0.0.1)");
     add("--seed", options.seed, "N", "Select the camera's environment and the sequence of disturbances")
         ->check(Common::CheckSeed);
-    add("--state", options.state, "FILE", "File that keeps the state of the camera between runs")->check(Common::CheckValue);
+    add("--state", options.state, "FILE", "File that keeps the state of the camera between runs")
+        ->check(Common::CheckValue);
     add("--serial", options.serial, "TEXT", "The camera's serial number");
     add("--mac", options.mac, "MAC", "The camera's MAC address, such as 02:00:12:07:07:11");
     add("--fault", options.faults, "TEXT", "Inject a fault into the camera, such as ignore:gain")
