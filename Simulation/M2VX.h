@@ -16,9 +16,9 @@ struct M2VXModel {
     std::uint32_t number; ///< function-model identifier, part of the serial number
 };
 
-/// The level of an image in percent of the full scale is the illumination, times the exposure time over that of a frame,
-/// times a fourth of the gain with this added to it: so the picture is bright enough without gain, and automatic gain
-/// reaches its power-up level in every world.
+/// The level of an image in percent of the full scale is the illumination, times the exposure time over that of a
+/// frame, times a fourth of the gain with this added to it: so the picture is bright enough without gain, and automatic
+/// gain reaches its power-up level in every world.
 constexpr std::uint32_t gainOffset = 92;
 constexpr std::uint32_t frameTime = 33; ///< milliseconds; so long is exposed unless the exposure time is the host's
 

@@ -48,8 +48,8 @@ void Noise::Scale(std::uint32_t deviation, std::size_t lineSize) {
 
 const std::int16_t* Noise::Line(const World& world, std::uint64_t frame, std::uint64_t line, std::size_t first) const {
     const std::int32_t half = size / 2 - 1;
-    const auto start = static_cast<std::size_t>(world.Noise(Stream::PictureLine, (frame << 20) + line, half) + half);
-    return &scaled[(start + first) % size];
+    const std::int32_t start = half + world.Noise(Stream::PictureLine, (frame << 20) + line, half);
+    return &scaled[(static_cast<std::size_t>(start) + first) % size];
 }
 
 Tables::Tables() {

@@ -12,7 +12,7 @@ namespace Simulation::Picture {
 namespace {
 
 /// The channel that a sensor with colour filters has at a place: green and red, below them blue and green.
-std::size_t Filter(std::uint32_t column, std::uint32_t row) {
+std::size_t Filter(std::uint64_t column, std::uint64_t row) {
     const std::size_t filters[2][2] = {{1, 0}, {2, 1}};
     return filters[row % 2][column % 2];
 }
@@ -88,8 +88,8 @@ void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
     const Readout& readout = made->readout;
     const std::uint8_t* const tones = view.Line(y, Mark(number));
     // Counted in the sensor, so that a part of it has the noise that it has in the whole.
-    const std::int16_t* const added =
-        noise.Line(world, number, std::uint64_t{readout.offsetY} + y, std::size_t{readout.offsetX} * view.Channels());
+    const std::uint64_t row = readout.offsetY + static_cast<std::uint64_t>(y);
+    const std::int16_t* const added = noise.Line(world, number, row, readout.offsetX * view.Channels());
     std::uint16_t* const values = line.data();
     const std::array tablesOf{tables.Of(0), tables.Of(1), tables.Of(2)};
     const auto value = [=](std::size_t channel, std::size_t i) {
@@ -100,9 +100,9 @@ void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
             values[x] = value(0, x);
         }
     } else if (channels == 1) { // raw
-        for (std::uint32_t x = 0, width = made->width; x < width; ++x) {
-            const std::size_t channel = Filter(readout.offsetX + x, readout.offsetY + y);
-            values[x] = value(channel, 3 * std::size_t{x} + channel);
+        for (std::size_t x = 0, width = line.size(); x < width; ++x) {
+            const std::size_t channel = Filter(readout.offsetX + x, row);
+            values[x] = value(channel, 3 * x + channel);
         }
     } else {
         for (std::size_t i = 0, size = line.size(); i != size; i += 3) {

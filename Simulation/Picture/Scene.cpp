@@ -134,6 +134,16 @@ Color PaperAt(Place place) {
     return isOn(place.x) || isOn(place.y) ? grid : paper;
 }
 
+constexpr std::int64_t markRadius = 42 * unit;
+
+Place MarkCentre(std::uint64_t frameNumber) {
+    const std::int64_t places = 128;
+    const std::int64_t from = (trackArea.left + 60) * unit;
+    const std::int64_t length = (trackArea.right - trackArea.left - 120) * unit;
+    return {from + static_cast<std::int64_t>(frameNumber % places) * length / places,
+            (trackArea.top + trackArea.bottom - 12) / 2 * unit};
+}
+
 } // namespace
 
 std::uint8_t ToneOf(std::uint32_t light) {
@@ -214,19 +224,7 @@ std::uint32_t Scene::MeanLight() const {
     return static_cast<std::uint32_t>(sum / (samples * samples));
 }
 
-Mark::Mark(std::uint64_t frameNumber) {
-    const std::int64_t places = 128;
-    const std::int64_t from = (trackArea.left + 60) * unit;
-    const std::int64_t length = (trackArea.right - trackArea.left - 120) * unit;
-    centre = {from + static_cast<std::int64_t>(frameNumber % places) * length / places,
-              (trackArea.top + trackArea.bottom - 12) / 2 * unit};
-}
-
-namespace {
-
-constexpr std::int64_t markRadius = 42 * unit;
-
-} // namespace
+Mark::Mark(std::uint64_t frameNumber) : centre(MarkCentre(frameNumber)) {}
 
 bool Mark::TouchesLine(std::int64_t y) const { return std::abs(y - centre.y) < markRadius; }
 

@@ -28,13 +28,15 @@ void View::Update(const Settings& settings) {
     width = settings.width;
     height = settings.height;
     meanLight = std::max(scene.MeanLight(), 1U);
-    columns.resize(std::size_t{width} * readout.binningX);
+    const std::size_t binningX = readout.binningX;
+    const std::size_t binningY = readout.binningY;
+    columns.resize(width * binningX);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i] = scene.PlaceOf(std::uint64_t{readout.offsetX} * readout.binningX + i, 0).x;
+        columns[i] = scene.PlaceOf(readout.offsetX * binningX + i, 0).x;
     }
-    lines.resize(std::size_t{height} * readout.binningY);
+    lines.resize(height * binningY);
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        lines[i] = scene.PlaceOf(0, std::uint64_t{readout.offsetY} * readout.binningY + i).y;
+        lines[i] = scene.PlaceOf(0, readout.offsetY * binningY + i).y;
     }
     light.resize(width * Channels());
     marked.resize(width * Channels());
@@ -59,13 +61,15 @@ void View::MakeLine(const Scene& scene, std::uint32_t y, std::uint8_t* line) con
 /// A pixel has the mean of the light of those that are binned, so that a picture stays as bright as it was.
 void View::MakeBinnedLine(const Scene& scene, std::uint32_t y, std::uint8_t* line) {
     const std::size_t channels = Channels();
+    const std::size_t first = static_cast<std::size_t>(y) * readout.binningY;
     std::fill(light.begin(), light.end(), 0);
-    for (std::size_t i = std::size_t{y} * readout.binningY; i < std::size_t{y + 1} * readout.binningY; ++i) {
+    for (std::size_t i = first; i < first + readout.binningY; ++i) {
         for (std::size_t column = 0; column < columns.size(); ++column) {
             std::uint8_t seen[3];
             See(scene.At({columns[column], lines[i]}), channels, seen);
             for (std::size_t channel = 0; channel < channels; ++channel) {
-                light[column / readout.binningX * channels + channel] += std::uint32_t{seen[channel]} * seen[channel];
+                const std::uint32_t tone = seen[channel];
+                light[column / readout.binningX * channels + channel] += tone * tone;
             }
         }
     }

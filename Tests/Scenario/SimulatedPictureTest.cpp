@@ -16,8 +16,8 @@ using Simulation::Picture::Frame;
 
 constexpr std::uint32_t exposure = 0x0A030000, binning = 0x0A0B0000, gain = 0x14010000, lightSource = 0x15020000,
                         saturation = 0x15040000, verticalFlip = 0x16020000, horizontalFlip = 0x16030000,
-                        colorCoding = 0x28020000, readoutArea = 0x28050000, agc = 0x46020000, awb = 0x46040000,
-                        pattern = 0x5A010000;
+                        colorCoding = 0x28020000, readoutArea = 0x28050000, automaticGain = 0x46020000,
+                        awb = 0x46040000, pattern = 0x5A010000;
 
 /// A camera, and somebody who looks at its frames.
 class Photographed : public Simulated {
@@ -113,7 +113,7 @@ TEST(SimulatedPicture, IsBrighterWithExposureAndGain) {
 
 TEST(SimulatedPicture, ComesToTheLevelOfTheAutomaticModes) {
     for (const std::uint64_t seed : {0UL, 1UL, 2UL}) {
-        for (const std::uint32_t mode : {0x46010000U, agc}) {
+        for (const std::uint32_t mode : {0x46010000U, automaticGain}) {
             Photographed camera("Orvik-390M", seed);
             camera.Write(exposure, {0, 12000});
             camera.Write(mode, {1});
@@ -121,7 +121,7 @@ TEST(SimulatedPicture, ComesToTheLevelOfTheAutomaticModes) {
             EXPECT_NEAR(camera.Mean(), 128, 0.03 * 128) << seed;
         }
         Photographed camera("Sollux G", seed);
-        camera.Write(agc, {2});
+        camera.Write(automaticGain, {2});
         camera.Advance(1s);
         EXPECT_NEAR((camera.Mean(1, 2) * 256 + camera.Mean(0, 2)) / 16383, 0.30, 0.03 * 0.30) << seed;
     }
@@ -230,7 +230,7 @@ TEST(SimulatedPicture, IsReplacedByTestPatterns) {
     auto color = Photographed::OfSteps("Orvik-710C");
     color.Write(pattern, {1});
     const Bytes bars = color.Shoot().bytes;
-    EXPECT_EQ(Bytes(bars.begin() + 95 * 3, bars.begin() + 97 * 3), (Bytes{0, 255, 255, 0, 255, 0})); // cyan, green
+    EXPECT_EQ(Bytes(&bars[285], &bars[291]), (Bytes{0, 255, 255, 0, 255, 0})); // the last cyan, the first green
 
     Photographed other("Cerix-MV7");
     other.Write(pattern, {1, 4}); // the right half
