@@ -20,8 +20,10 @@ using std::chrono::nanoseconds;
 
 namespace {
 
-constexpr microseconds burstTime{200};   ///< packets of this time are sent together: a sleep takes at least 50 us
-constexpr microseconds longestDebt{200}; ///< the delay that is made up for after a sleep that took too long
+constexpr microseconds burstTime{200}; ///< packets of this time are sent together: a sleep takes at least 50 us
+// What is made up for after a sleep that took too long. More would overflow the usual socket buffer of a receiver.
+constexpr nanoseconds longestDebt = microseconds(200);
+constexpr int largestDebt = 32; ///< packets, if they take longer
 
 /// Determines when the link is free for the next packets.
 class Pace {
@@ -36,7 +38,8 @@ public:
         return std::clamp<std::size_t>(packets, 1, StreamSocket::mostPackets);
     }
     void Sent(std::size_t packets, Time now) {
-        free = std::max(free, now - longestDebt) + packetTime * static_cast<std::int64_t>(packets);
+        free = std::max(free, now - std::max(longestDebt, largestDebt * packetTime)) +
+               packetTime * static_cast<std::int64_t>(packets);
     }
     [[nodiscard]] Time Free() const { return free; }
 
