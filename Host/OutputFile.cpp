@@ -32,8 +32,7 @@ void WriteOutput(const std::string& file, std::string_view content) {
     }
     std::error_code ignored;
     if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
-        throw UsageError(DescribeFile(file) + ": not a regular file; use " + standardStream +
-                         " for standard output");
+        throw UsageError(DescribeFile(file) + ": not a regular file; use " + standardStream + " for standard output");
     }
     try {
         Common::ReplaceFile(file, content);

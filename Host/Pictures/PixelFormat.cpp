@@ -35,10 +35,11 @@ std::uint16_t Clamp8(int fixed) { // with 16 fractional bits
 /// U Y V Y in the full range of 8 bits, with the weights of ITU-R BT.601.
 void ReadYuvLine(const std::uint8_t* line, std::uint32_t width, std::uint16_t* sample) {
     for (std::uint32_t x = 0; x < width; ++x, sample += 3) {
-        const std::uint8_t* const pair = line + x / 2 * 4;
+        const std::uint8_t* const pair = line + std::size_t{x} / 2 * 4;
         const int y = pair[x % 2 == 0 ? 1 : 3] << 16;
         const int u = pair[0] - 128;
-        const int v = pair[2] - 128;
+        const bool isCut = x % 2 == 0 && x + 1 == width; // a line of odd width ends without its last V
+        const int v = isCut ? 0 : pair[2] - 128;
         sample[0] = Clamp8(y + 91881 * v);
         sample[1] = Clamp8(y - 22554 * u - 46802 * v);
         sample[2] = Clamp8(y + 116130 * u);
@@ -85,7 +86,7 @@ void ReadLine(const PixelFormat& format, std::span<const std::uint8_t> bytes, st
         break;
     case PixelLayout::Bgr8:
         for (std::uint32_t x = 0; x < width; ++x) {
-            std::reverse_copy(data + 3 * (first + x), data + 3 * (first + x + 1), samples.begin() + 3 * x);
+            std::reverse_copy(data + 3 * (first + x), data + 3 * (first + x + 1), samples.data() + std::size_t{3} * x);
         }
         break;
     }

@@ -79,6 +79,7 @@ TEST(HostGrab, ReadsTheSamplesOfEachFormat) {
         {0x02180014, {0, 0, 0, 7, 8, 9}, 1, {7, 8, 9}},
         {0x02180015, {0, 0, 0, 7, 8, 9}, 1, {9, 8, 7}},
         {0x0210001F, {0, 0, 0, 0, 128, 50, 128, 200}, 2, {50, 50, 50, 200, 200, 200}},
+        {0x0210001F, {0, 0, 128, 77}, 1, {77, 77, 77}},                         // without V
         {0x0210001F, {0, 0, 0, 0, 85, 76, 255, 76}, 2, {254, 0, 0, 254, 0, 0}}, // red, within a rounding
     };
     for (const Row& row : rows) {
@@ -118,7 +119,7 @@ TEST(HostGrab, WritesWhatItMeasuresInEveryFormat) {
         EXPECT_NEAR(NumberIn(run.out, "saturatedPercent"), 100 * saturated / count, 0.001);
         double differences = 0;
         for (std::size_t i = row.channels; i < samples.size(); ++i) {
-            const bool isFirst = i % (640 * row.channels) < row.channels;
+            const bool isFirst = i % (std::size_t{640} * row.channels) < row.channels;
             differences += isFirst ? 0 : std::abs(samples[i] - samples[i - row.channels]);
         }
         EXPECT_NEAR(NumberIn(run.out, "sharpnessPerMille"), 1000 * differences / (count / 640 * 639) / full, 0.001);
