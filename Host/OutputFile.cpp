@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -25,15 +26,27 @@ std::string DescribeFile(const std::string& file) {
     return file == standardStream ? "standard input" : '"' + file + '"';
 }
 
+void CheckOutput(const std::string& file) {
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    if (file == standardStream) {
+        return;
+    }
+    if (fs::exists(file, ignored) && !fs::is_regular_file(file, ignored)) {
+        throw UsageError(DescribeFile(file) + ": not a regular file; use " + standardStream + " for standard output");
+    }
+    const fs::path folder = fs::path(file).parent_path();
+    if (!folder.empty() && !fs::is_directory(folder, ignored)) {
+        throw UsageError(DescribeFile(file) + ": cannot be written: " + std::strerror(ENOENT));
+    }
+}
+
 void WriteOutput(const std::string& file, std::string_view content) {
     if (file == standardStream) {
         std::cout << content << std::flush;
         return;
     }
-    std::error_code ignored;
-    if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
-        throw UsageError(DescribeFile(file) + ": not a regular file; use " + standardStream + " for standard output");
-    }
+    CheckOutput(file);
     try {
         Common::ReplaceFile(file, content);
     } catch (const std::system_error& error) {

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.DescribeController() : ""; }
     void RequireUnbroken() override { port.RequireUnbrokenControl(); }
     [[nodiscard]] std::unique_ptr<PictureSource> OpenStream(const PictureFormat& format) override {
-        return OpenGigEStream(port.Device(), format);
+        return OpenGigEStream(port.Device(), port, format);
     }
     void SaveState() const override {} // a real camera keeps its state
 

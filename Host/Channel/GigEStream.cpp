@@ -1,5 +1,6 @@
 #include "Host/Channel/GigEStream.h"
 
+#include "Common/Bootstrap.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/ReceiveSocket.h"
 #include "Host/Pictures/PixelFormat.h"
@@ -40,10 +41,31 @@ Stream Create(ArvDevice& device) {
     return stream;
 }
 
+/// Gives the camera the packet size back that it had before the negotiation.
+class PacketSizeGuard {
+public:
+    explicit PacketSizeGuard(SDK4::IControlPort& ofCamera)
+        : port(ofCamera),
+          before(port.ReadRegister(Common::Bootstrap::streamPacketSize)) {}
+    ~PacketSizeGuard() {
+        try {
+            port.WriteRegister(Common::Bootstrap::streamPacketSize, before);
+        } catch (...) { // NOLINT(bugprone-empty-catch): the camera is lost, which the command reports
+        }
+    }
+    PacketSizeGuard(const PacketSizeGuard&) = delete;
+    PacketSizeGuard& operator=(const PacketSizeGuard&) = delete;
+
+private:
+    SDK4::IControlPort& port;
+    std::uint32_t before;
+};
+
 class GigEStream final : public PictureSource {
 public:
-    GigEStream(ArvDevice& device, std::uint64_t payload)
-        : stream(Create(device)),
+    GigEStream(ArvDevice& device, SDK4::IControlPort& port, std::uint64_t payload)
+        : packetSizeOfCamera(port),
+          stream(Create(device)),
           socket(arv_gv_stream_get_port(ARV_GV_STREAM(stream.get()))),
           packetSize(arv_gv_device_get_packet_size(ARV_GV_DEVICE(&device), nullptr)),
           wantedBuffer(2 * payload) {
@@ -65,6 +87,7 @@ private:
         return arv_stream_get_info_uint64_by_name(stream.get(), name);
     }
 
+    PacketSizeGuard packetSizeOfCamera; // after the stream has ended
     Stream stream;
     ReceiveSocket socket;
     std::uint32_t packetSize;
@@ -153,12 +176,13 @@ std::string GigEStream::ExplainLosses() const {
 
 } // namespace
 
-std::unique_ptr<PictureSource> OpenGigEStream(_ArvDevice& device, const PictureFormat& format) {
+std::unique_ptr<PictureSource> OpenGigEStream(_ArvDevice& device, SDK4::IControlPort& port,
+                                              const PictureFormat& format) {
     const std::uint64_t payload = PayloadSize(format.pixelFormat, format.width, format.height);
     if (payload == 0 || payload > largestPicture) {
         throw std::runtime_error("pictures of " + std::to_string(payload) + " bytes cannot be received");
     }
-    return std::make_unique<GigEStream>(device, payload);
+    return std::make_unique<GigEStream>(device, port, payload);
 }
 
 } // namespace Host

@@ -46,16 +46,33 @@ std::uint64_t NumberOf(const Invocation& invocation, Parameter parameter) {
     return *number;
 }
 
-/// FILE may be omitted: an assignment in its place is not a file.
-Order OrderOf(const Invocation& invocation) {
-    Order order{NumberOf(invocation, Parameter::Count), NumberOf(invocation, Parameter::Every),
-                invocation.Has(Parameter::Raw), invocation.Text(Parameter::File),
-                invocation.Texts(Parameter::Assignments)};
-    if (order.file.substr(0, order.file.find('/')).find('=') != std::string::npos) {
-        order.assignments.insert(order.assignments.begin(), order.file);
-        order.file.clear();
+/// An assignment has a "=", which is why a FILE with one in its name needs a folder before it.
+bool IsAssignment(const std::string& text) { return text.substr(0, text.find('/')).find('=') != std::string::npos; }
+
+/// @throws UsageError
+void CheckFile(const Order& order) {
+    if (!order.raw && order.file != standardStream && !order.file.ends_with(".png")) {
+        throw UsageError(DescribeFile(order.file) + ": pictures are written as .png; --raw writes them as they come");
     }
-    if (order.file.empty() && (order.raw || invocation.Has(Parameter::Every))) {
+    CheckOutput(order.file);
+}
+
+/// FILE may be left out, and may stand behind assignments.
+/// @throws UsageError
+Order OrderOf(const Invocation& invocation) {
+    Order order{.count = NumberOf(invocation, Parameter::Count),
+                .every = NumberOf(invocation, Parameter::Every),
+                .raw = invocation.Has(Parameter::Raw),
+                .file = "",
+                .assignments = invocation.Texts(Parameter::File)};
+    const auto& others = invocation.Texts(Parameter::Assignments);
+    order.assignments.insert(order.assignments.end(), others.begin(), others.end());
+    const auto file = std::find_if_not(order.assignments.begin(), order.assignments.end(), IsAssignment);
+    if (file != order.assignments.end()) {
+        order.file = *file;
+        order.assignments.erase(file);
+        CheckFile(order);
+    } else if (order.raw || invocation.Has(Parameter::Every)) {
         throw UsageError("--raw and --every say what is written: FILE is required");
     }
     return order;

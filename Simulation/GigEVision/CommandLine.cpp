@@ -88,7 +88,7 @@ std::string Describe(const CLI::App& app, const CLI::ParseError& error) {
         return text;
     }
     if (!unknown.front().starts_with('-')) {
-        return '"' + unknown.front() + "\" was not expected";
+        return "unexpected argument \"" + unknown.front() + '"';
     }
     std::vector<std::string> names;
     for (const CLI::Option* option : app.get_options([](const CLI::Option* each) { return each->nonpositional(); })) {

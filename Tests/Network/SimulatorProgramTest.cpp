@@ -194,7 +194,7 @@ TEST(SimulatorProgramTest, RefusesWhatItCannotDo) {
         {{"Orvik\x1b[2J"}, 2, "unknown model \"Orvik\\x1B[2J\""},
         {{"Orvik-710C", "--address", "224.0.0.1"}, 2, "--address: \"224.0.0.1\" is not a unicast IPv4 address"},
         {{"Orvik-710C", "--sede", "7"}, 2, "unknown option \"--sede\"; did you mean \"--seed\"?" + more},
-        {{"Orvik-710C", "Sollux G"}, 2, "\"Sollux G\" was not expected" + more},
+        {{"Orvik-710C", "Sollux G"}, 2, "unexpected argument \"Sollux G\"" + more},
         {{"Orvik-710C", "--seed", "1", "--seed", "2"}, 2, "--seed is given twice" + more},
         {{"Orvik-710C", "--seed", "-1"}, 2, "--seed: invalid seed \"-1\": must be a number of 0 or more" + more},
         {{"Orvik-710C", "--drop", "1.5"}, 2, "--drop: \"1.5\" is not a share between 0 and 1" + more},

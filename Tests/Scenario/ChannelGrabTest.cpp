@@ -12,6 +12,7 @@ TEST(ChannelGrab, PicturesAreThoseOfTheCameraInProcess) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--seed", "7", "--stream-drop", "0.01"});
     const Outcome run = camera.Run("grab CAMERA " + there + settings + "--count 30 --every 30 --json");
     EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_EQ(camera.Run("get CAMERA packetsize").out, "1404\n"); // as before the negotiation
     EXPECT_EQ(NumberIn(run.out, "frames"), 30);
     EXPECT_EQ(NumberIn(run.out, "missing"), 0); // what was lost is sent again
     EXPECT_GT(NumberIn(run.out, "packetsResent"), 0);

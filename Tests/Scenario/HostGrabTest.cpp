@@ -100,7 +100,7 @@ TEST(HostGrab, WritesWhatItMeasuresInEveryFormat) {
     };
     for (const Row& row : {Row{"mono8", 1, 8}, Row{"mono14", 1, 14}, Row{"mono12packed", 1, 12},
                            Row{"yuv422packed", 3, 8}, Row{"rgb8", 3, 8}, Row{"bgr8", 3, 8}, Row{"raw14", 1, 14}}) {
-        const std::string file = TemporaryFile(row.coding);
+        const std::string file = TemporaryFile(row.coding) + ".png";
         const Outcome run =
             RunHost(camera + file + " readoutarea=0,0,639,99 --json colorcoding=" + std::string(row.coding));
         ASSERT_EQ(run.code, 0) << run.err;
@@ -176,9 +176,10 @@ TEST(HostGrab, SaysWhatIsWrong) {
         {"--count 0", 2, "invalid number of pictures \"0\""},
         {file + " --every 1.5", 2, "invalid number of pictures \"1.5\""},
         {"--raw", 2, "--raw and --every say what is written: FILE is required"},
-        {"gain=1 x", 2, "\"x\""},
-        {file + small + " gain=600", 1, "gain: SDK4_ERR_OUTOFRANGE: 600 was clamped, the camera now holds 511"},
-        {"/dev/full" + small, 2, "\"/dev/full\": not a regular file; use - for standard output"},
+        {"gain=1 x.jpg", 2, "\"x.jpg\": pictures are written as .png; --raw writes them as they come"},
+        {"x.png y.png", 2, "\"y.png\""},
+        {small + " gain=600 " + file, 1, "gain: SDK4_ERR_OUTOFRANGE: 600 was clamped, the camera now holds 511"},
+        {"/dev/full --raw" + small, 2, "\"/dev/full\": not a regular file; use - for standard output"},
         {folder.File("none/shot.png") + small, 2, "cannot be written: No such file or directory"},
         {"--index 0 colorcoding=mono8 --fault ignore:colorcoding", 1,
          "the camera sent a frame of 3208 x 2208 rgb8 instead of 3208 x 2208 mono8"},
