@@ -9,9 +9,10 @@ constexpr std::uint32_t modelName = 0x0068;
 constexpr std::uint16_t modelNameLength = 32;
 constexpr std::uint32_t userDefinedName = 0x00E8;
 constexpr std::uint16_t userDefinedNameLength = 16;
-constexpr std::uint32_t streamPacketSize = 0x0D04;
 constexpr std::uint32_t controlChannelPrivilege = 0x0A00;
 constexpr std::uint32_t primaryApplicationPort = 0x0A04;
 constexpr std::uint32_t primaryApplicationAddress = 0x0A14;
+constexpr std::uint32_t streamPort = 0x0D00;
+constexpr std::uint32_t streamPacketSize = 0x0D04;
 
 } // namespace Common::Bootstrap

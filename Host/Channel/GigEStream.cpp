@@ -3,6 +3,7 @@
 #include "Common/Bootstrap.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/ReceiveSocket.h"
+#include "Host/Channel/TestPackets.h"
 #include "Host/Pictures/PixelFormat.h"
 
 #include <arv.h>
@@ -21,11 +22,20 @@ constexpr std::uint64_t mostBuffers = 32;
 constexpr std::uint64_t largestPicture = std::uint64_t{1} << 30;
 constexpr std::uint64_t lateness = 1000; ///< a frame number lower by more than this means that the numbers wrapped
 
+constexpr std::uint32_t smallestPacket = 576; ///< that every network passes
+
 struct Unreference {
     void operator()(void* object) const { g_object_unref(object); }
 };
 using Buffer = std::unique_ptr<ArvBuffer, Unreference>;
 using Stream = std::unique_ptr<ArvStream, Unreference>;
+
+/// The address of the network card that faces the camera.
+std::uint32_t OwnAddress(ArvDevice& device) {
+    auto* const address = G_INET_SOCKET_ADDRESS(arv_gv_device_get_interface_address(ARV_GV_DEVICE(&device)));
+    const guint8* const bytes = g_inet_address_to_bytes(g_inet_socket_address_get_address(address));
+    return std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 | std::uint32_t{bytes[2]} << 8 | bytes[3];
+}
 
 Stream Create(ArvDevice& device) {
     arv_gv_device_set_packet_size_adjustment(ARV_GV_DEVICE(&device), ARV_GV_PACKET_SIZE_ADJUSTMENT_ALWAYS);
@@ -64,7 +74,9 @@ private:
 class GigEStream final : public PictureSource {
 public:
     GigEStream(ArvDevice& device, SDK4::IControlPort& port, std::uint64_t payload)
-        : packetSizeOfCamera(port),
+        : control(port),
+          ownAddress(OwnAddress(device)),
+          packetSizeOfCamera(port),
           stream(Create(device)),
           socket(arv_gv_stream_get_port(ARV_GV_STREAM(stream.get()))),
           packetSize(arv_gv_device_get_packet_size(ARV_GV_DEVICE(&device), nullptr)),
@@ -87,6 +99,11 @@ private:
         return arv_stream_get_info_uint64_by_name(stream.get(), name);
     }
 
+    /// Why packets are missing that this machine did not drop, as test packets show.
+    [[nodiscard]] std::string ExplainPath() const;
+
+    SDK4::IControlPort& control;
+    std::uint32_t ownAddress;
     PacketSizeGuard packetSizeOfCamera; // after the stream has ended
     Stream stream;
     ReceiveSocket socket;
@@ -155,10 +172,21 @@ StreamStatistics GigEStream::Statistics() const {
     return {missing, Info("n_resent_packets"), socket.Dropped(), packetSize, socket.BufferSize()};
 }
 
-std::string GigEStream::ExplainLosses() const {
-    if (Info("n_received_packets") == 0) {
-        return "no packet came: does a firewall let UDP from the camera through?";
+std::string GigEStream::ExplainPath() const {
+    TestPackets test(control, ownAddress);
+    if (test.Try(packetSize) != 0) {
+        return Info("n_received_packets") == 0
+                   ? "test packets arrive, but the camera sent no pictures"
+                   : "this machine dropped none of the packets that reached it: look at the network and the camera";
     }
+    if (const std::uint32_t passing = test.Try(smallestPacket); passing != 0) {
+        return "packets of " + std::to_string(packetSize) + " bytes do not arrive, those of " +
+               std::to_string(passing) + " bytes do: the MTU of a network card or a switch is too small";
+    }
+    return "no packet came, not even a test packet: does a firewall let UDP from the camera through?";
+}
+
+std::string GigEStream::ExplainLosses() const {
     const std::uint64_t granted = socket.BufferSize();
     std::string text;
     if (const std::uint64_t dropped = socket.Dropped(); dropped > 0) {
@@ -171,7 +199,7 @@ std::string GigEStream::ExplainLosses() const {
     if (Info("n_underruns") > 0) {
         text += (text.empty() ? "" : "; ") + std::string("frames came while earlier pictures were still being written");
     }
-    return text.empty() ? "this machine dropped none of the packets that reached it" : text;
+    return text.empty() ? ExplainPath() : text;
 }
 
 } // namespace

@@ -180,7 +180,9 @@ Result Take(Acquisition& acquisition, const Order& order, Writer& writer) {
         result.measures = Measure(*picture, *format);
     }
     result.stream = acquisition.Source().Statistics();
-    result.losses = acquisition.Source().ExplainLosses();
+    if ((result.frames < order.count || result.stream.missing > 0) && !Interrupts::Received()) {
+        result.losses = acquisition.Source().ExplainLosses();
+    }
     return result;
 }
 

@@ -49,7 +49,7 @@ StreamSocket::~StreamSocket() { close(descriptor); }
 
 void StreamSocket::SetDontFragment(bool set) {
     if (set != dontFragment) {
-        const int discovery = set ? IP_PMTUDISC_DO : IP_PMTUDISC_DONT;
+        const int discovery = set ? IP_PMTUDISC_DO : IP_PMTUDISC_INTERFACE; // neither has this machine fragment
         setsockopt(descriptor, IPPROTO_IP, IP_MTU_DISCOVER, &discovery, sizeof discovery);
         dontFragment = set;
     }

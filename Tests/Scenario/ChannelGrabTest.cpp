@@ -12,7 +12,7 @@ TEST(ChannelGrab, PicturesAreThoseOfTheCameraInProcess) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--seed", "7", "--stream-drop", "0.01"});
     const Outcome run = camera.Run("grab CAMERA " + there + settings + "--count 30 --every 30 --json");
     EXPECT_EQ(run.code, 0) << run.err;
-    EXPECT_EQ(camera.Run("get CAMERA packetsize").out, "1404\n"); // as before the negotiation
+    EXPECT_EQ(camera.Run("get CAMERA packetsize").out, "packetsize=1404\n"); // as before the negotiation
     EXPECT_EQ(NumberIn(run.out, "frames"), 30);
     EXPECT_EQ(NumberIn(run.out, "missing"), 0); // what was lost is sent again
     EXPECT_GT(NumberIn(run.out, "packetsResent"), 0);
@@ -59,8 +59,10 @@ TEST(ChannelGrab, SaysWhatDidNotCome) {
     const NetworkCamera silent("Orvik-390M", "192.168.1.10", {"--stream-drop", "1"});
     const Outcome none = silent.Run("grab CAMERA");
     EXPECT_EQ(none.code, 1);
-    EXPECT_EQ(none.err, "qdv12host: no picture came within 2.1 s: no packet came: does a firewall let UDP from the "
-                        "camera through?\n");
+    EXPECT_EQ(none.err, "qdv12host: no picture came within 2.1 s: no packet came, not even a test packet: does a "
+                        "firewall let UDP from the camera through?\n");
+    const NetworkCamera idle("Orvik-390M", "192.168.1.12", {"--fault", "ignore:startacquisition"});
+    EXPECT_TRUE(Has(idle.Run("grab CAMERA").err, "2.1 s: test packets arrive, but the camera sent no pictures\n"));
     const NetworkCamera other("Orvik-710C", "192.168.1.11", {"--fault", "ignore:colorcoding"});
     const Outcome large = other.Run("grab CAMERA --index 0 colorcoding=mono8"); // three times the buffer
     EXPECT_EQ(large.code, 1);
@@ -72,6 +74,34 @@ TEST(ChannelGrab, SaysWhatDidNotCome) {
     std::this_thread::sleep_for(std::chrono::seconds(3)); // longer than the buffers last
     EXPECT_EQ(slow.End(), 1);
     EXPECT_TRUE(Has(slow.Read(), " frames are missing: frames came while earlier pictures were still being written\n"));
+}
+
+TEST(ChannelGrab, FindsTheBufferThatIsTooSmall) {
+    const NetworkCamera camera("Orvik-390M", "192.168.1.10", {"--link", "60"});
+    Running grab(QDV12_HOST, {"grab", "gige:192.168.1.10", "--count", "60"}, Running::both);
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    grab.Signal(SIGSTOP); // nobody empties the buffer
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    grab.Signal(SIGCONT);
+    EXPECT_EQ(grab.End(), 1);
+    EXPECT_TRUE(Has(grab.Read(), " packets found no room in the socket buffer of "));
+}
+
+TEST(ChannelGrab, FindsTheLinkThatIsTooSmall) {
+    const auto setMtu = [](const char* mtu) {
+        EXPECT_EQ(Running("ip", {"link", "set", "lo", "mtu", mtu}, Running::both).End(), 0);
+    };
+    const NetworkCamera camera("Orvik-390M", "192.168.1.10", {"--link", "30"});
+    Running grab(QDV12_HOST, {"grab", "gige:192.168.1.10", "-", "--count", "1000000"}, Running::both);
+    EXPECT_TRUE(grab.ReadUntil("PNG"));
+    setMtu("1500"); // after the negotiation
+    EXPECT_EQ(grab.End(), 1);
+    EXPECT_TRUE(Has(grab.Read(), "packets of 65516 bytes do not arrive, those of 1404 bytes do: the MTU of a network "
+                                 "card or a switch is too small\n"));
+    const Outcome negotiated = camera.Run("grab CAMERA --json");
+    EXPECT_EQ(negotiated.code, 0) << negotiated.err;
+    EXPECT_EQ(NumberIn(negotiated.out, "packetSize"), 1500);
+    setMtu("65536");
 }
 
 } // namespace Scenario
