@@ -18,8 +18,8 @@ namespace {
 constexpr std::uint32_t fire = 0x80000000;
 constexpr std::uint32_t doNotFragment = 0x40000000;
 constexpr std::uint32_t headers = 20 + 8; ///< IP and UDP
-constexpr int attempts = 3;
-constexpr int timeout = 100; ///< milliseconds
+constexpr int testAttempts = 3;
+constexpr int testTimeout = 100; ///< milliseconds
 
 /// @return a socket with a port of its own; -1 if there is none
 int OpenSocket(std::uint32_t address, std::uint16_t& port) {
@@ -56,10 +56,10 @@ TestPackets::~TestPackets() {
 
 std::uint32_t TestPackets::Try(std::uint32_t size) {
     std::vector<std::uint8_t> packet(65536);
-    for (int attempt = 0; attempt < attempts; ++attempt) {
+    for (int attempt = 0; attempt < testAttempts; ++attempt) {
         port.WriteRegister(streamPacketSize, fire | doNotFragment | size);
         pollfd waiting{descriptor, POLLIN, 0};
-        if (poll(&waiting, 1, timeout) == 1) {
+        if (poll(&waiting, 1, testTimeout) == 1) {
             const ssize_t length = recv(descriptor, packet.data(), packet.size(), 0);
             return length < 0 ? 0 : static_cast<std::uint32_t>(length) + headers;
         }

@@ -19,7 +19,7 @@ SDK4::IVideoFrame& Frame(IDSMediaType& stream) {
     }
     return *frame;
 }
-unsigned int PixelFormat(IDSMediaType& stream) { return Frame(stream).GetFormat(); }
+unsigned int PixelFormatOf(IDSMediaType& stream) { return Frame(stream).GetFormat(); }
 unsigned int TimePerFrame(IDSMediaType& stream) { return Frame(stream).GetTimePerFrame(); }
 
 constexpr unsigned int dhcpBit = 2;
@@ -76,7 +76,7 @@ void AddNetwork(FunctionTable& table) {
 void AddFrames(FunctionTable& table) {
     table.Topic(Topics::image);
     table.ReadOnly<&ISignalFormat::GetImageSize> ("imagesize")    .Unit("px");
-    table.ReadOnly<&PixelFormat>                 ("pixelformat")  .Hexadecimal();
+    table.ReadOnly<&PixelFormatOf>               ("pixelformat")  .Hexadecimal();
     table.ReadOnly<&TimePerFrame>                ("timeperframe") .Unit("ns");
 }
 

@@ -41,7 +41,7 @@ public:
 private:
     struct Sent {
         Gvsp::Block block;
-        std::uint32_t budget; ///< packets that may be sent again
+        std::uint32_t budget = 0; ///< packets that may be sent again
     };
 
     [[nodiscard]] Sent* Find(std::uint16_t id);

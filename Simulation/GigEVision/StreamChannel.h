@@ -14,10 +14,10 @@ namespace Simulation::GigEVision {
 
 /// Where the stream goes, and how.
 struct StreamTarget {
-    Endpoint receiver;
-    std::uint32_t packetSize; ///< including the IP header
-    bool dontFragment;
-    std::chrono::microseconds packetDelay; ///< between two packets
+    Endpoint receiver{};
+    std::uint32_t packetSize = 0; ///< including the IP header
+    bool dontFragment = false;
+    std::chrono::microseconds packetDelay{0}; ///< between two packets
 };
 
 /// Packets that a receiver missed.
@@ -29,9 +29,9 @@ struct ResendRequest {
 
 /// A frame to send.
 struct DueBlock {
-    std::uint16_t id;
-    std::uint64_t timestamp; ///< ticks
-    StreamTarget target;
+    std::uint16_t id = 0;
+    std::uint64_t timestamp = 0; ///< ticks
+    StreamTarget target{};
     ExposedFrame exposed;
 };
 

@@ -57,7 +57,7 @@ void StreamSocket::SetDontFragment(bool set) {
 
 void StreamSocket::Send(const Endpoint& to, std::span<const Gvsp::Packet> packets) {
     sockaddr_in name = SocketAddress(to);
-    std::array<iovec, 2 * mostPackets> vectors;
+    std::array<iovec, 2 * mostPackets> vectors{};
     std::array<mmsghdr, mostPackets> messages{};
     for (std::size_t i = 0; i < packets.size(); ++i) {
         vectors[2 * i] = VectorOf(packets[i].Head());

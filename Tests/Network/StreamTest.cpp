@@ -15,6 +15,7 @@ const std::string start = "4201 0082 0008 0003 00088134 00000001";
 const std::string stop = "4201 0082 0008 0004 00088138 00000000";
 const std::string trigger = "4201 0082 0008 0005 0a070000 00000001";
 const std::string done = "0000 0083 0004 ";
+constexpr std::chrono::milliseconds tick{1};
 
 Bytes BytesOf(const Gvsp::Packet& packet) {
     Bytes bytes(packet.Head().begin(), packet.Head().end());
@@ -42,7 +43,7 @@ protected:
     std::vector<int> IdsWithin(std::chrono::milliseconds duration) {
         std::vector<int> ids;
         for (; duration.count() > 0; --duration) {
-            if (const auto block = After(1ms)) {
+            if (const auto block = After(tick)) {
                 ids.push_back(block->id);
             }
         }
@@ -62,14 +63,14 @@ TEST_F(StreamTest, RunsAtTheFrameDuration) {
     for (std::uint64_t i = 1; i < 4; ++i) {
         const auto due = device.StreamDue();
         ASSERT_TRUE(due);
-        time = std::chrono::duration_cast<std::chrono::milliseconds>(*due - start) + 1ms;
+        time = std::chrono::duration_cast<std::chrono::milliseconds>(*due - start) + tick;
         const auto block = After(0ms);
         ASSERT_TRUE(block);
         EXPECT_EQ(block->id, i);
         EXPECT_EQ(block->timestamp, static_cast<std::uint64_t>(first.count()) + i * duration); // not that of sending
     }
     EXPECT_EQ(After(1000ms)->id, 4); // frames that were not sent in time are lost, and take no id
-    EXPECT_FALSE(After(1ms));
+    EXPECT_FALSE(After(tick));
     Ask("4201 0082 0008 0006 00088140 000007d0"); // 2 frames per second
     EXPECT_EQ(IdsWithin(2000ms).size(), 4U);
 }
@@ -103,7 +104,7 @@ TEST_F(StreamTest, WaitsForTriggers) {
     const auto before = time;
     Ask(trigger);
     Ask("4201 0082 0008 0006 0a070000 00000001"); // while the frame is on its way
-    while (!After(1ms)) {
+    while (!After(tick)) {
         ASSERT_LT(time - before, 1s);
     }
     EXPECT_EQ(time - before, std::chrono::milliseconds(31 + camera->Registers().Get("frameduration")[0] / 1000));
@@ -111,7 +112,7 @@ TEST_F(StreamTest, WaitsForTriggers) {
     Ask("4201 0082 0008 0007 0a020000 00000004"); // on demand
     EXPECT_FALSE(After(100ms));
     Ask("4201 0082 0008 0008 0a070000 00000001");
-    EXPECT_TRUE(After(1ms));
+    EXPECT_TRUE(After(tick));
     EXPECT_FALSE(After(100ms));
 }
 
