@@ -40,7 +40,7 @@ std::size_t RoundedToWords(std::size_t bytes) { return (bytes + 3) / 4 * 4; }
 std::string LocalUrl(const std::string& file, std::size_t length) {
     char location[32];
     std::snprintf(location, sizeof location, ";%X;%zX", descriptionAddress, length);
-    return "Local:" + file + ".xml" + location;
+    return "Local:" + file + ".zip" + location;
 }
 
 } // namespace
@@ -69,7 +69,7 @@ std::vector<Register> BootstrapRegisters(const Identity& identity) {
         {"bootstrapserialnumber",      0x00D8, Fixed,       Text(16, identity.serial)},
         {"userdefinedname",            userDefinedName, NonVolatile, Text(userDefinedNameLength, "")},
         {"firsturl",                   0x0200, Fixed,       Text(512, LocalUrl(file, identity.description.size()))},
-        {"secondurl",                  0x0400, Fixed,       Text(512, "http://192.168.1.10/" + file + ".xml")},
+        {"secondurl",                  0x0400, Fixed,       Text(512, "http://192.168.1.10/" + file + ".zip")},
         {"interfaces",                 0x0600, Fixed,       Word(1)},
         {"persistentipaddress",        0x064C, NonVolatile, Word(0)},
         {"persistentsubnetmask",       0x065C, NonVolatile, Word(0)},

@@ -13,7 +13,7 @@ struct Identity {
     std::string model;
     std::uint32_t number; ///< 24 bits of the MAC address
     std::string serial;
-    std::string description; ///< GenICam XML
+    std::string description; ///< GenICam XML, in a zip archive
 };
 
 /// The bootstrap registers of the GigE Vision standard, which differ between cameras only in the identity, and the

@@ -5,8 +5,11 @@
 #include "Simulation/M2VX.h"
 #include "Simulation/Orvik.h"
 #include "Simulation/World.h"
+#include "Simulation/Zip.h"
 
 #include <algorithm>
+#include <map>
+#include <mutex>
 
 namespace Simulation {
 
@@ -35,12 +38,24 @@ const M2VXModel m2vxModels[] = {
 };
 // clang-format on
 
+/// The zipped description. It is made once for each model, because that takes longer than all else of a camera.
+template <typename Model> std::string DescriptionArchive(const Model& model) {
+    static std::mutex access;
+    static std::map<std::string, std::string> archives; // by model
+    const std::lock_guard lock(access);
+    std::string& archive = archives[model.name];
+    if (archive.empty()) {
+        archive = Zipped(model.name + ".xml", Description(model));
+    }
+    return archive;
+}
+
 Identity IdentityOf(const OrvikModel& model) {
-    return {model.name, FunctionModelId(model), SerialNumber(model), Description(model)};
+    return {model.name, FunctionModelId(model), SerialNumber(model), DescriptionArchive(model)};
 }
 
 Identity IdentityOf(const M2VXModel& model) {
-    return {model.name, model.number, SerialNumber(model), Description(model)};
+    return {model.name, model.number, SerialNumber(model), DescriptionArchive(model)};
 }
 
 std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own) {
