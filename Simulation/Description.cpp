@@ -1,11 +1,10 @@
 #include "Simulation/Description.h"
 
 #include "Descriptions.h"
-#include "Simulation/Addresses.h"
 #include "Simulation/BootstrapRegisters.h"
+#include "Simulation/Nodes.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <set>
 #include <utility>
 #include <vector>
@@ -40,40 +39,51 @@ std::set<std::string> Contents(const std::string& xml) {
     return contents;
 }
 
-std::string WordNode(const std::string& name, std::uint32_t address, Role role) {
-    const char* const access = role == Role::Fixed || role == Role::Status ? "RO" : "RW";
-    const char* const byteOrder = address < bootstrapEnd ? "BigEndian" : "LittleEndian";
-    char node[400];
-    std::snprintf(node, sizeof node,
-                  "  <IntReg Name=\"%s\">\n    <Address>0x%08X</Address>\n    <Length>4</Length>\n"
-                  "    <AccessMode>%s</AccessMode>\n    <pPort>Device</pPort>\n    <Cachable>NoCache</Cachable>\n"
-                  "    <Sign>Unsigned</Sign>\n    <Endianess>%s</Endianess>\n  </IntReg>\n",
-                  name.c_str(), address, access, byteOrder);
-    return node;
+/// Whether the family has the function, but not this model: then the register is fixed, though hosts could write it.
+bool Lacks(const Register& entry) { return entry.role == Role::Fixed && !entry.limits.empty(); }
+
+bool Fits(const Feature& feature, const Register& entry) {
+    const std::size_t fields = feature.kind.fields.size();
+    return feature.registerName == entry.name && !Lacks(entry) && (fields == 0 || fields == WordCount(entry));
 }
 
-/// The nodes of the words that the description refers to. The name is that of the register; where it has several words,
-/// their number follows: "gain", "readoutarea_2".
-std::string WordNodes(const std::string& description, const std::vector<Register>& registers) {
-    const std::set<std::string> wanted = Contents(description);
-    std::string nodes;
-    for (const Register& entry : registers) {
-        const Instance& content = entry.powerUp.instances.front();
-        const std::size_t words = content.selector.empty() ? content.value.size() / sizeof(std::uint32_t) : 0;
-        for (std::uint32_t word = 0; word < words; ++word) {
-            const std::string name = words == 1 ? entry.name : entry.name + '_' + std::to_string(word);
-            if (wanted.contains(name)) {
-                nodes += WordNode(name, entry.address + 4 * word, entry.role);
+/// Enters the names of features at the end of their category.
+void Enter(std::string& description, const std::string& category, const std::vector<std::string>& features) {
+    std::size_t at = description.find("</Category>", description.find("<Category Name=\"" + category + '"'));
+    at = description.rfind('\n', at) + 1;
+    for (const std::string& feature : features) {
+        const std::string line = "    <pFeature>" + feature + "</pFeature>\n";
+        description.insert(at, line);
+        at += line.size();
+    }
+}
+
+/// Adds the functions of the registers.
+void AddFeatures(std::string& description, const std::vector<Register>& registers) {
+    std::string xml;
+    for (const Feature& feature : Features()) {
+        for (const Register& entry : registers) {
+            if (Fits(feature, entry)) {
+                const Nodes nodes = FeatureNodes(feature, entry);
+                Enter(description, feature.category, nodes.features);
+                xml += nodes.xml;
             }
         }
     }
-    return nodes;
+    description.insert(description.find("$REGISTERS"), xml);
 }
 
 std::string Complete(const std::string& family, const std::string& model, const std::vector<Register>& own) {
-    const std::string description = Fill(family, {{"$TYPE", TypeName(model)}, {"$COMMON\n", commonDescription}});
-    const std::string nodes = WordNodes(description, BootstrapRegisters({})) + WordNodes(description, own);
-    return Fill(description, {{"$REGISTERS", nodes}});
+    std::vector<Register> registers = BootstrapRegisters({});
+    registers.insert(registers.end(), own.begin(), own.end());
+    std::string description = Fill(family, {{"$TYPE", TypeName(model)}, {"$COMMON\n", commonDescription}});
+    AddFeatures(description, registers);
+    const std::set<std::string> wanted = Contents(description);
+    std::string words;
+    for (const Register& entry : registers) {
+        words += WordNodes(entry, wanted);
+    }
+    return Fill(description, {{"$REGISTERS", words}});
 }
 
 } // namespace

@@ -39,12 +39,13 @@ switch_off() {
 # arv ARGUMENT...: runs arv-tool on the camera's address, without discovery.
 arv() { timeout 60 arv-tool-0.8 --address 192.168.1.10 "$@"; }
 
-# expect LINE COMMAND...: the output must contain the line, ignoring blanks around it.
+# expect LINE COMMAND...: the output must contain the line, ignoring blanks around it. It is read to its end, or its
+# writer would fail.
 expect() {
     local line=$1 printed
     shift
     printed=$("$@" 2>&1) || fail "$* exited with $?: $printed"
-    sed 's/^ *//; s/ *$//' <<<"$printed" | grep -Fqx -- "$line" || fail "$*: expected \"$line\" in: $printed"
+    sed 's/^ *//; s/ *$//' <<<"$printed" | grep -Fx -- "$line" >/dev/null || fail "$*: expected \"$line\" in: $printed"
 }
 
 # none DISPLAY_FILTER [OPTION...]: no packet of the record matches.
