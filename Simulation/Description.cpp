@@ -43,8 +43,9 @@ std::set<std::string> Contents(const std::string& xml) {
 bool Lacks(const Register& entry) { return entry.role == Role::Fixed && !entry.limits.empty(); }
 
 bool Fits(const Feature& feature, const Register& entry) {
-    const std::size_t fields = feature.kind.fields.size();
-    return feature.registerName == entry.name && !Lacks(entry) && (fields == 0 || fields == WordCount(entry));
+    const bool isText = feature.kind.kind == FeatureKind::Kind::Text;
+    const std::size_t words = std::max<std::size_t>(feature.kind.fields.size(), 1);
+    return feature.registerName == entry.name && !Lacks(entry) && (isText || words == WordCount(entry));
 }
 
 /// Enters the names of features at the end of their category.

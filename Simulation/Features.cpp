@@ -82,6 +82,7 @@ const std::vector<Feature>& Features() {
 
         {"exposuremode",             "ExposureMode",              acquisition, "What begins an exposure", exposureModes},
         {"exposure",                 "Exposure",                  acquisition, "Exposure time: the counter times ten to the power of the base, in microseconds", time},
+        {"exposure",                 "Exposure",                  acquisition, "Exposure time in milliseconds; settable in exposure mode ResetRestart"},
         {"aet",                      "AET",                       acquisition, "Automatic exposure time control", modes},
         {"autoexposurelevel",        "AutoExposureLevel",         acquisition, "Level that the automatic modes aim at"},
         {"triggertimer",             "TriggerTimer",              acquisition, "Trigger timer, in units of the camera"},

@@ -29,12 +29,12 @@ struct FeatureKind {
 ///
 /// The standard's features are in the folder Descriptions, and so are the functions that equal one of them: gain,
 /// colorcoding (PixelFormat), binning, verticalflip and horizontalflip (ReverseY, ReverseX), readoutarea (Width,
-/// Height, OffsetX, OffsetY), exposure of the M2VX family (ExposureTime), softtrigger (TriggerSoftware).
+/// Height, OffsetX, OffsetY), softtrigger (TriggerSoftware).
 ///
 /// The descriptions do not have:
 /// - functions that the model lacks;
 /// - afe: calibration of the front end, without a name for each number;
-/// - device: chosen by three words, which no node can write at once;
+/// - device: chosen by three words, more than the number of a node holds;
 /// - ccdcontrol, com, updatefile and updatestatus: protocols of the manufacturer's programs;
 /// - what belongs to the channels of the standard.
 struct Feature {
