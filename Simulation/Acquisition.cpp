@@ -81,6 +81,7 @@ std::optional<ExposedFrame> Acquisition::Take() {
     triggered.reset();
     RegisterSpace& space = camera.Registers();
     ExposedFrame frame{++frames, last, Picture::SettingsOf(space)};
+    space.Set("storeimage", {0}); // this frame is the one
     if (space.Get("acquisitionmode")[0] == singleFrame) {
         space.Set("startacquisition", {0});
     }

@@ -22,6 +22,11 @@ struct M2VXModel {
 constexpr std::uint32_t gainOffset = 92;
 constexpr std::uint32_t frameTime = 33; ///< milliseconds; so long is exposed unless the exposure time is the host's
 
+constexpr std::uint32_t imageSize = 1024; ///< in pixels, both ways
+
+/// The defect pixels that were found before the camera left the factory: column, line, replacement.
+constexpr std::uint32_t factoryDefects[][3] = {{12, 700, 1}, {13, 700, 1}, {512, 44, 2}, {512, 45, 2}};
+
 [[nodiscard]] std::string SerialNumber(const M2VXModel& model);
 [[nodiscard]] std::vector<Register> M2VXRegisters(const M2VXModel& model);
 void AddM2VXBehaviour(SimulatedCamera& camera, const World& world);

@@ -1,11 +1,18 @@
 #include "Simulation/AutomaticMode.h"
 #include "Simulation/Axes.h"
 #include "Simulation/M2VX.h"
+#include "Simulation/Picture/Defects.h"
+#include "Simulation/Picture/Measuring.h"
+#include "Simulation/Picture/Shapes.h"
 #include "Simulation/Temperature.h"
 
 #include <SDK4/Enums.h>
 
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <set>
+#include <utility>
 
 namespace Simulation {
 
@@ -65,12 +72,40 @@ void AddControlLoop(SimulatedCamera& camera, const ControlLoop& loop, const std:
 std::uint32_t GainFor(const RegisterSpace& space, std::uint32_t illumination) {
     const std::uint32_t levelOfModeOne = 40;
     const std::uint32_t level = space.Get("agc")[0] == 2 ? space.Get("automaticlevel")[0] : levelOfModeOne;
-    const std::uint32_t exposure = std::max(space.Get("exposure")[0], 1U);
-    const std::uint32_t needed = 4 * level * 100 * frameTime / (illumination * exposure);
-    return std::clamp(needed, gainOffset, gainOffset + 568) - gainOffset;
+    const std::uint64_t exposure = std::max(space.Get("exposure")[0], 1U);
+    const std::uint64_t needed = std::uint64_t{4} * level * 100 * frameTime / (illumination * exposure);
+    return static_cast<std::uint32_t>(std::clamp<std::uint64_t>(needed, gainOffset, gainOffset + 568)) - gainOffset;
 }
 
-void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
+/// Reads the level of the picture in the measure window, in 1/256 of a step of 14 bits.
+using LevelReader = std::function<std::uint64_t(const RegisterSpace&)>;
+
+/// Looks at the scene only when the window has changed.
+class WindowLevel {
+public:
+    explicit WindowLevel(std::uint32_t illuminationOfWorld) : illumination(illuminationOfWorld) {}
+
+    std::uint64_t Of(const RegisterSpace& space) {
+        const Picture::Disc disc = Picture::MeasureDisc(space);
+        if (measured != disc) {
+            measured = disc;
+            percent = Picture::RelativeLight(disc, imageSize);
+        }
+        return Picture::M2VXLevel(space) * illumination / 100 * percent / 100;
+    }
+
+private:
+    std::uint32_t illumination;
+    std::optional<Picture::Disc> measured;
+    std::uint32_t percent = 0; ///< of the mean of the scene
+};
+
+/// A level in steps of so many bits.
+std::uint32_t InBits(std::uint64_t level, std::uint32_t bits) {
+    return static_cast<std::uint32_t>(std::min<std::uint64_t>(level >> (22 - bits), (1U << bits) - 1));
+}
+
+void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination, const LevelReader& level) {
     // Switching it on applies the gain that the last image requires. Then it converges step by step.
     camera.AfterWrite("agc", [&camera, illumination](RegisterSpace& space) {
         if (camera.Runs("agc")) {
@@ -84,13 +119,14 @@ void AddAutomatics(SimulatedCamera& camera, std::uint32_t illumination) {
                     }},
                    {"agc", "automaticlevel", "gain"});
 
-    // The controlled level lies between the thresholds. Otherwise it follows from the scene.
-    const std::uint32_t free = 301 * illumination / 100;
-    camera.Registers().Set("abcxrlevel", {free});
+    // The controlled level lies between the thresholds. Otherwise it is that of the picture.
+    const auto free = [level](const RegisterSpace& space) { return InBits(level(space), 10); };
+    camera.Registers().Set("abcxrlevel", {free(camera.Registers())});
     AddControlLoop(camera,
                    {"abc", "abcstopmode", "level searched", "abcxrlevel",
                     [free](const RegisterSpace& space, bool runs) {
-                        return runs ? (space.Get("abcthreshold", 0)[0] + space.Get("abcthreshold", 1)[0]) / 2 : free;
+                        return runs ? (space.Get("abcthreshold", 0)[0] + space.Get("abcthreshold", 1)[0]) / 2
+                                    : free(space);
                     }},
                    {"abc", "abcthreshold"});
 }
@@ -104,14 +140,22 @@ void CountDefectPixels(RegisterSpace& space) {
     space.Set("defectpixelcount", {(entries + 1) / 2});
 }
 
-/// Each detection finds one more pair.
+/// Each detection finds one more pair of the sensor's, until the table has all.
 void DetectDefectPixels(RegisterSpace& space, const World& world) {
-    const std::uint32_t used = space.Get("defectpixelcount")[0];
-    if (2 * used < space.Count("defectpixel")) {
-        const std::uint32_t column =
-            300 + used + static_cast<std::uint32_t>(world.Deviation(Stream::DefectPixelColumn, 100, used));
-        space.Set("defectpixel", {column, 301, 1}, 2 * used);
-        space.Set("defectpixel", {column, 302, 1}, 2 * used + 1);
+    std::set<std::pair<std::uint32_t, std::uint32_t>> listed;
+    const std::uint32_t used = 2 * space.Get("defectpixelcount")[0];
+    for (std::uint32_t i = 0; i < used; ++i) {
+        const Words pixel = space.Get("defectpixel", i);
+        listed.emplace(pixel[0], pixel[1]);
+    }
+    const auto pixels = Picture::DefectPixelsOf(world, imageSize, imageSize);
+    const auto found = std::find_if(pixels.begin(), pixels.end(), [&](const Picture::DefectPixel& pixel) {
+        return !listed.contains({pixel.column, pixel.line});
+    });
+    if (found != pixels.end() && used < space.Count("defectpixel")) {
+        const std::uint32_t line = found->isWhite ? found->line : found->line - 1; // the first of a pair is white
+        space.Set("defectpixel", {found->column, line, 1}, used);
+        space.Set("defectpixel", {found->column, line + 1, 1}, used + 1);
         CountDefectPixels(space);
     }
 }
@@ -121,21 +165,19 @@ void AddDefectPixels(SimulatedCamera& camera, const World& world) {
     camera.AfterWrite("autocompensation", [world](RegisterSpace& space) { DetectDefectPixels(space, world); });
 }
 
-/// The measure window measures the scene, with noise.
-void AddMeasuring(SimulatedCamera& camera, const World& world) {
-    camera.EachStep([world](RegisterSpace& space, std::uint64_t step) {
-        const auto noise = static_cast<std::uint32_t>(world.Noise(Stream::MeasureNoise, step, 1));
-        space.Set("measurevalue", {37 * world.Illumination() / 100 + noise});
-    });
+void AddMeasuring(SimulatedCamera& camera, const LevelReader& level) {
+    camera.EachStep([level](RegisterSpace& space, auto) { space.Set("measurevalue", {InBits(level(space), 8)}); });
 }
 
 } // namespace
 
 void AddM2VXBehaviour(SimulatedCamera& camera, const World& world) {
     AddExposure(camera);
-    AddAutomatics(camera, world.Illumination());
+    const auto window = std::make_shared<WindowLevel>(world.Illumination());
+    const LevelReader level = [window](const RegisterSpace& space) { return window->Of(space); };
+    AddAutomatics(camera, world.Illumination(), level);
     AddDefectPixels(camera, world);
-    AddMeasuring(camera, world);
+    AddMeasuring(camera, level);
     AddAxes(camera, {"motorcontrol", "motor target", "motors moving", 8192});
     AddAxes(camera, {"lenscontrol", "lens target", "lenses moving", 1024});
     AddTemperature(camera, world);

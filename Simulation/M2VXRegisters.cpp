@@ -2,6 +2,9 @@
 
 #include <SDK4/Enums.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Simulation {
 
 namespace {
@@ -9,10 +12,8 @@ namespace {
 /// The table of defect pixels: 128 pairs, the first two in use.
 Value DefectPixels() {
     std::vector<Words> entries(256, Words{0, 0, 0});
-    entries[0] = {12, 700, 1}; // column, line, replacement
-    entries[1] = {13, 700, 1};
-    entries[2] = {512, 44, 2};
-    entries[3] = {512, 45, 2};
+    std::transform(std::begin(factoryDefects), std::end(factoryDefects), entries.begin(),
+                   [](const auto& pixel) { return Words(std::begin(pixel), std::end(pixel)); });
     return Table(2, entries);
 }
 

@@ -13,6 +13,12 @@ namespace Simulation {
 
 namespace {
 
+/// A camera with a fault may hold any factors.
+Words BinningOf(const RegisterSpace& space) {
+    const Words binning = space.Get("binning");
+    return {std::clamp(binning[0], 1U, 8U), std::clamp(binning[1], 1U, 8U)};
+}
+
 /// Clamps the area to its limits and to the minimum size.
 Words ClampArea(const RegisterSpace& space, Words area) {
     const Words min = space.Get("readoutarealimits", SDK4_ROADOMAIN_MIN);
@@ -60,7 +66,7 @@ void ApplyArea(RegisterSpace& space, const Words& area) {
 }
 
 void UpdateBinning(RegisterSpace& space, const OrvikModel& model) {
-    const Words binning = space.Get("binning");
+    const Words binning = BinningOf(space);
     const std::uint32_t width = model.width / binning[0];
     const std::uint32_t height = model.height / binning[1];
     space.Set("readoutarealimits", {0, 0, smallestArea - 1, smallestArea - 1}, SDK4_ROADOMAIN_MIN);
@@ -71,7 +77,7 @@ void UpdateBinning(RegisterSpace& space, const OrvikModel& model) {
 
 void ApplyReadoutArea(RegisterSpace& space) {
     const Words area = ClampArea(space, space.Get("readoutarea"));
-    space.SetRequested("readoutarea", InSensorPixels(area, space.Get("binning")));
+    space.SetRequested("readoutarea", InSensorPixels(area, BinningOf(space)));
     ApplyArea(space, area);
 }
 

@@ -14,6 +14,7 @@ namespace {
 constexpr std::uint64_t pixelsPerMicrosecond = 320;
 constexpr std::uint64_t bytesPerMicrosecond = 500; // of the link
 constexpr std::uint64_t blanking = 100;            // microseconds from one readout to the next
+constexpr std::uint32_t longestBase = 7;           // also of a camera with a fault
 
 std::uint32_t Bounded(std::uint64_t number) {
     return static_cast<std::uint32_t>(std::min<std::uint64_t>(number, std::numeric_limits<std::uint32_t>::max()));
@@ -37,7 +38,7 @@ std::uint64_t BytesOf(std::uint64_t pixels, std::uint32_t coding) {
 
 std::uint64_t MicrosecondsOf(const Words& exposure) {
     std::uint64_t unit = 1;
-    for (std::uint32_t base = 0; base < exposure[0]; ++base) {
+    for (std::uint32_t base = 0; base < std::min(exposure[0], longestBase); ++base) {
         unit *= 10;
     }
     return exposure[1] * unit;

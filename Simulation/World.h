@@ -9,11 +9,10 @@ enum class Stream : std::uint32_t {
     Illumination = 1,
     StartTemperature = 2,
     TemperatureNoise = 3,
-    MeasureNoise = 4,
     PictureNoise = 5,
-    PictureLine = 6,        ///< where its noise begins
-    WhitePoint = 10,        ///< and 11, 12: red, green, blue
-    DefectPixelColumn = 20, ///< and following: one for each pair of defect pixels
+    PictureLine = 6, ///< where its noise begins
+    DefectPixel = 7,
+    WhitePoint = 10, ///< and 11, 12: red, green, blue
 };
 
 /// The environment of a camera, determined by the seed: scene, noise, defects of the sensor.

@@ -13,16 +13,7 @@ constexpr std::int32_t lastTone = 255 * Tables::steps;
 constexpr std::uint64_t neutral = 128; // of balances
 
 std::uint16_t Bounded(std::uint64_t value) {
-    return static_cast<std::uint16_t>(std::min<std::uint64_t>(value, Tables::fullScale));
-}
-
-std::uint64_t SquareRoot(std::uint64_t number) {
-    std::uint64_t root = 0;
-    for (std::uint64_t bit = std::uint64_t{1} << 31; bit != 0; bit >>= 1) {
-        const std::uint64_t greater = root | bit;
-        root = greater * greater <= number ? greater : root;
-    }
-    return root;
+    return static_cast<std::uint16_t>(std::min<std::uint64_t>(value, fullScale));
 }
 
 } // namespace

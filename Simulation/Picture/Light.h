@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Simulation/Picture/Numbers.h"
 #include "Simulation/Picture/Settings.h"
 #include "Simulation/World.h"
 
@@ -34,7 +35,6 @@ private:
 class Tables {
 public:
     static constexpr std::int32_t steps = 32; ///< of which a tone has so many, for the noise
-    static constexpr std::int32_t fullScale = 16383;
 
     Tables();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Simulation/Picture/Numbers.h"
 #include "Simulation/Picture/Settings.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ public:
     }
 
 private:
-    static constexpr std::uint32_t white = 16383;
+    static constexpr std::uint32_t white = fullScale;
     static constexpr std::uint32_t checkerSize = 64;
 
     [[nodiscard]] static Values Gray(std::uint32_t value) {

@@ -1,6 +1,9 @@
 #include "Simulation/Picture/Renderer.h"
 
 #include "Simulation/Picture/Coding.h"
+#include "Simulation/Picture/Drawing.h"
+#include "Simulation/Picture/Enhancement.h"
+#include "Simulation/Picture/Filter.h"
 #include "Simulation/Picture/Patterns.h"
 
 #include <algorithm>
@@ -10,26 +13,6 @@
 namespace Simulation::Picture {
 
 namespace {
-
-/// The channel that a sensor with colour filters has at a place: green and red, below them blue and green.
-std::size_t Filter(std::uint64_t column, std::uint64_t row) {
-    const std::size_t filters[2][2] = {{1, 0}, {2, 1}};
-    return filters[row % 2][column % 2];
-}
-
-void Saturate(std::vector<std::uint16_t>& line, std::uint32_t saturation) {
-    const auto factor = static_cast<std::int32_t>(saturation);
-    const auto saturate = [factor](std::int32_t value, std::int32_t gray) {
-        return static_cast<std::uint16_t>(std::clamp(gray + ((value - gray) * factor >> 7), 0, Tables::fullScale));
-    };
-    std::uint16_t* const end = line.data() + line.size();
-    for (std::uint16_t* pixel = line.data(); pixel != end; pixel += 3) {
-        const std::int32_t gray = (77 * pixel[0] + 150 * pixel[1] + 29 * pixel[2]) >> 8;
-        pixel[0] = saturate(pixel[0], gray);
-        pixel[1] = saturate(pixel[1], gray);
-        pixel[2] = saturate(pixel[2], gray);
-    }
-}
 
 void Mirror(std::vector<std::uint16_t>& line, std::size_t channels) {
     const std::size_t count = line.size() / channels;
@@ -44,11 +27,21 @@ void Renderer::Update(const Settings& settings) {
     if (made == settings) {
         return;
     }
+    const bool hasOtherFrames = !made || made->pixelFormat != settings.pixelFormat || made->width != settings.width ||
+                                made->height != settings.height || made->readout != settings.readout;
+    if (hasOtherFrames) {
+        memory.Clear();
+    }
     view.Update(settings);
     tables.Update(settings, world, view.MeanLight());
     noise.Scale(tables.Deviation(), settings.width * view.Channels());
+    defects.Update(settings, world);
     channels = settings.pixelFormat == raw14 ? 1 : view.Channels();
     line.resize(settings.width * channels);
+    isCurved = settings.curve != CurveSettings{};
+    if (isCurved) {
+        curve = CurveOf(settings.curve, {});
+    }
     made = settings;
 }
 
@@ -60,9 +53,37 @@ void Renderer::Render(const Settings& settings, std::uint64_t number, Frame& fra
     frame.offsetX = settings.readout.offsetX;
     frame.offsetY = settings.readout.offsetY;
     frame.bytes.resize(PayloadSize(settings.pixelFormat, settings.width, settings.height));
+    const bool usesMemory = memory.IsUsed(settings.memory);
+    const bool needsImage = usesMemory || settings.sharpness != 0 || settings.curve.equalization != 0;
+    if (needsImage) {
+        MakeImage(number, usesMemory);
+    }
     for (std::uint32_t y = 0; y < settings.height; ++y) {
-        MakeLine(settings.flipY ? settings.height - 1 - y : y, number);
+        const std::uint32_t source = settings.flipY ? settings.height - 1 - y : y;
+        if (needsImage) {
+            std::copy_n(&image[source * line.size()], line.size(), line.begin());
+        } else {
+            MakeLine(source, number);
+        }
+        FinishLine(y);
         CodeLine(settings.pixelFormat, line, channels, y, frame.bytes);
+    }
+}
+
+void Renderer::MakeImage(std::uint64_t number, bool usesMemory) {
+    image.resize(line.size() * made->height);
+    for (std::uint32_t y = 0; y < made->height; ++y) {
+        MakeLine(y, number);
+        std::copy(line.begin(), line.end(), &image[y * line.size()]);
+    }
+    if (usesMemory) {
+        memory.Apply(made->memory, image);
+    }
+    if (made->sharpness != 0) {
+        Sharpen(made->sharpness, channels, line.size(), image);
+    }
+    if (made->curve.equalization != 0) {
+        curve = CurveOf(made->curve, image);
     }
 }
 
@@ -70,6 +91,10 @@ void Renderer::MakeLine(std::uint32_t y, std::uint64_t number) {
     const auto isPattern = [](Pattern pattern) { return pattern != Pattern::None; };
     if (!std::all_of(made->patterns.begin(), made->patterns.end(), isPattern)) {
         MakePixels(y, number);
+        defects.Apply(y, line);
+        if (made->shading != std::array<std::int32_t, 4>{}) {
+            CorrectShading(made->shading, y, made->height, line);
+        }
     }
     for (std::size_t half = 0; half < made->patterns.size(); ++half) {
         if (isPattern(made->patterns.at(half))) {
@@ -79,8 +104,17 @@ void Renderer::MakeLine(std::uint32_t y, std::uint64_t number) {
     if (channels == 3 && made->saturation != 128) {
         Saturate(line, made->saturation);
     }
+}
+
+void Renderer::FinishLine(std::uint32_t y) {
+    if (isCurved) {
+        std::transform(line.begin(), line.end(), line.begin(), [this](std::uint16_t value) { return curve[value]; });
+    }
     if (made->flipX) {
         Mirror(line, channels);
+    }
+    if (made->drawing != DrawingSettings{}) {
+        DrawLine(made->drawing, y, channels, line);
     }
 }
 
@@ -101,7 +135,7 @@ void Renderer::MakePixels(std::uint32_t y, std::uint64_t number) {
         }
     } else if (channels == 1) { // raw
         for (std::size_t x = 0, width = line.size(); x < width; ++x) {
-            const std::size_t channel = Filter(readout.offsetX + x, row);
+            const std::size_t channel = FilterAt(readout.offsetX + x, row);
             values[x] = value(channel, 3 * x + channel);
         }
     } else {
@@ -127,7 +161,7 @@ void Renderer::MakePattern(std::uint32_t y, std::size_t half) {
             }
         } else {
             const bool isRaw = made->pixelFormat == raw14;
-            const std::size_t channel = isRaw ? Filter(made->readout.offsetX + x, made->readout.offsetY + y) : 0;
+            const std::size_t channel = isRaw ? FilterAt(made->readout.offsetX + x, made->readout.offsetY + y) : 0;
             line[x] = tables.OfPattern(channel)[values.at(channel)];
         }
     }

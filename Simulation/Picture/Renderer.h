@@ -1,7 +1,9 @@
 #pragma once
 
+#include "Simulation/Picture/Defects.h"
 #include "Simulation/Picture/Frame.h"
 #include "Simulation/Picture/Light.h"
+#include "Simulation/Picture/Memory.h"
 #include "Simulation/Picture/Settings.h"
 #include "Simulation/Picture/View.h"
 #include "Simulation/World.h"
@@ -14,11 +16,23 @@
 namespace Simulation::Picture {
 
 /// Turns settings into the bytes of frames: the same bytes for the same world, settings and number of the frame, in
-/// every build.
+/// every build. Only with image memory in use (recursive filter, stored image ...) the frames before count, too.
 ///
-/// A frame is made line by line, in the order of a camera: the tones of the scene and the mark (View), light and noise
-/// (Noise, Tables) or else a test pattern, the channels (Tables, saturation), flips, and the coding (CodeLine). What
-/// depends on the settings alone is kept until they change.
+/// A frame is made in the order of a camera:
+///
+/// | Step                                                        | By                   | Of                        |
+/// |-------------------------------------------------------------|----------------------|---------------------------|
+/// | tones of the scene and the mark                             | View                 | a line                    |
+/// | light, noise, colour balance; or else a test pattern        | Noise, Tables        | a line                    |
+/// | defect pixels, shading correction                           | Defects              | a line, not of a pattern  |
+/// | saturation                                                  | Saturate             | a line                    |
+/// | filter, stored image, subtraction, hold                     | Memory               | the whole, if any is on   |
+/// | sharpness                                                   | Sharpen              | the whole, if on          |
+/// | brightness, contrast, equalization, look-up table, negative | CurveOf              | a line, if any is on      |
+/// | flips, blanking, overlays, measure frames                   | DrawLine             | a line, if any is on      |
+/// | coding                                                      | CodeLine             | a line                    |
+///
+/// What depends on the settings alone is kept until they change.
 class Renderer {
 public:
     explicit Renderer(const World& seen) : world(seen), noise(seen) {}
@@ -28,19 +42,28 @@ public:
 
 private:
     void Update(const Settings& settings);
+    /// All of what is read out, up to the sharpness.
+    void MakeImage(std::uint64_t number, bool usesMemory);
     /// Line @p y of what is read out.
     void MakeLine(std::uint32_t y, std::uint64_t number);
     void MakePixels(std::uint32_t y, std::uint64_t number);
     /// Puts a pattern into one half of the line.
     void MakePattern(std::uint32_t y, std::size_t half);
+    /// Line @p y of the frame.
+    void FinishLine(std::uint32_t y);
 
     World world;
     Noise noise;
     View view;
     Tables tables;
+    Defects defects;
+    Memory memory;
     std::optional<Settings> made; ///< the settings that the tables are for
     std::size_t channels = 1;     ///< of the line
+    bool isCurved = false;
+    std::vector<std::uint16_t> curve;
     std::vector<std::uint16_t> line;
+    std::vector<std::uint16_t> image;
 };
 
 } // namespace Simulation::Picture

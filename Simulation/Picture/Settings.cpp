@@ -3,6 +3,8 @@
 #include "Simulation/M2VX.h"
 #include "Simulation/Orvik.h"
 #include "Simulation/Picture/Frame.h"
+#include "Simulation/Picture/Numbers.h"
+#include "Simulation/Picture/Shapes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,8 +16,6 @@ namespace {
 // Beyond these everything is white anyway, and products stay within 64 bits.
 constexpr std::uint64_t longestExposure = 100'000'000; // microseconds
 constexpr std::uint64_t greatestGain = 1 << 15;
-
-constexpr std::uint64_t fullScale = 16383;
 
 template <std::size_t Size> Pattern PatternOf(const Pattern (&patterns)[Size], std::uint32_t code) {
     return code < Size ? patterns[code] : Pattern::None;
@@ -37,6 +37,45 @@ void SetColor(const RegisterSpace& space, Settings& settings) {
     settings.lightSource = space.Get("lightsource")[0];
 }
 
+bool IsOn(const RegisterSpace& space, const char* name) { return space.Get(name)[0] != 0; }
+
+MemorySettings MemoryOf(const RegisterSpace& space) {
+    const bool detectsMotion = space.Find("automotiondetection") != nullptr && IsOn(space, "automotiondetection");
+    return {std::min(space.Get("recursivefilter")[0], 8U), detectsMotion, IsOn(space, "storeimage"),
+            IsOn(space, "imagesubtraction"), IsOn(space, "lastimagehold")};
+}
+
+/// @param step of the brightness, in steps of 14 bits
+CurveSettings CurveOf(const RegisterSpace& space, std::uint32_t step) {
+    CurveSettings curve;
+    curve.brightness = std::min<std::uint32_t>(space.Get("brightness")[0], fullScale) * step;
+    curve.contrast = std::min(space.Get("contrast")[0], 255U);
+    curve.negative = IsOn(space, "negativeimage");
+    return curve;
+}
+
+std::int32_t GammaOf(std::uint32_t index) { return std::clamp(static_cast<std::int32_t>(index), -8, 12); }
+
+std::array<std::int32_t, 4> ShadingOf(const RegisterSpace& space) {
+    std::array<std::int32_t, 4> corners{};
+    for (std::uint32_t i = 0; i < corners.size() && IsOn(space, "shadingcorrectionmode"); ++i) {
+        corners.at(i) = std::clamp(static_cast<std::int32_t>(space.Get("shadingcorrection", i)[0]), -128, 127);
+    }
+    return corners;
+}
+
+/// The pixels in use: the camera counts them in pairs.
+std::vector<ListedPixel> ListedPixels(const RegisterSpace& space) {
+    std::vector<ListedPixel> pixels;
+    for (std::uint32_t i = 0, count = 2 * space.Get("defectpixelcount")[0]; i < count; ++i) {
+        const Words pixel = space.Get("defectpixel", i);
+        if (pixel[2] != 0) {
+            pixels.push_back({pixel[0], pixel[1], pixel[2]});
+        }
+    }
+    return pixels;
+}
+
 void SetOrvik(const RegisterSpace& space, Settings& settings) {
     // The whole sensor is read out at power-up.
     const Words sensor = ToWords(space.Find("readoutarea")->powerUp.instances.front().value);
@@ -47,6 +86,12 @@ void SetOrvik(const RegisterSpace& space, Settings& settings) {
     settings.readout = {sensor[2] + 1, sensor[3] + 1, area[0], area[1], binningX, binningY, false};
     settings.readout.color = space.Find("colorbalance")->role == Role::Setting;
     SetExposure(space, settings);
+    settings.drawing = OrvikDrawing(space);
+    if (settings.pixelFormat != raw14) {
+        settings.sharpness = std::min(space.Get("sharpness")[0], 255U);
+        settings.curve = CurveOf(space, 4);
+        settings.curve.gamma = IsOn(space, "lutmode") ? GammaOf(space.Get("lutindex")[0]) : 0;
+    }
     if (settings.readout.color) {
         SetColor(space, settings);
         const Pattern patterns[] = {Pattern::None, Pattern::Bars};
@@ -60,10 +105,17 @@ void SetOrvik(const RegisterSpace& space, Settings& settings) {
 void SetM2VX(const RegisterSpace& space, Settings& settings) {
     settings.readout.sensorWidth = settings.width;
     settings.readout.sensorHeight = settings.height;
-    const std::uint64_t time = std::min<std::uint64_t>(space.Get("exposure")[0], longestExposure / 1000);
     const std::uint64_t gain = std::min<std::uint64_t>(space.Get("gain")[0], greatestGain) + gainOffset;
     settings.gain = static_cast<std::uint32_t>(256 * gain / gainOffset);
-    settings.level = 256 * gain * time * fullScale / (4 * std::uint64_t{frameTime} * 100);
+    settings.level = M2VXLevel(space);
+    settings.listed = ListedPixels(space);
+    settings.showsDefects = IsOn(space, "defectpixelshow");
+    settings.shading = ShadingOf(space);
+    settings.sharpness = std::min(space.Get("sharpness")[0], 255U);
+    settings.curve = CurveOf(space, 1);
+    settings.curve.equalization = space.Get("histogramequalization")[0];
+    settings.curve.gamma = GammaOf(space.Get("gammaindex")[0]);
+    settings.drawing = M2VXDrawing(space);
     const Pattern patterns[] = {Pattern::None,      Pattern::Black,    Pattern::White,   Pattern::Gray,
                                 Pattern::RampRight, Pattern::RampDown, Pattern::Checkers};
     for (std::uint32_t half = 0; half < settings.patterns.size(); ++half) {
@@ -73,6 +125,12 @@ void SetM2VX(const RegisterSpace& space, Settings& settings) {
 
 } // namespace
 
+std::uint64_t M2VXLevel(const RegisterSpace& space) {
+    const std::uint64_t time = std::min<std::uint64_t>(space.Get("exposure")[0], longestExposure / 1000);
+    const std::uint64_t gain = std::min<std::uint64_t>(space.Get("gain")[0], greatestGain) + gainOffset;
+    return 256 * gain * time * fullScale / (4 * std::uint64_t{frameTime} * 100);
+}
+
 Settings SettingsOf(const RegisterSpace& space) {
     const Words size = space.Get("imagesize");
     Settings settings;
@@ -81,6 +139,7 @@ Settings SettingsOf(const RegisterSpace& space) {
     settings.height = size[1];
     settings.flipX = space.Get("horizontalflip")[0] != 0;
     settings.flipY = space.Get("verticalflip")[0] != 0;
+    settings.memory = MemoryOf(space);
     if (space.Find("readoutarea") != nullptr) {
         SetOrvik(space, settings);
     } else {

@@ -128,7 +128,7 @@ TEST(M2VXAfternoon, OnlyANewControlSeesChangesByTheCamera) {
     const Host::Control anew = session.CreateControl(3);
     EXPECT_EQ(session.Port().Take().size(), 608U); // one more pair of defect pixels
     EXPECT_EQ(Of<M2VX::IGain>(anew).GetGain(), 40U);
-    EXPECT_EQ(Of<M2VX::IDefectPixel>(anew).GetDefectPixel({2, 0}).xpos, 302U);
+    EXPECT_EQ(Of<M2VX::IDefectPixel>(anew).GetDefectPixel({2, 0}).xpos, 926U);
 
     settings.SetStartupSettings(1);
     settings.LoadSettings(0);

@@ -116,7 +116,7 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     camera.Write(0x51020000, {1});
     EXPECT_EQ(camera.Get("frameduration"), Words{99000});
 
-    EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
+    EXPECT_EQ(camera.Get("abcxrlevel"), Words{912});
     camera.Write(0x47090000, {0, 600});
     camera.Write(0x47090000, {1, 500});
     camera.Write(0x47040000, {1});
@@ -124,7 +124,7 @@ TEST(SimulatedAutomatic, OfTheOtherFamilyFindsItsLevelAndCanBeToldToStop) {
     EXPECT_EQ(camera.Get("abcxrlevel"), Words{550});
     camera.Write(0x47040000, {0});
     camera.Advance(1s);
-    EXPECT_EQ(camera.Get("abcxrlevel"), Words{301});
+    EXPECT_EQ(camera.Get("abcxrlevel"), Words{912});
 }
 
 TEST(SimulatedRegister, IgnoresWhatItDoesNotTake) {
