@@ -47,7 +47,8 @@ void DrawBox(const Box& box, std::int64_t y, const Canvas& canvas) {
 
 void DrawRing(const Ring& ring, std::int64_t y, const Canvas& canvas) {
     Disc inside = ring.disc;
-    inside.radius = std::max<std::int64_t>(ring.disc.radius - ring.stroke, 0);
+    inside.across = std::max<std::int64_t>(ring.disc.across - ring.stroke, 0);
+    inside.down = std::max<std::int64_t>(ring.disc.down - ring.stroke, 0);
     for (std::int64_t x = 0; x < canvas.Width(); ++x) {
         if (ring.disc.Contains(x, y) && !inside.Contains(x, y)) {
             canvas.Paint(x, ring.color);

@@ -13,9 +13,8 @@ std::uint32_t RelativeLight(const Disc& part, std::uint32_t size) {
     std::uint64_t sum = 0;
     std::uint64_t count = 0;
     for (std::int64_t i = 0; i < samples * samples; ++i) {
-        const std::int64_t down = part.radius * part.stretch / 128;
-        const std::int64_t x = part.x + part.radius * (2 * (i % samples) + 1 - samples) / samples;
-        const std::int64_t y = part.y + down * (2 * (i / samples) + 1 - samples) / samples;
+        const std::int64_t x = part.x + part.across * (2 * (i % samples) + 1 - samples) / samples;
+        const std::int64_t y = part.y + part.down * (2 * (i / samples) + 1 - samples) / samples;
         if (x >= 0 && y >= 0 && x < size && y < size && part.Contains(x, y)) {
             sum += LightOf(scene.At(scene.PlaceOf(static_cast<std::uint64_t>(x), static_cast<std::uint64_t>(y))));
             ++count;

@@ -74,15 +74,13 @@ struct Box {
 
 /// A circle on the frame, or an ellipse.
 struct Disc {
-    std::int64_t x = 0;
-    std::int64_t y = 0;
-    std::int64_t radius = 0;
-    std::int64_t stretch = 128; ///< of the height: 128 is none
+    std::int64_t x, y;
+    std::int64_t across, down; ///< half of its width and height
 
     [[nodiscard]] bool Contains(std::int64_t column, std::int64_t line) const {
-        const std::int64_t across = column - x;
-        const std::int64_t down = (line - y) * 128 / stretch;
-        return across * across + down * down < radius * radius;
+        const std::int64_t right = (column - x) * down;
+        const std::int64_t below = (line - y) * across;
+        return right * right + below * below < across * across * down * down;
     }
     bool operator==(const Disc&) const = default;
 };

@@ -49,9 +49,10 @@ void AddFrame(const Words& area, std::uint32_t color, std::vector<Box>& boxes) {
 } // namespace
 
 Disc MeasureDisc(const RegisterSpace& space) {
-    const Words window = space.Get("measurewindow"); // radius, width of the line, x, y, stretch
-    return {imageCentre + Coordinate(window[2]), imageCentre + Coordinate(window[3]), Length(window[0]),
-            std::max<std::int64_t>(Length(window[4]), 1)};
+    const Words window = space.Get("measurewindow"); // radius, width of the line, x, y, stretch of 128
+    const std::int64_t radius = Length(window[0]);
+    return {imageCentre + Coordinate(window[2]), imageCentre + Coordinate(window[3]), radius,
+            std::min(radius * Length(window[4]) / 128, longest)};
 }
 
 DrawingSettings OrvikDrawing(const RegisterSpace& space) {
@@ -69,8 +70,8 @@ DrawingSettings M2VXDrawing(const RegisterSpace& space) {
     DrawingSettings drawing;
     if (space.Get("circularblankingmode")[0] != 0) {
         const Words position = space.Get("circularblankingposition");
-        drawing.blanked = {Coordinate(position[0]), Coordinate(position[1]),
-                           Length(space.Get("circularblankingsize")[0])};
+        const std::int64_t radius = Length(space.Get("circularblankingsize")[0]);
+        drawing.blanked = {Coordinate(position[0]), Coordinate(position[1]), radius, radius};
     }
     for (std::uint32_t i = 0; i < 3; ++i) {
         AddOverlay(space, i, imageCentre, drawing.boxes);
