@@ -15,9 +15,8 @@ using Simulation::Bytes;
 using Simulation::Picture::Frame;
 
 constexpr std::uint32_t exposure = 0x0A030000, binning = 0x0A0B0000, gain = 0x14010000, lightSource = 0x15020000,
-                        saturation = 0x15040000, verticalFlip = 0x16020000, horizontalFlip = 0x16030000,
-                        colorCoding = 0x28020000, readoutArea = 0x28050000, automaticGain = 0x46020000,
-                        awb = 0x46040000, pattern = 0x5A010000;
+                        saturation = 0x15040000, colorCoding = 0x28020000, readoutArea = 0x28050000,
+                        automaticGain = 0x46020000, awb = 0x46040000, pattern = 0x5A010000;
 
 /// A camera, and somebody who looks at its frames.
 class Photographed : public Simulated {
@@ -127,22 +126,14 @@ TEST(SimulatedPicture, ComesToTheLevelOfTheAutomaticModes) {
     }
 }
 
-TEST(SimulatedPicture, ShowsTheAreaBinnedAndFlipped) {
+TEST(SimulatedPicture, ShowsTheAreaThatIsReadOut) {
     Photographed camera("Orvik-390M"); // 2256 x 1728
     const Bytes whole = camera.Shoot().bytes;
     camera.Write(readoutArea, {1001, 1200, 1001 + 99, 1200 + 79});
     const Bytes part = camera.Shoot().bytes;
-    camera.Write(horizontalFlip, {1});
-    const Bytes mirrored = camera.Shoot().bytes;
-    camera.Write(verticalFlip, {1});
-    const Bytes turned = camera.Shoot().bytes;
     ASSERT_EQ(part.size(), 8000U);
     for (std::size_t i = 0; i < part.size(); ++i) {
-        const std::size_t x = i % 100;
-        const std::size_t y = i / 100;
-        ASSERT_EQ(part[i], whole[(1200 + y) * 2256 + 1001 + x]) << i;
-        ASSERT_EQ(part[i], mirrored[y * 100 + 99 - x]) << i;
-        ASSERT_EQ(part[i], turned[7999 - i]) << i;
+        ASSERT_EQ(part[i], whole[(1200 + i / 100) * 2256 + 1001 + i % 100]) << i;
     }
 
     Photographed binned("Orvik-390M");
@@ -211,9 +202,6 @@ TEST(SimulatedPicture, IsBalancedAndSaturated) {
     const std::array colors{camera.Mean(0, 3), camera.Mean(1, 3), camera.Mean(2, 3)};
     camera.Write(saturation, {64});
     EXPECT_NEAR(camera.Mean(0, 3) - camera.Mean(2, 3), (colors[0] - colors[2]) / 2, 2);
-    camera.Write(saturation, {0});
-    EXPECT_TRUE(isGray(0.001));
-    EXPECT_NEAR(camera.Mean(), 0.30 * colors[0] + 0.59 * colors[1] + 0.11 * colors[2], 2);
 }
 
 TEST(SimulatedPicture, IsReplacedByTestPatterns) {
