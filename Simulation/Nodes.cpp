@@ -82,9 +82,13 @@ std::string SelectorNodes(const Feature& feature, const Register& entry, const s
         const std::string columns = std::to_string(ToWords(entry.powerUp.instances.back().selector)[1] + 1);
         const std::string pair = word;
         word = std::string(feature.node) + "Index";
+        const std::string high = "4294967296";
+        const auto quotient = [](const std::string& number, const std::string& divisor) {
+            return "((" + number + "-(" + number + '%' + divisor + "))/" + divisor + ')'; // some divide as real numbers
+        };
         nodes = Node("IntConverter", word,
-                     Element("FormulaTo", "(FROM%" + columns + ")+(FROM/" + columns + ")*4294967296") +
-                         Element("FormulaFrom", "(TO%4294967296)*" + columns + "+(TO/4294967296)") +
+                     Element("FormulaTo", "(FROM%" + columns + ")+" + quotient("FROM", columns) + '*' + high) +
+                         Element("FormulaFrom", "(TO%" + high + ")*" + columns + '+' + quotient("TO", high)) +
                          Element("pValue", pair) + Element("Slope", "Varying"));
     }
     std::string content = Element("ToolTip", std::string("Selects one: ") + feature.toolTip) + Element("pValue", word) +

@@ -47,7 +47,10 @@ std::string Lower(std::string text) {
 /// The nodes of a camera.
 class Description {
 public:
-    explicit Description(ArvDevice& opened) : device(opened) { Add("Root"); }
+    explicit Description(ArvDevice& opened) : device(opened) {
+        arv_device_set_range_check_policy(&device, ARV_RANGE_CHECK_POLICY_ENABLE);
+        Add("Root");
+    }
 
     /// The names of the nodes of a function, in the order of its fields; empty if it has none.
     [[nodiscard]] std::vector<std::string> NodesOf(const Host::Function& function) const {
@@ -63,13 +66,10 @@ public:
         return found;
     }
 
-    /// Selects the instance, if there is more than one.
     void Select(const Host::Instance& instance) const {
-        if (const auto node = nodes.find(std::string(instance->name) + "selector"); node != nodes.end()) {
-            Call(node->second, [&](GError** error) {
-                arv_device_set_integer_feature_value(&device, node->second.c_str(), instance.index, error);
-            });
-        }
+        const auto node = nodes.find(std::string(instance->name) + "selector");
+        ASSERT_NE(node, nodes.end());
+        Write({node->second}, {{instance.index}, ""});
     }
 
     [[nodiscard]] Value Read(const std::vector<std::string>& names) const {
@@ -141,7 +141,7 @@ Value Other(const Value& value, const Host::Limits& limits) {
     for (std::size_t i = 0; i < other.numbers.size(); ++i) {
         std::int64_t& number = other.numbers[i];
         if (i >= limits.size()) {
-            number += 5;
+            number += 5 + static_cast<std::int64_t>(i);
         } else if (const auto& [min, max, admitted, ignored] = limits[i]; !admitted.empty()) {
             number = number == admitted.back() ? admitted.front() : admitted.back();
         } else {
@@ -198,16 +198,24 @@ private:
         if (!camera.LockedBy(instance).empty()) {
             camera.Write(camera.FindOne(instance->lock->mode), {{instance->lock->open.front()}, ""});
         }
-        description.Select(instance);
         const Value before = Agreed(instance, camera, nodes);
         if (instance->set == nullptr) {
             return;
         }
         const Value wanted = Other(before, camera.LimitsOf(instance));
+        Select(instance, camera);
         description.Write(nodes, wanted);
         EXPECT_FALSE(Agreed(instance, camera, nodes) == before) << nodes.front() << " changes nothing";
         camera.Write(instance, before);
         EXPECT_EQ(Agreed(instance, camera, nodes).numbers, before.numbers) << "the plug-in changes nothing";
+    }
+
+    /// Selects the instance by its node, after the plug-in has selected another one.
+    void Select(const Host::Instance& instance, const Host::Camera& camera) const {
+        if (instance->count > 1) {
+            static_cast<void>(camera.Read({instance.function, (instance.index + 1) % instance->count}));
+            description.Select(instance);
+        }
     }
 
     /// What both ways read. Some values take time to change.
@@ -215,9 +223,10 @@ private:
                                const std::vector<std::string>& nodes) const {
         Value byPlugin;
         Value byNodes;
-        for (int i = 0; i < 100; ++i) {
-            byPlugin = camera.Read(instance);
+        for (int i = 0; i < 50; ++i) {
+            Select(instance, camera);
             byNodes = description.Read(nodes);
+            byPlugin = camera.Read(instance);
             if (byPlugin == byNodes) {
                 return byPlugin;
             }
