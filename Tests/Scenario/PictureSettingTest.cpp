@@ -146,7 +146,9 @@ bool Smoother(const Series& a, const Series& b) { return Sharper(b, a); }
 bool Steadier(const Series& a, const Series& b) { return Change(b) < 0.7 * Change(a); }
 bool Frozen(const Series& a, const Series& b) { return a.first != a.last && b.first == b.last; }
 bool IsSmaller(const Series& a, const Series& b) { return b.last.samples.size() <= a.last.samples.size() / 2; }
-bool Blank(const Series&, const Series& b) { return b.last.Detail() < 3 && std::abs(b.last.Mean() - 128) < 1; }
+bool Blank(const Series&, const Series& b) { // but for the noise of two frames
+    return b.last.Detail() > 0.5 && b.last.Detail() < 3 && std::abs(b.last.Mean() - 128) < 1;
+}
 
 bool Gray(const Series& a, const Series& b) {
     const auto tint = [](const Image& image) { return std::abs(image.Mean(0, 3) - image.Mean(2, 3)); };
