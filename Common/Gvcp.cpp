@@ -7,6 +7,8 @@ namespace {
 constexpr std::uint8_t key = 0x42;
 constexpr std::uint8_t acknowledgeFlag = 0x01;
 
+std::uint32_t AcknowledgeOf(Command command) { return static_cast<std::uint32_t>(command) + 1; } // as in the standard
+
 /// @param first the first 16 bits: key and flags of a request, or the status of an acknowledge
 Bytes Packet(std::uint32_t first, std::uint32_t command, std::uint16_t id, const Bytes& payload) {
     Bytes bytes;
@@ -56,8 +58,15 @@ Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload) {
 }
 
 Bytes Acknowledge(const Request& request, Status status, const Bytes& payload) {
-    const std::uint32_t command = static_cast<std::uint32_t>(request.command) + 1; // as in the standard
-    return Packet(static_cast<std::uint32_t>(status), command, request.id, payload);
+    return Packet(static_cast<std::uint32_t>(status), AcknowledgeOf(request.command), request.id, payload);
+}
+
+std::optional<Answer> ParseAcknowledge(std::span<const std::uint8_t> datagram, Command command, std::uint16_t id) {
+    if (datagram.size() < headerSize || Get16(datagram.subspan(2)) != AcknowledgeOf(command) ||
+        Get16(datagram.subspan(4)) != datagram.size() - headerSize || Get16(datagram.subspan(6)) != id) {
+        return std::nullopt;
+    }
+    return Answer{Status{Get16(datagram)}, Bytes(datagram.begin() + headerSize, datagram.end())};
 }
 
 } // namespace Common::Gvcp

@@ -62,4 +62,14 @@ struct Request {
 /// The acknowledge of a request.
 [[nodiscard]] Bytes Acknowledge(const Request& request, Status status, const Bytes& payload = {});
 
+/// What a camera answers to a request.
+struct Answer {
+    Status status; ///< may be unknown
+    Bytes payload;
+};
+
+/// Parses the acknowledge of a request with that command and id. Returns nothing for any other datagram.
+[[nodiscard]] std::optional<Answer> ParseAcknowledge(std::span<const std::uint8_t> datagram, Command command,
+                                                     std::uint16_t id);
+
 } // namespace Common::Gvcp

@@ -41,7 +41,10 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
     return syntax.several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
 }
 
-bool Takes(const Syntax& syntax, bool inShell) { return !inShell || syntax.parameter != Parameter::Camera; }
+/// In a shell the camera is open already.
+bool Takes(const Syntax& syntax, bool inShell) {
+    return !inShell || (syntax.parameter != Parameter::Camera && syntax.parameter != Parameter::NoControl);
+}
 
 Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
     Filled filled{app.add_subcommand(command.name, command.about)->group("Commands"), &command, {}};
@@ -215,6 +218,7 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     if (help->parsed()) {
         PrintHelp(app, helped);
     }
+    line.options.camera.readOnly = line.given.contains(Parameter::NoControl);
     if (trace) {
         line.options.camera.accesses = PrintAccess;
     }

@@ -33,10 +33,9 @@ public:
     /// Whether this host can write to the camera.
     [[nodiscard]] virtual bool HasControl() const = 0;
     /// For commands that write. Takes control, if another program has released it.
-    /// @throws OpenError while another program has it
+    /// @throws OpenError while another program has it, or if it was not wanted
     virtual void RequireControl() = 0;
-    /// If a write failed since the last call because another program has control, a description of that program; else
-    /// empty.
+    /// If a write failed for lack of control since the last call, why this program has none; else empty.
     [[nodiscard]] virtual std::string TakeDenial() = 0;
     /// Checks that the connection was never lost and the camera has not restarted.
     /// @throws ChannelLost, unless already thrown

@@ -17,7 +17,7 @@ int RunAndReport(const std::function<int()>& action, int failed = Refused);
 enum class Cause {
     Any,
     NoSuchAddress, ///< the camera lacks the register, for example with another firmware
-    NoControl,     ///< it writes (perhaps only an index) while another program has control
+    NoControl,     ///< it writes (perhaps only an index) without control
 };
 
 /// How a call of the plug-in ended.

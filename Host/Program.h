@@ -36,7 +36,7 @@ public:
     [[nodiscard]] Session& Open(const std::string& camera);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     [[nodiscard]] bool IsOpen(const std::string& camera) const { return IsOpen() && camera == opened; }
-    /// After a command: reports on standard error which program has control, if something was not read without it.
+    /// After a command: reports on standard error why there is no control, if something was not read without it.
     void ReportController();
     /// Saves the camera to the state file, if there is one.
     void SaveState();

@@ -52,6 +52,9 @@ void RequireFitting(const CameraOptions& options, bool isSimulated) {
     if (isSimulated && !options.forcedModel.empty()) {
         throw UsageError("--force-model applies to cameras on the network only");
     }
+    if (isSimulated && options.readOnly) {
+        throw UsageError("--no-control applies to cameras on the network only");
+    }
     const SimulationOptions& simulation = options.simulation;
     if (!isSimulated && (simulation.seed || !simulation.state.empty() || !simulation.faults.empty())) {
         throw UsageError("--seed, --state and --fault apply to simulated cameras only");
@@ -75,7 +78,7 @@ Session::Connected Session::Connect(const Plugin& plugin, const std::string& cam
     if (address.empty()) {
         return {std::make_unique<SimulatedConnection>(model, options.simulation), model};
     }
-    auto connection = ConnectGigE(address);
+    auto connection = options.readOnly ? ConnectReadOnly(address) : ConnectGigE(address);
     const std::string opened = model.empty() ? ModelOf(plugin, *connection) : model;
     return {std::move(connection), opened};
 }

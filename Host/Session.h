@@ -19,6 +19,7 @@ struct CameraOptions {
     std::int32_t index = 0;           ///< camera index for CreateObject
     SimulationOptions simulation{};   ///< for a simulated camera
     std::string forcedModel{};        ///< treats a camera on the network as this model, whatever it reports
+    bool readOnly = false;            ///< never takes control of a camera on the network
     TracingPort::Observer accesses{}; ///< gets every port access; without it the port records them
 };
 

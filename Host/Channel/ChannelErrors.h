@@ -39,7 +39,7 @@ public:
     using ChannelError::ChannelError;
 };
 
-/// A write while another program has control.
+/// A write without control, which another program has or which was not wanted.
 class ControlHeld final : public ChannelError {
 public:
     using ChannelError::ChannelError;

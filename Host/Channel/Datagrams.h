@@ -17,7 +17,7 @@ namespace Host {
 [[nodiscard]] std::string LocalAddressFor(const std::string& address);
 
 /// Reads a text from a camera's memory without taking control. Returns nothing if the camera does not answer.
-/// @param length a multiple of 4, at most 512
+/// @param length a multiple of 4, at most 536
 [[nodiscard]] std::optional<std::string> ReadTextWithoutControl(const std::string& camera, std::uint32_t memory,
                                                                 std::uint16_t length);
 

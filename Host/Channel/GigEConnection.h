@@ -18,4 +18,8 @@ public:
 /// @throws OpenError, also if this program was built without Aravis
 [[nodiscard]] std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& address);
 
+/// Opens the same camera to read from it only. It takes no control, writes nothing, and needs no Aravis.
+/// @throws OpenError
+[[nodiscard]] std::unique_ptr<NetworkConnection> ConnectReadOnly(const std::string& address);
+
 } // namespace Host

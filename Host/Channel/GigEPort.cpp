@@ -1,9 +1,9 @@
 #include "Host/Channel/GigEPort.h"
 
 #include "Common/Bootstrap.h"
-#include "Common/Gvcp.h"
 #include "Common/Ipv4.h"
 #include "Host/Channel/AravisErrors.h"
+#include "Host/Channel/Busy.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/Datagrams.h"
 #include "Host/Channel/DeferredTermination.h"
@@ -11,27 +11,15 @@
 
 #include <arv.h>
 
-#include <algorithm>
-#include <array>
-#include <bit>
-#include <cstdlib>
-#include <cstring>
 #include <thread>
 
 namespace Host {
 
 using namespace Common::Bootstrap;
-using Common::Gvcp::wordSize;
 
 namespace {
 
-constexpr std::uint64_t largestTransfer = 512; ///< fits into every packet of the control channel
-
-constexpr int busyAttempts = 6;                    ///< attempts of an access
-constexpr std::chrono::milliseconds busyPause{20}; ///< time between attempts
-
-// Words of register pairs, blocks and texts stay in the byte order of the camera.
-static_assert(std::endian::native == std::endian::little, "cameras are little-endian");
+constexpr std::uint32_t largestTransfer = 512; ///< of Aravis
 
 struct Unref {
     void operator()(void* object) const { g_object_unref(object); }
@@ -48,17 +36,13 @@ bool Is(const GError& error, ArvDeviceError code) { return error.domain == ARV_D
 /// Makes an access, and retries while the camera is busy.
 /// @return the error, or nothing
 Error Try(const std::function<bool(GError**)>& access) {
-    for (int attempt = 1;; ++attempt) {
+    const auto attempt = [&] {
         GError* failure = nullptr;
-        if (access(&failure)) {
-            return nullptr;
-        }
-        Error error(failure);
-        if (attempt == busyAttempts || !Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY)) {
-            return error;
-        }
-        std::this_thread::sleep_for(busyPause);
-    }
+        access(&failure);
+        return Error(failure);
+    };
+    return RetryWhileBusy(attempt,
+                          [](const Error& error) { return error && Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY); });
 }
 
 ArvDevice* Open(const std::string& address) {
@@ -87,7 +71,7 @@ ArvDevice* Open(const std::string& address) {
 
 void GigEPort::Release::operator()(_ArvDevice* opened) const { g_object_unref(opened); }
 
-GigEPort::GigEPort(const std::string& address) : camera("the camera at " + address), device(Open(address)) {
+GigEPort::GigEPort(const std::string& address) : ChannelPort(address, largestTransfer), device(Open(address)) {
     g_signal_connect(device.get(), "control-lost",
                      G_CALLBACK(+[](ArvDevice*, std::atomic<bool>* flag) { *flag = true; }), &controlLost);
     controls = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
@@ -104,11 +88,6 @@ GigEPort::~GigEPort() {
     }
 }
 
-std::string GigEPort::ModelName() {
-    const char* const name = ReadString(modelName, modelNameLength);
-    return {name, std::find(name, name + modelNameLength, '\0')};
-}
-
 void GigEPort::TryToTakeControl() {
     if (!controls && lost == Lost::No) {
         controls = Try([&](GError** error) {
@@ -121,7 +100,7 @@ void GigEPort::TryToTakeControl() {
 std::string GigEPort::DescribeController() const {
     const std::string where =
         Common::PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
-    return camera + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
+    return Name() + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
 }
 
 void GigEPort::RequireUnbrokenControl() {
@@ -135,7 +114,7 @@ void GigEPort::FailAsLost(const Operation& operation) const {
         throw Ending(operation.name, operation.address, "the program is terminating");
     }
     throw ChannelLost(operation.name, operation.address,
-                      lost == Lost::Control ? "control of " + camera + " was lost" : camera + " no longer answers");
+                      lost == Lost::Control ? "control of " + Name() + " was lost" : Name() + " no longer answers");
 }
 
 void GigEPort::Fail(const Operation& operation, const GError& error) {
@@ -204,112 +183,32 @@ bool GigEPort::IsLost() {
     return lost != Lost::No;
 }
 
-void GigEPort::RequireAddresses(const Operation& operation, std::uint64_t length) {
-    constexpr std::uint64_t addresses = std::uint64_t{1} << 32;
-    if (length > addresses - operation.address) {
-        throw ChannelError(operation.name, operation.address, "the access exceeds the address space");
-    }
-}
-
-void GigEPort::Read(const Operation& operation, std::uint8_t* data, std::uint64_t length) {
-    RequireAddresses(operation, length);
-    const std::uint64_t end = operation.address + length;
-    std::array<std::uint8_t, largestTransfer> piece{};
-    for (std::uint64_t wanted = operation.address; wanted < end;) {
-        const std::uint64_t first = wanted / wordSize * wordSize;
-        const std::uint64_t size = std::min((end - first + wordSize - 1) / wordSize * wordSize, largestTransfer);
-        Access(operation, [&](GError** error) {
-            return arv_device_read_memory(device.get(), first, static_cast<guint32>(size), piece.data(), error) !=
-                   FALSE;
-        });
-        const std::uint64_t last = std::min(first + size, end);
-        data = std::copy(piece.begin() + (wanted - first), piece.begin() + (last - first), data);
-        wanted = last;
-    }
-}
-
-void GigEPort::Write(const Operation& operation, const std::uint8_t* data, std::uint64_t length) {
-    if (operation.address % wordSize != 0 || length % wordSize != 0) {
-        throw ChannelError(operation.name, operation.address,
-                           std::to_string(length) + " bytes: writes must be whole words at multiples of 4");
-    }
-    RequireAddresses(operation, length);
-    std::array<std::uint8_t, largestTransfer> piece{}; // Aravis takes a non-const buffer
-    for (std::uint64_t done = 0; done < length;) {
-        const std::uint64_t size = std::min(length - done, largestTransfer);
-        std::copy_n(data + done, size, piece.begin());
-        Access(operation, [&](GError** error) {
-            return arv_device_write_memory(device.get(), operation.address + done, static_cast<guint32>(size),
-                                           piece.data(), error) != FALSE;
-        });
-        done += size;
-    }
-}
-
-void GigEPort::WriteRegister(std::uint32_t address, std::uint32_t value) {
-    const Operation operation{"WriteRegister", address, true};
-    if (address % wordSize != 0) {
-        throw ChannelError(operation.name, address, "the address is not a multiple of 4");
-    }
-    Access(operation,
-           [&](GError** error) { return arv_device_write_register(device.get(), address, value, error) != FALSE; });
-}
-
-std::uint32_t GigEPort::ReadRegister(std::uint32_t address) {
-    const Operation operation{"ReadRegister", address, false};
+std::uint32_t GigEPort::ReadWord(const Operation& operation) {
     std::uint32_t value = 0;
-    if (address % wordSize != 0) {
-        Read(operation, reinterpret_cast<std::uint8_t*>(&value), sizeof value);
-        return value;
-    }
-    Access(operation,
-           [&](GError** error) { return arv_device_read_register(device.get(), address, &value, error) != FALSE; });
+    Access(operation, [&](GError** error) {
+        return arv_device_read_register(device.get(), operation.address, &value, error) != FALSE;
+    });
     return value;
 }
 
-void GigEPort::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {
-    Write({"WriteRegisterPair", address, true}, reinterpret_cast<const std::uint8_t*>(&value), sizeof value);
+void GigEPort::WriteWord(const Operation& operation, std::uint32_t value) {
+    Access(operation, [&](GError** error) {
+        return arv_device_write_register(device.get(), operation.address, value, error) != FALSE;
+    });
 }
 
-std::uint64_t GigEPort::ReadRegisterPair(std::uint32_t address) {
-    std::uint64_t value = 0;
-    Read({"ReadRegisterPair", address, false}, reinterpret_cast<std::uint8_t*>(&value), sizeof value);
-    return value;
+void GigEPort::ReadMemory(const Operation& operation, std::uint32_t address, std::span<std::uint8_t> data) {
+    Access(operation, [&](GError** error) {
+        return arv_device_read_memory(device.get(), address, static_cast<guint32>(data.size()), data.data(), error) !=
+               FALSE;
+    });
 }
 
-unsigned char* GigEPort::ReadBlock(std::uint32_t address, std::uint32_t length) {
-    // From malloc: the caller frees it, as IControlPort requires.
-    std::unique_ptr<unsigned char, decltype(&std::free)> block(static_cast<unsigned char*>(std::malloc(length)),
-                                                               &std::free);
-    if (block != nullptr) {
-        Read({"ReadBlock", address, false}, block.get(), length);
-    }
-    return block.release();
-}
-
-void GigEPort::WriteBlock(std::uint32_t address, const unsigned char* buffer, std::uint32_t length) {
-    Write({"WriteBlock", address, true}, buffer, length);
-}
-
-char* GigEPort::ReadString(std::uint32_t address, std::uint32_t length) {
-    std::vector<std::uint8_t> bytes(length);
-    Read({"ReadString", address, false}, bytes.data(), length);
-    text.assign(bytes.begin(), bytes.end());
-    text.push_back('\0');
-    return text.data();
-}
-
-void GigEPort::WriteString(std::uint32_t address, const char* buffer, std::uint32_t length) {
-    const std::vector<std::uint8_t> bytes(buffer, buffer + length);
-    Write({"WriteString", address, true}, bytes.data(), length);
-}
-
-void GigEPort::ReadMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
-    Read({"ReadMem", address, false}, buffer, *length);
-}
-
-void GigEPort::WriteMem(std::uint32_t address, std::uint8_t* buffer, std::uint64_t* length) {
-    Write({"WriteMem", address, true}, buffer, *length);
+void GigEPort::WriteMemory(const Operation& operation, std::uint32_t address, std::span<std::uint8_t> data) {
+    Access(operation, [&](GError** error) {
+        return arv_device_write_memory(device.get(), address, static_cast<guint32>(data.size()), data.data(), error) !=
+               FALSE;
+    });
 }
 
 } // namespace Host

@@ -10,8 +10,8 @@ namespace {
 
 [[noreturn]] void Refuse() {
     throw OpenError(
-        "this qdv12host was built without Aravis and cannot reach cameras on the network; install the Debian "
-        "packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
+        "this qdv12host was built without Aravis and can neither find nor control cameras on the network; install the "
+        "Debian packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
 }
 
 } // namespace

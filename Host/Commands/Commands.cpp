@@ -23,6 +23,8 @@ const std::vector<Command>& Commands() {
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Include I/O lines, motors and lenses, which act on connected devices"};
     static const Syntax dryRun{Parameter::DryRun, "--dry-run", "Print what would be set; set nothing"};
+    static const Syntax noControl{Parameter::NoControl, "--no-control",
+                                  "Only read from a camera on the network; leave control to other programs"};
     static const Syntax picture{Parameter::File, "FILE",
                                 "A PNG file; of several pictures the names are numbered; - is standard output",
                                 Required::Never};
@@ -37,16 +39,16 @@ const std::vector<Command>& Commands() {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
         {"models",   "List the models that the plug-in serves",                        {},                              Models},
         {"discover", "List the GigE Vision cameras on the network",                    {},                              Discover},
-        {"info",     "Show the identity and the address of a camera",                  {camera},                        Info},
-        {"list",     "List every function of a camera",                                {camera, all},                   List},
-        {"get",      "Print the values of functions",                                  {camera, names},                 Get},
+        {"info",     "Show the identity and the address of a camera",                  {camera, noControl},             Info},
+        {"list",     "List every function of a camera",                                {camera, all, noControl},        List},
+        {"get",      "Print the values of functions",                                  {camera, names, noControl},      Get},
         {"set",      "Set functions, such as gain=100 exposure=1:2000",                {camera, assignments},           Set},
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if they cannot be compared",
-                                                                            {first, second},                 Diff, true, NotCompared},
+                                                                            {first, second, noControl},      Diff, true, NotCompared},
         {"restore",  "Restore saved settings",                                         {read, camera, outputs, dryRun}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
-        {"watch",    "Print changes until interrupted",                                {camera, later, seconds},        Watch},
+        {"watch",    "Print changes until interrupted",                                {camera, later, seconds, noControl}, Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {camera, outputs},               Selftest},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},
     };

@@ -151,6 +151,9 @@ std::optional<milliseconds> DurationOf(const Invocation& invocation) {
 
 int Watch(const Invocation& invocation) {
     const auto duration = DurationOf(invocation);
+    if (invocation.Has(Parameter::NoControl) && invocation.Has(Parameter::Assignments)) {
+        throw UsageError("setting needs control: leave out NAME=VALUE or --no-control");
+    }
     Session& session = invocation.Open();
     const Camera camera = session.Camera();
     if (invocation.Has(Parameter::Assignments)) {

@@ -2,6 +2,7 @@
 
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/GigEPort.h"
+#include "Host/Channel/ReadOnlyPort.h"
 
 #include <arpa/inet.h>
 #include <sys/socket.h>
@@ -17,7 +18,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes Memory(Host::GigEPort& port, std::uint32_t address, std::uint64_t length) {
+Bytes Memory(SDK4::IControlPort& port, std::uint32_t address, std::uint64_t length) {
     Bytes bytes(length);
     port.ReadMem(address, bytes.data(), &length);
     return bytes;
@@ -85,6 +86,7 @@ TEST(ChannelPort, DescribesEachStatus) {
     for (const auto& [status, words] : statuses) {
         const RefusingDevice device("192.168.1.10", status);
         EXPECT_EQ(RunHost("info gige:192.168.1.10").err, failed + words + "\n");
+        EXPECT_EQ(RunHost("info gige:192.168.1.10 --no-control").err, failed + words + "\n");
     }
     const NetworkCamera mute("Orvik-710C", "192.168.1.10", {"--fault", "fail:description"});
     EXPECT_EQ(mute.Run("info CAMERA").err, failed + "its GenICam description cannot be read\n");
@@ -94,18 +96,21 @@ TEST(ChannelPort, MovesBytesAsTheyLieInTheCamera) {
     const NetworkCamera camera("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
     EXPECT_TRUE(port.HasControl());
-    EXPECT_EQ(port.ModelName(), "Orvik-710C");
-    EXPECT_EQ(port.ReadRegister(0x64030000), 0x00070710U);
-    EXPECT_EQ(Memory(port, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // vendor byte order
-    EXPECT_EQ(Memory(port, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // standard byte order
-    EXPECT_EQ(port.ReadRegister(0x00000024), 0xC0A8010AU);
     port.WriteRegisterPair(0x0A030000, 5000ULL << 32); // an exposure with base 0
-    EXPECT_EQ(port.ReadRegisterPair(0x0A030000), 5000ULL << 32);
-    EXPECT_EQ(Memory(port, 0x0A030000, 8), (Bytes{0, 0, 0, 0, 0x88, 0x13, 0, 0}));
     port.WriteString(0x000000E8, "a name\0\0", 8);
-    const char* const text = port.ReadString(0x000000E8, 16);
-    EXPECT_EQ(std::string(text, 17), std::string("a name") + std::string(11, '\0'));
-    EXPECT_EQ(std::string(port.ReadString(0x64010000, 15), 4), std::string("\x0A\0\0\0", 4)); // a word before the text
+    Host::ReadOnlyPort readOnly("192.168.1.10");
+    for (Host::ChannelPort* each : std::initializer_list<Host::ChannelPort*>{&port, &readOnly}) {
+        EXPECT_EQ(each->ModelName(), "Orvik-710C");
+        EXPECT_EQ(each->ReadRegister(0x64030000), 0x00070710U);
+        EXPECT_EQ(Memory(*each, 0x64030000, 4), (Bytes{0x10, 0x07, 0x07, 0x00})); // vendor byte order
+        EXPECT_EQ(Memory(*each, 0x00000024, 4), (Bytes{192, 168, 1, 10}));        // standard byte order
+        EXPECT_EQ(each->ReadRegister(0x00000024), 0xC0A8010AU);
+        EXPECT_EQ(each->ReadRegisterPair(0x0A030000), 5000ULL << 32);
+        EXPECT_EQ(Memory(*each, 0x0A030000, 8), (Bytes{0, 0, 0, 0, 0x88, 0x13, 0, 0}));
+        const char* const text = each->ReadString(0x000000E8, 16);
+        EXPECT_EQ(std::string(text, 17), std::string("a name") + std::string(11, '\0'));
+        EXPECT_EQ(std::string(each->ReadString(0x64010000, 15), 4), std::string("\x0A\0\0\0", 4)); // a word before it
+    }
 }
 
 TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
@@ -117,6 +122,8 @@ TEST(ChannelPort, ReadsWhatIsNotAlignedAndDoesNotWriteIt) {
     const Bytes whole = Memory(port, 0x00010000, 1540);    // three packets and a rest
     const Bytes shifted = Memory(port, 0x00010003, 1537);
     EXPECT_TRUE(std::equal(shifted.begin(), shifted.end(), whole.begin() + 3));
+    Host::ReadOnlyPort readOnly("192.168.1.10");
+    EXPECT_EQ(Memory(readOnly, 0x00010003, 1537), shifted);
     EXPECT_EQ(Memory(port, 0x64010000, 0), Bytes{});
     Bytes zeros(6);
     std::uint64_t length = zeros.size();
@@ -145,6 +152,11 @@ TEST(ChannelPort, DescribesRefusals) {
         held.starts_with("WriteRegister at 0x14010000 failed: the camera at 192.168.1.10 is controlled by another "
                          "program at 192.168.1.10:"))
         << held;
+    Host::ReadOnlyPort readOnly("192.168.1.10");
+    EXPECT_EQ(Failure<Host::NoSuchAddress>([&] { (void)readOnly.ReadRegister(0xE0000000); }),
+              "ReadRegister at 0xE0000000 failed: the camera has no such address (0x8003)");
+    EXPECT_EQ(Failure<Host::ControlHeld>([&] { readOnly.WriteString(0x000000E8, "name", 4); }),
+              "WriteString at 0x000000E8 failed: the camera at 192.168.1.10 was opened with --no-control");
     const NetworkCamera broken("Cerix-MV7", "192.168.1.11", {"--fault", "fail:0x934"});
     const Outcome opening = broken.Run("get CAMERA gain");
     EXPECT_EQ(opening.code, 3);
@@ -190,11 +202,18 @@ TEST(ChannelPort, DetectsALossByTheHeartbeat) {
 TEST(ChannelPort, OnceLostFailsAtOnce) {
     const NetworkCamera camera("Orvik-710C");
     Host::GigEPort port("192.168.1.10");
+    Host::ReadOnlyPort readOnly("192.168.1.10");
     camera.Signal(SIGKILL);
     const std::string lost = " failed: the camera at 192.168.1.10 no longer answers";
-    EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)port.ReadRegister(0x14010000); }),
-              "ReadRegister at 0x14010000" + lost);
-    const NetworkCamera another("Orvik-710C"); // unknown to this port
+    const std::initializer_list<Host::ChannelPort*> ports{&port, &readOnly};
+    for (Host::ChannelPort* each : ports) {
+        EXPECT_EQ(Failure<Host::ChannelLost>([&] { (void)each->ReadRegister(0x14010000); }),
+                  "ReadRegister at 0x14010000" + lost);
+    }
+    const NetworkCamera another("Orvik-710C"); // unknown to these ports
+    for (Host::ChannelPort* each : ports) {
+        EXPECT_EQ(Failure<Host::ChannelLost>([&] { Memory(*each, 0x14010000, 4); }), "ReadMem at 0x14010000" + lost);
+    }
     EXPECT_EQ(Failure<Host::ChannelLost>([&] { port.WriteRegister(0x14010000, 1); }),
               "WriteRegister at 0x14010000" + lost);
 }

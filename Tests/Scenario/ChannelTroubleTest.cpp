@@ -1,5 +1,7 @@
 #include "Tests/Scenario/NetworkCamera.h"
 
+#include "Host/Channel/GigEPort.h"
+
 #include <chrono>
 #include <functional>
 #include <future>
@@ -211,6 +213,42 @@ TEST(ChannelTrouble, WhatAnotherProgramControlsCanBeReadAndNotWritten) {
     EXPECT_EQ(holder.End(), 0);
     EXPECT_EQ(camera.Run("set CAMERA gain=5").code, 0);
     std::filesystem::remove(file);
+}
+
+TEST(ChannelTrouble, NoControlOnlyReads) {
+    const std::string record = TemporaryFile("pcap");
+    const std::string settings = TemporaryFile("json");
+    const std::string denied = "qdv12host: the camera at 192.168.1.10 was opened with --no-control; ";
+    ASSERT_EQ(RunHost("save Orvik-710C " + settings).code, 0);
+    const NetworkCamera disturbed("Orvik-710C", "192.168.1.11",
+                                  {"--drop", "0.02", "--duplicate", "0.1", "--nack", "0.05", "--delay", "2"});
+    const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--record", record});
+    Host::GigEPort controller("192.168.1.10");
+    const std::string listed = camera.Run("list CAMERA --no-control").out;
+    EXPECT_TRUE(Has(listed, "limits need control"));
+    EXPECT_TRUE(Replaced(disturbed.Run("list CAMERA --no-control").out, "168.1.11", "168.1.10") == listed);
+    controller.WriteRegister(0x14010000, 7);
+    const Outcome get = camera.Run("get CAMERA gain overlayshow.1 --no-control");
+    EXPECT_EQ(get.code, 1);
+    EXPECT_EQ(get.out, "gain=7\n");
+    EXPECT_EQ(get.err,
+              "qdv12host: overlayshow.1: needs control\n" + denied + "values that need control were not read\n");
+    const Outcome diff = camera.Run("diff " + settings + " CAMERA --no-control");
+    EXPECT_EQ(diff.code, 3);
+    ExpectMatch(diff.out, "gain +0 +7\n");
+    EXPECT_TRUE(diff.err.starts_with(denied + "without control these cannot be read: overlayshow, ")) << diff.err;
+    EXPECT_EQ(camera.Run("info CAMERA --no-control").code, 0);
+    EXPECT_EQ(camera.Run("watch CAMERA --no-control --seconds 0").code, 0);
+    for (const char* writing :
+         {"watch CAMERA gain=5 --no-control", "set CAMERA gain=5 --no-control", "save CAMERA x --no-control"}) {
+        EXPECT_EQ(camera.Run(writing).code, 2) << writing;
+    }
+    controller.RequireUnbrokenControl();
+    const std::string sent = Content(record);
+    const std::regex writes("B\x01\\0(\x82\\0\x08|\x86\\0)"); // the headers of write requests
+    EXPECT_EQ(std::distance(std::sregex_iterator(sent.begin(), sent.end(), writes), {}), 2); // of the controller
+    std::filesystem::remove(record);
+    std::filesystem::remove(settings);
 }
 
 TEST(ChannelTrouble, ControlIsGivenBackToABusyCamera) {
