@@ -34,13 +34,7 @@ void Defects::Update(const Settings& settings, const World& world) {
         Add(settings, pixel.column, pixel.line, pixel.isWhite ? Action::Whiten : Action::Blacken);
     }
     if (settings.listed) {
-        for (const auto& pixel : factoryDefects) {
-            Add(settings, pixel[0], pixel[1], Action::Whiten);
-        }
-        for (const ListedPixel& pixel : *settings.listed) {
-            const Action replace = pixel.mode == 1 ? Action::TakeLeft : Action::TakeMean;
-            Add(settings, pixel.column, pixel.line, settings.showsDefects ? Action::Show : replace);
-        }
+        AddListed(settings);
     }
     std::stable_sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
         const auto rank = [](const Entry& entry) {
@@ -48,6 +42,16 @@ void Defects::Update(const Settings& settings, const World& world) {
         };
         return rank(left) < rank(right);
     });
+}
+
+void Defects::AddListed(const Settings& settings) {
+    for (const auto& pixel : factoryDefects) {
+        Add(settings, pixel[0], pixel[1], Action::Whiten);
+    }
+    for (const ListedPixel& pixel : *settings.listed) {
+        const Action replace = pixel.mode == 1 ? Action::TakeLeft : Action::TakeMean;
+        Add(settings, pixel.column, pixel.line, settings.showsDefects ? Action::Show : replace);
+    }
 }
 
 void Defects::Add(const Settings& settings, std::uint32_t column, std::uint32_t line, Action action) {

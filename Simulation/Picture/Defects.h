@@ -33,6 +33,7 @@ private:
         Action action;
     };
 
+    void AddListed(const Settings& settings);
     void Add(const Settings& settings, std::uint32_t column, std::uint32_t line, Action action);
     void Act(const Entry& entry, std::vector<std::uint16_t>& line) const;
 
