@@ -37,6 +37,7 @@ FeatureKind Fields(const std::vector<const char*>& names) { return {Number, name
 const FeatureKind time = Fields({"Base", "Counter"});
 const FeatureKind version = Fields({"Value1", "Value2"});
 const FeatureKind area = Fields({"StartX", "StartY", "EndX", "EndY"});
+const FeatureKind circle = Fields({"Radius", "Width", "XPos", "YPos", "VStretch"});
 
 } // namespace
 
@@ -70,7 +71,7 @@ const std::vector<Feature>& Features() {
         {"secondurl",                "GevSecondURL",              transport,   "Where else this description may be", text},
 
         {"imagesize",                "ImageSize",                 image,       "Size of the pictures in pixels", Fields({"Width", "Height"})},
-        {"readoutarealimits",        "ReadoutAreaLimits",         image,       "Limits of the readout area: 0 smallest values, 1 largest values, 2 the area", area},
+        {"readoutarealimits",        "ReadoutAreaLimits",         image,       "Readout area: 0 smallest values, 1 largest values, 2 now", area},
 
         {"agc",                      "AGC",                       analog,      "Automatic gain control", modes},
         {"automaticlevel",           "AutomaticLevel",            analog,      "Level that automatic gain control of mode 2 aims at"},
@@ -81,14 +82,14 @@ const std::vector<Feature>& Features() {
         {"abcxrlevel",               "ABCXRLevel",                analog,      "Level of automatic brightness control, in steps of the camera"},
 
         {"exposuremode",             "ExposureMode",              acquisition, "What begins an exposure", exposureModes},
-        {"exposure",                 "Exposure",                  acquisition, "Exposure time: the counter times ten to the power of the base, in microseconds", time},
+        {"exposure",                 "Exposure",                  acquisition, "Exposure time: counter times 10 to the base, in microseconds", time},
         {"exposure",                 "Exposure",                  acquisition, "Exposure time in milliseconds; settable in exposure mode ResetRestart"},
         {"aet",                      "AET",                       acquisition, "Automatic exposure time control", modes},
         {"autoexposurelevel",        "AutoExposureLevel",         acquisition, "Level that the automatic modes aim at"},
         {"triggertimer",             "TriggerTimer",              acquisition, "Trigger timer, in units of the camera"},
-        {"triggerdelay",             "TriggerDelay",              acquisition, "Delay of the trigger: the counter times ten to the power of the base, in microseconds", time},
+        {"triggerdelay",             "TriggerDelay",              acquisition, "Delay of the trigger: counter times 10 to the base, in microseconds", time},
         {"pixelclock",               "PixelClock",                acquisition, "Pixel clock in hertz"},
-        {"slowscan",                 "SlowScan",                  acquisition, "Whether the sensor is read at half its speed; ignored during acquisition", onOff},
+        {"slowscan",                 "SlowScan",                  acquisition, "Whether the sensor is read at half its speed", onOff},
         {"readouttime",              "ReadoutTime",               acquisition, "Time of a sensor readout in microseconds; not below the shortest"},
         {"frameduration",            "FrameDuration",             acquisition, "Time from frame to frame in microseconds"},
         {"twinmodeshutteroffset",    "TwinModeShutterOffset",     acquisition, "Offset of the shutter in twin mode, in steps of the exposure time"},
@@ -130,7 +131,7 @@ const std::vector<Feature>& Features() {
         {"measureframeshow",         "MeasureFrameShow",          overlay,     "Whether the measure frame is shown", onOff},
         {"measureframecolor",        "MeasureFrameColor",         overlay,     "Colour of the measure frame; a code of the camera"},
         {"measurewindow",            "MeasureWindow",             overlay,     "Where the picture is measured, in pixels", area},
-        {"measurewindow",            "MeasureWindow",             overlay,     "Circle in which the picture is measured: radius, stroke width, centre relative to that of the picture, vertical stretch", Fields({"Radius", "Width", "XPos", "YPos", "VStretch"})},
+        {"measurewindow",            "MeasureWindow",             overlay,     "Circle in which the picture is measured, in pixels", circle},
         {"measurevalue",             "MeasureValue",              overlay,     "Measured level"},
 
         {"startupsettings",          "StartupSettings",           userSets,    "Set of settings that is loaded at the start, 0 for the factory's"},
