@@ -38,10 +38,10 @@ struct FeatureKind {
 /// - ccdcontrol, com, updatefile and updatestatus: protocols of the manufacturer's programs;
 /// - what belongs to the channels of the standard.
 struct Feature {
-    const char* registerName;
-    const char* node;
-    const char* category;
-    const char* toolTip;
+    const char* registerName = nullptr;
+    const char* node = nullptr;
+    const char* category = nullptr;
+    const char* toolTip = nullptr;
     FeatureKind kind = {};
 };
 
