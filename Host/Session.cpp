@@ -1,14 +1,10 @@
 #include "Host/Session.h"
 
-#include "Common/Ipv4.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
+#include "Host/CameraName.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/GigEConnection.h"
-#include "Simulation/Cameras.h"
-
-#include <algorithm>
-#include <string_view>
 
 namespace Host {
 
@@ -37,17 +33,6 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
                     "\"; use --force-model with one of " + Common::Join(plugin.ModelNames()));
 }
 
-constexpr std::string_view network = "gige:"; ///< prefix of addresses
-
-/// @return the address of a camera on the network, empty for a simulated one
-std::string AddressOf(const std::string& camera) {
-    std::string address = camera.starts_with(network) ? camera.substr(network.size()) : "";
-    if (!Common::ParseAddress(address) && (camera.find(':') != std::string::npos || Common::ParseAddress(camera))) {
-        throw UsageError("invalid camera \"" + camera + "\": give a model or gige:ADDRESS, such as gige:192.168.1.10");
-    }
-    return address;
-}
-
 void RequireFitting(const CameraOptions& options, bool isSimulated) {
     if (isSimulated && !options.forcedModel.empty()) {
         throw UsageError("--force-model applies to cameras on the network only");
@@ -63,21 +48,18 @@ void RequireFitting(const CameraOptions& options, bool isSimulated) {
 
 } // namespace
 
-bool IsCamera(const std::string& text) {
-    const auto models = Simulation::ModelNames();
-    return text.starts_with(network) || std::find(models.begin(), models.end(), text) != models.end();
-}
-
 Session::Connected Session::Connect(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
-    const std::string address = AddressOf(camera);
-    RequireFitting(options, address.empty());
-    const std::string& model = address.empty() ? camera : options.forcedModel;
-    if (!model.empty() || address.empty()) {
+    const CameraName name = ParseCameraName(camera);
+    const bool isSimulated = name.by == CameraName::By::Model;
+    RequireFitting(options, isSimulated);
+    const std::string& model = isSimulated ? camera : options.forcedModel;
+    if (!model.empty() || isSimulated) {
         RequireServed(plugin, model);
     }
-    if (address.empty()) {
+    if (isSimulated) {
         return {std::make_unique<SimulatedConnection>(model, options.simulation), model};
     }
+    const std::string address = FindAddress(name);
     auto connection = options.readOnly ? ConnectReadOnly(address) : ConnectGigE(address);
     const std::string opened = model.empty() ? ModelOf(plugin, *connection) : model;
     return {std::move(connection), opened};

@@ -11,9 +11,6 @@
 
 namespace Host {
 
-/// Whether a text names a camera and not a file: a model, or gige:ADDRESS.
-[[nodiscard]] bool IsCamera(const std::string& text);
-
 /// How a camera is reached and opened.
 struct CameraOptions {
     std::int32_t index = 0;           ///< camera index for CreateObject
@@ -27,7 +24,7 @@ struct CameraOptions {
 class Session {
 public:
     /// Creates a simulated camera, or connects to one on the network, and opens it.
-    /// @param camera a model, which is simulated, or gige:ADDRESS
+    /// @param camera as ParseCameraName takes it
     /// @throws OpenError for a model that the plug-in does not serve, for a camera that cannot be reached, and as
     ///         SimulatedConnection
     /// @throws UsageError for an invalid camera, options that do not apply to it, or an invalid fault

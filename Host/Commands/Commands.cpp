@@ -3,7 +3,9 @@
 namespace Host {
 
 const std::vector<Command>& Commands() {
-    static const Syntax camera{Parameter::Camera, "CAMERA", "A model (simulated), or gige:ADDRESS (on the network)"};
+    static const Syntax camera{Parameter::Camera, "CAMERA",
+                               "A model (simulated); or on the network gige:ADDRESS, gige:HOST, serial:NUMBER, "
+                               "mac:ADDRESS, name:NAME"};
     static const Syntax names{Parameter::Names, "NAME", "Functions, named as in list; without an index, all instances",
                               Required::Always, true};
     static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "Values to set, in this order",

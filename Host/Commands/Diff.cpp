@@ -1,6 +1,7 @@
 #include "Host/Commands/Commands.h"
 
 #include "Common/Suggestion.h"
+#include "Host/CameraName.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Settings/CameraSettings.h"

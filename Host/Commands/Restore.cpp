@@ -1,5 +1,6 @@
 #include "Host/Commands/Commands.h"
 
+#include "Host/CameraName.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"

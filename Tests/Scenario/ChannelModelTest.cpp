@@ -81,6 +81,38 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
     EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 reports the unknown model \"Fake\"; " + served);
 }
 
+TEST(ChannelModel, ACameraIsFoundByWhatItIs) {
+    const NetworkCamera left("Orvik-710C", "192.168.1.10", {"--serial", "left-rig", "--mac", "02:00:12:07:07:0A"});
+    const NetworkCamera right("Orvik-710C", "192.168.1.11", {"--mac", "02:00:12:07:07:0B"});
+    for (const auto& [camera, name] : {std::pair{&left, "at the\\tdoor"}, {&right, "right"}}) {
+        ASSERT_EQ(camera->Run("set CAMERA username='" + std::string(name) + "'").code, 0);
+    }
+    ASSERT_EQ(left.Run("set CAMERA gain=7").code, 0);
+    for (const char* camera : {"serial:left-rig", "mac:02-00-12-07-07-0a", "'name:at the\\tdoor'"}) {
+        const Outcome run = RunHost("get " + std::string(camera) + " gain --no-control");
+        EXPECT_EQ(run.out, "gain=7\n") << run.err;
+    }
+    const Outcome diff = RunHost("diff serial:left-rig name:right");
+    EXPECT_EQ(diff.code, 1) << diff.err;
+    EXPECT_TRUE(Has(diff.out, "gain                      7                       0\n"));
+    EXPECT_EQ(RunHost("info gige:localhost").err,
+              "qdv12host: the camera at 127.0.0.1 could not be opened: no answer\n");
+    EXPECT_EQ(RunHost("info gige:no-such-host.invalid").code, 3);
+    EXPECT_EQ(RunHost("info serial:left-rig --seed 0").code, 2);
+
+    ASSERT_EQ(left.Run("set CAMERA username=right").code, 0);
+    const std::pair<const char*, std::string> failures[] = {
+        {"name:right", "several cameras have the user-defined name \"right\": 192.168.1.10 (Orvik-710C, left-rig, "
+                       "\"right\"), 192.168.1.11 (Orvik-710C, 710C-0042, \"right\"); name one as gige:ADDRESS"},
+        {"serial:left", "no camera with the serial number \"left\" was found; qdv12host discover lists the cameras"},
+    };
+    for (const auto& [camera, message] : failures) {
+        const Outcome run = RunHost("set " + std::string(camera) + " gain=5");
+        EXPECT_EQ(run.code, 3);
+        EXPECT_EQ(run.err, "qdv12host: " + message + "\n");
+    }
+}
+
 TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
     const std::string unreachable = "qdv12host: no network interface with an IPv4 address is up, except loopback\n";
     const std::string discover = QDV12_HOST " discover";

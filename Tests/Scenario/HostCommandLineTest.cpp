@@ -80,11 +80,14 @@ TEST(HostCommandLine, ShellCommandsMayEndInComments) {
 }
 
 TEST(HostCommandLine, TellsHowACameraIsNamed) {
-    for (const std::string camera : {"192.168.1.10", "gige:", "gige:door", "gige:192.168.1", "u3v:192.168.1.10"}) {
-        const Outcome run = RunHost("info " + camera);
+    for (const std::string camera :
+         {"192.168.1.10", "gige:", "gige:192.168.1", "gige:192.168.1.300", "gige:0x7F000001", "gige:[::1]",
+          "u3v:192.168.1.10", "serial:", "mac:02:00:12:07:07", "name:", "name:\\x"}) {
+        const Outcome run = RunHost("info '" + camera + "'");
         EXPECT_EQ(run.code, 2) << camera;
         EXPECT_EQ(run.err, "qdv12host: invalid camera \"" + camera +
-                               "\": give a model or gige:ADDRESS, such as gige:192.168.1.10\n");
+                               "\": give a model, gige:ADDRESS, such as gige:192.168.1.10, gige:HOST, serial:NUMBER, "
+                               "mac:ADDRESS, or name:NAME\n");
     }
     EXPECT_EQ(RunHost("info Orvik-710C --force-model Cerix-MV7").err,
               "qdv12host: --force-model applies to cameras on the network only\n");

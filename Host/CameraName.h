@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+namespace Host {
+
+/// Whether a text names a camera and not a file: a model, or a text with a prefix as below.
+[[nodiscard]] bool IsCamera(const std::string& text);
+
+/// CAMERA as a command takes it.
+struct CameraName {
+    enum class By {
+        Model,        ///< simulated; all others are on the network
+        Address,      ///< gige:192.168.1.10, or gige:HOST
+        SerialNumber, ///< serial:710C-0042
+        Mac,          ///< mac:02:00:12:07:07:10
+        UserName,     ///< name:left
+    };
+
+    By by = By::Model;
+    std::string text; ///< without prefix; not escaped; a MAC address as discovery reports it
+};
+
+/// @throws UsageError for an invalid name
+[[nodiscard]] CameraName ParseCameraName(const std::string& camera);
+
+/// The IPv4 address of a camera on the network. Asks for that of a host, and discovers cameras by what they are.
+/// @throws OpenError unless one camera is found
+[[nodiscard]] std::string FindAddress(const CameraName& name);
+
+} // namespace Host
