@@ -84,7 +84,7 @@ std::string Resolve(const std::string& host) {
     return address;
 }
 
-std::string Describe(const FoundCamera& camera) {
+std::string DescribeCandidate(const FoundCamera& camera) {
     const std::string name = camera.userName.empty() ? "" : ", \"" + Common::Escaped(camera.userName) + '"';
     return camera.address + " (" + Common::Escaped(camera.model) + ", " + Common::Escaped(camera.serial) + name + ")";
 }
@@ -124,7 +124,7 @@ std::string FindAddress(const CameraName& name) {
     }
     if (found.size() > 1) {
         std::vector<std::string> candidates(found.size());
-        std::transform(found.begin(), found.end(), candidates.begin(), Describe);
+        std::transform(found.begin(), found.end(), candidates.begin(), DescribeCandidate);
         std::sort(candidates.begin(), candidates.end()); // they answer in any order
         throw OpenError("several cameras have " + wanted + ": " + Common::Join(candidates) +
                         "; name one as gige:ADDRESS");

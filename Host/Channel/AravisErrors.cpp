@@ -24,7 +24,7 @@ std::string Reason(const GError& error) {
     if (error.domain == ARV_DEVICE_ERROR) {
         for (const auto& [code, status] : statuses) {
             if (code == error.code) {
-                return Describe(status);
+                return DescribeStatus(status);
             }
         }
         switch (error.code) {

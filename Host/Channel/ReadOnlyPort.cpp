@@ -18,7 +18,7 @@ bool IsBusy(const MaybeAnswer& answer) { return answer && answer->status == Gvcp
 
 /// @return empty after success
 std::string FaultOf(const MaybeAnswer& answer) {
-    return !answer ? noAnswer : answer->status == Gvcp::Status::Success ? "" : Describe(answer->status);
+    return !answer ? noAnswer : answer->status == Gvcp::Status::Success ? "" : DescribeStatus(answer->status);
 }
 
 } // namespace

@@ -26,7 +26,7 @@ constexpr int attempts = 6;                       ///< requests sent before givi
 
 } // namespace
 
-std::string Describe(Gvcp::Status status) {
+std::string DescribeStatus(Gvcp::Status status) {
     using enum Gvcp::Status;
     switch (status) {
     case NotImplemented:

@@ -12,7 +12,7 @@ namespace Host {
 constexpr const char* noAnswer = "no answer"; ///< why an access failed
 
 /// The refusal of a camera: "the camera is busy (0x8007)".
-[[nodiscard]] std::string Describe(Common::Gvcp::Status status);
+[[nodiscard]] std::string DescribeStatus(Common::Gvcp::Status status);
 
 /// Requests to the control port of one camera, over a socket. They only read, and need no control.
 class Requests {
