@@ -4,44 +4,40 @@
 
 namespace Simulation {
 
-namespace {
-
-const char* const device = "DeviceControl";
-const char* const transport = "TransportLayerControl";
-const char* const image = "ImageFormatControl";
-const char* const analog = "AnalogControl";
-const char* const acquisition = "AcquisitionControl";
-const char* const processing = "ImageProcessingControl";
-const char* const correction = "CorrectionControl"; // M2VX
-const char* const overlay = "OverlayControl";
-const char* const userSets = "UserSetControl";
-const char* const lines = "DigitalIOControl";
-const char* const axes = "AxesControl"; // M2VX
-const char* const tests = "TestControl";
-
-using enum FeatureKind::Kind;
-const FeatureKind onOff{Switch};
-const FeatureKind command{Command};
-const FeatureKind request{Request};
-const FeatureKind text{Text};
-const FeatureKind modes{Number, {}, {{0, "Off"}, {1, "Mode1"}, {2, "Mode2"}, {3, "Mode3"}, {4, "Mode4"}}};
-const FeatureKind exposureModes{Number,
-                                {},
-                                {{SDK4_EXPOSUREMODE_FREERUNNING, "FreeRunning"},
-                                 {SDK4_EXPOSUREMODE_FREERUNNING2, "FreeRunning2"},
-                                 {SDK4_EXPOSUREMODE_RESETRESTART, "ResetRestart"},
-                                 {SDK4_EXPOSUREMODE_FRAMEONDEMAND, "FrameOnDemand"}}};
-
-/// The fields have the names of those of the library's records.
-FeatureKind Fields(const std::vector<const char*>& names) { return {Number, names}; }
-const FeatureKind time = Fields({"Base", "Counter"});
-const FeatureKind version = Fields({"Value1", "Value2"});
-const FeatureKind area = Fields({"StartX", "StartY", "EndX", "EndY"});
-const FeatureKind circle = Fields({"Radius", "Width", "XPos", "YPos", "VStretch"});
-
-} // namespace
-
 const std::vector<Feature>& Features() {
+    const char* const device = "DeviceControl";
+    const char* const transport = "TransportLayerControl";
+    const char* const image = "ImageFormatControl";
+    const char* const analog = "AnalogControl";
+    const char* const acquisition = "AcquisitionControl";
+    const char* const processing = "ImageProcessingControl";
+    const char* const correction = "CorrectionControl"; // M2VX
+    const char* const overlay = "OverlayControl";
+    const char* const userSets = "UserSetControl";
+    const char* const lines = "DigitalIOControl";
+    const char* const axes = "AxesControl"; // M2VX
+    const char* const tests = "TestControl";
+
+    using enum FeatureKind::Kind;
+    const FeatureKind onOff{Switch};
+    const FeatureKind command{Command};
+    const FeatureKind request{Request};
+    const FeatureKind text{Text};
+    const FeatureKind modes{Number, {}, {{0, "Off"}, {1, "Mode1"}, {2, "Mode2"}, {3, "Mode3"}, {4, "Mode4"}}};
+    const FeatureKind exposureModes{Number,
+                                    {},
+                                    {{SDK4_EXPOSUREMODE_FREERUNNING, "FreeRunning"},
+                                     {SDK4_EXPOSUREMODE_FREERUNNING2, "FreeRunning2"},
+                                     {SDK4_EXPOSUREMODE_RESETRESTART, "ResetRestart"},
+                                     {SDK4_EXPOSUREMODE_FRAMEONDEMAND, "FrameOnDemand"}}};
+
+    // The fields have the names of those of the library's records.
+    const auto fields = [](const std::vector<const char*>& names) { return FeatureKind{Number, names}; };
+    const FeatureKind time = fields({"Base", "Counter"});
+    const FeatureKind version = fields({"Value1", "Value2"});
+    const FeatureKind area = fields({"StartX", "StartY", "EndX", "EndY"});
+    const FeatureKind circle = fields({"Radius", "Width", "XPos", "YPos", "VStretch"});
+
     // clang-format off
     static const std::vector<Feature> features = {
         // register                  node                         category     what it is
@@ -70,7 +66,7 @@ const std::vector<Feature>& Features() {
         {"firsturl",                 "GevFirstURL",               transport,   "Where this description is", text},
         {"secondurl",                "GevSecondURL",              transport,   "Where else this description may be", text},
 
-        {"imagesize",                "ImageSize",                 image,       "Size of the pictures in pixels", Fields({"Width", "Height"})},
+        {"imagesize",                "ImageSize",                 image,       "Size of the pictures in pixels", fields({"Width", "Height"})},
         {"readoutarealimits",        "ReadoutAreaLimits",         image,       "Readout area: 0 smallest values, 1 largest values, 2 now", area},
 
         {"agc",                      "AGC",                       analog,      "Automatic gain control", modes},
@@ -106,7 +102,7 @@ const std::vector<Feature>& Features() {
         {"negativeimage",            "NegativeImage",             processing,  "Whether the picture is inverted", onOff},
         {"lightsource",              "LightSource",               processing,  "Preset of the light source"},
         {"awb",                      "AWB",                       processing,  "Automatic white balance", modes},
-        {"colorbalance",             "ColorBalance",              processing,  "Gains of the colours, 128 for none", Fields({"Red", "Green", "Blue"})},
+        {"colorbalance",             "ColorBalance",              processing,  "Gains of the colours, 128 for none", fields({"Red", "Green", "Blue"})},
         {"saturation",               "Saturation",                processing,  "Saturation in steps of the camera"},
         {"lastimagehold",            "LastImageHold",             processing,  "Whether the last picture is held", onOff},
         {"storeimage",               "StoreImage",                processing,  "Stores the picture that is subtracted, when it is set", onOff},
@@ -118,16 +114,16 @@ const std::vector<Feature>& Features() {
         {"shadingcorrection",        "ShadingCorrection",         correction,  "Correction of a channel, in steps of the camera"},
         {"circularblankingmode",     "CircularBlankingMode",      correction,  "Whether the picture is blanked outside a circle", onOff},
         {"circularblankingsize",     "CircularBlankingSize",      correction,  "Size of the circle in pixels"},
-        {"circularblankingposition", "CircularBlankingPosition",  correction,  "Centre of the circle in pixels", Fields({"XPos", "YPos"})},
+        {"circularblankingposition", "CircularBlankingPosition",  correction,  "Centre of the circle in pixels", fields({"XPos", "YPos"})},
         {"defectpixelshow",          "DefectPixelShow",           correction,  "Whether defect pixels are shown", onOff},
         {"defectpixelcount",         "DefectPixelCount",          correction,  "Pairs of the table of defect pixels in use"},
-        {"defectpixel",              "DefectPixel",               correction,  "Pixels that are replaced, two to a pair", Fields({"XPos", "YPos", "Mode"})},
+        {"defectpixel",              "DefectPixel",               correction,  "Pixels that are replaced, two to a pair", fields({"XPos", "YPos", "Mode"})},
         {"autocompensation",         "DefectPixelAutoCompensation", correction, "Detects a pair of defect pixels", command},
 
         {"overlayshow",              "OverlayShow",               overlay,     "Whether the overlay is shown", onOff},
-        {"overlayposition",          "OverlayPosition",           overlay,     "Position of the overlay in pixels", Fields({"PosX", "PosY"})},
-        {"overlaystyle",             "OverlayStyle",              overlay,     "How the overlay is drawn; codes of the camera", Fields({"Color", "Style"})},
-        {"overlaysize",              "OverlaySize",               overlay,     "Stroke width and length of the overlay in pixels", Fields({"Width", "Length"})},
+        {"overlayposition",          "OverlayPosition",           overlay,     "Position of the overlay in pixels", fields({"PosX", "PosY"})},
+        {"overlaystyle",             "OverlayStyle",              overlay,     "How the overlay is drawn; codes of the camera", fields({"Color", "Style"})},
+        {"overlaysize",              "OverlaySize",               overlay,     "Stroke width and length of the overlay in pixels", fields({"Width", "Length"})},
         {"measureframeshow",         "MeasureFrameShow",          overlay,     "Whether the measure frame is shown", onOff},
         {"measureframecolor",        "MeasureFrameColor",         overlay,     "Colour of the measure frame; a code of the camera"},
         {"measurewindow",            "MeasureWindow",             overlay,     "Where the picture is measured, in pixels", area},
