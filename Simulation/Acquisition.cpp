@@ -13,6 +13,8 @@ using std::chrono::microseconds;
 namespace {
 
 constexpr std::uint32_t singleFrame = 1;
+// Base 7 and 2,097,151 counts. The register holds more, which no clock of nanoseconds does.
+constexpr std::uint64_t longestDelay = 2'097'151ULL * 10'000'000; // microseconds
 
 } // namespace
 
@@ -56,8 +58,8 @@ void Acquisition::Trigger() {
     const RegisterSpace& space = camera.Registers();
     triggered = camera.Time();
     if (space.Get("exposuremode")[0] == SDK4_EXPOSUREMODE_RESETRESTART) {
-        *triggered +=
-            microseconds(MicrosecondsOf(space.Get("triggerdelay"))) + microseconds(space.Get("frameduration")[0]);
+        *triggered += microseconds(std::min(MicrosecondsOf(space.Get("triggerdelay")), longestDelay) +
+                                   space.Get("frameduration")[0]);
     }
 }
 

@@ -120,8 +120,9 @@ void CheckAnswer(std::span<const std::uint8_t> request, std::span<const std::uin
 }
 
 /// What the stream makes of it.
-void PlayStream(Simulation::GigEVision::StreamChannel& stream, Simulation::GigEVision::SentBlocks& sent) {
+void PlayStream(Device& device, Simulation::GigEVision::SentBlocks& sent) {
     namespace Gvsp = Simulation::GigEVision::Gvsp;
+    auto& stream = device.Stream();
     if (const auto due = stream.TakeBlock()) {
         Require(due->id != 0, "there is no block 0");
         Require(due->target.receiver.port != 0, "a stream has a receiver");
@@ -139,6 +140,7 @@ void PlayStream(Simulation::GigEVision::StreamChannel& stream, Simulation::GigEV
         Require(packets <= 7, "no more is sent again than a block has");
     }
     (void)stream.TakeTestPacket();
+    (void)device.StreamDue();
 }
 
 } // namespace
@@ -167,7 +169,7 @@ std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
         if (const auto answer = device.Answer(senders[kind % senders.size()], received, now)) {
             CheckAnswer(received, *answer);
         }
-        PlayStream(device.Stream(), sent);
+        PlayStream(device, sent);
     }
     now += Device::bootTime;
     const Datagram discovery = {0x42, 0x01, 0, 2, 0, 0, 0x12, 0x34};

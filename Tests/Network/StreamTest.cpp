@@ -109,6 +109,9 @@ TEST_F(StreamTest, WaitsForTriggers) {
     }
     EXPECT_EQ(time - before, std::chrono::milliseconds(31 + camera->Registers().Get("frameduration")[0] / 1000));
     EXPECT_EQ(IdsWithin(200ms), std::vector<int>());
+    Ask("4201 0082 0010 0009 0a100000 00000007 0a100004 60000000"); // 510 years
+    Ask("4201 0082 0008 000a 0a070000 00000001");
+    EXPECT_GT(device.StreamDue(), start + time + std::chrono::hours(24));
     Ask("4201 0082 0008 0007 0a020000 00000004"); // on demand
     EXPECT_FALSE(After(100ms));
     Ask("4201 0082 0008 0008 0a070000 00000001");
