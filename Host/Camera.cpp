@@ -1,7 +1,5 @@
 #include "Host/Camera.h"
 
-#include "Common/Number.h"
-#include "Common/Suggestion.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Errors.h"
@@ -10,7 +8,6 @@
 #include <SDK4/IControl.h>
 
 #include <algorithm>
-#include <charconv>
 
 namespace Host {
 
@@ -78,28 +75,7 @@ std::vector<Instance> Camera::All(bool oneByOne) const {
     return all;
 }
 
-std::vector<Instance> Camera::Find(std::string_view name) const {
-    const std::string_view row = name.substr(0, name.find('.'));
-    const auto found = std::find_if(functions->begin(), functions->end(),
-                                    [&](const Function& function) { return function.name == row; });
-    if (found == functions->end()) {
-        std::vector<std::string> known;
-        for (const Function& function : *functions) {
-            known.emplace_back(function.name);
-        }
-        throw UsageError("unknown function \"" + std::string(name) + '"' + Common::Suggestion(row, known));
-    }
-    if (row.size() == name.size()) {
-        return InstancesOf(*found);
-    }
-    const auto index = Common::ParseWhole<std::uint32_t>(name.substr(row.size() + 1));
-    if (!found->indexed || !index || *index >= found->count) {
-        throw UsageError(
-            "unknown function \"" + std::string(name) + "\": " + std::string(row) +
-            (found->indexed ? " has indices 0 to " + std::to_string(found->count - 1) : " takes no index"));
-    }
-    return {{&*found, *index}};
-}
+std::vector<Instance> Camera::Find(std::string_view name) const { return FindIn(*functions, name); }
 
 Instance Camera::FindOne(std::string_view name) const {
     const auto found = Find(name);

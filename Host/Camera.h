@@ -39,8 +39,7 @@ public:
     /// once, with index 0.
     [[nodiscard]] std::vector<Instance> All(bool oneByOne = true) const;
 
-    /// The function of that name, or all its instances if the index is omitted.
-    /// @throws UsageError for an unknown name, with a suggestion
+    /// As FindIn its table.
     [[nodiscard]] std::vector<Instance> Find(std::string_view name) const;
     /// The one function of that name.
     /// @throws UsageError for an unknown name or a missing index

@@ -27,6 +27,7 @@ enum class Parameter {
     Raw,
     Second,
     Seconds,
+    Topic,
 };
 
 /// Whether an operand is required.
@@ -38,7 +39,7 @@ struct Syntax {
     const char* name = ""; ///< "FILE" for an operand; "--all" or "--seconds N" for an option
     const char* about = "";
     Required required = Required::Always;
-    bool several = false; ///< whether an operand may be repeated
+    bool several = false; ///< whether it may be repeated
 };
 
 /// One run of a command: its parameters, and the program that it runs in.

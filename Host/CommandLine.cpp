@@ -31,10 +31,14 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
     const std::string name = syntax.name;
     if (!IsOperand(syntax)) {
         const std::size_t blank = name.find(' ');
-        return blank == std::string::npos ? app.add_flag(name, syntax.about)->disable_flag_override()
-                                          : app.add_option(name.substr(0, blank), syntax.about)
-                                                ->type_name(name.substr(blank + 1))
-                                                ->check(Common::CheckValue);
+        if (blank == std::string::npos) {
+            return app.add_flag(name, syntax.about)->disable_flag_override();
+        }
+        CLI::Option* const option = app.add_option(name.substr(0, blank), syntax.about)
+                                        ->type_name(name.substr(blank + 1))
+                                        ->check(Common::CheckValue);
+        return syntax.several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false)
+                              : option;
     }
     CLI::Option* const option =
         app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));

@@ -1,5 +1,8 @@
 #include "Host/Function.h"
 
+#include "Common/Number.h"
+#include "Common/Suggestion.h"
+#include "Host/Errors.h"
 #include "Host/Functions/Codes.h"
 
 #include <algorithm>
@@ -53,6 +56,29 @@ std::vector<Instance> InstancesOf(const Function& function) {
         instances.push_back({&function, index});
     }
     return instances;
+}
+
+std::vector<Instance> FindIn(const Functions& table, std::string_view name) {
+    const std::string_view row = name.substr(0, name.find('.'));
+    const auto found =
+        std::find_if(table.begin(), table.end(), [&](const Function& function) { return function.name == row; });
+    if (found == table.end()) {
+        std::vector<std::string> known;
+        for (const Function& function : table) {
+            known.emplace_back(function.name);
+        }
+        throw UsageError("unknown function \"" + std::string(name) + '"' + Common::Suggestion(row, known));
+    }
+    if (row.size() == name.size()) {
+        return InstancesOf(*found);
+    }
+    const auto index = Common::ParseWhole<std::uint32_t>(name.substr(row.size() + 1));
+    if (!found->indexed || !index || *index >= found->count) {
+        throw UsageError(
+            "unknown function \"" + std::string(name) + "\": " + std::string(row) +
+            (found->indexed ? " has indices 0 to " + std::to_string(found->count - 1) : " takes no index"));
+    }
+    return {{&*found, *index}};
 }
 
 } // namespace Host

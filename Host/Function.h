@@ -142,4 +142,8 @@ struct FunctionValue {
 /// All instances of a row.
 [[nodiscard]] std::vector<Instance> InstancesOf(const Function& function);
 
+/// The function of that name, or all its instances if the index is omitted.
+/// @throws UsageError for an unknown name, with a suggestion
+[[nodiscard]] std::vector<Instance> FindIn(const Functions& table, std::string_view name);
+
 } // namespace Host

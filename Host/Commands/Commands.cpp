@@ -8,6 +8,11 @@ const std::vector<Command>& Commands() {
                                "mac:ADDRESS, name:NAME"};
     static const Syntax names{Parameter::Names, "NAME", "Functions, named as in list; without an index, all instances",
                               Required::Always, true};
+    static const Syntax listed{Parameter::Names, "NAME", "Functions to list, without an index all instances",
+                               Required::Never, true};
+    static const Syntax topic{Parameter::Topic, "--topic TOPIC",
+                              "List the functions of a topic, such as exposure; may be repeated", Required::Never,
+                              true};
     static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "Values to set, in this order",
                                     Required::Always, true};
     static const Syntax later{Parameter::Assignments, "NAME=VALUE", "Values to set once watching has started",
@@ -42,7 +47,7 @@ const std::vector<Command>& Commands() {
         {"models",   "List the models that the plug-in serves",                        {},                              Models},
         {"discover", "List the GigE Vision cameras on the network",                    {},                              Discover},
         {"info",     "Show the identity and the address of a camera",                  {camera, noControl},             Info},
-        {"list",     "List every function of a camera",                                {camera, all, noControl},        List},
+        {"list",     "List the functions of a camera: all, some, or those of a topic", {camera, listed, topic, all, noControl}, List},
         {"get",      "Print the values of functions",                                  {camera, names, noControl},      Get},
         {"set",      "Set functions, such as gain=100 exposure=1:2000",                {camera, assignments},           Set},
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},

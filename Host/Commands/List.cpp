@@ -1,10 +1,13 @@
 #include "Host/Commands/Commands.h"
 
+#include "Common/Suggestion.h"
+#include "Common/Text.h"
 #include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Format.h"
 #include "Host/Style.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Host {
@@ -23,8 +26,50 @@ std::optional<Value> DefaultOf(const Limits& limits) {
     return limits.empty() ? std::nullopt : std::optional(value);
 }
 
-/// Whether a row stands for many instances, of which only the first was read.
-bool StandsForMany(const Instance& instance, bool all) { return !all && instance->count > fewInstances; }
+/// A line of the list.
+struct Listed {
+    Instance instance;
+    bool many = false; ///< whether it stands for all instances, of which only the first is read
+};
+
+/// Those of some topics, or all if none is given.
+/// @throws UsageError for an unknown topic
+std::vector<Listed> OfTopics(const Camera& camera, const std::vector<std::string>& wanted, bool oneByOne) {
+    std::vector<Listed> listed;
+    std::vector<std::string> topics;
+    for (const Instance& instance : camera.All(oneByOne)) {
+        const std::string topic(instance->topic);
+        if (std::find(topics.begin(), topics.end(), topic) == topics.end()) {
+            topics.push_back(topic);
+        }
+        if (wanted.empty() || std::find(wanted.begin(), wanted.end(), topic) != wanted.end()) {
+            listed.push_back({instance, !oneByOne && instance->count > fewInstances});
+        }
+    }
+    for (const std::string& topic : wanted) {
+        if (std::find(topics.begin(), topics.end(), topic) == topics.end()) {
+            throw UsageError("unknown topic \"" + topic + "\"; the topics of " + camera.Model() + " are " +
+                             Common::Join(topics) + Common::Suggestion(topic, topics));
+        }
+    }
+    return listed;
+}
+
+/// The named functions, each instance by itself, then those of the topics.
+/// @throws UsageError for an unknown function or topic
+std::vector<Listed> Wanted(const Camera& camera, const Invocation& invocation) {
+    std::vector<Listed> wanted;
+    for (const std::string& name : invocation.Texts(Parameter::Names)) {
+        for (const Instance& instance : camera.Find(name)) {
+            wanted.push_back({instance});
+        }
+    }
+    if (wanted.empty() || invocation.Has(Parameter::Topic)) {
+        const auto more = OfTopics(camera, invocation.Texts(Parameter::Topic), invocation.Has(Parameter::All));
+        wanted.insert(wanted.end(), more.begin(), more.end());
+    }
+    return wanted;
+}
 
 /// The current state of a function.
 struct Found {
@@ -128,15 +173,13 @@ Json ToJson(const Instance& instance, const Found& found, bool many) {
 
 int List(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
-    const bool all = invocation.Has(Parameter::All);
     Output output = invocation.Output();
     bool begins = true;
-    for (const Instance& instance : camera.All(all)) {
+    for (const auto& [instance, many] : Wanted(camera, invocation)) {
         const Found found = Inspect(camera, instance); // before the heading, because it throws if the camera is lost
         if (std::exchange(begins, false)) {
             output.Line(Row("NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"));
         }
-        const bool many = StandsForMany(instance, all);
         output.Add(Describe(instance, found, many), ToJson(instance, found, many));
     }
     output.End();

@@ -140,7 +140,7 @@ TEST(HostCommand, WrongUsageIsToldInALineAndTouchesNoCamera) {
          "qdv12host: unknown command \"lst\"; did you mean \"list\"? (see qdv12host --help)\n"},
         {"selftest Orvik-710C --output --jsn", 2, "",
          "qdv12host: unknown option \"--output\"; did you mean \"--outputs\"? (see qdv12host --help)\n"},
-        {"list a b c", 2, "", "qdv12host: unexpected argument \"b\" (see qdv12host --help)\n"},
+        {"info a b c", 2, "", "qdv12host: unexpected argument \"b\" (see qdv12host --help)\n"},
         {"set Orvik-710C overlayshow=on", 2, "",
          "qdv12host: \"overlayshow\" requires an index: overlayshow.0 to overlayshow.1\n"},
         {"set Orvik-710C gain=5 gain=abc --trace", 2, "", "qdv12host: invalid value \"abc\" for gain (0..511)\n"},
@@ -206,6 +206,24 @@ TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
     const Outcome all = RunHost("list Cerix7-MV --all");
     EXPECT_TRUE(Has(all.out, "\ndefectpixel.2             512,44,2 "));
     EXPECT_TRUE(Has(all.out, "\nmotorcontrol.255          0 "));
+}
+
+TEST(HostCommand, ListIsLimitedToFunctionsAndTopics) {
+    const std::string heading = "NAME                      VALUE                   DEFAULT         LIMITS"
+                                "                    STATE\n";
+    const std::string named = heading + "overlayshow.1             off                                     off|on\n"
+                                        "gain                      0                       0               0..568\n";
+    const std::string outputs = "motorcontrol.0..255       256 values              0               0..65535\n"
+                                "lenscontrol.0             0\n";
+    EXPECT_EQ(RunHost("list Cerix-MV7 overlayshow.1 gain").out, named);
+    EXPECT_TRUE(RunHost("list Cerix-MV7 overlayshow.1 gain --topic outputs").out.starts_with(named + outputs));
+    EXPECT_TRUE(RunHost("list Cerix-MV7 --topic outputs --topic image").out.starts_with(heading + "colorcoding "));
+    EXPECT_EQ(Lines(RunHost("list Cerix-MV7 motorcontrol").out).size(), 257U);
+    ExpectRuns({{"list Cerix-MV7 gain --topic color", 2, "",
+                 "qdv12host: unknown topic \"color\"; the topics of Cerix-MV7 are identity, network, image, exposure, "
+                 "processing, correction, overlay, memory, settings, tests, outputs\n"},
+                {"list Orvik-710C gian", 2, "", "qdv12host: unknown function \"gian\"; did you mean \"gain\"?\n"}});
+    EXPECT_TRUE(Has(RunHost("list Orvik-710C --topic exposur").err, "outputs; did you mean \"exposure\"?\n"));
 }
 
 TEST(HostCommand, ListOfACameraThatIsLostAtOnceHasNoHeading) {
