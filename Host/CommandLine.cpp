@@ -1,5 +1,6 @@
 #include "Host/CommandLine.h"
 
+#include "Common/HelpFormatter.h"
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
@@ -73,11 +74,16 @@ std::string UsageOf(const Command& command, bool inShell) {
 
 void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
-        return app.add_option(name, variable, about)->type_name(value)->check(Common::CheckValue);
+        return app.add_option(name, variable, about)
+            ->type_name(value)
+            ->group(Common::commonOptions)
+            ->check(Common::CheckValue);
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N", "Camera index; with 2, the default, every value is read from the camera");
-    app.add_flag("--trace", trace, "Print each port access on standard error")->disable_flag_override();
+    app.add_flag("--trace", trace, "Print each port access on standard error")
+        ->group(Common::commonOptions)
+        ->disable_flag_override();
     add("--log", options.logLevel, "LEVEL", "What the library logs on standard error (default: off)")
         ->transform(CLI::IsMember({"off", "error", "warn", "info", "debug"}, CLI::ignore_case))
         ->type_name("LEVEL");
@@ -187,11 +193,14 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     CLI::App app("Controls cameras, simulated or on the network, through the plug-in libqdv12ctrl.so.",
                  inShell ? "" : "qdv12host");
     app.require_subcommand(1);
+    app.formatter(std::make_shared<Common::HelpFormatter>());
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.fallthrough(); // common options may follow the command
     ParsedCommandLine line;
     bool trace = false;
-    app.add_flag("--json", line.options.json, "Print results as JSON")->disable_flag_override();
+    app.add_flag("--json", line.options.json, "Print results as JSON")
+        ->group(Common::commonOptions)
+        ->disable_flag_override();
     if (!inShell) {
         app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
         AddCommonOptions(app, line.options, trace);

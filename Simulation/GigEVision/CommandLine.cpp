@@ -1,5 +1,6 @@
 #include "Simulation/GigEVision/CommandLine.h"
 
+#include "Common/HelpFormatter.h"
 #include "Common/Ipv4.h"
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
@@ -101,6 +102,7 @@ std::string Describe(const CLI::App& app, const CLI::ParseError& error) {
 
 std::optional<Options> ParseCommandLine(int argc, char** argv) {
     CLI::App app("Simulates a camera as a GigE Vision device on UDP port 3956 until interrupted.", "qdv12sim");
+    app.formatter(std::make_shared<Common::HelpFormatter>());
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
     app.footer("Models: " + Common::Join(ModelNames()) +
                "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address or a file cannot be used.");
