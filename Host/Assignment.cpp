@@ -22,10 +22,12 @@ FunctionValue ParseAssignment(const Camera& camera, const std::string& text) {
         throw UsageError("no value for \"" + name + "\": NAME=VALUE is required");
     }
     const std::string given = text.substr(equals + 1);
-    if (const auto value = instance.Parse(given)) {
+    const auto value = instance.Parse(given);
+    const std::string why = value ? instance.WhyInvalid(*value) : "";
+    if (value && why.empty()) {
         return {instance, *value};
     }
-    const std::string form = DescribeForm(instance, camera.LimitsOf(instance));
+    const std::string form = why.empty() ? DescribeForm(instance, camera.LimitsOf(instance)) : why;
     throw UsageError("invalid value \"" + given + "\" for " + name + (form.empty() ? "" : " (" + form + ")"));
 }
 

@@ -50,8 +50,9 @@ FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const ch
 
 } // namespace
 
-Camera::Camera(IDynamicObject& opened, std::string modelName)
+Camera::Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName)
     : control(opened),
+      port(openedOn),
       model(std::move(modelName)),
       functions(nullptr),
       properties(As<SDK4::Control::IPropertyState>()) {
@@ -90,14 +91,14 @@ Value Camera::Read(const Instance& instance) const {
     if (instance->get == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTGETFEATURE);
     }
-    return Calling(instance, [&] { return instance->get(control, instance.index); });
+    return Calling(instance, [&] { return instance->get({control, port}, instance.index); });
 }
 
 void Camera::Write(const Instance& instance, const Value& value) const {
     if (instance->set == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTSETFEATURE);
     }
-    Calling(instance, [&] { instance->set(control, instance.index, value); });
+    Calling(instance, [&] { instance->set({control, port}, instance.index, value); });
 }
 
 void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const {

@@ -28,7 +28,8 @@ struct Reading : Outcome {
 class Camera {
 public:
     /// @throws OpenError for an unknown family
-    Camera(IDynamicObject& opened, std::string modelName);
+    /// @param openedOn the port that the control uses
+    Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName);
 
     [[nodiscard]] const std::string& Model() const { return model; }
     /// The family of the control: "Orvik" or "M2VX".
@@ -81,6 +82,7 @@ private:
     [[nodiscard]] Limits PublishedLimits(const Instance& instance) const;
 
     IDynamicObject& control;
+    SDK4::IControlPort& port;
     std::string model;
     std::string family;
     const Functions* functions;

@@ -21,6 +21,7 @@ enum class Parameter {
     File,
     First,
     Names,
+    Network,
     NoControl,
     Outputs,
     Plugin,

@@ -25,6 +25,9 @@ public:
     /// "a simulated camera", "the camera at 192.168.1.10"
     [[nodiscard]] virtual std::string Describe() const = 0;
 
+    /// Whether the camera is on the network of this machine.
+    [[nodiscard]] virtual bool IsOnNetwork() const { return false; }
+
     /// Waits; a simulated camera advances its clock instead.
     virtual void Wait(std::chrono::microseconds time) = 0;
     /// Tells a simulated camera that time has passed.

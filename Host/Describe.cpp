@@ -130,6 +130,9 @@ std::optional<Value> FromJson(const Instance& instance, const Json& json) {
 }
 
 std::string DescribeLimits(const Instance& instance, const Limits& limits) {
+    if (!instance->form.empty()) {
+        return std::string(instance->form);
+    }
     std::vector<std::string> ranges;
     for (const FieldLimits& field : limits) {
         ranges.push_back(Range(instance, field));
@@ -157,7 +160,7 @@ std::string DescribeState(const Instance& instance, const Reading& reading) {
 }
 
 std::string DescribeForm(const Instance& instance, const Limits& limits) {
-    if (instance->shape.fields.empty()) {
+    if (instance->shape.fields.empty() && instance->form.empty()) {
         return "escapes: \\\\, \\n, \\t, \\r and \\xHH";
     }
     std::string form;

@@ -2,6 +2,7 @@
 
 #include "Host/Value.h"
 
+#include <SDK4/IControlPort.h>
 #include <SDK4/IDynamicObject.h>
 #include <SDK4/X4Error.h>
 
@@ -35,6 +36,16 @@ enum class RestorePolicy {
     Mode,    ///< adjusts other settings: off first, the saved mode last
     Output,  ///< acts on connected devices: I/O lines, motor, lens
     Network, ///< network configuration
+    Address, ///< the same, a way to get an address, or off
+};
+[[nodiscard]] inline bool IsNetwork(RestorePolicy policy) {
+    return policy == RestorePolicy::Network || policy == RestorePolicy::Address;
+}
+
+/// A camera as the rows of the table reach it.
+struct OpenedCamera {
+    IDynamicObject& control;
+    SDK4::IControlPort& port; ///< for what the control cannot read
 };
 
 /// A function is locked unless another one, the mode, has one of the values in `open`.
@@ -55,13 +66,16 @@ struct Refusal {
 
 /// One row of the table: a camera function of one family. Rows are made by FunctionTable.
 struct Function {
-    using Getter = Value (*)(IDynamicObject& control, std::uint32_t index);
-    using Setter = void (*)(IDynamicObject& control, std::uint32_t index, const Value& value);
+    using Getter = Value (*)(const OpenedCamera& camera, std::uint32_t index);
+    using Setter = void (*)(const OpenedCamera& camera, std::uint32_t index, const Value& value);
     /// Reads limits from the camera or derives them from its model.
     using LimitsReader = Host::Limits (*)(IDynamicObject& control, std::string_view model);
 
     /// Whether the camera may hold @p held after the admitted value @p asked was set.
     using RoundingRule = bool (*)(IDynamicObject& control, const Value& asked, const Value& held);
+
+    /// A sentence about a value, or an empty text.
+    using Opinion = std::string (*)(const Value& value);
 
     std::string_view name;
     std::string_view topic; ///< "identity", "exposure", ...
@@ -81,6 +95,10 @@ struct Function {
     RoundingRule rounding = nullptr; ///< null: the camera does not round
     bool trigger = false;            ///< a command without a value
     std::string_view property;       ///< its name in IPropertyState, if different
+    std::string_view form;           ///< of a text, as "off|ADDRESS"; empty: any text
+    Opinion invalid = nullptr;       ///< why a text is not of that form
+    Opinion caution = nullptr;       ///< what to know after it was set on a camera on the network
+    bool distinct = false;           ///< no two cameras may have the same value, except off
     std::string_view presence;       ///< for a write-only function: a readable one that the camera has or lacks with it
 
     // Optional attributes of a row.
@@ -105,6 +123,12 @@ struct Function {
     }
     Function& Instances(std::uint32_t number) { return Set(count, number); }
     Function& PublishedAs(std::string_view propertyName) { return Set(property, propertyName); }
+    Function& Form(std::string_view text, Opinion whyInvalid) {
+        Set(form, text);
+        return Set(invalid, whyInvalid);
+    }
+    Function& Caution(Opinion about) { return Set(caution, about); }
+    Function& Distinct() { return Set(distinct, true); }
     Function& PresentWith(std::string_view other) { return Set(presence, other); }
 
 private:
@@ -130,6 +154,10 @@ struct Instance {
     }
     [[nodiscard]] std::optional<Value> Parse(std::string_view text) const {
         return ParseValue(text, function->shape, function->codes);
+    }
+    /// Why a parsed value cannot be set on any camera; empty if it can.
+    [[nodiscard]] std::string WhyInvalid(const Value& value) const {
+        return function->invalid == nullptr ? "" : function->invalid(value);
     }
 };
 

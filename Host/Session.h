@@ -41,7 +41,7 @@ public:
 
     /// The functions of the control.
     /// @throws OpenError for an unknown family
-    [[nodiscard]] Host::Camera Camera() const { return {*control, model}; }
+    [[nodiscard]] Host::Camera Camera() { return {*control, port, model}; }
 
     /// Opens the same camera once more, on the same port.
     /// @throws OpenError; ChannelLost

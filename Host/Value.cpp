@@ -109,6 +109,7 @@ std::optional<Value> ParseValue(std::string_view text, const Shape& shape, Codes
 Shape ShapeOf(const std::int32_t*)           { return {signedNumber}; }
 Shape ShapeOf(const std::uint32_t*)          { return {unsignedNumber}; }
 Shape ShapeOf(const char* const*)            { return {}; }
+Shape ShapeOf(const std::string*)            { return {}; }
 Shape ShapeOf(const SDK4_KAREA*)             { return {area}; }
 Shape ShapeOf(const SDK4_KSIZE*)             { return {size}; }
 Shape ShapeOf(const SDK4_KRGB*)              { return {gains}; }

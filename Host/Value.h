@@ -56,6 +56,7 @@ void ToMemory(const Value& value, const Shape& shape, void* memory);
 [[nodiscard]] Shape ShapeOf(const std::int32_t* number);
 [[nodiscard]] Shape ShapeOf(const std::uint32_t* number);
 [[nodiscard]] Shape ShapeOf(const char* const* text);
+[[nodiscard]] Shape ShapeOf(const std::string* text);
 [[nodiscard]] Shape ShapeOf(const SDK4_KAREA* area);
 [[nodiscard]] Shape ShapeOf(const SDK4_KSIZE* size);
 [[nodiscard]] Shape ShapeOf(const SDK4_KRGB* gains);

@@ -10,6 +10,7 @@ namespace Host {
 /// A camera on the network.
 class NetworkConnection : public Connection {
 public:
+    [[nodiscard]] bool IsOnNetwork() const final { return true; }
     /// The model name that the camera reports. @throws ChannelError
     [[nodiscard]] virtual std::string ModelName() = 0;
 };

@@ -29,6 +29,8 @@ const std::vector<Command>& Commands() {
                                Required::OutsideShell};
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Include I/O lines, motors and lenses, which act on connected devices"};
+    static const Syntax network{Parameter::Network, "--network",
+                                "Include network settings: packet size and delay, user name, DHCP, persistent address"};
     static const Syntax dryRun{Parameter::DryRun, "--dry-run", "Print what would be set; set nothing"};
     static const Syntax noControl{Parameter::NoControl, "--no-control",
                                   "Only read from a camera on the network; leave control to other programs"};
@@ -53,7 +55,7 @@ const std::vector<Command>& Commands() {
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if they cannot be compared",
                                                                             {first, second, noControl},      Diff, true, NotCompared},
-        {"restore",  "Restore saved settings",                                         {read, camera, outputs, dryRun}, Restore},
+        {"restore",  "Restore saved settings",                                         {read, camera, outputs, network, dryRun}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, later, seconds, noControl}, Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {camera, outputs},               Selftest},

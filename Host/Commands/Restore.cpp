@@ -5,6 +5,7 @@
 #include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
+#include "Host/Settings/Assign.h"
 #include "Host/Settings/Restorer.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Host/Settings/UncachedCamera.h"
@@ -168,7 +169,9 @@ int Restore(const Invocation& invocation) {
                          session.Model());
     }
     Output output = invocation.Output();
-    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs), .report = Printer(output)};
+    Restorer::Options options{.outputs = invocation.Has(Parameter::Outputs),
+                              .network = invocation.Has(Parameter::Network),
+                              .report = Printer(output)};
     std::optional<Interrupts> interrupts;
     std::optional<IgnoredPipeSignal> pipes;
     if (!dryRun) {
@@ -181,6 +184,11 @@ int Restore(const Invocation& invocation) {
     const UncachedCamera reader(session);
     Restorer restorer(saved, camera, reader.Camera(), MakeWait(session), options);
     RunAndPrint(restorer, dryRun, output);
+    for (const RestoreResult& result : restorer.Results()) {
+        if (result.status == RestoreStatus::Done) {
+            Caution(session.Connection(), result.instance, result.saved);
+        }
+    }
     return Report(restorer);
 }
 

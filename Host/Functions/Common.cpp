@@ -1,6 +1,7 @@
 #include "Common/Text.h"
 #include "Host/Functions/Codes.h"
 #include "Host/Functions/Names.h"
+#include "Host/Functions/PersistentIP.h"
 #include "Host/Functions/Rounding.h"
 #include "Host/Functions/Tables.h"
 
@@ -68,7 +69,8 @@ void AddNetwork(FunctionTable& table) {
     table.ReadOnly<&I::GetFirstUrl>                       ("firsturl");
     table.ReadOnly<&I::GetSecondUrl>                      ("secondurl");
     table.Network<&I::GetUserDefinedName, &SetUserName>   ("username");
-    table.Network<&GetDHCP, &SetDHCP>                     ("dhcp")        .OnOff();
+    table.Address<&GetDHCP, &SetDHCP>                     ("dhcp")        .OnOff();
+    table.Address<&GetPersistentIP, &SetPersistentIP>     ("persistentip").Form("off|ADDRESS,MASK,GATEWAY", &WhyInvalidPersistentIP).Caution(&CautionAboutPersistentIP).Distinct();
     table.Network<&I::GetPacketSize, &I::SetPacketSize>   ("packetsize")  .Unit("bytes").Range(1404, 65532).Rounds(Rounding::DownToFours);
     table.Network<&I::GetPacketDelay, &I::SetPacketDelay> ("packetdelay") .Unit("ticks");
 }

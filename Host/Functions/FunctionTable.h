@@ -17,12 +17,21 @@ template <typename Interface> Interface& InterfaceOf(IDynamicObject& control) {
     return *found;
 }
 
+/// The port, for a function that no interface has.
+template <typename Interface> Interface& Reach(const OpenedCamera& camera) {
+    if constexpr (std::is_same_v<Interface, SDK4::IControlPort>) {
+        return camera.port;
+    } else {
+        return InterfaceOf<Interface>(camera.control);
+    }
+}
+
 /// Makes the rows of the table out of the getters and setters of the interfaces:
 ///
 ///     table.Setting<&IGain::GetGain, &IGain::SetGain>(Name::gain).Range(0, 511).MovedBy(Name::agc);
 ///
 /// Operations with an index before the value make an indexed row. A plain function can replace an operation: unsigned
-/// int Width(IDSMediaType&).
+/// int Width(IDSMediaType&). It may take the port, SDK4::IControlPort&, to read what the control cannot.
 class FunctionTable {
 public:
     explicit FunctionTable(Functions& rows) : functions(rows) {}
@@ -31,7 +40,9 @@ public:
     void Topic(std::string_view name) { topic = name; }
 
     template <auto Get, auto Set> Function& Row(std::string_view name, RestorePolicy restore = RestorePolicy::Never) {
-        Function& function = Add(name, Operation<Get>::Kind(), &CallGetter<Get>, &CallSetter<Set>);
+        const FunctionKind read = Operation<Get>::Kind();
+        const FunctionKind kind{Operation<Set>::Kind().interface, read.shape, read.indexed, read.trigger};
+        Function& function = Add(name, kind, &CallGetter<Get>, &CallSetter<Set>);
         function.restore = restore;
         return function;
     }
@@ -47,6 +58,9 @@ public:
     }
     template <auto Get, auto Set> Function& Network(std::string_view name) {
         return Row<Get, Set>(name, RestorePolicy::Network);
+    }
+    template <auto Get, auto Set> Function& Address(std::string_view name) {
+        return Row<Get, Set>(name, RestorePolicy::Address);
     }
     template <auto Get> Function& ReadOnly(std::string_view name) {
         return Add(name, Operation<Get>::Kind(), &CallGetter<Get>, nullptr);
@@ -114,9 +128,9 @@ private:
         }
     }
 
-    template <auto Get> static Value CallGetter(IDynamicObject& control, [[maybe_unused]] std::uint32_t index) {
+    template <auto Get> static Value CallGetter(const OpenedCamera& camera, [[maybe_unused]] std::uint32_t index) {
         using Parts = Operation<Get>;
-        auto& interface = InterfaceOf<typename Parts::Interface>(control);
+        auto& interface = Reach<typename Parts::Interface>(camera);
         Plain<typename Parts::Type> value{};
         if constexpr (Parts::indexed) {
             value = Call<Get>(interface, IndexAs<typename Parts::Index>(index));
@@ -125,16 +139,18 @@ private:
         }
         if constexpr (std::is_same_v<decltype(value), const char*>) {
             return {{}, value == nullptr ? "" : value};
+        } else if constexpr (std::is_same_v<decltype(value), std::string>) {
+            return {{}, value};
         } else {
             return FromMemory(&value, ShapeOf(&value));
         }
     }
 
     template <auto Set>
-    static void CallSetter(IDynamicObject& control, [[maybe_unused]] std::uint32_t index,
+    static void CallSetter(const OpenedCamera& camera, [[maybe_unused]] std::uint32_t index,
                            [[maybe_unused]] const Value& value) {
         using Parts = Operation<Set>;
-        auto& interface = InterfaceOf<typename Parts::Interface>(control);
+        auto& interface = Reach<typename Parts::Interface>(camera);
         if constexpr (Parts::trigger) {
             Call<Set>(interface);
         } else {

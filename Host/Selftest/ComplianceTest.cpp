@@ -55,7 +55,7 @@ std::string ComplianceTest::ReasonToSkip(const Instance& instance) const {
     const RestorePolicy policy = instance->restore;
     return instance->set == nullptr                      ? "" // read-only
            : policy == RestorePolicy::Never              ? "not a setting"
-           : policy == RestorePolicy::Network            ? "network"
+           : IsNetwork(policy)                           ? "network"
            : policy == RestorePolicy::Output && !outputs ? "an output; use --outputs to include it"
                                                          : "";
 }

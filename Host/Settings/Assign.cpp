@@ -63,6 +63,13 @@ bool Report(const Camera& camera, const FunctionValue& assignment, const Assigne
 
 } // namespace
 
+void Caution(const Connection& connection, const Instance& instance, const Value& held) {
+    const bool concerns = instance->caution != nullptr && connection.IsOnNetwork();
+    if (const std::string text = concerns ? instance->caution(held) : ""; !text.empty()) {
+        PrintError(instance.Name() + ": " + text);
+    }
+}
+
 bool Assign(Session& session, const std::vector<FunctionValue>& assignments,
             const std::function<void(const FunctionValue&, const Assigned&)>& told) {
     const Camera camera = session.Camera();
@@ -73,6 +80,9 @@ bool Assign(Session& session, const std::vector<FunctionValue>& assignments,
         const Assigned result = Perform(camera, reader.Camera(), wait, assignment);
         told(assignment, result);
         refused |= Report(camera, assignment, result);
+        if (result.failure.code == 0 && result.held) {
+            Caution(session.Connection(), assignment.instance, *result.held);
+        }
     }
     return refused;
 }

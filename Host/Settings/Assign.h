@@ -17,6 +17,9 @@ struct Assigned {
     bool rounded = false;      ///< the camera rounded the value, as it may
 };
 
+/// Says on standard error what to know of a value that the camera now holds.
+void Caution(const Connection& connection, const Instance& instance, const Value& held);
+
 /// Sets functions in order, and prints on standard error what failed or was changed by the camera.
 /// @param told called for each function, before its error is printed
 /// @return whether something was refused

@@ -1,6 +1,7 @@
 #include "Host/Settings/Restorer.h"
 
 #include "Host/ErrorReporting.h"
+#include "Host/Functions/Names.h"
 #include "Host/Settings/Unlock.h"
 
 #include <algorithm>
@@ -28,6 +29,12 @@ RestoreStatus StatusOf(const Camera& camera, const RestoreResult& result) {
 
 bool IsMode(const Instance& instance) { return instance->restore == RestorePolicy::Mode; }
 
+bool IsOff(const FunctionValue& setting) { return setting.instance.Print(setting.value) == "off"; }
+
+bool IsAddress(const FunctionValue& setting) { return setting.instance->restore == RestorePolicy::Address; }
+
+bool SwitchesAddressOff(const FunctionValue& setting) { return IsAddress(setting) && IsOff(setting); }
+
 bool WasSwitchedOff(const RestoreResult& mode) { return mode.before && *mode.before != off && mode.held == off; }
 
 } // namespace
@@ -38,17 +45,39 @@ const char* NameOf(RestoreStatus status) {
     return names[static_cast<std::size_t>(status)];
 }
 
-std::string Restorer::ReasonToSkip(const Instance& instance) const {
-    const RestorePolicy policy = instance->restore;
+bool Restorer::IsSameCamera() const {
+    const Reading serial = reader.TryRead(reader.FindOne(Name::serialNumber));
+    return serial.code == 0 && serial.value.text == settings.serial;
+}
+
+std::string Restorer::ReasonToSkip(const FunctionValue& setting) const {
+    const RestorePolicy policy = setting.instance->restore;
+    const bool isDistinct = setting.instance->distinct && !IsOff(setting);
     return policy == RestorePolicy::Never                        ? "never restored"
-           : policy == RestorePolicy::Network                    ? "network settings are never restored"
+           : IsNetwork(policy) && !options.network               ? "a network setting; use --network to include it"
            : policy == RestorePolicy::Output && !options.outputs ? "an output; use --outputs to include it"
-                                                                 : "";
+           : isDistinct && !IsSameCamera() ? "it is that of another camera, with the serial number " + settings.serial
+                                           : "";
+}
+
+std::string Restorer::AddressMissing(const FunctionValue& setting, bool isPlan) const {
+    std::string missing;
+    for (const FunctionValue& other : settings.values) {
+        if (!IsAddress(other) || other.instance == setting.instance || IsOff(other)) {
+            continue;
+        }
+        const Reading reading = reader.TryRead(other.instance);
+        const bool isOn = reading.code == 0 && !IsOff({other.instance, reading.value});
+        if (isOn || (isPlan && ReasonToSkip(other).empty())) {
+            return "";
+        }
+        missing = other.instance.Name();
+    }
+    return missing;
 }
 
 RestoreResult Restorer::Compare(const FunctionValue& setting) const {
-    RestoreResult result{
-        setting.instance, RestoreStatus::Planned, setting.value, {}, {}, ReasonToSkip(setting.instance)};
+    RestoreResult result{setting.instance, RestoreStatus::Planned, setting.value, {}, {}, ReasonToSkip(setting)};
     if (!result.reason.empty()) {
         result.status = RestoreStatus::Skipped;
         return result;
@@ -59,11 +88,28 @@ RestoreResult Restorer::Compare(const FunctionValue& setting) const {
         result.held = reading.value;
         result.status = reading.value == setting.value ? RestoreStatus::Unchanged : RestoreStatus::Planned;
     }
+    if (result.status == RestoreStatus::Planned) {
+        result.reason = setting.instance.WhyInvalid(setting.value);
+        result.status = result.reason.empty() ? RestoreStatus::Planned : RestoreStatus::Refused;
+    }
     return result;
+}
+
+void Restorer::SkipLastAddress(RestoreResult& result, bool isPlan) const {
+    const FunctionValue setting{result.instance, result.saved};
+    const bool concerns = result.status == RestoreStatus::Planned && SwitchesAddressOff(setting);
+    if (const std::string missing = concerns ? AddressMissing(setting, isPlan) : ""; !missing.empty()) {
+        result.status = RestoreStatus::Skipped;
+        result.reason = "the camera would be left without an address, because " + missing + " is not restored";
+    }
 }
 
 RestoreResult Restorer::Set(const FunctionValue& setting) const {
     RestoreResult result = Compare(setting);
+    if (result.status != RestoreStatus::Planned) {
+        return result;
+    }
+    SkipLastAddress(result, false);
     if (result.status != RestoreStatus::Planned) {
         return result;
     }
@@ -125,16 +171,25 @@ void Restorer::SwitchOff() {
 
 bool Restorer::SetValues(bool again) {
     bool changed = false;
-    for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
-        RestoreResult& result = results[i];
-        if (IsMode(result.instance) || (again && IsFailure(result.status))) {
-            continue;
+    for (const bool last : {false, true}) {
+        for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
+            if ((options.network && SwitchesAddressOff(settings.values[i])) == last) {
+                changed |= SetValue(i, again);
+            }
         }
-        RestoreResult now = Set(settings.values[i]);
-        changed |= now.status == RestoreStatus::Done;
-        if (!again || now.status != RestoreStatus::Unchanged) {
-            Record(result, std::move(now));
-        }
+    }
+    return changed;
+}
+
+bool Restorer::SetValue(std::size_t i, bool again) {
+    RestoreResult& result = results[i];
+    if (IsMode(result.instance) || (again && IsFailure(result.status))) {
+        return false;
+    }
+    RestoreResult now = Set(settings.values[i]);
+    const bool changed = now.status == RestoreStatus::Done;
+    if (!again || now.status != RestoreStatus::Unchanged) {
+        Record(result, std::move(now));
     }
     return changed;
 }
@@ -171,6 +226,7 @@ void Restorer::Restore() {
 void Restorer::Plan() {
     for (const FunctionValue& setting : settings.values) {
         results.push_back(Compare(setting));
+        SkipLastAddress(results.back(), true);
         options.report(results.back());
     }
 }

@@ -43,6 +43,7 @@ class Restorer {
 public:
     struct Options {
         bool outputs = false;
+        bool network = false;
         /// Gets each result as soon as it is known; a second time if a later setting changes the value and it cannot be
         /// set again.
         std::function<void(const RestoreResult&)> report = [](const RestoreResult&) {};
@@ -61,6 +62,8 @@ public:
 
     /// Switches automatic modes off, sets the values in the order of the table until none changes another, then sets
     /// the saved modes. A failure does not stop it. When stopped, it reverts the modes that were not reached.
+    /// A way to get an address is switched off after the others are set, and only if one of those in the file is on. So
+    /// the camera always keeps one, unless the file has none.
     /// @throws ChannelLost, after which nothing can be reverted
     void Restore();
 
@@ -75,7 +78,15 @@ public:
     [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 
 private:
-    [[nodiscard]] std::string ReasonToSkip(const Instance& instance) const;
+    [[nodiscard]] std::string ReasonToSkip(const FunctionValue& setting) const;
+    /// Whether the settings are those of the camera itself, not of another one of its model.
+    [[nodiscard]] bool IsSameCamera() const;
+    /// The other way to get an address that is on in the file but not on the camera; empty if there is none, or if the
+    /// camera has another one.
+    /// @param isPlan whether those of the file will be set, unless they are skipped
+    [[nodiscard]] std::string AddressMissing(const FunctionValue& setting, bool isPlan) const;
+    /// Skips what would leave the camera without any of them.
+    void SkipLastAddress(RestoreResult& result, bool isPlan) const;
     [[nodiscard]] RestoreResult Compare(const FunctionValue& setting) const;
     [[nodiscard]] RestoreResult Set(const FunctionValue& setting) const;
     [[nodiscard]] bool MustStop();
@@ -84,6 +95,7 @@ private:
     /// Sets everything except modes. If @p again, only what did not fail.
     /// @return whether that changed anything
     bool SetValues(bool again);
+    [[nodiscard]] bool SetValue(std::size_t i, bool again);
     void SetModes();
     void PutBack(RestoreResult& mode);
     void Record(RestoreResult& result, RestoreResult now);

@@ -10,7 +10,7 @@ class UncachedCamera {
 public:
     explicit UncachedCamera(Session& session)
         : control(session.CreateControl(index)),
-          camera(*control, session.Model()) {}
+          camera(*control, session.Port(), session.Model()) {}
 
     [[nodiscard]] const Host::Camera& Camera() const { return camera; }
 

@@ -33,8 +33,9 @@ const std::map<std::string_view, std::string> standardNodes = {
 };
 /// Functions without a node that has their value: addresses as texts, what other nodes hold, what the host computes.
 const std::set<std::string_view> withoutNode = {
-    "macaddress",  "ipaddress",      "subnetmask",     "gateway",           "dhcp",        "colorcoding",
-    "readoutarea", "readoutareamin", "readoutareamax", "readoutareaactive", "softtrigger", "timeperframe",
+    "macaddress",  "ipaddress",    "subnetmask",     "gateway",        "dhcp",
+    "colorcoding", "readoutarea",  "readoutareamin", "readoutareamax", "readoutareaactive",
+    "softtrigger", "timeperframe", "persistentip",
 };
 /// Functions that cameras have and the plug-in refuses.
 const std::set<std::string_view> refused = {"slowscan", "lutmode", "measurevalue", "softwarebuild", "hardwareversion"};
@@ -180,7 +181,7 @@ private:
     public:
         explicit Opened(const BothWays& ways)
             : control(ways.plugin.Create(ways.model.c_str(), ways.port, 2)),
-              camera(*control, ways.model) {}
+              camera(*control, ways.port, ways.model) {}
         const Host::Camera& operator*() const { return camera; }
         const Host::Camera* operator->() const { return &camera; }
 

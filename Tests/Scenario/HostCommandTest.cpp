@@ -104,6 +104,11 @@ TEST(HostCommand, SetTellsRoundingFromOtherDifferences) {
          "qdv12host: measurewindow.0: 100,9,50,50 was rounded to 100,9,100,50\n"},
         {"set Orvik-710C measurewindow.0=0,0,63,99 --fault clamp:measurewindow=63", 1, "measurewindow.0=0,0,63,63\n",
          "qdv12host: measurewindow.0: 0,0,63,99 was accepted, but the camera now holds 0,0,63,63\n"},
+        {"set 'Sollux G' persistentip=10.0.0.5,255.255.255.0,0.0.0.0", 1, "persistentip=off\n",
+         "qdv12host: persistentip: the camera is in the subnet 192.168.1.0, mask 255.255.255.0, and takes no address "
+         "of "
+         "another; force-ip puts it there first: 10.0.0.5,255.255.255.0,0.0.0.0 was refused, the camera still holds "
+         "off\n"},
         {"set Orvik-710C username=1234567890123456", 1, "username=123456789012345\n",
          "qdv12host: username: 1234567890123456 was accepted, but the camera now holds 123456789012345\n"},
     });

@@ -28,10 +28,13 @@ protected:
         ASSERT_EQ(Run("save " + model + " " + saved).code, 0);
         ASSERT_EQ(Run("set " + model + " " + changed).code, 0);
     }
-    [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false) const {
+    [[nodiscard]] Outcome Restore(const Observer& observer, bool json = false, bool network = false) const {
         signal(SIGHUP, SIG_DFL); // nohup may have ignored it
-        return RunInProcess(Host::Restore, {{Parameter::Camera, {model}}, {Parameter::File, {saved}}}, observer, state,
-                            json);
+        Host::Invocation::Given given = {{Parameter::Camera, {model}}, {Parameter::File, {saved}}};
+        if (network) {
+            given[Parameter::Network] = {};
+        }
+        return RunInProcess(Host::Restore, given, observer, state, json);
     }
     [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
 
@@ -69,7 +72,7 @@ TEST_F(HostRestore, ThatIsInterruptedPutsModesBackAndSaysWhatIsDone) {
             EXPECT_TRUE(Has(run.out, "\nsharpness                 ok          9 -> 3\n"));
             EXPECT_TRUE(run.out.ends_with("\nagc                       reverted    1, as before\n")) << run.out;
             EXPECT_TRUE(std::regex_match(run.err, std::regex("qdv12host: interrupted; " + RestoredIn(run.out) +
-                                                             " of [0-9]+ functions restored, 4 skipped, [0-9]+ not "
+                                                             " of [0-9]+ functions restored, 5 skipped, [0-9]+ not "
                                                              "reached; automatic modes reverted: agc\n")))
                 << run.err;
             EXPECT_EQ(Get("agc sharpness negativeimage"), "agc=1\nsharpness=3\nnegativeimage=on\n");
@@ -121,7 +124,7 @@ TEST_F(HostRestore, NamesTheModesThatAreOffWhenTheCameraIsLost) {
             const Outcome lost = Restore(lose, json);
             EXPECT_EQ(lost.code, 1);
             const std::string done =
-                last == agc ? "0 of [0-9]+ functions restored" : "[0-9]+ of [0-9]+ functions restored, 4 skipped";
+                last == agc ? "0 of [0-9]+ functions restored" : "[0-9]+ of [0-9]+ functions restored, 5 skipped";
             EXPECT_TRUE(std::regex_match(lost.err,
                                          std::regex("qdv12host: [a-z]+: WriteMem at 0x[0-9A-F]+ failed: it is gone; " +
                                                     done + ", [0-9]+ not reached; automatic modes left off: agc\n")))
@@ -190,6 +193,47 @@ TEST_F(HostRestore, SaysWhyAValueCannotBeReadBack) {
         EXPECT_TRUE(Has(run.out, "\nsharpness                 refused     the answer is lost; asked for 5\n"))
             << run.out;
         EXPECT_EQ(Get("sharpness"), "sharpness=5\n");
+    }
+}
+
+TEST_F(HostRestore, NeverTakesEveryAddressFromACamera) {
+    const std::string address = "persistentip=192.168.1.20,255.255.255.0,192.168.1.1";
+    const std::string ways[] = {address + "\ndhcp=off", "persistentip=off\ndhcp=on"};
+    const auto words = [](const std::string& lines) { return Replaced(lines, "\n", " "); };
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        for (const auto& [first, changed] : {std::pair{ways[0], ways[1]}, {ways[1], ways[0]}}) {
+            Prepare(each, words(first) + " username=bench packetsize=9000 packetdelay=7",
+                    words(changed) + " username=x packetsize=1500 packetdelay=0");
+            const auto check = [](const Host::Access& access) {
+                if (Writes(access, 0x0014)) {
+                    EXPECT_NE(access.data[0] & 3, 0); // persistent, DHCP
+                }
+            };
+            const Outcome run = Restore(check, false, true);
+            EXPECT_EQ(run.code, 0) << run.out << run.err;
+            EXPECT_FALSE(Has(run.out, "left without")); // on the way
+            EXPECT_EQ(Get("persistentip dhcp username packetsize packetdelay"),
+                      first + "\nusername=bench\npacketsize=9000\npacketdelay=7\n");
+        }
+        // Another camera of the model does not get the address, and keeps its DHCP.
+        Prepare(each, words(ways[0]), words(ways[1]));
+        Write(saved, Replaced(Content(saved), "-0042\"", "-0043\""));
+        for (const char* plan : {" --dry-run", ""}) {
+            const Outcome run = Run("restore --network " + saved + " " + model + plan);
+            EXPECT_EQ(run.code, 0) << run.err;
+            EXPECT_TRUE(Has(run.out, "\npersistentip              skipped     it is that of another camera, with the "
+                                     "serial number "));
+            EXPECT_TRUE(Has(run.out, "\ndhcp                      skipped     the camera would be left without an "
+                                     "address, because persistentip is not restored\n"));
+        }
+        EXPECT_EQ(Get("persistentip dhcp"), ways[1] + "\n");
+        // Nor does any camera get what is not an address.
+        Write(saved, Replaced(Replaced(Content(saved), "-0043\"", "-0042\""), "168.1", "168.5"));
+        const Outcome run = Run("restore --network " + saved + " " + model);
+        EXPECT_EQ(run.code, 1);
+        EXPECT_TRUE(Has(run.out, "\npersistentip              refused     the gateway 192.168.1.1 is not in the subnet "
+                                 "192.168.5.0, mask 255.255.255.0; give 0.0.0.0 for none; "));
+        EXPECT_EQ(Get("persistentip dhcp"), ways[1] + "\n");
     }
 }
 

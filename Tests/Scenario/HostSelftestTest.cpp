@@ -59,7 +59,7 @@ TEST(HostSelftest, LeavesTheCameraAsItWas) {
 
 TEST(HostSelftest, LeavesOutWhatReachesBeyondTheCamera) {
     const Outcome run = RunHost("selftest 'Sollux G'");
-    for (const char* name : {"username", "dhcp", "startupsettings", "savesettings", "restart", "storeimage",
+    for (const char* name : {"username", "persistentip", "startupsettings", "savesettings", "restart", "storeimage",
                              "defectpixel", "motorcontrol", "lenscontrol"}) {
         EXPECT_TRUE(Has(run.out, "\n" + std::string(name) + std::string(26 - std::string(name).size(), ' ') +
                                      "0       left out ("));

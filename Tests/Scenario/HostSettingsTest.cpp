@@ -55,7 +55,8 @@ TEST_F(HostSettings, ComeBackAsTheyWereSaved) {
 
         const Outcome restored = Run("restore " + saved + " " + model);
         EXPECT_EQ(restored.code, 0) << restored.out << restored.err;
-        EXPECT_TRUE(Has(restored.out, "username                  skipped     network settings are never restored\n"));
+        EXPECT_TRUE(Has(restored.out, "username                  skipped     a network setting; use --network to "
+                                      "include it\n"));
         const Outcome left = Run("diff " + saved + " " + model);
         EXPECT_EQ(std::count(left.out.begin(), left.out.end(), '\n'), 2) << left.out; // user name and output
 

@@ -300,7 +300,7 @@ const struct {
     const char* reason;
 } exceptions[] = {
     // clang-format off
-    {"",      "username dhcp packetsize packetdelay",                 "network"},
+    {"",      "username dhcp persistentip packetsize packetdelay",    "network"},
     {"",      "startupsettings savesettings",                         "count later"},
     {"Orvik", "framemask histogramequalization automotiondetection",  "no camera of the family has it"},
     {"Orvik", "exposuremode slowscan readouttime triggertimer triggerdelay softtrigger", "say when pictures are taken"},
