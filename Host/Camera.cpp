@@ -1,6 +1,7 @@
 #include "Host/Camera.h"
 
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Errors.h"
 #include "Host/Functions/Tables.h"
@@ -50,10 +51,11 @@ FieldLimits LimitsOfProperty(SDK4::Control::IPropertyState& properties, const ch
 
 } // namespace
 
-Camera::Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName)
+Camera::Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName, const bool& isAcquiring)
     : control(opened),
       port(openedOn),
       model(std::move(modelName)),
+      acquires(isAcquiring),
       functions(nullptr),
       properties(As<SDK4::Control::IPropertyState>()) {
     auto* const identity = As<SDK4::IControl>();
@@ -108,7 +110,7 @@ void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const
     Write(instance, value);
 }
 
-Reading Camera::Try(const Instance& instance, bool andItsLock) const {
+Reading Camera::TryRead(const Instance& instance) const {
     Reading reading;
     static_cast<Outcome&>(reading) = Attempt([&] {
         if (instance->get != nullptr) {
@@ -116,31 +118,62 @@ Reading Camera::Try(const Instance& instance, bool andItsLock) const {
         } else if (!instance->presence.empty()) {
             static_cast<void>(Read(FindOne(instance->presence)));
         }
-        if (andItsLock) {
-            reading.lockedBy = LockedBy(instance);
-        }
     });
     return reading;
 }
 
-Reading Camera::TryRead(const Instance& instance) const { return Try(instance, false); }
+Reading Camera::Inspect(const Instance& instance) const {
+    Reading reading = TryRead(instance);
+    if (reading.code == 0 || reading.code == SDK4_ERR_DISABLED) {
+        const Outcome failure = Attempt([&] { reading.lock = LockOf(instance); });
+        if (reading.code == 0) {
+            static_cast<Outcome&>(reading) = failure;
+        }
+    } else {
+        reading.lock.needs = NeedsOf(instance);
+    }
+    return reading;
+}
 
-Reading Camera::Inspect(const Instance& instance) const { return Try(instance, true); }
+LockState Camera::WhatRefused(const Instance& instance) const {
+    LockState lock = Inspect(instance).lock;
+    return lock.by.empty() ? LockState() : lock;
+}
 
-std::string Camera::LockedBy(const Instance& instance) const {
+/// "agc=off"
+std::string Camera::NeedsOf(const Instance& instance) const {
+    if (!instance->lock) {
+        return instance->lockedInAcquisition ? "stopped acquisition" : "";
+    }
+    const Instance mode = FindOne(instance->lock->mode);
+    const Limits admitted = LimitsOf(mode);
+    std::vector<std::int64_t> open = instance->lock->open;
+    std::erase_if(open, [&](std::int64_t value) { return !admitted.empty() && !admitted.front().Admits(value); });
+    return mode.Name() + "=" + DescribeLimits(mode, {SingleValues(open.empty() ? instance->lock->open : open)});
+}
+
+LockState Camera::LockOf(const Instance& instance) const {
+    LockState state{"", NeedsOf(instance)};
     if (const auto& lock = instance->lock) {
         const Instance mode = FindOne(lock->mode);
         const Value value = Read(mode);
         if (!lock->IsOpen(value)) {
-            return mode.Name() + "=" + mode.Print(value);
+            state.by = mode.Name() + "=" + mode.Print(value);
+            return state;
         }
     }
+    if (instance->lockedInAcquisition && acquires) {
+        state.by = acquisition;
+        return state;
+    }
     if (properties == nullptr || instance->set == nullptr || instance->shape.fields.empty()) {
-        return "";
+        return state;
     }
     const std::string property = PropertyOf(*instance.function, instance->shape.fields.front());
-    const bool disabled = properties->GetImplemented(property.c_str()) && !properties->GetEnabled(property.c_str());
-    return disabled ? "the control" : "";
+    if (properties->GetImplemented(property.c_str()) && !properties->GetEnabled(property.c_str())) {
+        state.by = "the control";
+    }
+    return state;
 }
 
 Limits Camera::LimitsOf(const Instance& instance) const {

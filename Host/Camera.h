@@ -11,10 +11,16 @@
 
 namespace Host {
 
+/// What locks a function.
+struct LockState {
+    std::string by;    ///< what locks it now: "agc=1"; empty if nothing does
+    std::string needs; ///< what setting it takes, also if that is so: "agc=off"; empty for nothing
+};
+
 /// The result of reading a function.
 struct Reading : Outcome {
-    Value value;          ///< if the function has a getter and was read
-    std::string lockedBy; ///< "agc=1" if that locks it, else empty
+    Value value;    ///< if the function has a getter and was read
+    LockState lock; ///< if it was asked for
 
     /// Whether the camera has the function.
     [[nodiscard]] bool IsImplemented() const {
@@ -27,9 +33,13 @@ struct Reading : Outcome {
 /// An opened control with the function table of its family.
 class Camera {
 public:
-    /// @throws OpenError for an unknown family
+    static constexpr std::string_view acquisition = "acquisition"; ///< in LockState::by, while it runs
+
     /// @param openedOn the port that the control uses
-    Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName);
+    /// @param isAcquiring whether acquisition runs through the control; it outlives this object
+    /// @throws OpenError for an unknown family
+    Camera(IDynamicObject& opened, SDK4::IControlPort& openedOn, std::string modelName,
+           const bool& isAcquiring = neverAcquires);
 
     [[nodiscard]] const std::string& Model() const { return model; }
     /// The family of the control: "Orvik" or "M2VX".
@@ -59,11 +69,17 @@ public:
     /// Reads a function. Returns errors instead of throwing them, except a lost camera.
     /// @throws ChannelLost
     [[nodiscard]] Reading TryRead(const Instance& instance) const;
-    /// The same, and determines what locks it. No setting is written.
+    /// The same, and determines what locks it, also if it therefore cannot be read. No setting is written.
     [[nodiscard]] Reading Inspect(const Instance& instance) const;
 
-    /// The mode that locks the function now: "agc=1", or empty. Reads the mode.
-    [[nodiscard]] std::string LockedBy(const Instance& instance) const;
+    /// What locks the function, after a call was refused; empty if nothing is known to do.
+    /// @throws ChannelLost
+    [[nodiscard]] LockState WhatRefused(const Instance& instance) const;
+
+    /// What locks the function. Reads the mode that does.
+    [[nodiscard]] LockState LockOf(const Instance& instance) const;
+    /// What locks it now, or empty.
+    [[nodiscard]] std::string LockedBy(const Instance& instance) const { return LockOf(instance).by; }
 
     /// The current limits: those that the control publishes, else those of the row.
     [[nodiscard]] Limits LimitsOf(const Instance& instance) const;
@@ -78,13 +94,16 @@ public:
     template <typename Interface> [[nodiscard]] Interface* As() const { return dynamic_cast<Interface*>(&control); }
 
 private:
-    [[nodiscard]] Reading Try(const Instance& instance, bool andItsLock) const;
+    static constexpr bool neverAcquires = false;
+
+    [[nodiscard]] std::string NeedsOf(const Instance& instance) const;
     [[nodiscard]] Limits PublishedLimits(const Instance& instance) const;
 
     IDynamicObject& control;
     SDK4::IControlPort& port;
     std::string model;
     std::string family;
+    const bool& acquires;
     const Functions* functions;
     SDK4::Control::IPropertyState* properties; ///< null for a family without published properties
 };

@@ -88,6 +88,13 @@ Json TextToJson(const std::string& text) {
     return Common::IsUtf8(text) ? Json(text) : Json{{hexMember, Hexadecimal(text)}};
 }
 
+Json TextOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
+
+void AddLock(Json& document, const LockState& lock) {
+    document.Add("lockedBy", TextOrNull(lock.by));
+    document.Add("needs", TextOrNull(lock.needs));
+}
+
 Json NamesToJson(const std::vector<Instance>& instances) {
     Json names(Json::List{});
     for (const Instance& instance : instances) {
@@ -143,18 +150,30 @@ std::string DescribeLimits(const Instance& instance, const Limits& limits) {
     return Common::Join(ranges, ",");
 }
 
+std::string DescribeLock(const LockState& lock) {
+    if (lock.by == Camera::acquisition) {
+        return "locked while acquisition runs";
+    }
+    const std::string needs = lock.needs.empty() ? "" : ", needs " + lock.needs;
+    return lock.by.empty() ? "" : "locked by " + lock.by + needs;
+}
+
+std::string DescribeRefusal(const std::string& reason, const LockState& lock) {
+    return reason + (lock.by.empty() ? "" : " (" + DescribeLock(lock) + ")");
+}
+
 std::string DescribeState(const Instance& instance, const Reading& reading) {
     if (reading.cause == Cause::NoControl) {
         return reading.reason;
+    }
+    if (!reading.lock.by.empty()) {
+        return DescribeLock(reading.lock);
     }
     if (reading.code != 0) {
         const char* const what = !reading.IsImplemented() ? "not implemented"
                                  : reading.IsAbsent()     ? "not available"
                                                           : "not readable";
         return what + std::string(" (") + reading.reason + ")";
-    }
-    if (!reading.lockedBy.empty()) {
-        return "locked by " + reading.lockedBy;
     }
     return instance->set == nullptr ? "read-only" : instance->get == nullptr ? "write-only" : "";
 }

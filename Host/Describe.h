@@ -16,6 +16,12 @@ namespace Host {
 /// A text. One that is not UTF-8 becomes an object with its bytes: {"hex": "6e616d65e9"}.
 [[nodiscard]] Json TextToJson(const std::string& text);
 
+/// A text, or null for an empty one.
+[[nodiscard]] Json TextOrNull(const std::string& text);
+
+/// Adds what locks a function as the members lockedBy and needs, or null.
+void AddLock(Json& document, const LockState& lock);
+
 /// A list of function names.
 [[nodiscard]] Json NamesToJson(const std::vector<Instance>& instances);
 
@@ -29,7 +35,13 @@ namespace Host {
 /// "0..511", "off|on"; for a record, those of each field, or only one if all are equal.
 [[nodiscard]] std::string DescribeLimits(const Instance& instance, const Limits& limits);
 
-/// The state of a function: "read-only", "locked by agc=1", "not implemented (...)".
+/// "locked by agc=1, needs agc=off", or empty for a function that is not locked.
+[[nodiscard]] std::string DescribeLock(const LockState& lock);
+
+/// Why something failed: "SDK4_ERR_DISABLED (locked by ...)".
+[[nodiscard]] std::string DescribeRefusal(const std::string& reason, const LockState& lock);
+
+/// The state of a function: "read-only", "locked by ...", "not implemented (...)".
 [[nodiscard]] std::string DescribeState(const Instance& instance, const Reading& reading);
 
 /// The form of a value, for error messages: "0..511", "base:counter".

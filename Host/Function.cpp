@@ -6,12 +6,18 @@
 #include "Host/Functions/Codes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Host {
 
 bool FieldLimits::Admits(std::int64_t number) const {
     return admitted.empty() ? number >= min && number <= max
                             : std::find(admitted.begin(), admitted.end(), number) != admitted.end();
+}
+
+FieldLimits SingleValues(std::vector<std::int64_t> admitted) {
+    const auto [first, last] = std::pair(admitted.front(), admitted.back());
+    return {.min = first, .max = last, .admitted = std::move(admitted)};
 }
 
 bool Lock::IsOpen(const Value& value) const {

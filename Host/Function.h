@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <deque>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +25,8 @@ struct FieldLimits {
 
     [[nodiscard]] bool Admits(std::int64_t number) const;
 };
+/// Limits of a field that admits the values alone, which ascend.
+[[nodiscard]] FieldLimits SingleValues(std::vector<std::int64_t> admitted);
 /// One per field of the value, or empty if the value is not checked.
 using Limits = std::vector<FieldLimits>;
 
@@ -78,7 +79,8 @@ struct Function {
     using Opinion = std::string (*)(const Value& value);
 
     std::string_view name;
-    std::string_view topic; ///< "identity", "exposure", ...
+    std::string_view topic;   ///< "identity", "exposure", ...
+    std::string_view meaning; ///< what it is or does, in a few words
     std::string interfaceName;
     Shape shape;
     Getter get = nullptr; ///< null: write-only
@@ -90,7 +92,8 @@ struct Function {
     LimitsReader limitsReader = nullptr;
     Host::Codes codes; ///< names of its numbers; some may have none
     std::optional<Lock> lock;
-    std::optional<Refusal> refusal; ///< if different from the rest of the family
+    bool lockedInAcquisition = false; ///< locked while acquisition runs
+    std::optional<Refusal> refusal;   ///< if different from the rest of the family
     RestorePolicy restore = RestorePolicy::Never;
     RoundingRule rounding = nullptr; ///< null: the camera does not round
     bool trigger = false;            ///< a command without a value
@@ -100,6 +103,8 @@ struct Function {
     Opinion caution = nullptr;       ///< what to know after it was set on a camera on the network
     bool distinct = false;           ///< no two cameras may have the same value, except off
     std::string_view presence;       ///< for a write-only function: a readable one that the camera has or lacks with it
+
+    Function& Means(std::string_view text) { return Set(meaning, text); }
 
     // Optional attributes of a row.
     Function& Unit(std::string_view text) { return Set(unit, text); }
@@ -115,12 +120,13 @@ struct Function {
     /// Refused with that code; the camera keeps its value.
     Function& Keeps(std::int32_t code = SDK4_ERR_OUTOFRANGE) { return Set(refusal, Refusal{code, true}); }
     Function& Rounds(RoundingRule rule) { return Set(rounding, rule); }
-    Function& MovedBy(std::string_view mode, std::initializer_list<std::int64_t> open = {0}) {
+    Function& MovedBy(std::string_view mode, const std::vector<std::int64_t>& open = {0}) {
         return Set(lock, Lock{mode, open, true});
     }
-    Function& Needs(std::string_view mode, std::initializer_list<std::int64_t> open = {1}) {
+    Function& Needs(std::string_view mode, const std::vector<std::int64_t>& open = {1}) {
         return Set(lock, Lock{mode, open, false});
     }
+    Function& LockedInAcquisition(bool locked = true) { return Set(lockedInAcquisition, locked); }
     Function& Instances(std::uint32_t number) { return Set(count, number); }
     Function& PublishedAs(std::string_view propertyName) { return Set(property, propertyName); }
     Function& Form(std::string_view text, Opinion whyInvalid) {

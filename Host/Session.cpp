@@ -6,6 +6,8 @@
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/GigEConnection.h"
 
+#include <SDK4/IStreamControl.h>
+
 namespace Host {
 
 namespace {
@@ -74,6 +76,15 @@ Session::Session(const Plugin& loaded, Connected connected, const CameraOptions&
       connection(std::move(connected.connection)),
       port(connection->Port(), options.accesses),
       control(CreateControl(options.index)) {}
+
+void Session::Acquire(bool on) {
+    auto* const stream = As<SDK4::IStreamControl>();
+    if (stream == nullptr) {
+        throw std::runtime_error("the control of " + model + " delivers no pictures");
+    }
+    on ? stream->Start() : stream->Stop();
+    acquires = on; // as the control, which keeps its state if the call fails
+}
 
 Control Session::CreateControl(std::int32_t index) {
     try {

@@ -41,7 +41,11 @@ public:
 
     /// The functions of the control.
     /// @throws OpenError for an unknown family
-    [[nodiscard]] Host::Camera Camera() { return {*control, port, model}; }
+    [[nodiscard]] Host::Camera Camera() { return {*control, port, model, acquires}; }
+
+    /// Starts or stops acquisition through the control, which locks some functions while it runs.
+    /// @throws std::runtime_error for a control without acquisition; ChannelError
+    void Acquire(bool on);
 
     /// Opens the same camera once more, on the same port.
     /// @throws OpenError; ChannelLost
@@ -63,6 +67,7 @@ private:
     std::unique_ptr<Host::Connection> connection;
     TracingPort port;
     Control control;
+    bool acquires = false;
 };
 
 } // namespace Host

@@ -20,7 +20,7 @@ int Get(const Invocation& invocation) {
         const Reading reading = camera.TryRead(instance);
         if (reading.code != 0) {
             refused = true;
-            PrintError(instance.Name() + ": " + reading.reason);
+            PrintError(instance.Name() + ": " + DescribeRefusal(reading.reason, camera.WhatRefused(instance)));
             output.Add("", instance.Name(), Json());
         } else {
             output.Add(instance.Name() + '=' + instance.Print(reading.value), instance.Name(),

@@ -3,8 +3,8 @@
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
 #include "Host/Describe.h"
-#include "Host/ErrorReporting.h"
 #include "Host/Format.h"
+#include "Host/FunctionState.h"
 #include "Host/Style.h"
 
 #include <algorithm>
@@ -13,18 +13,6 @@
 namespace Host {
 
 namespace {
-
-/// The defaults of all fields, if the family publishes them.
-std::optional<Value> DefaultOf(const Limits& limits) {
-    Value value;
-    for (const FieldLimits& field : limits) {
-        if (!field.defaultValue) {
-            return std::nullopt;
-        }
-        value.numbers.push_back(*field.defaultValue);
-    }
-    return limits.empty() ? std::nullopt : std::optional(value);
-}
 
 /// A line of the list.
 struct Listed {
@@ -71,34 +59,6 @@ std::vector<Listed> Wanted(const Camera& camera, const Invocation& invocation) {
     return wanted;
 }
 
-/// The current state of a function.
-struct Found {
-    Reading reading;
-    Limits limits;
-    std::optional<Value> defaultValue;
-    Outcome limitsOutcome; ///< how reading the limits ended
-};
-
-Found Inspect(const Camera& camera, const Instance& instance) {
-    Found found{camera.Inspect(instance), {}, {}, {}};
-    if (found.reading.code == 0) {
-        found.limitsOutcome = Attempt([&] { found.limits = camera.LimitsOf(instance); });
-        found.defaultValue = DefaultOf(found.limits);
-    }
-    return found;
-}
-
-std::string StateOf(const Instance& instance, const Found& found) {
-    const Outcome& limits = found.limitsOutcome;
-    return limits.code == 0                   ? DescribeState(instance, found.reading)
-           : limits.cause == Cause::NoControl ? "limits need control"
-                                              : "limits not readable (" + limits.reason + ")";
-}
-
-bool HasValue(const Instance& instance, const Reading& reading) {
-    return reading.code == 0 && instance->get != nullptr;
-}
-
 /// A cell that is too long moves the next ones no further than necessary.
 std::string Row(std::string name, const std::string& value, const std::string& defaultValue, const std::string& limits,
                 const std::string& state) {
@@ -112,61 +72,16 @@ std::string Row(std::string name, const std::string& value, const std::string& d
     return name;
 }
 
-std::string Describe(const Instance& instance, const Found& found, bool many) {
+std::string Describe(const Instance& instance, const FunctionState& found, bool many) {
     const std::string last = std::to_string(instance->count - 1);
-    const std::string value = !HasValue(instance, found.reading) ? "-"
-                              : many                             ? std::to_string(instance->count) + " values"
-                                                                 : PrintWithUnit(instance, found.reading.value);
+    const std::string value = !HasValue(instance, found) ? "-"
+                              : many                     ? std::to_string(instance->count) + " values"
+                                                         : PrintWithUnit(instance, found.reading.value);
     const std::string row =
         Row(instance.Name() + (many ? ".." + last : ""), value,
             found.defaultValue ? instance.Print(*found.defaultValue) : "",
-            instance->set != nullptr ? DescribeLimits(instance, found.limits) : "", StateOf(instance, found));
-    return found.reading.code != 0 ? Dim(row) : found.reading.lockedBy.empty() ? row : Yellow(row);
-}
-
-Json LimitsToJson(const Instance& instance, const Limits& limits) {
-    Json fields(Json::List{});
-    for (std::size_t i = 0; i < limits.size(); ++i) {
-        Json field;
-        if (instance->shape.fields.size() > 1) {
-            field.Add("field", instance->shape.fields[i].name);
-        }
-        field.Add("min", limits[i].min);
-        field.Add("max", limits[i].max);
-        if (!limits[i].admitted.empty()) {
-            Json admitted;
-            for (const std::int64_t number : limits[i].admitted) {
-                admitted.Add(number);
-            }
-            field.Add("admitted", admitted);
-        }
-        fields.Add(field);
-    }
-    return fields;
-}
-
-Json ToJson(const Instance& instance, const Found& found, bool many) {
-    const auto& [reading, limits, defaultValue, limitsOutcome] = found;
-    Json codes(Json::Object{});
-    for (const Code& code : instance->codes) {
-        codes.Add(code.name, code.value);
-    }
-    Json document{{"name", many ? std::string(instance->name) : instance.Name()},
-                  {"interface", instance->interfaceName},
-                  {"topic", instance->topic},
-                  {"value", HasValue(instance, reading) && !many ? ToJson(instance, reading.value) : Json()},
-                  {"unit", instance->unit},
-                  {"default", defaultValue ? ToJson(instance, *defaultValue) : Json()},
-                  {"limits", LimitsToJson(instance, limits)},
-                  {"codes", codes},
-                  {"readable", instance->get != nullptr},
-                  {"writable", instance->set != nullptr},
-                  {"lockedBy", reading.lockedBy.empty() ? Json() : Json(reading.lockedBy)},
-                  {"error", reading.code == 0 ? Json() : Json(reading.reason)}};
-    if (many) {
-        document.Add("count", instance->count);
-    }
-    return document;
+            instance->set != nullptr ? DescribeLimits(instance, found.limits) : "", DescribeState(instance, found));
+    return found.reading.code != 0 ? Dim(row) : found.reading.lock.by.empty() ? row : Yellow(row);
 }
 
 } // namespace
@@ -176,11 +91,12 @@ int List(const Invocation& invocation) {
     Output output = invocation.Output();
     bool begins = true;
     for (const auto& [instance, many] : Wanted(camera, invocation)) {
-        const Found found = Inspect(camera, instance); // before the heading, because it throws if the camera is lost
+        // Before the heading, because it throws if the camera is lost.
+        const FunctionState found = InspectFunction(camera, instance);
         if (std::exchange(begins, false)) {
             output.Line(Row("NAME", "VALUE", "DEFAULT", "LIMITS", "STATE"));
         }
-        output.Add(Describe(instance, found, many), ToJson(instance, found, many));
+        output.Add(Describe(instance, found, many), FunctionToJson(instance, found, many));
     }
     output.End();
     return Success;

@@ -23,7 +23,7 @@ namespace {
 /// "7 -> 100", or what went wrong.
 std::string Describe(const RestoreResult& result) {
     const Instance& instance = result.instance;
-    const std::string reason = result.reason + (result.reason.empty() ? "" : "; ");
+    const std::string reason = DescribeRefusal(result.reason, result.lock) + (result.reason.empty() ? "" : "; ");
     const std::string now = result.held ? ", the camera now holds " + instance.Print(*result.held) : "";
     switch (result.status) {
     case RestoreStatus::Done:
@@ -74,12 +74,14 @@ Json ToJson(const RestoreResult& result) {
     const auto json = [&](const std::optional<Value>& value) {
         return value ? ToJson(result.instance, *value) : Json();
     };
-    return Json{{"name", result.instance.Name()},
-                {"result", NameOf(result.status)},
-                {"saved", ToJson(result.instance, result.saved)},
-                {"before", json(result.before)},
-                {"value", json(result.held)},
-                {"reason", result.reason.empty() ? Json() : Json(result.reason)}};
+    Json document{{"name", result.instance.Name()},
+                  {"result", NameOf(result.status)},
+                  {"saved", ToJson(result.instance, result.saved)},
+                  {"before", json(result.before)},
+                  {"value", json(result.held)},
+                  {"reason", TextOrNull(result.reason)}};
+    AddLock(document, result.lock);
+    return document;
 }
 
 void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {

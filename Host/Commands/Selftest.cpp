@@ -2,6 +2,7 @@
 
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Commands/Commands.h"
+#include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Interrupts.h"
 #include "Host/Progress.h"
@@ -124,7 +125,7 @@ std::string Describe(const TestResult& result) {
     }
     std::string text =
         Pad(std::string(result.instance->name), 24) + "  " + Pad(std::to_string(result.checks), 6) + "  ";
-    text += !result.leftOut.empty()   ? Dim("left out (" + result.leftOut + ")")
+    text += !result.leftOut.empty()   ? Dim("left out (" + DescribeRefusal(result.leftOut, result.lock) + ")")
             : result.failures.empty() ? Green("passed")
                                       : Red("FAILED");
     for (const std::string& failure : result.failures) {
@@ -138,10 +139,12 @@ Json ToJson(const TestResult& result) {
     for (const std::string& failure : result.failures) {
         failures.Add(failure);
     }
-    return Json{{"name", result.instance->name},
-                {"checks", result.checks},
-                {"failures", failures},
-                {"leftOut", result.leftOut.empty() ? Json() : Json(result.leftOut)}};
+    Json document{{"name", result.instance->name},
+                  {"checks", result.checks},
+                  {"failures", failures},
+                  {"leftOut", TextOrNull(result.leftOut)}};
+    AddLock(document, result.lock);
+    return document;
 }
 
 /// @return how many checks failed

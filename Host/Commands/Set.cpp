@@ -10,10 +10,12 @@ namespace {
 
 Json ToJson(const FunctionValue& assignment, const Assigned& result) {
     const Instance& instance = assignment.instance;
-    return Json{{"name", instance.Name()},
-                {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
-                {"value", result.held ? ToJson(instance, *result.held) : Json()},
-                {"error", result.failure.code == 0 ? Json() : Json(result.failure.reason)}};
+    Json document{{"name", instance.Name()},
+                  {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
+                  {"value", result.held ? ToJson(instance, *result.held) : Json()},
+                  {"error", result.failure.code == 0 ? Json() : Json(result.failure.reason)}};
+    AddLock(document, result.lock);
+    return document;
 }
 
 } // namespace

@@ -34,7 +34,10 @@ template <typename Interface> Interface& Reach(const OpenedCamera& camera) {
 /// int Width(IDSMediaType&). It may take the port, SDK4::IControlPort&, to read what the control cannot.
 class FunctionTable {
 public:
-    explicit FunctionTable(Functions& rows) : functions(rows) {}
+    FunctionTable(Functions& rows, bool ofM2VX) : functions(rows), m2vx(ofM2VX) {}
+
+    /// For rows of both families, where these differ.
+    [[nodiscard]] bool IsM2VX() const { return m2vx; }
 
     /// Sets the topic of the next rows.
     void Topic(std::string_view name) { topic = name; }
@@ -170,6 +173,7 @@ private:
     }
 
     Functions& functions;
+    bool m2vx;
     std::string_view topic;
 };
 

@@ -7,9 +7,9 @@ namespace Host {
 
 namespace {
 
-Functions Collect(std::initializer_list<void (*)(FunctionTable&)> subjects) {
+Functions Collect(bool ofM2VX, std::initializer_list<void (*)(FunctionTable&)> subjects) {
     Functions functions;
-    FunctionTable table(functions);
+    FunctionTable table(functions, ofM2VX);
     for (const auto addRows : subjects) {
         addRows(table);
     }
@@ -20,11 +20,11 @@ Functions Collect(std::initializer_list<void (*)(FunctionTable&)> subjects) {
 
 const Functions* TableOf(std::string_view classId) {
     static const Functions orvik =
-        Collect({AddIdentity, AddNetwork, AddOrvikFormat, AddFrames, AddOrvikExposure, AddOrvikProcessing,
-                 AddProcessing, AddOrvikOverlay, AddMemory, AddSettingsSets, AddTests, AddOrvikDevice});
+        Collect(false, {AddIdentity, AddNetwork, AddOrvikFormat, AddFrames, AddOrvikExposure, AddOrvikProcessing,
+                        AddProcessing, AddOrvikOverlay, AddMemory, AddSettingsSets, AddTests, AddOrvikDevice});
     static const Functions m2vx =
-        Collect({AddIdentity, AddNetwork, AddM2VXFormat, AddFrames, AddM2VXExposure, AddM2VXProcessing, AddProcessing,
-                 AddM2VXOverlay, AddMemory, AddSettingsSets, AddTests, AddM2VXDevice});
+        Collect(true, {AddIdentity, AddNetwork, AddM2VXFormat, AddFrames, AddM2VXExposure, AddM2VXProcessing,
+                       AddProcessing, AddM2VXOverlay, AddMemory, AddSettingsSets, AddTests, AddM2VXDevice});
     return classId == "Orvik" ? &orvik : classId == "M2VX" ? &m2vx : nullptr;
 }
 

@@ -76,15 +76,14 @@ std::span<const std::uint8_t> RequireFitting(const Picture& came, const PictureF
 
 Acquisition::Acquisition(Session& opened)
     : session(opened),
-      control(Require<SDK4::IStreamControl>(opened)),
       trigger(TriggerOf(opened)),
       format(FormatOf(opened)),
       patience(PatienceWith(opened)) {
-    control.Stop(); // the camera may still run for a program that crashed
+    session.Acquire(false); // the camera may still run for a program that crashed
     source = session.Connection().OpenStream(format);
     runs = true; // a camera may start and its acknowledge get lost
     try {
-        control.Start();
+        session.Acquire(true);
     } catch (...) {
         Abandon();
         throw;
@@ -102,7 +101,7 @@ void Acquisition::Abandon() {
 
 void Acquisition::Stop() {
     if (std::exchange(runs, false)) {
-        control.Stop();
+        session.Acquire(false);
     }
 }
 

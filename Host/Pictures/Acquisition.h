@@ -3,7 +3,6 @@
 #include "Host/Pictures/PictureSource.h"
 #include "Host/Session.h"
 
-#include <SDK4/IStreamControl.h>
 #include <SDK4/ITrigger.h>
 
 #include <memory>
@@ -39,7 +38,6 @@ private:
     void Abandon();
 
     Session& session;
-    SDK4::IStreamControl& control;
     SDK4::Control::ITrigger* trigger = nullptr; ///< null in a free-running mode
     PictureFormat format;
     std::chrono::milliseconds patience;

@@ -1,5 +1,6 @@
 #include "Host/Selftest/ComplianceTest.h"
 
+#include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Settings/Unlock.h"
 
@@ -65,6 +66,7 @@ void ComplianceTest::TestUnlocked(TestResult& result) const {
     const Reading reading = reader.TryRead(instance);
     if (reading.IsAbsent()) {
         result.leftOut = reading.reason;
+        result.lock = reader.WhatRefused(instance);
         return;
     }
     ++result.checks;
@@ -99,7 +101,7 @@ void ComplianceTest::Try(TestResult& result, const TestCase& testCase, const Lim
     const Value held = Held(instance, expected);
     const std::string what = testCase.what + " (" + instance.Print(testCase.value) + "): ";
     if (code != expectedCode) {
-        result.failures.push_back(what + NameOf(code) + " instead of " + NameOf(expectedCode));
+        result.failures.push_back(what + Explain(instance, code) + " instead of " + NameOf(expectedCode));
     }
     const bool mayDiffer = testCase.value != before && setter.RoundsTo(instance, testCase.value, held);
     if (held != expected && !mayDiffer) {
@@ -127,7 +129,7 @@ void ComplianceTest::TryNeighbours(TestResult& result, const Value& current) con
 bool ComplianceTest::TryNeighbour(TestResult& result, const Value& neighbour, const Value& current) const {
     const Instance& instance = result.instance;
     if (const std::int32_t code = Write(instance, neighbour); code != 0) {
-        result.failures.push_back(instance.Print(neighbour) + ": " + NameOf(code));
+        result.failures.push_back(instance.Print(neighbour) + ": " + Explain(instance, code));
     }
     const Value held = Held(instance, neighbour);
     if (held != current && held != neighbour && !setter.RoundsTo(instance, neighbour, held)) {
@@ -175,6 +177,11 @@ void ComplianceTest::TestLock(TestResult& result) const {
         }
     }
     setter.Write(mode, held.value);
+}
+
+/// The name of the code of a call, and what locks the function if that is the reason.
+std::string ComplianceTest::Explain(const Instance& instance, std::int32_t code) const {
+    return IsLockCode(code) ? DescribeRefusal(NameOf(code), setter.WhatRefused(instance)) : NameOf(code);
 }
 
 /// @return the code of the refusal, or 0

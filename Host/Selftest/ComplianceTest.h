@@ -15,6 +15,7 @@ struct TestResult {
     int checks = 0;
     std::vector<std::string> failures;
     std::string leftOut; ///< why it was not tested, else empty
+    LockState lock{};    ///< what locks it, if it was therefore not tested
 };
 
 /// A compliance test: checks that the library and the camera behave as the table says. It changes settings; the caller
@@ -45,6 +46,7 @@ private:
     /// @return whether the camera then holds another value than before
     bool TryNeighbour(TestResult& result, const Value& neighbour, const Value& current) const;
     void TestLock(TestResult& result) const;
+    [[nodiscard]] std::string Explain(const Instance& instance, std::int32_t code) const;
     [[nodiscard]] std::int32_t Write(const Instance& instance, const Value& value) const;
     [[nodiscard]] Value Held(const Instance& instance, const Value& expected) const;
 

@@ -15,7 +15,7 @@ Assigned Perform(const Camera& camera, const Camera& reader, const Wait& wait, c
     Assigned result;
     result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
     if (result.failure.code != 0) {
-        result.lockedBy = camera.Inspect(assignment.instance).lockedBy;
+        result.lock = camera.WhatRefused(assignment.instance);
     }
     if (assignment.instance->get != nullptr) {
         const Reading reading = ReadWhenSettled(reader, assignment.instance, assignment.value, wait);
@@ -52,7 +52,7 @@ bool Report(const Camera& camera, const FunctionValue& assignment, const Assigne
     }
     std::string text = assignment.instance.Name();
     if (result.failure.code != 0) {
-        text += ": " + result.failure.reason + (result.lockedBy.empty() ? "" : " (locked by " + result.lockedBy + ")");
+        text += ": " + DescribeRefusal(result.failure.reason, result.lock);
     }
     if (differs) {
         text += ": " + DescribeHeld(camera, assignment, result);

@@ -12,7 +12,7 @@ namespace Host {
 /// What became of a function that was set.
 struct Assigned {
     Outcome failure;
-    std::string lockedBy;      ///< the function that locks this one, if that is the reason
+    LockState lock;            ///< what locks the function, if it was refused
     std::optional<Value> held; ///< what the camera holds afterwards
     bool rounded = false;      ///< the camera rounded the value, as it may
 };

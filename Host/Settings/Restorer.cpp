@@ -120,11 +120,13 @@ RestoreResult Restorer::Set(const FunctionValue& setting) const {
         result.held.reset();
         result.reason = result.reason.empty() ? reading.reason : result.reason;
         result.status = RestoreStatus::Refused;
-        return result;
+    } else {
+        result.held = reading.value;
+        result.status = StatusOf(setter, result);
     }
-    result.held = reading.value;
-    result.status = StatusOf(setter, result);
-    if (result.status == RestoreStatus::Refused && result.reason.empty()) {
+    if (!result.reason.empty()) {
+        result.lock = setter.WhatRefused(setting.instance);
+    } else if (result.status == RestoreStatus::Refused) {
         result.reason = "the camera ignored it";
     }
     return result;

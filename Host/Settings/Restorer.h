@@ -31,6 +31,7 @@ struct RestoreResult {
     std::optional<Value> before; ///< value before, if known
     std::optional<Value> held;   ///< value now, if known
     std::string reason;          ///< name of the error code, or why it was skipped
+    LockState lock{};            ///< what locks it, if it was refused
 };
 
 [[nodiscard]] const char* NameOf(RestoreStatus status);

@@ -51,7 +51,8 @@ TEST(HostCommand, GetPrintsWhatFunctionsHold) {
          "  \"colorcoding\": \"mono14\"\n}\n",
          ""},
         {"get Orvik-710C gain triggerdelay lutmode", 1, "gain=0\nlutmode=0\n",
-         "qdv12host: triggerdelay: SDK4_ERR_DISABLED\n"},
+         "qdv12host: triggerdelay: SDK4_ERR_DISABLED (locked by exposuremode=freerunning, needs "
+         "exposuremode=resetrestart)\n"},
         {"get Orvik-31200M verticalflip", 1, "", "qdv12host: verticalflip: SDK4_ERR_NOT_IMPLEMENTED\n"},
     });
 }
@@ -77,9 +78,10 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
         {"set Orvik-710C gain=5 --fault ignore:gain", 1, "gain=0\n",
          "qdv12host: gain: 5 was accepted, but the camera now holds 0\n"},
         {"set Cerix-MV7 storeimage=on restart --json", 0,
-         "[\n  {\n    \"name\": \"storeimage\",\n    \"asked\": \"on\",\n    \"value\": null,\n    \"error\": null\n  "
-         "},\n"
-         "  {\n    \"name\": \"restart\",\n    \"asked\": null,\n    \"value\": null,\n    \"error\": null\n  }\n]\n",
+         "[\n  {\n    \"name\": \"storeimage\",\n    \"asked\": \"on\",\n    \"value\": null,\n    \"error\": null,\n"
+         "    \"lockedBy\": null,\n    \"needs\": null\n  },\n"
+         "  {\n    \"name\": \"restart\",\n    \"asked\": null,\n    \"value\": null,\n    \"error\": null,\n"
+         "    \"lockedBy\": null,\n    \"needs\": null\n  }\n]\n",
          ""},
     });
 }
@@ -118,15 +120,15 @@ TEST(HostCommand, SetTellsWhatLocksAFunction) {
     for (const char* model : {"Orvik-710C", "'Sollux G'"}) {
         const Outcome run = RunHost(std::string("set ") + model + " agc=1 gain=5 exposuremode=freerunning");
         EXPECT_EQ(run.code, 1);
-        EXPECT_TRUE(Has(run.err, model[0] == 'O' ? "gain: SDK4_ERR_CANTSETFEATURE (locked by agc=1)"
-                                                 : "gain: SDK4_ERR_DISABLED (locked by agc=1)"));
+        EXPECT_TRUE(Has(run.err, model[0] == 'O' ? "gain: SDK4_ERR_CANTSETFEATURE (locked by agc=1, needs agc=off)"
+                                                 : "gain: SDK4_ERR_DISABLED (locked by agc=1, needs agc=off)"));
         EXPECT_TRUE(Has(run.out, "exposuremode=freerunning\n")); // continues with the rest
     }
     // A mode set by an earlier run locks, too.
     const std::string state = " --state " + TemporaryFile("state");
     EXPECT_EQ(RunHost("set 'Sollux G' circularblankingsize=80" + state).code, 1);
     EXPECT_EQ(RunHost("set 'Sollux G' agc=1" + state).code, 0);
-    EXPECT_TRUE(Has(RunHost("set 'Sollux G' gain=5" + state).err, "SDK4_ERR_DISABLED (locked by agc=1)"));
+    EXPECT_TRUE(Has(RunHost("set 'Sollux G' gain=5" + state).err, "SDK4_ERR_DISABLED (locked by agc=1, needs"));
     EXPECT_EQ(RunHost("set 'Sollux G' gain=5 --index 3" + state).code, 1);
     std::filesystem::remove(TemporaryFile("state"));
 }
@@ -191,7 +193,7 @@ TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
           "\nreadoutarea               0,0,2591,2047 px                        0..2528,0..1984,63..2591,63..2047\n",
           "\ncontrast                  64                                      32..255\n",
           "\ntriggerdelay              -                                                                 "
-          "not available (SDK4_ERR_DISABLED)\n",
+          "locked by exposuremode=freerunning, needs exposuremode=resetrestart\n",
           "\ncolorbalance              -                                                                 "
           "not implemented (SDK4_ERR_NOT_IMPLEMENTED)\n",
           "\nloadsettings              -                                       0..2                      "
@@ -202,7 +204,7 @@ TEST(HostCommand, ListShowsLimitsDefaultsAndWhyAFunctionCannotBeSet) {
     EXPECT_EQ(m2vx.code, 0);
     for (const char* line :
          {"\nautomaticlevel            30                      30              0..100                    "
-          "locked by agc=off\n",
+          "locked by agc=off, needs agc=2\n",
           "\nmeasurewindow             100,2,0,0,128 px        0,2,0,0,128     "
           "0..511,1..3,-511..511,-511..511,1..512\n",
           "\nmotorcontrol.0..255       256 values              0               0..65535\n"}) {
