@@ -19,6 +19,8 @@ struct CameraName {
 
     By by = By::Model;
     std::string text; ///< without prefix; not escaped; a MAC address as discovery reports it
+
+    bool operator==(const CameraName&) const = default;
 };
 
 /// @throws UsageError for an invalid name

@@ -23,6 +23,7 @@ enum class Parameter {
     Names,
     Network,
     NoControl,
+    OneByOne,
     Outputs,
     Plugin,
     Raw,
@@ -40,7 +41,7 @@ struct Syntax {
     const char* name = ""; ///< "FILE" for an operand; "--all" or "--seconds N" for an option
     const char* about = "";
     Required required = Required::Always;
-    bool several = false; ///< whether it may be repeated
+    bool several = false; ///< whether it may be repeated; each CAMERA then gets a process (EachCamera)
 };
 
 /// One run of a command: its parameters, and the program that it runs in.
@@ -74,10 +75,15 @@ private:
 struct Command {
     const char* name;
     const char* about;
-    std::vector<Syntax> syntax; ///< in a shell, without CAMERA
+    std::vector<Syntax> syntax; ///< in a shell, without what a shell has once: CAMERA, how it is opened
     int (*run)(const Invocation& invocation);
     bool inShell = true;  ///< whether it is available in a shell
     int failed = Refused; ///< the exit code if the camera is lost, a call is refused, or results cannot be written
+
+    /// The syntax of the parameter, or null.
+    [[nodiscard]] const Syntax* Find(Parameter parameter) const;
+    /// Whether it takes several cameras.
+    [[nodiscard]] bool TakesCameras() const;
 };
 
 /// All commands, in the order of the help.

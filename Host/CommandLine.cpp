@@ -4,6 +4,7 @@
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
+#include "Host/CameraName.h"
 #include "Host/Functions/Tables.h"
 #include "Host/Trace.h"
 
@@ -28,7 +29,8 @@ bool IsRequired(const Syntax& syntax, bool inShell) {
     return syntax.required == Required::Always || (syntax.required == Required::OutsideShell && !inShell);
 }
 
-CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
+/// @param several whether it may be repeated; an operand then takes all further ones
+CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool several, bool inShell) {
     const std::string name = syntax.name;
     if (!IsOperand(syntax)) {
         const std::size_t blank = name.find(' ');
@@ -38,24 +40,27 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool inShell) {
         CLI::Option* const option = app.add_option(name.substr(0, blank), syntax.about)
                                         ->type_name(name.substr(blank + 1))
                                         ->check(Common::CheckValue);
-        return syntax.several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false)
-                              : option;
+        return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false) : option;
     }
     CLI::Option* const option =
         app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));
-    return syntax.several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
+    return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
 }
 
 /// In a shell the camera is open already.
 bool Takes(const Syntax& syntax, bool inShell) {
-    return !inShell || (syntax.parameter != Parameter::Camera && syntax.parameter != Parameter::NoControl);
+    constexpr Parameter ofOpening[] = {Parameter::Camera, Parameter::NoControl, Parameter::OneByOne};
+    return !inShell || std::find(std::begin(ofOpening), std::end(ofOpening), syntax.parameter) == std::end(ofOpening);
 }
 
 Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
     Filled filled{app.add_subcommand(command.name, command.about)->group("Commands"), &command, {}};
     for (const Syntax& syntax : command.syntax) {
         if (Takes(syntax, inShell)) {
-            filled.options.emplace_back(syntax.parameter, AddParameter(*filled.app, syntax, inShell));
+            // Cameras before names arrive as names: the first of two such operands would take all.
+            const bool several =
+                syntax.several && (syntax.parameter != Parameter::Camera || command.Find(Parameter::Names) == nullptr);
+            filled.options.emplace_back(syntax.parameter, AddParameter(*filled.app, syntax, several, inShell));
         }
     }
     return filled;
@@ -107,6 +112,40 @@ void RequireCamera(const ParsedCommandLine& line) {
     const std::string& text = camera->second.front();
     if (IsFunction(text) || text.find('=') != std::string::npos) {
         throw UsageError("CAMERA is required before \"" + text + '"' + UsageOf(*line.command, false));
+    }
+}
+
+/// Tells the cameras among the operands from the functions.
+/// @throws UsageError if an operand is neither, a camera is given twice, or several share a state file
+void SortCameras(ParsedCommandLine& line) {
+    auto& cameras = line.given[Parameter::Camera];
+    if (const Syntax* const syntax = line.command->Find(Parameter::Names)) {
+        auto& names = line.given[Parameter::Names];
+        const auto others = std::stable_partition(names.begin(), names.end(), IsCamera);
+        cameras.insert(cameras.end(), names.begin(), others);
+        names.erase(names.begin(), others);
+        if (names.empty() && IsRequired(*syntax, false)) {
+            throw UsageError("NAME is required" + UsageOf(*line.command, false));
+        }
+    }
+    if (cameras.size() < 2) {
+        return; // opening it reports what is wrong
+    }
+    std::vector<CameraName> known;
+    for (const std::string& camera : cameras) {
+        if (!IsCamera(camera) && camera != cameras.front()) {
+            throw UsageError("unexpected argument \"" + camera + '"');
+        }
+        known.push_back(ParseCameraName(camera));
+        if (std::count(known.begin(), known.end(), known.back()) > 1) {
+            throw UsageError("camera \"" + camera + "\" is given twice");
+        }
+    }
+    if (line.given.contains(Parameter::Network)) {
+        throw UsageError("--network would give each camera the same address; give one camera, or no --network");
+    }
+    if (!line.options.camera.simulation.state.empty()) {
+        throw UsageError("--state FILE keeps one camera; give one, or no --state");
     }
 }
 
@@ -228,6 +267,9 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
         throw UsageError(Describe(app, error, line.command == nullptr ? "" : UsageOf(*line.command, inShell)));
     }
     TakeGiven(commands, line);
+    if (line.command != nullptr && line.command->TakesCameras() && !inShell) {
+        SortCameras(line);
+    }
     if (help->parsed()) {
         PrintHelp(app, helped);
     }

@@ -1,9 +1,13 @@
 #include "Host/CommandLine.h"
+#include "Host/EachCamera.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Logging.h"
+#include "Host/Settings/SettingsFile.h"
 
 #include <clocale>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
 
 namespace Host {
 
@@ -17,11 +21,7 @@ void SetLocale() {
     }
 }
 
-int Run(std::vector<std::string> arguments) {
-    const ParsedCommandLine line = ParseCommandLine(std::move(arguments));
-    if (line.command == nullptr) {
-        return Common::FlushResults("qdv12host", Success, Refused);
-    }
+int RunCommand(const ParsedCommandLine& line) {
     ConfigureLogging(line.options.logLevel, line.options.logConfig);
     const int failed = line.command->failed;
     Program program(line.options);
@@ -33,6 +33,38 @@ int Run(std::vector<std::string> arguments) {
     };
     const int end = RunAndReport(finish, failed);
     return Common::FlushResults("qdv12host", end == Success ? code : end, failed);
+}
+
+/// Whether it is a pipe or the like, and not a file.
+bool CanBeReadOnce(const std::string& file) {
+    std::error_code ignored; // reading it reports the error
+    return file == standardStream ||
+           (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored));
+}
+
+int RunOnEach(ParsedCommandLine line) {
+    EachCamera each{.cameras = line.given[Parameter::Camera],
+                    .oneByOne = line.given.contains(Parameter::OneByOne),
+                    .json = line.options.json};
+    if (const auto file = line.given.find(Parameter::File);
+        file != line.given.end() && CanBeReadOnce(file->second.front())) {
+        each.input = ReadSettingsText(file->second.front());
+        file->second = {standardStream};
+    }
+    const auto run = [&](const std::string& camera) {
+        line.given[Parameter::Camera] = {camera};
+        return RunAndReport([&] { return RunCommand(line); });
+    };
+    return Common::FlushResults("qdv12host", each.Run(run), line.command->failed);
+}
+
+int Run(std::vector<std::string> arguments) {
+    const ParsedCommandLine line = ParseCommandLine(std::move(arguments));
+    if (line.command == nullptr) {
+        return Common::FlushResults("qdv12host", Success, Refused);
+    }
+    const auto cameras = line.given.find(Parameter::Camera);
+    return cameras != line.given.end() && cameras->second.size() > 1 ? RunOnEach(line) : RunCommand(line);
 }
 
 } // namespace

@@ -6,6 +6,9 @@ const std::vector<Command>& Commands() {
     static const Syntax camera{Parameter::Camera, "CAMERA",
                                "A model (simulated); or on the network gige:ADDRESS, gige:HOST, serial:NUMBER, "
                                "mac:ADDRESS, name:NAME"};
+    static const Syntax cameras{camera.parameter, camera.name, camera.about, Required::Always, true};
+    static const Syntax oneByOne{Parameter::OneByOne, "--one-by-one",
+                                 "Of several cameras, begin with each when the last one is done"};
     static const Syntax names{Parameter::Names, "NAME", "Functions, named as in list; without an index, all instances",
                               Required::Always, true};
     static const Syntax listed{Parameter::Names, "NAME", "Functions to list, without an index all instances",
@@ -48,17 +51,17 @@ const std::vector<Command>& Commands() {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
         {"models",   "List the models that the plug-in serves",                        {},                              Models},
         {"discover", "List the GigE Vision cameras on the network",                    {},                              Discover},
-        {"info",     "Show the identity and the address of a camera",                  {camera, noControl},             Info},
+        {"info",     "Show the identity and the address of a camera",                  {cameras, noControl, oneByOne}, Info},
         {"list",     "List the functions of a camera: all, some, or those of a topic", {camera, listed, topic, all, noControl}, List},
-        {"get",      "Print the values of functions",                                  {camera, names, noControl},      Get},
+        {"get",      "Print the values of functions",                                  {cameras, names, noControl, oneByOne}, Get},
         {"set",      "Set functions, such as gain=100 exposure=1:2000",                {camera, assignments},           Set},
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if they cannot be compared",
                                                                             {first, second, noControl},      Diff, true, NotCompared},
-        {"restore",  "Restore saved settings",                                         {read, camera, outputs, network, dryRun}, Restore},
+        {"restore",  "Restore saved settings",                                         {read, cameras, outputs, network, dryRun, oneByOne}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, later, seconds, noControl}, Watch},
-        {"selftest", "Test every function that can be set, then restore all settings", {camera, outputs},               Selftest},
+        {"selftest", "Test every function that can be set, then restore all settings", {cameras, outputs, oneByOne}, Selftest},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},
     };
     // clang-format on

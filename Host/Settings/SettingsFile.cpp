@@ -22,29 +22,10 @@ constexpr const char* missingMember = "missing";
     throw UsageError(DescribeFile(file) + ": " + why);
 }
 
-std::string Content(const std::string& file) {
-    std::string content;
-    if (file == standardStream) {
-        std::ostringstream input;
-        input << std::cin.rdbuf();
-        content = input.str();
-    } else {
-        try {
-            content = Common::ReadFile(file);
-        } catch (const std::system_error& error) {
-            Fail(file, error.code().message());
-        }
-    }
-    if (content.empty()) {
-        Fail(file, "empty file");
-    }
-    return content;
-}
-
 Json Parse(const std::string& file) {
     Json document;
     try {
-        document = Json::Parse(Content(file));
+        document = Json::Parse(ReadSettingsText(file));
     } catch (const UsageError&) {
         throw;
     } catch (const std::exception& error) {
@@ -151,6 +132,25 @@ Json ToJson(const Settings& settings) {
 }
 
 } // namespace
+
+std::string ReadSettingsText(const std::string& file) {
+    std::string content;
+    if (file == standardStream) {
+        std::ostringstream input;
+        input << std::cin.rdbuf();
+        content = input.str();
+    } else {
+        try {
+            content = Common::ReadFile(file);
+        } catch (const std::system_error& error) {
+            Fail(file, error.code().message());
+        }
+    }
+    if (content.empty()) {
+        Fail(file, "empty file");
+    }
+    return content;
+}
 
 Settings ReadSettings(const std::string& file, bool inShell) {
     if (file == standardStream && inShell) {

@@ -11,6 +11,10 @@ namespace Host {
 /// @throws UsageError for an invalid file name; std::runtime_error if writing fails
 void WriteSettings(const Settings& settings, const std::string& file);
 
+/// The content of a file with settings, or of standard input.
+/// @throws UsageError if it cannot be read, or is empty
+[[nodiscard]] std::string ReadSettingsText(const std::string& file);
+
 /// @param inShell whether standard input holds the commands of a shell
 /// @throws UsageError if the file cannot be read, is damaged or not a settings file, or has another format version
 [[nodiscard]] Settings ReadSettings(const std::string& file, bool inShell);
