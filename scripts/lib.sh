@@ -5,9 +5,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit
 jobs=$(nproc)
 
-# Debian 12 packages: for the build, and additionally for tests, sanitizers, static analysis and benchmarks. clang-14
-# does not depend on the sanitizers' run-time libraries or on llvm-symbolizer, without which leaks have no names and
-# suppressions do not match. The pkg-config file of Aravis requires libusb.
+# Debian 12 packages: for the build, and additionally for tests, sanitizers, static analysis, benchmarks and
+# cross-compilation. clang-14 does not depend on the sanitizers' run-time libraries or on llvm-symbolizer, without which
+# leaks have no names and suppressions do not match. The pkg-config file of Aravis requires libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
     nlohmann-json3-dev libedit-dev libpng-dev libzip-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev
     binutils help2man dpkg-dev file)
@@ -16,6 +16,10 @@ test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-format-14 clang-tidy-14 cppcheck shellcheck)
 bench_packages=(libbenchmark-dev gnuplot-nox aravis-tools)
+arm64_packages=(g++-aarch64-linux-gnu qemu-user)
+# For arm64 itself: what tests link, with the libraries that this requires when it runs.
+arm64_sysroot_packages=(liblog4cxx-dev liblog4cxx15 libapr1-dev libapr1 libaprutil1-dev libaprutil1 libexpat1 libuuid1
+    libcrypt1 libgtest-dev libgmock-dev)
 
 say() { printf '\n== %s\n' "$*"; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
@@ -51,6 +55,9 @@ build() {
     cmake --preset "$preset"
     cmake --build --preset "$preset" --parallel "$jobs" "${targets[@]}"
 }
+
+# Shows failures and the summary of ctest. The rest is in the log.
+digest() { grep --line-buffered -v -e '^ *Start ' -e ' Passed  *[0-9.]* sec$' || true; }
 
 # The leak check uses ptrace. In containers that forbid it, every test would fail without saying why. So it is tried
 # once on a program without leaks. If that fails, the summary contains $leaks_unchecked.
