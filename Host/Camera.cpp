@@ -80,6 +80,14 @@ std::vector<Instance> Camera::All(bool oneByOne) const {
 
 std::vector<Instance> Camera::Find(std::string_view name) const { return FindIn(*functions, name); }
 
+std::vector<Instance> Camera::FindReadable(std::string_view name) const {
+    auto found = Find(name);
+    if (found.front()->get == nullptr) {
+        throw UsageError("\"" + std::string(name) + "\" is write-only");
+    }
+    return found;
+}
+
 Instance Camera::FindOne(std::string_view name) const {
     const auto found = Find(name);
     if (found.size() > 1) {

@@ -52,6 +52,9 @@ public:
 
     /// As FindIn its table.
     [[nodiscard]] std::vector<Instance> Find(std::string_view name) const;
+    /// The same, of a function with a getter.
+    /// @throws UsageError also for a write-only function
+    [[nodiscard]] std::vector<Instance> FindReadable(std::string_view name) const;
     /// The one function of that name.
     /// @throws UsageError for an unknown name or a missing index
     [[nodiscard]] Instance FindOne(std::string_view name) const;

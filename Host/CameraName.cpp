@@ -76,7 +76,7 @@ std::string Resolve(const std::string& host) {
     wanted.ai_socktype = SOCK_DGRAM;
     addrinfo* first = nullptr;
     if (const int error = getaddrinfo(host.c_str(), nullptr, &wanted, &first); error != 0) {
-        throw OpenError("the host \"" + host + "\" has no IPv4 address: " + gai_strerror(error));
+        throw CameraUnavailable("the host \"" + host + "\" has no IPv4 address: " + gai_strerror(error));
     }
     char address[INET_ADDRSTRLEN];
     getnameinfo(first->ai_addr, first->ai_addrlen, address, sizeof address, nullptr, 0, NI_NUMERICHOST);
@@ -120,7 +120,7 @@ std::string FindAddress(const CameraName& name) {
     std::erase_if(found, [&](const FoundCamera& camera) { return camera.*prefix->found != name.text; });
     const std::string wanted = std::string(prefix->what) + " \"" + Common::Escaped(name.text) + '"';
     if (found.empty()) {
-        throw OpenError("no camera with " + wanted + " was found; qdv12host discover lists the cameras");
+        throw CameraUnavailable("no camera with " + wanted + " was found; qdv12host discover lists the cameras");
     }
     if (found.size() > 1) {
         std::vector<std::string> candidates(found.size());

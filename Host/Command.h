@@ -20,6 +20,8 @@ enum class Parameter {
     Every,
     File,
     First,
+    Interval,
+    KeepTrying,
     Names,
     Network,
     NoControl,

@@ -12,4 +12,14 @@ struct OpenError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// A camera on the network cannot be opened now, but perhaps later.
+struct CameraUnavailable : OpenError {
+    using OpenError::OpenError;
+};
+
+/// Another program controls it.
+struct CameraControlled : CameraUnavailable {
+    using CameraUnavailable::CameraUnavailable;
+};
+
 } // namespace Host

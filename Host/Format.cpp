@@ -24,6 +24,11 @@ std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(wo
 
 } // namespace
 
+std::string PrintSeconds(std::chrono::milliseconds time) {
+    const auto tenths = time.count() / 100;
+    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+}
+
 std::string Pad(std::string text, std::size_t width) {
     const std::size_t taken = Common::Width(text);
     return text.append(taken < width ? width - taken : 0, ' ');

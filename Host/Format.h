@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -9,6 +10,9 @@ namespace Host {
 
 /// What went over the port: a text in quotes where the bytes are one, else their words.
 [[nodiscard]] std::string FormatBytes(std::span<const std::uint8_t> bytes);
+
+/// "12.3 s"
+[[nodiscard]] std::string PrintSeconds(std::chrono::milliseconds time);
 
 /// An escaped text, filled up with blanks to the width, in columns of a terminal.
 [[nodiscard]] std::string Pad(std::string text, std::size_t width);

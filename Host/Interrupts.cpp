@@ -1,6 +1,7 @@
 #include "Host/Interrupts.h"
 
-#include <ctime>
+#include <algorithm>
+#include <thread>
 
 namespace Host {
 
@@ -45,9 +46,9 @@ bool Interrupts::Received() { return received != 0; }
 bool Interrupts::ReceivedTermination() { return Received() && received != SIGINT; }
 
 void Interrupts::Sleep(std::chrono::milliseconds time) {
-    if (!Received()) {
-        const timespec pause{time.count() / 1000, time.count() % 1000 * 1000000};
-        nanosleep(&pause, nullptr);
+    constexpr std::chrono::milliseconds most{50}; // a signal may come just before each sleep
+    for (; time.count() > 0 && !Received(); time -= most) {
+        std::this_thread::sleep_for(std::min(time, most));
     }
 }
 

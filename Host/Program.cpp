@@ -23,6 +23,8 @@ Session& Program::Open(const std::string& camera) {
     return *session;
 }
 
+void Program::Close() { session.reset(); }
+
 void Program::ReportController() {
     if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {
         PrintError(denial + "; values that need control were not read");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Interrupts.h"
 #include "Host/Session.h"
 
 #include <cstdint>
@@ -36,6 +37,10 @@ public:
     [[nodiscard]] Session& Open(const std::string& camera);
     [[nodiscard]] bool IsOpen() const { return session.has_value(); }
     [[nodiscard]] bool IsOpen(const std::string& camera) const { return IsOpen() && camera == opened; }
+    /// Closes the camera, which the next Open opens again.
+    void Close();
+    /// Records signals from now on until the camera is closed at the end, for a command that asks for them.
+    void RecordSignals() { signals.emplace(); }
     /// After a command: reports on standard error why there is no control, if something was not read without it.
     void ReportController();
     /// Saves the camera to the state file, if there is one.
@@ -47,7 +52,8 @@ public:
 
 private:
     Host::Options options;
-    std::optional<Plugin> plugin; // before the session, which needs it until its end
+    std::optional<Interrupts> signals; // before the session, which gives control back at its end
+    std::optional<Plugin> plugin;      // before the session, which needs it until its end
     std::optional<Session> session;
     std::string opened; ///< the camera of the session, as given
     bool finished = false;

@@ -26,7 +26,7 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
     try {
         read = connection.ModelName();
     } catch (const ChannelError& error) {
-        throw OpenError("the model of " + connection.Describe() + " could not be read: " + error.what());
+        throw CameraUnavailable("the model of " + connection.Describe() + " could not be read: " + error.what());
     }
     if (plugin.Serves(read)) {
         return read;

@@ -25,7 +25,7 @@ public:
     void RequireControl() override {
         port.TryToTakeControl();
         if (!port.HasControl()) {
-            throw OpenError(port.DescribeController());
+            throw CameraControlled(port.DescribeController());
         }
     }
     [[nodiscard]] std::string TakeDenial() override { return port.TakeDenied() ? port.DescribeController() : ""; }

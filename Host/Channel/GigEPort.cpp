@@ -1,7 +1,6 @@
 #include "Host/Channel/GigEPort.h"
 
 #include "Common/Bootstrap.h"
-#include "Common/Ipv4.h"
 #include "Host/Channel/AravisErrors.h"
 #include "Host/Channel/Busy.h"
 #include "Host/Channel/ChannelErrors.h"
@@ -60,8 +59,8 @@ ArvDevice* Open(const std::string& address) {
         const bool mayBeBusy = error && (Is(*error, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY) ||
                                          Is(*error, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND));
         if (attempt == busyAttempts || !mayBeBusy) {
-            throw OpenError("the camera at " + address +
-                            " could not be opened: " + (error ? Reason(*error) : "unknown error"));
+            throw CameraUnavailable("the camera at " + address +
+                                    " could not be opened: " + (error ? Reason(*error) : "unknown error"));
         }
         std::this_thread::sleep_for(busyPause);
     }
@@ -72,8 +71,9 @@ ArvDevice* Open(const std::string& address) {
 void GigEPort::Release::operator()(_ArvDevice* opened) const { g_object_unref(opened); }
 
 GigEPort::GigEPort(const std::string& address) : ChannelPort(address, largestTransfer), device(Open(address)) {
-    g_signal_connect(device.get(), "control-lost",
-                     G_CALLBACK(+[](ArvDevice*, std::atomic<bool>* flag) { *flag = true; }), &controlLost);
+    g_signal_connect_data(
+        device.get(), "control-lost", G_CALLBACK(+[](ArvDevice*, Flag* flag) { **flag = true; }), new Flag(controlLost),
+        [](void* flag, GClosure*) { delete static_cast<Flag*>(flag); }, GConnectFlags());
     controls = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
     controller = ReadController();
     TryToTakeControl(); // Aravis tried only once, and the camera may have been busy
@@ -86,6 +86,9 @@ GigEPort::~GigEPort() {
         static_cast<void>(Try(
             [&](GError** error) { return arv_gv_device_leave_control(ARV_GV_DEVICE(device.get()), error) != FALSE; }));
     }
+    if (lost == Lost::Silent) { // Aravis asks for seconds before it closes it, for which nobody has to wait
+        std::thread([left = device.release()] { g_object_unref(left); }).detach();
+    }
 }
 
 void GigEPort::TryToTakeControl() {
@@ -95,12 +98,6 @@ void GigEPort::TryToTakeControl() {
                    }) == nullptr;
         controller = ReadController();
     }
-}
-
-std::string GigEPort::DescribeController() const {
-    const std::string where =
-        Common::PrintAddress(controller.address) + ":" + std::to_string(controller.port & 0xFFFFU);
-    return Name() + " is controlled by another program" + (controller.address == 0 ? "" : " at " + where);
 }
 
 void GigEPort::RequireUnbrokenControl() {
@@ -133,7 +130,7 @@ void GigEPort::Fail(const Operation& operation, const GError& error) {
 }
 
 void GigEPort::Access(const Operation& operation, const std::function<bool(GError**)>& access) {
-    if (controlLost && lost == Lost::No) {
+    if (*controlLost && lost == Lost::No) {
         lost = Lost::Control;
     }
     if (lost != Lost::No) {
@@ -171,7 +168,7 @@ std::uint32_t GigEPort::ReadOptional(std::uint32_t address) {
     return error ? 0 : value;
 }
 
-GigEPort::Controller GigEPort::ReadController() {
+Controller GigEPort::ReadController() {
     return {ReadOptional(controlChannelPrivilege), ReadOptional(primaryApplicationAddress),
             ReadOptional(primaryApplicationPort)};
 }

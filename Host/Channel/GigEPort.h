@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Channel/Availability.h"
 #include "Host/Channel/ChannelPort.h"
 
 #include <atomic>
@@ -36,9 +37,7 @@ public:
     [[nodiscard]] bool HasControl() const { return controls; }
     /// Takes control, if no other program has it now.
     void TryToTakeControl();
-    /// "the camera at 192.168.1.10 is controlled by another program at 192.168.1.2:4711", without the address of the
-    /// program if the camera does not report it.
-    [[nodiscard]] std::string DescribeController() const;
+    [[nodiscard]] std::string DescribeController() const { return Host::DescribeController(Name(), controller); }
     /// Whether a write failed for lack of control since the last call.
     [[nodiscard]] bool TakeDenied() { return std::exchange(denied, false); }
     /// @throws ChannelLost if this program has lost control; reported only once
@@ -46,14 +45,6 @@ public:
 
 private:
     enum class Lost { No, Silent, Control, Ending };
-    /// The controlling application, as the camera reports it.
-    struct Controller {
-        std::uint32_t privilege = 0;
-        std::uint32_t address = 0;
-        std::uint32_t port = 0;
-
-        bool operator==(const Controller&) const = default;
-    };
     struct Release {
         void operator()(_ArvDevice* opened) const;
     };
@@ -74,7 +65,9 @@ private:
     /// Whether the camera reports a different controller, or does not answer.
     [[nodiscard]] bool IsLost();
 
-    std::atomic<bool> controlLost = false; ///< set by the heartbeat thread, which ends with the device
+    using Flag = std::shared_ptr<std::atomic<bool>>;
+
+    Flag controlLost = std::make_shared<std::atomic<bool>>(false); ///< set by the heartbeat thread of the device
     std::unique_ptr<_ArvDevice, Release> device;
     bool controls = false;
     bool denied = false;

@@ -26,7 +26,7 @@ std::string FaultOf(const MaybeAnswer& answer) {
 ReadOnlyPort::ReadOnlyPort(const std::string& address) : ChannelPort(address, Gvcp::largestMemory), requests(address) {
     const auto probe = [&] { return requests.ReadRegister(Common::Bootstrap::controlChannelPrivilege); };
     if (const std::string fault = FaultOf(RetryWhileBusy(probe, IsBusy)); !fault.empty()) {
-        throw OpenError(Name() + " could not be opened: " + fault);
+        throw CameraUnavailable(Name() + " could not be opened: " + fault);
     }
 }
 

@@ -17,7 +17,7 @@ class ReadOnlyPort final : public ChannelPort {
 public:
     /// Reads one register, to find out whether the camera answers.
     /// @param address an IPv4 address
-    /// @throws OpenError
+    /// @throws CameraUnavailable
     explicit ReadOnlyPort(const std::string& address);
 
     /// Why a write fails.

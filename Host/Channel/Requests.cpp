@@ -22,7 +22,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds timeout{300}; ///< to wait for an answer
-constexpr int attempts = 6;                       ///< requests sent before giving up
 
 } // namespace
 
@@ -48,7 +47,9 @@ std::string DescribeStatus(Gvcp::Status status) {
     }
 }
 
-Requests::Requests(const std::string& address) : handle(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+Requests::Requests(const std::string& address, int tries)
+    : handle(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)),
+      attempts(tries) {
     sockaddr_in peer{};
     peer.sin_family = AF_INET;
     peer.sin_port = htons(Gvcp::port);
@@ -56,7 +57,7 @@ Requests::Requests(const std::string& address) : handle(socket(AF_INET, SOCK_DGR
     if (connect(handle, reinterpret_cast<const sockaddr*>(&peer), sizeof peer) != 0) {
         const std::string why = std::strerror(errno);
         close(handle);
-        throw OpenError("cannot reach " + address + ": " + why);
+        throw CameraUnavailable("cannot reach " + address + ": " + why);
     }
 }
 

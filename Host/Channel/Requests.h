@@ -19,8 +19,9 @@ class Requests {
 public:
     /// Sends nothing.
     /// @param address an IPv4 address
-    /// @throws OpenError if it cannot be reached
-    explicit Requests(const std::string& address);
+    /// @param tries how often a request is sent before giving up
+    /// @throws CameraUnavailable if it cannot be reached
+    explicit Requests(const std::string& address, int tries = 6);
     ~Requests();
     Requests(const Requests&) = delete;
     Requests& operator=(const Requests&) = delete;
@@ -42,6 +43,7 @@ private:
     [[nodiscard]] Common::Gvcp::Bytes Receive(std::chrono::milliseconds patience) const;
 
     int handle;
+    int attempts;
     std::uint16_t lastId = 0;
 };
 

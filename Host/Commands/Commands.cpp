@@ -18,9 +18,14 @@ const std::vector<Command>& Commands() {
                               true};
     static const Syntax assignments{Parameter::Assignments, "NAME=VALUE", "Values to set, in this order",
                                     Required::Always, true};
-    static const Syntax later{Parameter::Assignments, "NAME=VALUE", "Values to set once watching has started",
-                              Required::Never, true};
+    static const Syntax watched{Parameter::Names, "NAME[=VALUE]",
+                                "Functions to watch (default: all), and values to set once watching has started",
+                                Required::Never, true};
     static const Syntax seconds{Parameter::Seconds, "--seconds N", "End after N seconds"};
+    static const Syntax interval{Parameter::Interval, "--interval S", "Read every S seconds (default: 0.1)"};
+    static const Syntax keepTrying{Parameter::KeepTrying, "--keep-trying",
+                                   "Wait for a camera on the network that is lost, cannot be opened, or is controlled "
+                                   "by another program"};
     static const Syntax plugin{Parameter::Plugin, "PLUGIN", "The plug-in (default: that of --plugin)", Required::Never};
     static const Syntax all{Parameter::All, "--all", "List every instance of functions with many"};
     static const Syntax written{Parameter::File, "FILE", "A file for the settings; - is standard output"};
@@ -60,7 +65,7 @@ const std::vector<Command>& Commands() {
                                                                             {first, second, noControl},      Diff, true, NotCompared},
         {"restore",  "Restore saved settings",                                         {read, cameras, outputs, network, dryRun, oneByOne}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
-        {"watch",    "Print changes until interrupted",                                {camera, later, seconds, noControl}, Watch},
+        {"watch",    "Print changes until interrupted",                                {camera, watched, seconds, interval, keepTrying, noControl}, Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {cameras, outputs, oneByOne}, Selftest},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},
     };

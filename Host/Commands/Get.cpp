@@ -8,10 +8,7 @@ int Get(const Invocation& invocation) {
     const Camera camera = invocation.OpenCamera();
     std::vector<Instance> wanted;
     for (const std::string& name : invocation.Texts(Parameter::Names)) {
-        const auto found = camera.Find(name);
-        if (found.front()->get == nullptr) {
-            throw UsageError("\"" + name + "\" is write-only");
-        }
+        const auto found = camera.FindReadable(name);
         wanted.insert(wanted.end(), found.begin(), found.end());
     }
     Output output = invocation.Output();

@@ -5,10 +5,16 @@
 #include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Format.h"
+#include "Host/Functions/Tables.h"
 #include "Host/Interrupts.h"
+#include "Host/KeepTrying.h"
 #include "Host/Settings/UncachedCamera.h"
 
+#include <algorithm>
+#include <ctime>
 #include <iostream>
+#include <iterator>
+#include <utility>
 
 namespace Host {
 
@@ -17,30 +23,44 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr milliseconds period{100}; ///< between two polls
+/// Local time, "2026-03-01T14:03:22.123+01:00".
+std::string TimeOfDay() {
+    const auto now = std::chrono::system_clock::now();
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
+    const auto fraction = std::chrono::duration_cast<milliseconds>(now.time_since_epoch()).count() % 1000;
+    std::tm parts{};
+    localtime_r(&seconds, &parts);
+    char date[24];
+    char zone[8];
+    std::strftime(date, sizeof date, "%Y-%m-%dT%H:%M:%S", &parts);
+    std::strftime(zone, sizeof zone, "%z", &parts); // +0100
+    return date + ("." + std::to_string(1000 + fraction).substr(1)) + std::string(zone).insert(3, ":");
+}
 
-/// Prints changes with the time since the start.
+/// Prints what happens, with its time.
 class Changes {
 public:
     explicit Changes(bool asJson) : json(asJson) {}
 
-    /// @param what the function or the property
-    /// @param source "camera" for a change found by polling, "callback" for one reported by the control
+    /// @param what the function, the property or the camera
+    /// @param source "first" for the first value, "camera" for a change found by polling, "callback" for one reported
+    /// by
+    ///        the control, "waiting" and "back" for the camera itself
     /// @param text for people
     /// @param members for programs
     void Print(const std::string& what, const char* source, const std::string& text,
                const Json::Object& members) const {
-        const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
+        const std::string now = TimeOfDay();
         if (json) {
-            Json line{{"milliseconds", std::int64_t{time}}, {"name", what}, {"source", source}};
+            const auto time = std::chrono::duration_cast<milliseconds>(Clock::now() - start).count();
+            Json line{{"time", now}, {"milliseconds", std::int64_t{time}}, {"name", what}, {"source", source}};
             for (const auto& [name, value] : members) {
                 line.Add(name, value);
             }
             std::cout << line.PrintInOneLine();
         } else {
-            const std::string fraction = std::to_string(1000 + time % 1000).substr(1);
-            std::cout << Pad(std::to_string(time / 1000) + "." + fraction + " s", 12) << Pad(source, 10)
-                      << Pad(what, 24) << text;
+            const std::string untilSeconds = now.substr(0, now.find('T')) + ' ' + now.substr(now.find('T') + 1, 12);
+            std::cout << Pad(untilSeconds, 25) << Pad(source, 10) << Pad(what, 24) << text;
         }
         std::cout << std::endl; // a reader waits for each change
     }
@@ -98,21 +118,38 @@ private:
 /// The functions that are polled, with their last values.
 class WatchedFunctions {
 public:
-    explicit WatchedFunctions(const Camera& reading) : reader(reading) {
-        for (const Instance& instance : reader.All()) {
-            if (instance->get != nullptr && instance->count <= fewInstances) {
-                last.push_back({instance, Read(instance)});
-            }
+    /// Those named, or all but those with many instances.
+    /// @throws UsageError for a function that cannot be watched
+    WatchedFunctions(const Camera& camera, const std::vector<std::string>& names) : areNamed(!names.empty()) {
+        for (const std::string& name : names) {
+            const auto found = camera.FindReadable(name);
+            std::copy_if(found.begin(), found.end(), std::back_inserter(watched), [&](const Instance& instance) {
+                return std::find(watched.begin(), watched.end(), instance) == watched.end();
+            });
         }
+        if (!areNamed) {
+            watched = camera.All();
+            std::erase_if(watched, [](const Instance& instance) {
+                return instance->get == nullptr || instance->count > fewInstances;
+            });
+        }
+        last.resize(watched.size());
     }
 
-    void Poll(const Changes& changes) {
-        for (auto& [instance, before] : last) {
-            if (Held now = Read(instance); now.text != before.text) {
-                changes.Print(instance.Name(), "camera", before.text + " -> " + now.text,
-                              {{"before", before.json}, {"value", now.json}});
-                before = std::move(now);
+    /// Prints what changed, and the first values of functions that were named.
+    void Poll(const Camera& reader, const Changes& changes) {
+        for (std::size_t i = 0; i < watched.size(); ++i) {
+            const bool isShownFirst = areNamed && !last[i];
+            Held now = Read(reader, watched[i], isShownFirst);
+            if (isShownFirst) {
+                changes.Print(watched[i].Name(), "first",
+                              now.text + (now.lockedBy.empty() ? "" : " (locked by " + now.lockedBy + ")"),
+                              {{"value", now.json}, {"lockedBy", now.lockedBy.empty() ? Json() : Json(now.lockedBy)}});
+            } else if (last[i] && now.text != last[i]->text) {
+                changes.Print(watched[i].Name(), "camera", last[i]->text + " -> " + now.text,
+                              {{"before", last[i]->json}, {"value", now.json}});
             }
+            last[i] = std::move(now);
         }
     }
 
@@ -120,70 +157,132 @@ private:
     struct Held {
         std::string text;
         Json json; ///< null if it could not be read
+        std::string lockedBy;
     };
 
-    [[nodiscard]] Held Read(const Instance& instance) const {
-        const Reading reading = reader.TryRead(instance);
+    [[nodiscard]] static Held Read(const Camera& reader, const Instance& instance, bool andItsLock) {
+        const Reading reading = andItsLock ? reader.Inspect(instance) : reader.TryRead(instance);
         if (reading.code != 0) {
-            return {"(" + reading.reason + ")", {}};
+            return {"(" + reading.reason + ")", {}, ""};
         }
-        return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value)};
+        return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value), reading.lockedBy};
     }
 
-    const Camera& reader;
-    std::vector<std::pair<Instance, Held>> last;
+    bool areNamed;
+    std::vector<Instance> watched;
+    std::vector<std::optional<Held>> last; ///< of each; nothing before it was read
 };
 
-/// @return the value of --seconds, if given
-std::optional<milliseconds> DurationOf(const Invocation& invocation) {
-    const std::string text = invocation.Text(Parameter::Seconds);
+/// @return the value of an option in seconds, if given
+/// @throws UsageError unless it is a number from the smallest on
+std::optional<milliseconds> SecondsOf(const Invocation& invocation, Parameter parameter, double smallest) {
+    const std::string text = invocation.Text(parameter);
     if (text.empty()) {
         return std::nullopt;
     }
     const auto seconds = Common::ParseWhole<double>(text);
-    if (!seconds || !(*seconds >= 0) || *seconds > 1e9) {
-        throw UsageError("invalid number of seconds \"" + text + '"');
+    if (!seconds || !(*seconds >= smallest) || *seconds > 1e9) {
+        throw UsageError("invalid number of seconds \"" + text + '"' + (smallest > 0 ? ", at least 0.001" : ""));
     }
     return milliseconds(static_cast<std::int64_t>(*seconds * 1000));
 }
 
-} // namespace
+/// One run of the command, which may need several sessions.
+class Watching {
+public:
+    explicit Watching(const Invocation& command)
+        : invocation(command),
+          duration(SecondsOf(command, Parameter::Seconds, 0)),
+          interval(SecondsOf(command, Parameter::Interval, 0.001).value_or(milliseconds(100))),
+          changes(command.Program().Json()),
+          end(EndFromNow()) {
+        for (const std::string& text : invocation.Texts(Parameter::Names)) {
+            (text.find('=') != std::string::npos || IsTrigger(text) ? toSet : names).push_back(text);
+        }
+        if (invocation.Has(Parameter::NoControl) && !toSet.empty()) {
+            throw UsageError("setting needs control: leave out " + toSet.front() + " or --no-control");
+        }
+    }
 
-int Watch(const Invocation& invocation) {
-    const auto duration = DurationOf(invocation);
-    if (invocation.Has(Parameter::NoControl) && invocation.Has(Parameter::Assignments)) {
-        throw UsageError("setting needs control: leave out NAME=VALUE or --no-control");
+    /// @return the exit code
+    int Run() {
+        const std::string camera = invocation.Text(Parameter::Camera);
+        const auto waits = [&](const std::string& why) { changes.Print(camera, "waiting", why, {{"reason", why}}); };
+        const auto goesOn = [&](milliseconds gone) {
+            changes.Print(camera, "back", "after " + PrintSeconds(gone),
+                          {{"goneMilliseconds", std::int64_t{gone.count()}}});
+        };
+        const auto needsControl = [&] { return areSet < toSet.size(); };
+        KeepTrying attempts(invocation, {waits, goesOn, needsControl, [&] { return IsEnding(); }});
+        if (!attempts.Run([&](Session& session) { Watch(session); }) && !Interrupts::Received()) {
+            return isBegun ? Refused : NotOpened; // the time is over, and the camera away
+        }
+        return code;
     }
-    Session& session = invocation.Open();
-    const Camera camera = session.Camera();
-    if (invocation.Has(Parameter::Assignments)) {
-        session.Connection().RequireControl();
+
+private:
+    void Watch(Session& session) {
+        const Camera camera = session.Camera();
+        if (!watched) {
+            watched.emplace(camera, names);
+            assignments = ParseAssignments(camera, toSet);
+        }
+        const UncachedCamera reader(session);
+        const Interrupts interrupts;
+        if (areSet < assignments.size()) {
+            watched->Poll(reader.Camera(), changes);
+            SetValues(camera);
+        }
+        if (!std::exchange(isBegun, true)) {
+            end = EndFromNow();
+        }
+        auto next = Clock::now();
+        while (!IsEnding()) {
+            watched->Poll(reader.Camera(), changes);
+            next = std::max(next + interval, Clock::now());
+            Sleep(session.Connection(), duration ? std::min(next, end) : next);
+        }
+        watched->Poll(reader.Camera(), changes);
     }
-    const auto assignments = ParseAssignments(camera, invocation.Texts(Parameter::Assignments));
-    const UncachedCamera reader(session);
-    const Interrupts interrupts;
-    const Changes changes(invocation.Program().Json());
-    WatchedFunctions watched(reader.Camera());
-    int code = Success;
-    {
+
+    /// Sets those that are not set yet.
+    void SetValues(const Camera& camera) {
         const Listener listener(camera, changes);
-        for (const FunctionValue& assignment : assignments) {
-            const Outcome failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
+        for (; areSet < assignments.size(); ++areSet) {
+            const auto& [instance, value] = assignments[areSet];
+            const Outcome failure = Attempt([&] { camera.SetUnlessLocked(instance, value); });
             if (failure.code != 0) { // watching goes on
-                PrintError(assignment.instance.Name() + ": " + failure.reason);
+                PrintError(instance.Name() + ": " + failure.reason);
                 code = Refused;
             }
         }
     }
-    const auto end = Clock::now() + duration.value_or(milliseconds(0));
-    while (!Interrupts::Received() && (!duration || Clock::now() < end)) {
-        watched.Poll(changes);
+
+    static void Sleep(Connection& connection, Clock::time_point until) {
         const auto before = Clock::now();
-        Interrupts::Sleep(period);
-        session.Connection().TimePassed(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
+        Interrupts::Sleep(std::chrono::ceil<milliseconds>(until - before));
+        connection.TimePassed(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - before));
     }
-    watched.Poll(changes);
-    return code;
-}
+
+    [[nodiscard]] Clock::time_point EndFromNow() const { return Clock::now() + duration.value_or(milliseconds(0)); }
+    [[nodiscard]] bool IsEnding() const { return Interrupts::Received() || (duration && Clock::now() >= end); }
+
+    const Invocation& invocation;
+    std::optional<milliseconds> duration;
+    milliseconds interval;
+    Changes changes;
+    std::vector<std::string> names; ///< functions to watch; empty for all
+    std::vector<std::string> toSet;
+    Clock::time_point end; ///< first of waiting for the camera, then of watching
+    bool isBegun = false;
+    std::optional<WatchedFunctions> watched;
+    std::vector<FunctionValue> assignments;
+    std::size_t areSet = 0; ///< the assignments that were made
+    int code = Success;
+};
+
+} // namespace
+
+int Watch(const Invocation& invocation) { return Watching(invocation).Run(); }
 
 } // namespace Host

@@ -1,6 +1,7 @@
 #include "Host/Functions/Tables.h"
 
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
 
 namespace Host {
@@ -14,6 +15,12 @@ Functions Collect(bool ofM2VX, std::initializer_list<void (*)(FunctionTable&)> s
         addRows(table);
     }
     return functions;
+}
+
+/// Whether any family has such a function.
+bool HasAny(const std::function<bool(const Function&)>& isIt) {
+    return std::any_of(TableOf("Orvik")->begin(), TableOf("Orvik")->end(), isIt) ||
+           std::any_of(TableOf("M2VX")->begin(), TableOf("M2VX")->end(), isIt);
 }
 
 } // namespace
@@ -30,11 +37,11 @@ const Functions* TableOf(std::string_view classId) {
 
 bool IsFunction(std::string_view name) {
     const std::string_view row = name.substr(0, name.find('.'));
-    const auto has = [&](const char* family) {
-        const Functions& table = *TableOf(family);
-        return std::any_of(table.begin(), table.end(), [&](const Function& each) { return each.name == row; });
-    };
-    return has("Orvik") || has("M2VX");
+    return HasAny([&](const Function& each) { return each.name == row; });
+}
+
+bool IsTrigger(std::string_view name) {
+    return HasAny([&](const Function& each) { return each.name == name && each.trigger; });
 }
 
 } // namespace Host

@@ -11,6 +11,8 @@ namespace Host {
 
 /// Whether any family has a function of that name, with or without an index.
 [[nodiscard]] bool IsFunction(std::string_view name);
+/// Whether any family has a command without a value of that name.
+[[nodiscard]] bool IsTrigger(std::string_view name);
 
 // The rows, by subject. For both families, even if one does not implement a function, to show that.
 void AddIdentity(FunctionTable& table);

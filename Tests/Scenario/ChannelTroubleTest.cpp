@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <future>
+#include <optional>
 #include <regex>
 #include <thread>
 
@@ -158,6 +159,52 @@ TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
             ExpectLost("watch", [&] { return watch.Ending(); });
         }));
     }
+}
+
+TEST(ChannelTrouble, AWatchThatKeepsTryingGoesOnWhenTheCameraIsBack) {
+    Running watch(QDV12_HOST, {"watch", "gige:192.168.1.10", "gain", "gain=7", "--keep-trying"}, Running::both);
+    ASSERT_TRUE(watch.ReadUntil("no answer\n"));
+    std::optional<NetworkCamera> camera(std::in_place, "Orvik-710C");
+    ASSERT_TRUE(watch.ReadUntil("0 -> 7\n"));
+    camera.reset();
+    camera.emplace("Orvik-710C"); // which holds its defaults
+    ASSERT_TRUE(watch.ReadUntil(" was lost\n"));
+    ASSERT_TRUE(watch.ReadUntil("  back  ", watch.Read().size()));
+    camera.reset();
+    camera.emplace("Cerix-MV7");
+    EXPECT_EQ(watch.End(), 3);
+    const std::string time = "[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3}  ";
+    const std::string waiting = time + "waiting   gige:192\\.168\\.1\\.10       ";
+    const std::string back = time + "back      gige:192\\.168\\.1\\.10       after [0-9]+\\.[0-9] s\n";
+    const std::string lost =
+        "gain: ReadMem at 0x14010000 failed: control of the camera at 192\\.168\\.1\\.10 was lost\n";
+    ExpectMatch(watch.Read(),
+                waiting + "the camera at 192\\.168\\.1\\.10 could not be opened: no answer\n" + back + //
+                    time + "first     gain                    0\n" +                                   //
+                    time + "camera    gain                    0 -> 7\n" +                              //
+                    time + "camera    gain                    7 -> 0\n" +                              // not set again
+                    waiting + lost + back + waiting + lost +
+                    "qdv12host: the camera at 192\\.168\\.1\\.10 is now Cerix-MV7, it was Orvik-710C\n");
+}
+
+TEST(ChannelTrouble, AWatchThatKeepsTryingWaitsForControl) {
+    const NetworkCamera camera("Cerix-MV7");
+    std::optional<Host::GigEPort> other(std::in_place, "192.168.1.10");
+    Running watch(QDV12_HOST, {"watch", "gige:192.168.1.10", "gain", "gain=7", "--keep-trying", "--json"},
+                  Running::both);
+    ASSERT_TRUE(watch.ReadUntil("\"source\":\"waiting\",\"reason\":\"the camera at 192.168.1.10 is controlled by "
+                                "another program at 192.168.1.10:"));
+    other.reset();
+    ASSERT_TRUE(watch.ReadUntil("\"name\":\"gige:192.168.1.10\",\"source\":\"back\",\"goneMilliseconds\":"));
+    ASSERT_TRUE(watch.ReadUntil("\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":7}\n"));
+    watch.Signal(SIGINT);
+    EXPECT_EQ(watch.End(), 0);
+    EXPECT_TRUE(
+        std::regex_search(watch.Read(), std::regex("^\\{\"time\":\"[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9:]{8}\\.[0-9]{3}"
+                                                   "[+-][0-9]{2}:[0-9]{2}\",\"milliseconds\":[0-9]+,")))
+        << watch.Read();
+    EXPECT_EQ(camera.Run("watch gige:192.168.1.11 gain --keep-trying --seconds 0.1").code, 3);
+    EXPECT_EQ(camera.Run("watch CAMERA gain restart --no-control").code, 2);
 }
 
 TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {

@@ -26,7 +26,7 @@ TEST(HostCommandLine, TellsWhatIsMissing) {
         {"set gain=3 agc=1", no + " before \"gain=3\"; usage: qdv12host set CAMERA NAME=VALUE..."},
         {"get gain", no + " before \"gain\"; usage: qdv12host get CAMERA... NAME..."},
         {"get overlayshow.1 lenscontrol", no + " before \"overlayshow.1\"; usage: qdv12host get CAMERA... NAME..."},
-        {"watch gain=3", no + " before \"gain=3\"; usage: qdv12host watch CAMERA [NAME=VALUE...]"},
+        {"watch gain=3", no + " before \"gain=3\"; usage: qdv12host watch CAMERA [NAME[=VALUE]...]"},
         {"info", no + "; usage: qdv12host info CAMERA..."},
         {"restore bench.json", no + "; usage: qdv12host restore FILE CAMERA..."},
         {"get Orvik-710C", "qdv12host: NAME is required; usage: qdv12host get CAMERA... NAME..."},

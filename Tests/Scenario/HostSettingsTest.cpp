@@ -200,7 +200,21 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
     EXPECT_TRUE(theirs.ReadUntil("\"name\":\"gain\",\"source\":\"camera\",\"before\":0,\"value\":"));
     theirs.Signal(SIGINT);
     EXPECT_EQ(theirs.End(), 0) << theirs.Read();
-    EXPECT_EQ(Run("watch Orvik-390M --seconds soon").code, 2);
+
+    const Outcome named = Run("watch 'Sollux G' gain overlayshow.1 gain --seconds 0");
+    const std::string time = "[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3}  ";
+    EXPECT_TRUE(std::regex_match(named.out,
+                                 std::regex(time + "first     gain                    [0-9]+ \\(locked by agc=1\\)\n" +
+                                            time + "first     overlayshow.1           off\n")))
+        << named.out;
+    const Outcome two = RunHost("watch Orvik-390M gain agc=1 --seconds 0.3 --interval 0.1 --trace");
+    EXPECT_TRUE(Has(two.out, "first     gain                    0\n"));
+    EXPECT_TRUE(Has(two.out, "camera    gain                    0 -> "));
+    const std::regex another("0x(?!14010000|46020000)"); // of a function that is neither shown nor locks it
+    EXPECT_FALSE(std::regex_search(two.err, another)) << two.err;
+    for (const char* wrong : {"--seconds soon", "--interval 0", "loadsettings", "gian", "gain --keep-trying"}) {
+        EXPECT_EQ(RunHost("watch Orvik-390M --seconds 0 " + std::string(wrong)).code, 2) << wrong;
+    }
 }
 
 TEST_F(HostSettings, AreDrivenFromAShell) {

@@ -75,10 +75,11 @@ public:
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
 
-    /// Reads until the text appears. Afterwards the program blocks when the pipe is full.
-    bool ReadUntil(const std::string& text) {
+    /// Reads until the text appears, after what was already read or from the beginning. Afterwards the program blocks
+    /// when the pipe is full.
+    bool ReadUntil(const std::string& text, std::size_t after = 0) {
         const auto end = Clock::now() + deadline;
-        while (read.find(text) == std::string::npos) {
+        while (read.find(text, after) == std::string::npos) {
             if (!ReadSome(end)) {
                 return false;
             }
