@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Common/Ipv4.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -19,6 +21,7 @@ constexpr std::size_t largestMemory = 536;           ///< read or written by one
 
 enum class Command : std::uint16_t {
     Discovery = 0x0002,
+    ForceIp = 0x0004,
     PacketResend = 0x0040,
     ReadRegister = 0x0080,
     WriteRegister = 0x0082,
@@ -48,7 +51,8 @@ void Put32(Bytes& bytes, std::uint32_t value);
 /// A packet of an application.
 struct Request {
     bool wantsAcknowledge;
-    Command command; ///< may be unknown
+    bool wantsBroadcast; ///< the acknowledge may be broadcast, if the application is in another subnet
+    Command command;     ///< may be unknown
     std::uint16_t id;
     std::span<const std::uint8_t> payload; ///< in the datagram
 };
@@ -57,7 +61,7 @@ struct Request {
 [[nodiscard]] std::optional<Request> Parse(std::span<const std::uint8_t> datagram);
 
 /// The packet of a request that wants an acknowledge.
-[[nodiscard]] Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload);
+[[nodiscard]] Bytes MakeRequest(Command command, std::uint16_t id, const Bytes& payload, bool wantsBroadcast = false);
 
 /// The acknowledge of a request.
 [[nodiscard]] Bytes Acknowledge(const Request& request, Status status, const Bytes& payload = {});
@@ -71,5 +75,14 @@ struct Answer {
 /// Parses the acknowledge of a request with that command and id. Returns nothing for any other datagram.
 [[nodiscard]] std::optional<Answer> ParseAcknowledge(std::span<const std::uint8_t> datagram, Command command,
                                                      std::uint16_t id);
+
+/// What ForceIp asks for: the camera with that MAC address takes that IP configuration until its next start.
+struct ForcedIp {
+    std::uint64_t mac;
+    IpConfiguration ip;
+};
+[[nodiscard]] Bytes MakeForcedIp(const ForcedIp& forced);
+/// @return nothing for a payload of another size
+[[nodiscard]] std::optional<ForcedIp> ParseForcedIp(std::span<const std::uint8_t> payload);
 
 } // namespace Common::Gvcp

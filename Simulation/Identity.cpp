@@ -35,6 +35,10 @@ RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const s
             {"serialnumber", {{WordsOf(PrefixedText(own, serial))}}}};
 }
 
+std::uint64_t MacNumberOf(const RegisterSpace& space) {
+    return std::uint64_t{space.Get("machigh")[0]} << 32 | space.Get("maclow")[0];
+}
+
 std::string MacAddressOf(const RegisterSpace& space) {
     const std::uint32_t high = space.Get("machigh")[0];
     const std::uint32_t low = space.Get("maclow")[0];

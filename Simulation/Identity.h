@@ -2,6 +2,7 @@
 
 #include "Simulation/RegisterSpace.h"
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -20,6 +21,8 @@ public:
 /// @throws IdentityError
 [[nodiscard]] RegisterSpace::Content SerialNumberRegisters(const RegisterSpace& space, const std::string& serial);
 
+/// 48 bits.
+[[nodiscard]] std::uint64_t MacNumberOf(const RegisterSpace& space);
 /// Such as "02:00:12:07:07:10".
 [[nodiscard]] std::string MacAddressOf(const RegisterSpace& space);
 /// The content of the MAC address registers.

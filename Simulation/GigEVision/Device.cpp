@@ -2,6 +2,7 @@
 
 #include "Common/Bootstrap.h"
 #include "Simulation/Addresses.h"
+#include "Simulation/Identity.h"
 
 namespace Simulation::GigEVision {
 
@@ -32,11 +33,18 @@ std::optional<Bytes> Refuse(const Request& request, Status status) {
     }
 }
 
+/// The gateway of the camera, if it is in the subnet.
+IpConfiguration WithGateway(IpConfiguration ip, std::uint32_t gateway) {
+    ip.gateway = ((gateway ^ ip.address) & ip.subnetMask) == 0 ? gateway : 0;
+    return ip;
+}
+
 } // namespace
 
 Device::Device(SimulatedCamera& served, const IpConfiguration& current, Time now)
     : camera(served),
-      ip(current),
+      assigned(WithGateway(current, served.Registers().Get("currentdefaultgateway")[0])),
+      ip(assigned),
       channel(served.Registers(), served.Time()),
       stream(served, channel),
       memory(served, channel, stream),
@@ -48,12 +56,9 @@ Device::Device(SimulatedCamera& served, const IpConfiguration& current, Time now
 
 void Device::ShowAddress() {
     RegisterSpace& space = camera.Registers();
-    const bool reached = ((space.Get("currentdefaultgateway")[0] ^ ip.address) & ip.subnetMask) == 0;
     space.Set("currentipaddress", {ip.address});
     space.Set("currentsubnetmask", {ip.subnetMask});
-    if (!reached) {
-        space.Set("currentdefaultgateway", {0});
-    }
+    space.Set("currentdefaultgateway", {ip.gateway});
 }
 
 void Device::PassTime(Time now) {
@@ -83,6 +88,7 @@ void Device::Reboot(Time now) {
     lastAcknowledges.Forget();
     camera.Restart();
     channel.Restart(camera.Time());
+    static_cast<void>(MoveTo(assigned));
     ShowAddress();
 }
 
@@ -101,6 +107,9 @@ std::optional<Bytes> Device::Answer(const Endpoint& from, std::span<const std::u
         stream.RequestResend(from, request->payload);
         return std::nullopt;
     }
+    if (IsForAnother(*request)) {
+        return std::nullopt;
+    }
     if (const auto* const last = lastAcknowledges.Find(from, datagram)) {
         return *last;
     }
@@ -114,6 +123,8 @@ std::optional<Bytes> Device::Answer(const Endpoint& from, std::span<const std::u
 
 std::optional<Bytes> Device::CarryOut(const Endpoint& from, const Request& request, Time now) {
     switch (request.command) {
+    case Command::ForceIp:
+        return Acknowledge(request, ForceIp(ParseForcedIp(request.payload)->ip));
     case Command::ReadRegister:
         return ReadRegisters(from, request);
     case Command::WriteRegister:
@@ -131,6 +142,34 @@ Bytes Device::Discover(const Request& request) {
     Bytes identity(discoverySize);
     const Status status = request.payload.empty() ? memory.Read(0, identity) : Status::InvalidParameter;
     return Acknowledge(request, status, status == Status::Success ? identity : Bytes());
+}
+
+bool Device::IsForAnother(const Request& request) const {
+    if (request.command != Command::ForceIp) {
+        return false;
+    }
+    const auto forced = ParseForcedIp(request.payload);
+    return !forced || forced->mac != MacNumberOf(camera.Registers());
+}
+
+Status Device::ForceIp(const IpConfiguration& wanted) {
+    if (control.IsHeld()) {
+        return Status::AccessDenied;
+    }
+    const bool isRestart = wanted.address == 0; // of how the device gets its address
+    if (!isRestart && !Common::WhyUnusable(wanted).empty()) {
+        return Status::InvalidParameter;
+    }
+    return MoveTo(isRestart ? assigned : wanted) ? Status::Success : Status::InvalidParameter;
+}
+
+bool Device::MoveTo(const IpConfiguration& wanted) {
+    const bool isThere = move(wanted);
+    if (isThere) {
+        ip = wanted;
+        ShowAddress();
+    }
+    return isThere;
 }
 
 Bytes Device::ReadRegisters(const Endpoint& from, const Request& request) {

@@ -10,20 +10,19 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 
 namespace Simulation::GigEVision {
 
-struct IpConfiguration {
-    std::uint32_t address;
-    std::uint32_t subnetMask;
-};
+using Common::IpConfiguration;
 
 /// A simulated camera as a GigE Vision device. It answers datagrams, without socket or clock.
 ///
 /// The camera's time follows the time passed in, and may run ahead of it through accesses. The current IP configuration
-/// in the camera's registers is the device's, also after a restart.
+/// in the camera's registers is the device's, also after a restart. An application may force another one until the next
+/// power cycle, while none has control.
 class Device {
 public:
     static constexpr std::chrono::seconds bootTime{5};
@@ -32,6 +31,11 @@ public:
     Device(SimulatedCamera& served, const IpConfiguration& current, Time now);
     Device(const Device&) = delete; // the camera's behaviours refer to it
     Device& operator=(const Device&) = delete;
+
+    /// Tries to move the device to another address. Returns whether it is there.
+    using Move = std::function<bool(const IpConfiguration&)>;
+    /// Without it, the device moves to any address.
+    void MoveWith(Move mover) { move = std::move(mover); }
 
     /// The acknowledge, at most largestPayload bytes, or nothing if none is due.
     /// @param isBusy refuses the request as busy, unless it is a discovery or a repetition
@@ -54,6 +58,9 @@ private:
     [[nodiscard]] bool IsStarting(Time now) const { return now < bootEnd; }
     [[nodiscard]] std::optional<Bytes> CarryOut(const Endpoint& from, const Common::Gvcp::Request& request, Time now);
     [[nodiscard]] Bytes Discover(const Common::Gvcp::Request& request);
+    [[nodiscard]] bool IsForAnother(const Common::Gvcp::Request& request) const;
+    [[nodiscard]] Status ForceIp(const IpConfiguration& wanted);
+    [[nodiscard]] bool MoveTo(const IpConfiguration& wanted);
     [[nodiscard]] Bytes ReadRegisters(const Endpoint& from, const Common::Gvcp::Request& request);
     [[nodiscard]] Bytes WriteRegisters(const Endpoint& from, const Common::Gvcp::Request& request, Time now);
     [[nodiscard]] Bytes ReadMemory(const Endpoint& from, const Common::Gvcp::Request& request);
@@ -63,7 +70,9 @@ private:
     void ShowAddress();
 
     SimulatedCamera& camera;
-    const IpConfiguration ip;
+    const IpConfiguration assigned;
+    IpConfiguration ip;
+    Move move = [](const IpConfiguration&) { return true; };
     ChannelRegisters channel;
     ControlChannel control{channel};
     StreamChannel stream;

@@ -61,10 +61,10 @@ std::unique_ptr<SimulatedCamera> SwitchOn(const Options& options) {
     return camera;
 }
 
-/// Prints that the camera is ready. Scripts wait for this line.
-void Announce(const Options& options, const RegisterSpace& space) {
-    std::cout << options.model << " at " << Common::PrintAddress(options.address) << ':' << Common::Gvcp::port
-              << ", MAC " << MacAddressOf(space) << ", serial number " << SerialNumberOf(space) << std::endl;
+/// Prints that the camera is ready at an address. Scripts wait for this line.
+void Announce(const std::string& model, const IpConfiguration& ip, const std::string& identity) {
+    std::cout << model << " at " << Common::PrintAddress(ip.address) << ':' << Common::Gvcp::port << identity
+              << std::endl;
 }
 
 void SaveStateOf(const SimulatedCamera& camera, const Options& options) {
@@ -83,16 +83,20 @@ void ServeCamera(const Options& options) {
     if (options.anyDestination) {
         device.Stream().AllowAnyDestination();
     }
+    const RegisterSpace& space = camera->Registers();
+    const std::string identity = ", MAC " + MacAddressOf(space) + ", serial number " + SerialNumberOf(space);
+    const auto announce = [&](const IpConfiguration& at) { Announce(options.model, at, identity); };
     DisturbedDevice disturbed(device, options.disturbances, options.seed);
     std::optional<Recorder> recorder;
-    Serve(disturbed, ip, options.stream, [&] { // files only once the address is bound: another instance may use them
+    const auto begin = [&] { // files only once the address is bound: another instance may use them
         if (!options.record.empty()) {
             recorder.emplace(options.record);
         }
         SaveStateOf(*camera, options); // reports an unwritable file now rather than at the end
-        Announce(options, camera->Registers());
+        announce(ip);
         return recorder ? &*recorder : nullptr;
-    });
+    };
+    Serve(disturbed, ip, options.stream, begin, announce);
     SaveStateOf(*camera, options);
 }
 

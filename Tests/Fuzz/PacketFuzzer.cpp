@@ -8,6 +8,7 @@
 #include "Simulation/Cameras.h"
 #include "Simulation/GigEVision/Device.h"
 #include "Simulation/GigEVision/SentBlocks.h"
+#include "Simulation/Identity.h"
 
 #include <array>
 #include <chrono>
@@ -23,13 +24,15 @@ using Simulation::GigEVision::Device;
 using Simulation::GigEVision::Endpoint;
 
 constexpr std::size_t headerSize = 8;
+constexpr std::uint16_t forceIp = 0x0004;
+constexpr std::size_t forceIpWords = 14;
 constexpr std::size_t largestDatagram = 548; // 576 bytes of IPv4 minus the headers of IP and UDP
 
 constexpr std::array<const char*, 2> models = {"Orvik-710C", "Cerix-MV7"};
 constexpr std::array<Endpoint, 3> senders = {{{0x7F000001, 4711}, {0x7F000001, 4712}, {0xFFFFFFFF, 0xFFFF}}};
 // Discovery, address, resend, registers, memory, action; events and answers, which no camera receives; invalid ones.
-constexpr std::array<std::uint16_t, 16> commands = {0x0080, 0x0080, 0x0082, 0x0082, 0x0084, 0x0084, 0x0086, 0x0086,
-                                                    0x0002, 0x0004, 0x0040, 0x0100, 0x00C0, 0x0083, 0x0089, 0x0000};
+constexpr std::array<std::uint16_t, 16> commands = {0x0080, 0x0080,  0x0082, 0x0082, 0x0084, 0x0084, 0x0086, 0x0086,
+                                                    0x0002, forceIp, 0x0040, 0x0100, 0x00C0, 0x0083, 0x0089, 0x0000};
 constexpr std::array<std::uint32_t, 32> addresses = {
     0x0000,     0x0004,     0x0014,     0x0048,     0x00E8,     0x0200,     0x0400,     0x064C,
     0x0934,     0x0938,     0x0938,     0x0940,     0x0944,     0x0A00,     0x0A00,     0x0A00,
@@ -66,22 +69,25 @@ std::uint32_t PayloadWord(Input& input) {
     return kind < 0xE0 ? values[kind % values.size()] : Raw(input, 4);
 }
 
-/// A request with a valid header and any content.
-Datagram Request(Input& input) {
+/// A request with a valid header and any content; one that forces an address is for the camera.
+Datagram Request(Input& input, std::uint64_t mac) {
     static constexpr std::array<std::size_t, 8> lengths = {1, 2, 2, 2, 3, 4, 0, 9};
-    const std::size_t words = input.Byte() < 0xF0 ? input.One(lengths) : input.Choice(140);
+    const std::size_t length = input.Byte() < 0xF0 ? input.One(lengths) : input.Choice(140);
     Datagram datagram = {0x42, input.Byte() < 0xE0 ? std::uint8_t{1} : input.Byte()};
-    Append(datagram, input.One(commands), 2);
+    const std::uint16_t command = input.One(commands);
+    const std::size_t words = command == forceIp && length < 4 ? forceIpWords : length;
+    Append(datagram, command, 2);
     Append(datagram, static_cast<std::uint32_t>(4 * words), 2);
     Append(datagram, 1 + input.Byte(), 2);
     for (std::size_t i = 0; i < words; ++i) {
-        Append(datagram, PayloadWord(input), 4);
+        const bool isMac = words == forceIpWords && i < 2;
+        Append(datagram, isMac ? static_cast<std::uint32_t>(mac >> 32 * (1 - i)) : PayloadWord(input), 4);
     }
     return datagram;
 }
 
 /// A damaged request, or random bytes.
-Datagram Spoiled(Input& input) {
+Datagram Spoiled(Input& input, std::uint64_t mac) {
     if (input.Choice(4) == 0) {
         Datagram noise(input.Choice(2) == 0 ? input.Choice(16) : Raw(input, 2) % 2048);
         for (std::uint8_t& byte : noise) {
@@ -89,7 +95,7 @@ Datagram Spoiled(Input& input) {
         }
         return noise;
     }
-    Datagram datagram = Request(input);
+    Datagram datagram = Request(input, mac);
     switch (input.Choice(3)) {
     case 0:
         datagram[Raw(input, 2) % datagram.size()] = input.Byte();
@@ -148,6 +154,7 @@ void PlayStream(Device& device, Simulation::GigEVision::SentBlocks& sent) {
 std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
     Input input(bytes, size);
     const auto camera = Simulation::MakeCamera(input.One(models));
+    const std::uint64_t mac = Simulation::MacNumberOf(camera->Registers());
     Simulation::GigEVision::Time now{};
     Device device(*camera, {0x7F000001, 0xFF000000}, now);
     Simulation::GigEVision::SentBlocks sent;
@@ -162,7 +169,7 @@ std::size_t PlayDatagrams(const std::uint8_t* bytes, std::size_t size) {
             device.Reboot(now);
         }
         if (kind < 0xF0 || datagram.empty()) { // else repeats the last one
-            datagram = kind < 0xC0 ? Request(input) : Spoiled(input);
+            datagram = kind < 0xC0 ? Request(input, mac) : Spoiled(input, mac);
         }
         // In a buffer of exactly the datagram's size.
         const Datagram received(datagram);

@@ -114,6 +114,33 @@ TEST_F(DeviceTest, KeepsOnlyPermanentMemoryOverAReboot) {
     EXPECT_EQ(TakeControl(other), "0000 0083 0004 0001 00000001");
 }
 
+TEST_F(DeviceTest, TakesAForcedAddressUntilItsNextStart) {
+    const auto force = [&](const std::string& id, const std::string& mac, const std::string& address,
+                           const std::string& gateway) {
+        const std::string reserved = "000000000000000000000000";
+        return Ask(other, "4201 0004 0038 " + id + " 0000" + mac + "00000000 0000000000000000" + address + reserved +
+                              "ff000000" + reserved + gateway);
+    };
+    const std::string mac = "020012070710";
+    const std::string readAddresses = "4201 0080 000c 0070 00000024 00000034 00000044";
+    TakeControl();
+    EXPECT_EQ(force("0001", mac, "7f000055", "00000000"), "8006 0005 0000 0001");
+    Ask(release);
+    EXPECT_EQ(force("0002", "020012070711", "7f000055", "00000000"), ""); // another camera's
+    EXPECT_EQ(Ask("4201 0004 0004 0003 02001207"), "");
+    EXPECT_EQ(force("0004", mac, "7fffffff", "00000000"), "8002 0005 0000 0004"); // a broadcast address
+    EXPECT_EQ(force("0005", mac, "7f000055", "0a000001"), "8002 0005 0000 0005"); // out of the subnet
+    EXPECT_EQ(Ask(readAddresses), "0000 0081 000c 0070 7f00004d ff000000 00000000");
+    EXPECT_EQ(force("0006", mac, "7f000055", "7f000001"), "0000 0005 0000 0006");
+    EXPECT_EQ(Ask("4201 0080 000c 0071 00000024 00000034 00000044"), "0000 0081 000c 0071 7f000055 ff000000 7f000001");
+
+    device.MoveWith([](const auto& to) { return to.address == 0x7F00004D; });
+    EXPECT_EQ(force("0007", mac, "7f000056", "00000000"), "8002 0005 0000 0007"); // not of this machine
+    device.Reboot(start + time);
+    time += 5s;
+    EXPECT_EQ(Ask(readAddresses), "0000 0081 000c 0070 7f00004d ff000000 00000000");
+}
+
 TEST_F(DeviceTest, LetsTheCamerasTimeGoOn) {
     TakeControl();
     time = 2000ms;
