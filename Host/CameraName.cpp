@@ -51,17 +51,6 @@ bool IsHost(const std::string& text) {
            std::regex_match(text, std::regex("[A-Za-z0-9_.-]+"));
 }
 
-/// @return in lower case with colons; nothing for an invalid address
-std::optional<std::string> ParseMac(std::string text) {
-    if (!std::regex_match(text, std::regex("[0-9A-Fa-f]{2}([:-][0-9A-Fa-f]{2}){5}"))) {
-        return std::nullopt;
-    }
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char character) {
-        return character == '-' ? ':' : static_cast<char>(std::tolower(character));
-    });
-    return text;
-}
-
 /// @return nothing if the text is invalid for its prefix
 std::optional<std::string> ParseText(By by, const std::string& text) {
     if (by == By::Address) {
@@ -90,6 +79,16 @@ std::string DescribeCandidate(const FoundCamera& camera) {
 }
 
 } // namespace
+
+std::optional<std::string> ParseMac(std::string text) {
+    if (!std::regex_match(text, std::regex("[0-9A-Fa-f]{2}([:-][0-9A-Fa-f]{2}){5}"))) {
+        return std::nullopt;
+    }
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char character) {
+        return character == '-' ? ':' : static_cast<char>(std::tolower(character));
+    });
+    return text;
+}
 
 bool IsCamera(const std::string& text) {
     const auto models = Simulation::ModelNames();

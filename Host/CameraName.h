@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace Host {
@@ -25,6 +26,9 @@ struct CameraName {
 
 /// @throws UsageError for an invalid name
 [[nodiscard]] CameraName ParseCameraName(const std::string& camera);
+
+/// A MAC address in lower case with colons, as discovery reports it; nothing for an invalid one.
+[[nodiscard]] std::optional<std::string> ParseMac(std::string text);
 
 /// The IPv4 address of a camera on the network. Asks for that of a host, and discovers cameras by what they are.
 /// @throws OpenError unless one camera is found

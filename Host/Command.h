@@ -12,6 +12,7 @@ namespace Host {
 
 /// The parameters of commands.
 enum class Parameter {
+    Address,
     All,
     Assignments,
     Camera,
@@ -20,8 +21,11 @@ enum class Parameter {
     Every,
     File,
     First,
+    Gateway,
     Interval,
     KeepTrying,
+    Mac,
+    Mask,
     Names,
     Network,
     NoControl,

@@ -18,14 +18,4 @@ bool HasNetworkInterface() {
 
 std::string LocalAddressFor(const std::string& address) { return Requests(address).LocalAddress(); }
 
-std::optional<std::string> ReadTextWithoutControl(const std::string& camera, std::uint32_t memory,
-                                                  std::uint16_t length) {
-    const auto answer = Requests(camera).ReadMemory(memory, length);
-    if (!answer || answer->status != Common::Gvcp::Status::Success) {
-        return std::nullopt;
-    }
-    const auto& text = answer->payload;
-    return std::string(text.begin(), std::find(text.begin(), text.end(), 0));
-}
-
 } // namespace Host

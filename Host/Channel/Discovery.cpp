@@ -1,40 +1,78 @@
 #include "Host/Channel/Discovery.h"
 
 #include "Common/Bootstrap.h"
-#include "Host/Channel/AravisErrors.h"
-#include "Host/Channel/Datagrams.h"
-#include "Host/Errors.h"
+#include "Host/Channel/Broadcast.h"
 
-#include <arv.h>
+#include <algorithm>
+#include <cstdio>
+#include <span>
 
 namespace Host {
 
+namespace Gvcp = Common::Gvcp;
+
 namespace {
 
-std::string Text(const char* text) { return text == nullptr ? "" : text; }
+constexpr std::chrono::milliseconds discoveryTime{1000}; ///< the longest time that a camera may take
+constexpr std::chrono::milliseconds repeatTime{300};     ///< a packet may be lost
 
-/// Not available from Aravis.
-std::string UserNameOf(const std::string& address) {
-    try {
-        using namespace Common::Bootstrap;
-        return ReadTextWithoutControl(address, userDefinedName, userDefinedNameLength).value_or("");
-    } catch (const OpenError&) { // the camera is in another subnet
-        return "";
-    }
+/// A text of that size in memory.
+std::string TextIn(const Gvcp::Bytes& memory, std::size_t at, std::size_t size) {
+    const auto begin = memory.begin() + static_cast<std::ptrdiff_t>(at);
+    return {begin, std::find(begin, begin + static_cast<std::ptrdiff_t>(size), 0)};
+}
+
+std::string MacIn(std::span<const std::uint8_t> memory) {
+    char text[18];
+    const auto octets = memory.subspan(Common::Bootstrap::macAddress + 2);
+    std::snprintf(text, sizeof text, "%02x:%02x:%02x:%02x:%02x:%02x", octets[0], octets[1], octets[2], octets[3],
+                  octets[4], octets[5]);
+    return text;
+}
+
+/// The answer is the memory of the camera, from address 0 to the end of its user-defined name.
+FoundCamera CameraIn(const Gvcp::Bytes& memory) {
+    using namespace Common::Bootstrap;
+    const auto word = [&](std::size_t at) { return Gvcp::Get32(std::span(memory).subspan(at)); };
+    const Common::IpConfiguration ip{word(currentAddress), word(currentSubnetMask), word(currentGateway)};
+    return {Common::PrintAddress(ip.address),
+            MacIn(memory),
+            TextIn(memory, modelName, modelNameLength),
+            TextIn(memory, serialNumber, serialNumberLength),
+            TextIn(memory, userDefinedName, userDefinedNameLength),
+            ip};
 }
 
 } // namespace
 
-std::vector<FoundCamera> DiscoverCameras() {
-    SilenceAravis();
-    arv_disable_interface("USB3Vision");
-    arv_update_device_list();
+std::vector<FoundCamera> DiscoverCameras(const std::function<bool(const FoundCamera&)>& isEnough) {
+    using Common::Bootstrap::userDefinedName;
+    using Common::Bootstrap::userDefinedNameLength;
+    Broadcast network;
+    const auto begin = Broadcast::Clock::now();
     std::vector<FoundCamera> found;
-    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
-        const std::string address = Text(arv_get_device_address(i));
-        found.push_back({address, Text(arv_get_device_physical_id(i)), Text(arv_get_device_model(i)),
-                         Text(arv_get_device_serial_nbr(i)), UserNameOf(address)});
+    network.Send(Gvcp::Command::Discovery, {});
+    bool isRepeated = false;
+    for (;;) {
+        const auto answer = network.Receive(begin + (isRepeated ? discoveryTime : repeatTime));
+        if (!answer && isRepeated) {
+            break;
+        }
+        if (!answer) {
+            network.Repeat();
+            isRepeated = true;
+        } else if (answer->payload.size() >= userDefinedName + userDefinedNameLength) {
+            FoundCamera camera = CameraIn(answer->payload);
+            if (std::find(found.begin(), found.end(), camera) == found.end()) { // one may answer on several networks
+                found.push_back(std::move(camera));
+            }
+            if (isEnough(found.back())) {
+                break;
+            }
+        }
     }
+    std::sort(found.begin(), found.end(),
+              [](const FoundCamera& one, const FoundCamera& other) { return one.ip.address < other.ip.address; });
     return found;
 }
 

@@ -1,4 +1,3 @@
-#include "Host/Channel/Discovery.h"
 #include "Host/Channel/GigEConnection.h"
 #include "Host/Errors.h"
 
@@ -6,18 +5,9 @@
 
 namespace Host {
 
-namespace {
-
-[[noreturn]] void Refuse() {
-    throw OpenError(
-        "this qdv12host was built without Aravis and can neither find nor control cameras on the network; install the "
-        "Debian packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
+std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& /*address*/) {
+    throw OpenError("this qdv12host was built without Aravis and cannot control cameras on the network; install the "
+                    "Debian packages libaravis-dev and libusb-1.0-0-dev, then rebuild it");
 }
-
-} // namespace
-
-std::unique_ptr<NetworkConnection> ConnectGigE(const std::string& /*address*/) { Refuse(); }
-
-std::vector<FoundCamera> DiscoverCameras() { Refuse(); }
 
 } // namespace Host

@@ -51,11 +51,17 @@ const std::vector<Command>& Commands() {
     static const Syntax every{Parameter::Every, "--every K", "Write the first of every K pictures (default: 1)"};
     static const Syntax raw{Parameter::Raw, "--raw",
                             "Write the bytes that the camera sent, and their format to FILE.json"};
+    static const Syntax mac{Parameter::Mac, "MAC", "The MAC address of the camera, as discover prints it"};
+    static const Syntax address{Parameter::Address, "ADDRESS", "Its new IPv4 address, until its next start"};
+    static const Syntax mask{Parameter::Mask, "MASK", "Its subnet mask"};
+    static const Syntax gateway{Parameter::Gateway, "GATEWAY", "Its default gateway (default: 0.0.0.0, none)",
+                                Required::Never};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
         {"models",   "List the models that the plug-in serves",                        {},                              Models},
         {"discover", "List the GigE Vision cameras on the network",                    {},                              Discover},
+        {"force-ip", "Give a camera on the network an address, whatever it has now",   {mac, address, mask, gateway},   ForceIp},
         {"info",     "Show the identity and the address of a camera",                  {cameras, noControl, oneByOne}, Info},
         {"list",     "List the functions of a camera: all, some, or those of a topic", {camera, listed, topic, all, noControl}, List},
         {"get",      "Print the values of functions",                                  {cameras, names, noControl, oneByOne}, Get},

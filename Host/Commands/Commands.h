@@ -8,6 +8,7 @@ namespace Host {
 int Check(const Invocation& invocation);
 int Models(const Invocation& invocation);
 int Discover(const Invocation& invocation);
+int ForceIp(const Invocation& invocation);
 int Info(const Invocation& invocation);
 int List(const Invocation& invocation);
 int Get(const Invocation& invocation);

@@ -75,7 +75,8 @@ TEST(ChannelModel, DiscoveryListsWhatIsThere) {
         Has(RunHost("discover --json").out,
             "  {\n    \"address\": \"192.168.1.10\",\n    \"mac\": \"02:00:12:07:07:10\",\n    \"model\": "
             "\"Orvik-710C\",\n    \"serial\": \"710C-0042\",\n    \"userName\": \"on the left\",\n    \"served\": "
-            "true\n  }"));
+            "true,\n    \"subnetMask\": \"255.255.255.0\",\n    \"gateway\": \"192.168.1.1\",\n    "
+            "\"reachable\": true\n  }"));
     const Outcome refused = RunHost("info gige:127.0.0.1");
     EXPECT_EQ(refused.code, 3);
     EXPECT_EQ(refused.err, "qdv12host: the camera at 127.0.0.1 reports the unknown model \"Fake\"; " + served);
@@ -111,6 +112,58 @@ TEST(ChannelModel, ACameraIsFoundByWhatItIs) {
         EXPECT_EQ(run.code, 3);
         EXPECT_EQ(run.err, "qdv12host: " + message + "\n");
     }
+}
+
+TEST(ChannelModel, ForceIpMovesACameraThatNobodyControls) {
+    const NetworkCamera camera("Cerix-MV7");
+    const NetworkCamera other("Orvik-710C", "192.168.1.20");
+    const std::string mac = "02:00:12:00:70:02";
+    struct Case {
+        const char* arguments;
+        int code;
+        std::string err;
+    };
+    const Case cases[] = {
+        {"02:00:12:00:70 192.168.1.77 255.255.255.0", 2,
+         "invalid MAC address \"02:00:12:00:70\", such as 02:00:12:07:07:10"},
+        {"02:00:12:00:70:02 192.168.1 255.255.255.0", 2, "invalid IPv4 address \"192.168.1\""},
+        {"02:00:12:00:70:02 192.168.1.255 255.255.255.0", 2, "192.168.1.255 is the broadcast address of its subnet"},
+        {"02:00:12:00:70:02 192.168.1.77 255.255.255.0 192.168.2.1", 2,
+         "the gateway 192.168.2.1 is not in the subnet 192.168.1.0, mask 255.255.255.0; give 0.0.0.0 for none"},
+        {"02:00:12:00:70:02 192.168.1.20 255.255.255.0", 2,
+         "192.168.1.20 is the address of another camera, 02:00:12:07:07:10"},
+        {"02:00:12:00:70:03 192.168.1.77 255.255.255.0", 3,
+         "no camera with the MAC address 02:00:12:00:70:03 answered; qdv12host discover lists those that do"},
+    };
+    for (const Case& each : cases) {
+        const Outcome run = RunHost("force-ip " + std::string(each.arguments));
+        EXPECT_EQ(run.code, each.code) << each.arguments;
+        EXPECT_EQ(run.err, "qdv12host: " + each.err + '\n');
+    }
+    const std::string force = "force-ip " + mac + " 192.168.1.77 255.255.255.0";
+    {
+        Running watch(QDV12_HOST, {"watch", "gige:192.168.1.10", "gain=5"}, STDOUT_FILENO);
+        ASSERT_TRUE(watch.ReadUntil("gain"));
+        const Outcome refused = RunHost(force);
+        EXPECT_EQ(refused.code, 3);
+        EXPECT_EQ(refused.err, "qdv12host: the camera " + mac +
+                                   " at 192.168.1.10 is controlled by another program, and keeps its address "
+                                   "meanwhile\n");
+        watch.Signal(SIGTERM);
+        EXPECT_EQ(watch.End(), 0);
+    }
+    const Outcome forced = RunHost(force);
+    EXPECT_EQ(forced.code, 0) << forced.err;
+    EXPECT_EQ(forced.out, "192.168.1.77     " + mac + "  Cerix-MV7       M28674-0042\n");
+    EXPECT_EQ(RunHost("get gige:192.168.1.77 ipaddress subnetmask gateway gain").out,
+              "ipaddress=192.168.1.77\nsubnetmask=255.255.255.0\ngateway=0.0.0.0\ngain=5\n");
+
+    // It would be in a subnet without this machine.
+    const Outcome set = RunHost("set gige:192.168.1.77 persistentip=192.168.1.5,255.255.255.248,0.0.0.0");
+    EXPECT_EQ(set.code, 0);
+    EXPECT_EQ(set.out, "persistentip=192.168.1.5,255.255.255.248,0.0.0.0\n");
+    EXPECT_EQ(set.err, "qdv12host: persistentip: no network card of this machine is in the subnet 192.168.1.0, mask "
+                       "255.255.255.248; from its next start on, the camera can be reached through a router only\n");
 }
 
 TEST(ChannelModel, DiscoveryTellsWhyNothingIsThere) {
