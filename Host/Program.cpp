@@ -1,5 +1,6 @@
 #include "Host/Program.h"
 
+#include "Host/CameraName.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Command.h"
 
@@ -17,13 +18,30 @@ const Plugin& Program::LoadedPlugin() {
 Session& Program::Open(const std::string& camera) {
     finished = false;
     if (!session) {
-        session.emplace(LoadedPlugin(), camera, options.camera);
-        opened = camera;
+        const bool again = IsOpen();
+        session.emplace(LoadedPlugin(), again ? opened : camera, options.camera);
+        if (again) {
+            PrintError("the camera is open again");
+        } else {
+            opened = camera;
+        }
     }
     return *session;
 }
 
-void Program::Close() { session.reset(); }
+void Program::Close() {
+    session.reset();
+    opened.clear();
+}
+
+bool Program::IsOpen(const std::string& camera) {
+    if (!IsOpen() || camera == opened) {
+        return IsOpen();
+    }
+    const std::string address = Open(opened).Address();
+    const CameraName name = ParseCameraName(camera);
+    return !address.empty() && name.by != CameraName::By::Model && FindAddress(name) == address;
+}
 
 void Program::ReportController() {
     if (const std::string denial = session ? session->Connection().TakeDenial() : ""; !denial.empty()) {

@@ -32,13 +32,18 @@ public:
 
     /// @throws OpenError
     [[nodiscard]] const Plugin& LoadedPlugin();
-    /// Opens a camera, or returns the one that is open.
+    /// Opens a camera, or returns the one that is open. Opens that one again if it was lost, and says so.
     /// @throws as Session
     [[nodiscard]] Session& Open(const std::string& camera);
-    [[nodiscard]] bool IsOpen() const { return session.has_value(); }
-    [[nodiscard]] bool IsOpen(const std::string& camera) const { return IsOpen() && camera == opened; }
-    /// Closes the camera, which the next Open opens again.
+    /// Whether a camera is open, or will be opened again.
+    [[nodiscard]] bool IsOpen() const { return !opened.empty(); }
+    /// Whether this is the one, perhaps by another name.
+    /// @throws as FindAddress
+    [[nodiscard]] bool IsOpen(const std::string& camera);
+    /// Closes the camera.
     void Close();
+    /// Closes a camera that was lost, which the next Open opens again.
+    void CloseLost() { session.reset(); }
     /// Records signals from now on until the camera is closed at the end, for a command that asks for them.
     void RecordSignals() { signals.emplace(); }
     /// After a command: reports on standard error why there is no control, if something was not read without it.
@@ -55,7 +60,7 @@ private:
     std::optional<Interrupts> signals; // before the session, which gives control back at its end
     std::optional<Plugin> plugin;      // before the session, which needs it until its end
     std::optional<Session> session;
-    std::string opened; ///< the camera of the session, as given
+    std::string opened; ///< the camera of the session, as given; also if it was lost
     bool finished = false;
 };
 

@@ -59,12 +59,12 @@ Session::Connected Session::Connect(const Plugin& plugin, const std::string& cam
         RequireServed(plugin, model);
     }
     if (isSimulated) {
-        return {std::make_unique<SimulatedConnection>(model, options.simulation), model};
+        return {std::make_unique<SimulatedConnection>(model, options.simulation), model, ""};
     }
     const std::string address = FindAddress(name);
     auto connection = options.readOnly ? ConnectReadOnly(address) : ConnectGigE(address);
     const std::string opened = model.empty() ? ModelOf(plugin, *connection) : model;
-    return {std::move(connection), opened};
+    return {std::move(connection), opened, address};
 }
 
 Session::Session(const Plugin& loaded, const std::string& camera, const CameraOptions& options)
@@ -73,6 +73,7 @@ Session::Session(const Plugin& loaded, const std::string& camera, const CameraOp
 Session::Session(const Plugin& loaded, Connected connected, const CameraOptions& options)
     : plugin(loaded),
       model(std::move(connected.model)),
+      address(std::move(connected.address)),
       connection(std::move(connected.connection)),
       port(connection->Port(), options.accesses),
       control(CreateControl(options.index)) {}

@@ -31,6 +31,8 @@ public:
     Session(const Plugin& plugin, const std::string& camera, const CameraOptions& options = {});
 
     [[nodiscard]] const std::string& Model() const { return model; }
+    /// The IPv4 address of a camera on the network, else empty.
+    [[nodiscard]] const std::string& Address() const { return address; }
     [[nodiscard]] Host::Connection& Connection() { return *connection; }
     [[nodiscard]] TracingPort& Port() { return port; }
 
@@ -56,6 +58,7 @@ private:
     struct Connected {
         std::unique_ptr<Host::Connection> connection;
         std::string model;
+        std::string address;
     };
     [[nodiscard]] static Connected Connect(const Plugin& plugin, const std::string& camera,
                                            const CameraOptions& options);
@@ -64,6 +67,7 @@ private:
     // In this order: the control is destroyed first, then the camera and the model name that it uses.
     const Plugin& plugin;
     std::string model;
+    std::string address;
     std::unique_ptr<Host::Connection> connection;
     TracingPort port;
     Control control;

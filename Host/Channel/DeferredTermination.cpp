@@ -6,6 +6,8 @@ namespace {
 
 volatile std::sig_atomic_t due = 0; ///< the pending signal
 
+void Defer(int signal) { due = signal; }
+
 } // namespace
 
 DeferredTermination::DeferredTermination() {
@@ -14,7 +16,7 @@ DeferredTermination::DeferredTermination() {
         sigaction(signal, nullptr, &action);
         if (action.sa_handler == SIG_DFL) { // ignored signals stay ignored
             before[signal] = action;
-            action.sa_handler = [](int which) { due = which; };
+            action.sa_handler = Defer;
             action.sa_flags = static_cast<int>(SA_RESETHAND); // no SA_RESTART: interrupts the wait for a line
             sigaction(signal, &action, nullptr);
         }
@@ -23,7 +25,11 @@ DeferredTermination::DeferredTermination() {
 
 DeferredTermination::~DeferredTermination() {
     for (const auto& [signal, action] : before) {
-        sigaction(signal, &action, nullptr);
+        struct sigaction now {};
+        sigaction(signal, nullptr, &now);
+        if (now.sa_handler == Defer || now.sa_handler == SIG_DFL) { // else a shell has set its own since
+            sigaction(signal, &action, nullptr);
+        }
     }
     if (due != 0) {
         static_cast<void>(raise(due));

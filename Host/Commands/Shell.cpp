@@ -1,6 +1,7 @@
 #include "Host/Commands/Commands.h"
 
 #include "Common/Suggestion.h"
+#include "Host/Channel/ChannelErrors.h"
 #include "Host/CommandLine.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Interrupts.h"
@@ -94,7 +95,21 @@ std::vector<std::string> Completions(const Camera& camera, const std::string& be
     return FunctionsFor(*command, camera);
 }
 
-int RunLine(Program& program, const std::vector<std::string>& words, bool json) {
+/// Runs a command. A camera that it has lost is opened again by the next one.
+/// @param leaves set if a signal ends the program
+int RunInShell(Program& program, const ParsedCommandLine& line, bool& leaves) {
+    try {
+        return line.command->run(Invocation(program, line.given));
+    } catch (const Ending&) {
+        leaves = true;
+        throw;
+    } catch (const ChannelLost&) {
+        program.CloseLost();
+        throw;
+    }
+}
+
+int RunLine(Program& program, const std::vector<std::string>& words, bool json, bool& leaves) {
     if (const auto names = CommandNames();
         std::find(names.begin(), names.end(), words.front()) == names.end() && !words.front().starts_with('-')) {
         throw UsageError("unknown command \"" + words.front() + '"' + Common::Suggestion(words.front(), names));
@@ -107,8 +122,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
         return Success;
     }
     program.SetJson(json || line.options.json);
-    const int code =
-        RunAndReport([&] { return line.command->run(Invocation(program, line.given)); }, line.command->failed);
+    const int code = RunAndReport([&] { return RunInShell(program, line, leaves); }, line.command->failed);
     program.ReportController();
     program.SaveState(); // after each command, in case the shell is killed
     return code;
@@ -118,7 +132,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json) 
 int RunText(Program& program, const std::string& line, bool json, bool& leaves) {
     const auto words = WordsOf(line);
     leaves = !words.empty() && words.front() == quit;
-    return words.empty() || leaves ? int{Success} : RunLine(program, words, json);
+    return words.empty() || leaves ? int{Success} : RunLine(program, words, json, leaves);
 }
 
 /// At a terminal, Ctrl-C ends only the command.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <list>
+#include <memory>
 
 namespace Scenario {
 
@@ -61,6 +62,25 @@ TEST(ChannelCameras, AreRestoredToTheirModesWhenATerminationIsPassedOn) {
         EXPECT_EQ(camera.Run("get CAMERA agc").out, "agc=1\n");
     }
     std::filesystem::remove(file);
+}
+
+TEST(ChannelCameras, AreOpenedAgainByAShellThatLostThem) {
+    const std::string again = TemporaryFile("again");
+    auto camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    Running shell("/bin/sh",
+                  {"-c", "{ echo diff serial:710C-0042; echo set gain=5; until [ -e " + again +
+                             " ]; do sleep 0.05; done; "
+                             "echo set gain=6; echo set gain=7; } | " QDV12_HOST " shell gige:192.168.1.10"},
+                  Running::both);
+    ASSERT_TRUE(shell.ReadUntil("gain=5\n"));
+    camera.reset();
+    camera = std::make_unique<NetworkCamera>("Orvik-710C");
+    std::ofstream(again).put('\n');
+    EXPECT_EQ(shell.End(), 1);
+    EXPECT_EQ(shell.Read(), "gain=5\nqdv12host: gain: WriteMem at 0x14010000 failed: "
+                            "control of the camera at 192.168.1.10 was lost\n"
+                            "qdv12host: the camera is open again\ngain=7\n");
+    std::filesystem::remove(again);
 }
 
 } // namespace Scenario
