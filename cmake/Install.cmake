@@ -1,7 +1,17 @@
 # Installed by `cmake --install` and packed by `cpack -G DEB`: the plug-in, the headers and CMake files for hosts, the
-# reference host and the simulated camera with their manual pages.
+# reference host and the simulated camera with their manual pages, the documents and examples.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
+
+# qdv12_install_compressed(DESTINATION FILE...): installs files of the build folder as FILE.gz, in the form that Debian
+# requires of manual pages and changelogs.
+function(qdv12_install_compressed destination)
+    foreach(file ${ARGN})
+        install(CODE "
+            execute_process(COMMAND gzip --best --no-name --keep --force \"${file}\" COMMAND_ERROR_IS_FATAL ANY)
+            file(INSTALL \"${file}.gz\" DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${destination}\")")
+    endforeach()
+endfunction()
 
 set(products qdv12ctrl)
 set(files $<TARGET_FILE:qdv12ctrl>)
@@ -43,7 +53,7 @@ install(TARGETS qdv12ctrl LIBRARY DESTINATION ${QDV12_MODULE_DIR})
 install(DIRECTORY Include/SDK4 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(QDV12_BUILD_TOOLS)
     install(TARGETS qdv12host qdv12sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES ${manuals} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    qdv12_install_compressed(${CMAKE_INSTALL_MANDIR}/man1 ${manuals})
 endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QDV12Control)
@@ -64,10 +74,20 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY ${CMAKE_IN
 configure_file(cmake/qdv12control.pc.in qdv12control.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/qdv12control.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
+# The documents, in the same places to each other as here, so that their links work. Debian wants examples in lower
+# case; the link to them has the name of the folder here.
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/qdv12control)
+file(GLOB documents CONFIGURE_DEPENDS *.md)
+install(FILES ${documents} DESTINATION ${doc_dir})
+install(FILES COPYRIGHT DESTINATION ${doc_dir} RENAME copyright)
+install(DIRECTORY docs DESTINATION ${doc_dir} PATTERN *.in EXCLUDE)
+install(DIRECTORY Examples/ DESTINATION ${doc_dir}/examples)
+install(CODE "file(CREATE_LINK examples \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${doc_dir}/Examples\" SYMBOLIC)")
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME qdv12control)
 set(CPACK_PACKAGE_VENDOR "QDV12 Control")
-set(CPACK_PACKAGE_CONTACT "QDV12 Control <qdv12control@localhost>")
+set(CPACK_PACKAGE_CONTACT "QDV12 Control <qdv12control@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "camera-control plug-in for GigE Vision cameras")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "The plug-in libqdv12ctrl.so turns the registers of Orvik and M2VX cameras into
@@ -77,7 +97,7 @@ The plug-in takes log4cxx from its host: a host that loads it must itself be
 linked with the shared log4cxx, or loading fails with undefined symbols.
 .
 The package also holds the headers and the CMake and pkg-config files that a
-host is built with.")
+host is built with, the documents, and examples.")
 if(QDV12_BUILD_TOOLS)
     string(APPEND CPACK_DEBIAN_PACKAGE_DESCRIPTION "
 .
@@ -85,8 +105,14 @@ qdv12host is the reference host, with simulated cameras; qdv12sim simulates a
 camera on the network.")
 endif()
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_SOURCE_DIR}/cmake/PackageModes.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS liblog4cxx-dev) # hosts are built with it
 include(CPack)
+
+# Debian's changelog, with the time of the last change.
+file(TIMESTAMP CHANGELOG.md CHANGELOG_TIME "%a, %d %b %Y %H:%M:%S +0000" UTC)
+configure_file(cmake/changelog.in changelog @ONLY)
+qdv12_install_compressed(${doc_dir} ${CMAKE_BINARY_DIR}/changelog)

@@ -143,8 +143,10 @@ public:
             Held now = Read(reader, watched[i], isShownFirst);
             if (isShownFirst) {
                 changes.Print(watched[i].Name(), "first",
-                              now.text + (now.lockedBy.empty() ? "" : " (locked by " + now.lockedBy + ")"),
-                              {{"value", now.json}, {"lockedBy", now.lockedBy.empty() ? Json() : Json(now.lockedBy)}});
+                              now.text + (now.lock.by.empty() ? "" : " (" + DescribeLock(now.lock) + ")"),
+                              {{"value", now.json},
+                               {"lockedBy", TextOrNull(now.lock.by)},
+                               {"needs", TextOrNull(now.lock.needs)}});
             } else if (last[i] && now.text != last[i]->text) {
                 changes.Print(watched[i].Name(), "camera", last[i]->text + " -> " + now.text,
                               {{"before", last[i]->json}, {"value", now.json}});
@@ -157,15 +159,15 @@ private:
     struct Held {
         std::string text;
         Json json; ///< null if it could not be read
-        std::string lockedBy;
+        LockState lock;
     };
 
     [[nodiscard]] static Held Read(const Camera& reader, const Instance& instance, bool andItsLock) {
         const Reading reading = andItsLock ? reader.Inspect(instance) : reader.TryRead(instance);
         if (reading.code != 0) {
-            return {"(" + reading.reason + ")", {}, ""};
+            return {"(" + reading.reason + ")", {}, {}};
         }
-        return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value), reading.lockedBy};
+        return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value), reading.lock};
     }
 
     bool areNamed;
