@@ -125,6 +125,18 @@ const Json& Json::operator[](std::string_view name) const {
     return none;
 }
 
+Json Json::Without(std::string_view name) const {
+    Json rest(Object{});
+    if (const auto* const members = Members()) {
+        for (const Member& member : *members) {
+            if (member.name != name) {
+                rest.Add(member.name, member.value);
+            }
+        }
+    }
+    return rest;
+}
+
 std::string Json::Print() const { return Dump(*this, 2); }
 
 std::string Json::PrintInOneLine() const { return Dump(*this, -1); }

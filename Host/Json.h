@@ -43,8 +43,12 @@ public:
     /// A member of an object, or JSON null if there is none.
     [[nodiscard]] const Json& operator[](std::string_view name) const;
 
+    /// An object without a member.
+    [[nodiscard]] Json Without(std::string_view name) const;
+
     // The content, or a null pointer if it has another type.
     [[nodiscard]] const bool* Bool() const { return std::get_if<bool>(&content); }
+    [[nodiscard]] bool IsTrue() const { return Bool() != nullptr && *Bool(); }
     [[nodiscard]] const std::int64_t* Number() const { return std::get_if<std::int64_t>(&content); }
     [[nodiscard]] const double* Fraction() const { return std::get_if<double>(&content); }
     [[nodiscard]] const std::string* Text() const { return std::get_if<std::string>(&content); }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -22,9 +23,11 @@ struct Access {
 /// A port that forwards every access to another one, and passes it to an observer or records it.
 class TracingPort final : public SDK4::IControlPort {
 public:
-    using Observer = void (*)(const Access&);
+    using Observer = std::function<void(const Access&)>;
 
-    explicit TracingPort(SDK4::IControlPort& traced, Observer told = nullptr) : port(traced), observer(told) {}
+    explicit TracingPort(SDK4::IControlPort& traced, Observer told = nullptr)
+        : port(traced),
+          observer(std::move(told)) {}
 
     /// The recorded accesses since the last call. None with an observer.
     [[nodiscard]] std::vector<Access> Take() { return std::exchange(accesses, {}); }

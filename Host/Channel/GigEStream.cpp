@@ -88,7 +88,8 @@ public:
         }
     }
 
-    [[nodiscard]] const Picture* Next(std::chrono::milliseconds longest) override;
+    [[nodiscard]] bool Await(std::chrono::milliseconds longest) override;
+    [[nodiscard]] const Picture& Develop() override { return picture; }
     [[nodiscard]] StreamStatistics Statistics() const override;
     [[nodiscard]] std::string ExplainLosses() const override;
 
@@ -140,14 +141,14 @@ PictureFormat FormatOf(ArvBuffer* buffer) {
             static_cast<std::uint32_t>(arv_buffer_get_image_height(buffer))};
 }
 
-const Picture* GigEStream::Next(std::chrono::milliseconds longest) {
+bool GigEStream::Await(std::chrono::milliseconds longest) {
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + longest;
-    for (auto left = std::chrono::microseconds(longest); left.count() > 0;
-         left = std::chrono::duration_cast<std::chrono::microseconds>(end - Clock::now())) {
-        Buffer came(arv_stream_timeout_pop_buffer(stream.get(), static_cast<guint64>(left.count())));
+    while (true) {
+        const auto left = std::chrono::duration_cast<std::chrono::microseconds>(end - Clock::now()).count();
+        Buffer came(arv_stream_timeout_pop_buffer(stream.get(), static_cast<guint64>(std::max<std::int64_t>(left, 0))));
         if (came == nullptr) {
-            break;
+            return false;
         }
         if (!Count(came.get())) {
             arv_stream_push_buffer(stream.get(), came.release());
@@ -163,9 +164,8 @@ const Picture* GigEStream::Next(std::chrono::milliseconds longest) {
                    arv_buffer_get_frame_id(held.get()),
                    std::chrono::nanoseconds(arv_buffer_get_timestamp(held.get())),
                    {data, size}};
-        return &picture;
+        return true;
     }
-    return nullptr;
 }
 
 StreamStatistics GigEStream::Statistics() const {

@@ -5,6 +5,7 @@
 #include "Host/Describe.h"
 #include "Host/Format.h"
 #include "Host/Settings/CameraSettings.h"
+#include "Host/Settings/ResultJson.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Simulation/Cameras.h"
 
@@ -56,14 +57,6 @@ std::string PrintOne(const Instance& instance, const Value* value) {
 std::string Describe(const Difference& difference) {
     return Pad(difference.instance.Name(), 24) + "  " + Pad(PrintOne(difference.instance, difference.first), 22) +
            "  " + PrintOne(difference.instance, difference.second);
-}
-
-Json ToJson(const Difference& difference) {
-    const auto json = [&](const Value* value) {
-        return value == nullptr ? Json() : ToJson(difference.instance, *value);
-    };
-    return Json{
-        {"name", difference.instance.Name()}, {"first", json(difference.first)}, {"second", json(difference.second)}};
 }
 
 /// Reports what is missing in a file and therefore not compared.

@@ -7,6 +7,7 @@
 #include "Host/Interrupts.h"
 #include "Host/Settings/Assign.h"
 #include "Host/Settings/Restorer.h"
+#include "Host/Settings/ResultJson.h"
 #include "Host/Settings/SettingsFile.h"
 #include "Host/Settings/UncachedCamera.h"
 #include "Host/Style.h"
@@ -69,20 +70,6 @@ private:
     const Output& output;
     const Function* lastSkipped = nullptr;
 };
-
-Json ToJson(const RestoreResult& result) {
-    const auto json = [&](const std::optional<Value>& value) {
-        return value ? ToJson(result.instance, *value) : Json();
-    };
-    Json document{{"name", result.instance.Name()},
-                  {"result", NameOf(result.status)},
-                  {"saved", ToJson(result.instance, result.saved)},
-                  {"before", json(result.before)},
-                  {"value", json(result.held)},
-                  {"reason", TextOrNull(result.reason)}};
-    AddLock(document, result.lock);
-    return document;
-}
 
 void PrintDocument(const std::vector<RestoreResult>& results, Output& output) {
     for (const RestoreResult& result : results) {

@@ -6,20 +6,6 @@
 
 namespace Host {
 
-namespace {
-
-Json ToJson(const FunctionValue& assignment, const Assigned& result) {
-    const Instance& instance = assignment.instance;
-    Json document{{"name", instance.Name()},
-                  {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
-                  {"value", result.held ? ToJson(instance, *result.held) : Json()},
-                  {"error", result.failure.code == 0 ? Json() : Json(result.failure.reason)}};
-    AddLock(document, result.lock);
-    return document;
-}
-
-} // namespace
-
 int Set(const Invocation& invocation) {
     Session& session = invocation.Open();
     session.Connection().RequireControl();

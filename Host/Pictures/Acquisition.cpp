@@ -105,14 +105,23 @@ void Acquisition::Stop() {
     }
 }
 
-const Picture* Acquisition::Next() {
+void Acquisition::Trigger() {
     if (trigger != nullptr) {
         trigger->SetSoftTrigger(1);
     }
+}
+
+Picture Acquisition::Checked(const Picture& came) const {
+    Picture checked = came;
+    checked.bytes = RequireFitting(came, format);
+    return checked;
+}
+
+const Picture* Acquisition::Next() {
+    Trigger();
     for (milliseconds waited{0}; waited < patience && !Interrupts::Received(); waited += slice) {
         if (const Picture* const came = source->Next(slice)) {
-            picture = *came;
-            picture.bytes = RequireFitting(*came, format);
+            picture = Checked(*came);
             return &picture;
         }
     }

@@ -29,10 +29,20 @@ public:
     /// @throws std::runtime_error for a frame of another format; ChannelLost
     [[nodiscard]] const Picture* Next();
 
+    /// Whether each exposure waits for a trigger.
+    [[nodiscard]] bool IsTriggered() const { return trigger != nullptr; }
+    /// Triggers an exposure, if exposures wait for one.
+    /// @throws X4Error; ChannelError
+    void Trigger();
+
+    /// The picture, cut to the bytes of the format.
+    /// @throws std::runtime_error if it has another format or is too short
+    [[nodiscard]] Picture Checked(const Picture& came) const;
+
     /// @throws X4Error; ChannelError
     void Stop();
 
-    [[nodiscard]] const PictureSource& Source() const { return *source; }
+    [[nodiscard]] PictureSource& Source() const { return *source; }
 
 private:
     void Abandon();

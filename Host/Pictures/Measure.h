@@ -14,6 +14,7 @@ struct Measures {
     double sharpness = 0; ///< mean difference of horizontal neighbours, in per mille of full scale
 };
 
-[[nodiscard]] Measures Measure(const Picture& picture, const PixelFormat& format);
+/// @param step measures every step-th line only
+[[nodiscard]] Measures Measure(const Picture& picture, const PixelFormat& format, std::uint32_t step = 1);
 
 } // namespace Host

@@ -41,10 +41,20 @@ public:
     PictureSource(const PictureSource&) = delete;
     PictureSource& operator=(const PictureSource&) = delete;
 
-    /// Waits for the next picture.
+    /// Waits for the next frame, on the thread that owns the camera. Ends the validity of the last picture.
     /// @param longest the longest wait; in process, in simulated time
+    /// @return whether one came
+    [[nodiscard]] virtual bool Await(std::chrono::milliseconds longest) = 0;
+    /// The picture of the frame that came last; on any thread. It takes long for a simulated camera in process, and
+    /// needs no access to the camera.
+    [[nodiscard]] virtual const Picture& Develop() = 0;
+
+    /// Waits for the next picture.
+    /// @param longest as above
     /// @return null if none came. A picture is valid until the next one arrives.
-    [[nodiscard]] virtual const Picture* Next(std::chrono::milliseconds longest) = 0;
+    [[nodiscard]] const Picture* Next(std::chrono::milliseconds longest) {
+        return Await(longest) ? &Develop() : nullptr;
+    }
 
     [[nodiscard]] virtual StreamStatistics Statistics() const = 0;
     /// Why pictures may have been lost, for a message; empty if nothing is known.

@@ -1,22 +1,27 @@
 #include "Host/Pictures/SimulatedPictures.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Host {
 
 using std::chrono::microseconds;
 
-const Picture* SimulatedPictures::Next(std::chrono::milliseconds longest) {
+bool SimulatedPictures::Await(std::chrono::milliseconds longest) {
     const auto due = acquisition.Due();
     const microseconds wait = due ? *due - camera.Time() : longest;
     camera.Advance(std::clamp<microseconds>(wait, microseconds(0), longest));
-    const auto exposed = acquisition.Take();
-    if (!exposed) {
-        return nullptr;
+    auto next = acquisition.Take();
+    if (next) {
+        exposed = std::move(next);
     }
+    return next.has_value();
+}
+
+const Picture& SimulatedPictures::Develop() {
     renderer.Render(exposed->settings, exposed->number, frame);
     picture = {{frame.pixelFormat, frame.width, frame.height}, exposed->number, exposed->time, frame.bytes};
-    return &picture;
+    return picture;
 }
 
 } // namespace Host

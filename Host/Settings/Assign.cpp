@@ -10,8 +10,21 @@ namespace Host {
 
 namespace {
 
-/// @param reader reads what the camera holds, whatever the other control has cached
-Assigned Perform(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
+/// What became of a value that the camera does not hold as it was asked for.
+std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
+    const std::string asked = assignment.instance.Print(assignment.value);
+    const std::string held = assignment.instance.Print(*result.held);
+    if (result.failure.code == 0) {
+        return asked + (result.rounded ? " was rounded to " : " was accepted, but the camera now holds ") + held;
+    }
+    const bool clamped = result.failure.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
+    return clamped ? asked + " was clamped, the camera now holds " + held
+                   : asked + " was refused, the camera still holds " + held;
+}
+
+} // namespace
+
+Assigned AssignOne(const Camera& camera, const Camera& reader, const Wait& wait, const FunctionValue& assignment) {
     Assigned result;
     result.failure = Attempt([&] { camera.SetUnlessLocked(assignment.instance, assignment.value); });
     if (result.failure.code != 0) {
@@ -31,37 +44,27 @@ Assigned Perform(const Camera& camera, const Camera& reader, const Wait& wait, c
     return result;
 }
 
-/// What became of a value that the camera does not hold as it was asked for.
-std::string DescribeHeld(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
-    const std::string asked = assignment.instance.Print(assignment.value);
-    const std::string held = assignment.instance.Print(*result.held);
-    if (result.failure.code == 0) {
-        return asked + (result.rounded ? " was rounded to " : " was accepted, but the camera now holds ") + held;
-    }
-    const bool clamped = result.failure.code == SDK4_ERR_OUTOFRANGE && !camera.RefusalOf(assignment.instance).keeps;
-    return clamped ? asked + " was clamped, the camera now holds " + held
-                   : asked + " was refused, the camera still holds " + held;
-}
-
-/// Says on standard error what did not go as asked for.
-/// @return whether it was refused
-bool Report(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
+std::string DescribeProblem(const Camera& camera, const FunctionValue& assignment, const Assigned& result) {
     const bool differs = result.held && *result.held != assignment.value;
-    if (result.failure.code == 0 && !differs) {
-        return false;
-    }
-    std::string text = assignment.instance.Name();
+    std::string text;
     if (result.failure.code != 0) {
         text += ": " + DescribeRefusal(result.failure.reason, result.lock);
     }
     if (differs) {
         text += ": " + DescribeHeld(camera, assignment, result);
     }
-    PrintError(text);
-    return result.failure.code != 0 || !result.rounded;
+    return text.empty() ? "" : assignment.instance.Name() + text;
 }
 
-} // namespace
+Json ToJson(const FunctionValue& assignment, const Assigned& result) {
+    const Instance& instance = assignment.instance;
+    Json document{{"name", instance.Name()},
+                  {"asked", instance->trigger ? Json() : ToJson(instance, assignment.value)},
+                  {"value", result.held ? ToJson(instance, *result.held) : Json()},
+                  {"error", result.failure.code == 0 ? Json() : Json(result.failure.reason)}};
+    AddLock(document, result.lock);
+    return document;
+}
 
 void Caution(const Connection& connection, const Instance& instance, const Value& held) {
     const bool concerns = instance->caution != nullptr && connection.IsOnNetwork();
@@ -77,9 +80,12 @@ bool Assign(Session& session, const std::vector<FunctionValue>& assignments,
     const Wait wait = MakeWait(session);
     bool refused = false;
     for (const FunctionValue& assignment : assignments) {
-        const Assigned result = Perform(camera, reader.Camera(), wait, assignment);
+        const Assigned result = AssignOne(camera, reader.Camera(), wait, assignment);
         told(assignment, result);
-        refused |= Report(camera, assignment, result);
+        if (const std::string problem = DescribeProblem(camera, assignment, result); !problem.empty()) {
+            PrintError(problem);
+            refused |= !result.IsAccepted(assignment.value);
+        }
         if (result.failure.code == 0 && result.held) {
             Caution(session.Connection(), assignment.instance, *result.held);
         }

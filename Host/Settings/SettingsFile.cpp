@@ -22,12 +22,13 @@ constexpr const char* missingMember = "missing";
     throw UsageError(DescribeFile(file) + ": " + why);
 }
 
-Json Parse(const std::string& file) {
+Json Parse(const std::string& content, const std::string& file) {
+    if (content.empty()) {
+        Fail(file, "empty file");
+    }
     Json document;
     try {
-        document = Json::Parse(ReadSettingsText(file));
-    } catch (const UsageError&) {
-        throw;
+        document = Json::Parse(content);
     } catch (const std::exception& error) {
         Fail(file, std::string("damaged, or not a settings file: ") + error.what());
     }
@@ -117,7 +118,9 @@ std::vector<Instance> MissingIn(const Json& document, const KnownFunctions& know
     return missing;
 }
 
-Json ToJson(const Settings& settings) {
+} // namespace
+
+Json SettingsToJson(const Settings& settings) {
     Json values(Json::Object{});
     for (const FunctionValue& setting : settings.values) {
         values.Add(setting.instance.Name(), ToJson(setting.instance, setting.value));
@@ -130,8 +133,6 @@ Json ToJson(const Settings& settings) {
     }
     return document;
 }
-
-} // namespace
 
 std::string ReadSettingsText(const std::string& file) {
     std::string content;
@@ -146,9 +147,6 @@ std::string ReadSettingsText(const std::string& file) {
             Fail(file, error.code().message());
         }
     }
-    if (content.empty()) {
-        Fail(file, "empty file");
-    }
     return content;
 }
 
@@ -156,7 +154,11 @@ Settings ReadSettings(const std::string& file, bool inShell) {
     if (file == standardStream && inShell) {
         throw UsageError("standard input is taken by the shell; give a file");
     }
-    const Json document = Parse(file);
+    return ParseSettings(ReadSettingsText(file), file);
+}
+
+Settings ParseSettings(const std::string& content, const std::string& file) {
+    const Json document = Parse(content, file);
     Settings settings{TextOf(document, "model", file),
                       TextOf(document, "family", file),
                       TextOf(document, "serialnumber", file),
@@ -173,7 +175,7 @@ Settings ReadSettings(const std::string& file, bool inShell) {
 }
 
 void WriteSettings(const Settings& settings, const std::string& file) {
-    WriteOutput(file, ToJson(settings).Print() + '\n');
+    WriteOutput(file, SettingsToJson(settings).Print() + '\n');
 }
 
 } // namespace Host

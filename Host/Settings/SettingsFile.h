@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Json.h"
 #include "Host/OutputFile.h"
 #include "Host/Settings/Settings.h"
 
@@ -18,5 +19,11 @@ void WriteSettings(const Settings& settings, const std::string& file);
 /// @param inShell whether standard input holds the commands of a shell
 /// @throws UsageError if the file cannot be read, is damaged or not a settings file, or has another format version
 [[nodiscard]] Settings ReadSettings(const std::string& file, bool inShell);
+
+/// The document of a settings file.
+[[nodiscard]] Json SettingsToJson(const Settings& settings);
+/// @param file as messages name it
+/// @throws UsageError as above
+[[nodiscard]] Settings ParseSettings(const std::string& content, const std::string& file);
 
 } // namespace Host
