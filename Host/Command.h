@@ -32,6 +32,7 @@ enum class Parameter {
     OneByOne,
     Outputs,
     Plugin,
+    Port,
     Raw,
     Second,
     Seconds,

@@ -9,7 +9,7 @@ jobs=$(nproc)
 # cross-compilation. clang-14 does not depend on the sanitizers' run-time libraries or on llvm-symbolizer, without which
 # leaks have no names and suppressions do not match. The pkg-config file of Aravis requires libusb.
 build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-dev libgmock-dev libcli11-dev
-    nlohmann-json3-dev libedit-dev libpng-dev libzip-dev libaravis-dev libusb-1.0-0-dev libasio-dev libpcap-dev
+    nlohmann-json3-dev libedit-dev libpng-dev libturbojpeg0-dev libzip-dev libaravis-dev libusb-1.0-0-dev libasio-dev libboost1.74-dev libpcap-dev
     binutils help2man dpkg-dev file)
 test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark gstreamer1.0-tools
     gstreamer1.0-plugins-good)

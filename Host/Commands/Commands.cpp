@@ -56,6 +56,7 @@ const std::vector<Command>& Commands() {
     static const Syntax mask{Parameter::Mask, "MASK", "Its subnet mask"};
     static const Syntax gateway{Parameter::Gateway, "GATEWAY", "Its default gateway (default: 0.0.0.0, none)",
                                 Required::Never};
+    static const Syntax port{Parameter::Port, "--port N", "The TCP port of the panel (default: a free one)"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
@@ -73,6 +74,7 @@ const std::vector<Command>& Commands() {
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, watched, seconds, interval, keepTrying, noControl}, Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {cameras, outputs, oneByOne}, Selftest},
+        {"panel",    "Serve a control panel for the browser of this machine",          {camera, port},                  ServePanel, false},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},
     };
     // clang-format on

@@ -17,6 +17,7 @@ int Save(const Invocation& invocation);
 int Diff(const Invocation& invocation);
 int Restore(const Invocation& invocation);
 int Grab(const Invocation& invocation);
+int ServePanel(const Invocation& invocation);
 int Watch(const Invocation& invocation);
 int Selftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);

@@ -99,7 +99,7 @@ void AddM2VXDevice(FunctionTable& table) {
     table.Topic(Topics::tests);
     table.Setting<&IInternalTests::GetTestPattern, &IInternalTests::SetTestPattern> ("testpattern") .Instances(2)
         .Means("Test pattern of one half of the sensor");
-    table.WriteOnly<&IBasicSettings::Restart>                                       ("restart")
+    table.WriteOnly<&IBasicSettings::Restart>                                       (Name::restart)
         .Means("Restarts the camera");
     table.Topic(Topics::correction);
     table.Setting<&D::GetDefectPixelShow, &D::SetDefectPixelShow> ("defectpixelshow")             .Named(Named::onOff)

@@ -27,6 +27,7 @@ inline constexpr std::string_view overlayShow           = "overlayshow";
 inline constexpr std::string_view overlaySize           = "overlaysize";
 inline constexpr std::string_view overlayStyle          = "overlaystyle";
 inline constexpr std::string_view recursiveFilter       = "recursivefilter";
+inline constexpr std::string_view restart               = "restart";
 inline constexpr std::string_view serialNumber          = "serialnumber";
 inline constexpr std::string_view shadingCorrectionMode = "shadingcorrectionmode";
 inline constexpr std::string_view verticalFlip          = "verticalflip";

@@ -1,0 +1,146 @@
+#include "Host/Panel/FunctionBoard.h"
+
+#include "Host/Describe.h"
+#include "Host/FunctionState.h"
+
+#include <algorithm>
+
+namespace Host::Panel {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds shownPeriod{100};   ///< between two reads of a function that a client shows
+constexpr milliseconds hiddenPeriod{2000}; ///< of another one
+constexpr milliseconds longestPoll{4};
+constexpr int restAfterPoll = 4; ///< times its duration, which leaves four fifths of the channel
+
+} // namespace
+
+FunctionBoard::FunctionBoard(const Camera& setting, const Camera& reading, TraceLog& traced)
+    : setter(setting),
+      reader(reading),
+      trace(traced) {
+    for (const Instance& instance : reader.All(false)) {
+        entries.push_back({.instance = instance, .many = instance->count > fewInstances});
+    }
+}
+
+FunctionBoard::Entry* FunctionBoard::Due(const std::set<std::string>& shown) {
+    const auto now = Clock::now();
+    Entry* hidden = nullptr;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        Entry& entry = entries[(next + i) % entries.size()];
+        const bool isShown = shown.contains(entry.instance.Name());
+        const bool isDue =
+            entry.stale || now >= entry.described + hiddenPeriod ||
+            (isShown && !entry.many && entry.instance->get != nullptr && now >= entry.read + shownPeriod);
+        if (isDue && isShown) {
+            next = (next + i + 1) % entries.size();
+            return &entry;
+        }
+        hidden = isDue && hidden == nullptr ? &entry : hidden;
+    }
+    return hidden;
+}
+
+void FunctionBoard::Poll(const std::set<std::string>& shown) {
+    const auto start = Clock::now();
+    auto end = start;
+    while (end >= notBefore && end < start + longestPoll) {
+        Entry* const entry = Due(shown);
+        if (entry == nullptr) {
+            break;
+        }
+        entry->stale || start >= entry->described + hiddenPeriod ? Describe(*entry) : ReadValue(*entry);
+        end = Clock::now();
+    }
+    if (end > start) {
+        notBefore = end + restAfterPoll * (end - start);
+    }
+}
+
+void FunctionBoard::Refresh() {
+    for (Entry& entry : entries) {
+        entry.stale = true;
+    }
+    notBefore = {};
+}
+
+void FunctionBoard::Complete() {
+    for (Entry& entry : entries) {
+        if (entry.described == Clock::time_point()) {
+            Describe(entry);
+        }
+    }
+}
+
+void FunctionBoard::ReadValue(Entry& entry) {
+    const TraceLog::Call call(trace, "get " + entry.instance.Name());
+    const Reading reading = reader.TryRead(entry.instance);
+    entry.read = Clock::now();
+    SetValue(entry, reading.code == 0 ? ToJson(entry.instance, reading.value) : Json());
+}
+
+Json FunctionBoard::Describe(const Instance& instance, bool many) const {
+    FunctionState state = InspectFunction(reader, instance);
+    if (setter.As<SDK4::Control::IPropertyState>() != nullptr && state.reading.code == 0) {
+        state.reading.lock = setter.LockOf(instance); // the properties of the other control do not follow
+        state.limits = setter.LimitsOf(instance);
+    }
+    return FunctionToJson(instance, state, many);
+}
+
+void FunctionBoard::Describe(Entry& entry) {
+    const TraceLog::Call call(trace, "describe " + entry.instance.Name());
+    Json document = Describe(entry.instance, entry.many);
+    entry.read = entry.described = Clock::now();
+    entry.stale = false;
+    SetValue(entry, document["value"]);
+    Json rest = document.Without("value");
+    if (std::string printed = rest.PrintInOneLine(); printed != entry.printed) {
+        entry.printed = std::move(printed);
+        entry.documentVersion = ++version;
+    }
+    entry.document = std::move(rest);
+}
+
+void FunctionBoard::SetValue(Entry& entry, Json value) {
+    if (entry.valueVersion == 0 || value.PrintInOneLine() != entry.value.PrintInOneLine()) {
+        entry.value = std::move(value);
+        entry.valueVersion = ++version;
+    }
+}
+
+Json FunctionBoard::ValuesSince(std::uint64_t seen) const {
+    Json values;
+    for (const Entry& entry : entries) {
+        if (entry.valueVersion > seen && !entry.many) {
+            values.Add(entry.instance.Name(), entry.value);
+        }
+    }
+    return values;
+}
+
+std::vector<Json> FunctionBoard::FunctionsSince(std::uint64_t seen) const {
+    std::vector<Json> changed;
+    for (const Entry& entry : entries) {
+        if (entry.documentVersion > seen) {
+            Json function = entry.document;
+            function.Add("value", entry.value);
+            changed.push_back(std::move(function));
+        }
+    }
+    return changed;
+}
+
+Json FunctionBoard::All() const {
+    Json all(Json::List{});
+    for (Json& function : FunctionsSince(0)) {
+        all.Add(std::move(function));
+    }
+    return all;
+}
+
+} // namespace Host::Panel
