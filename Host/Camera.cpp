@@ -112,7 +112,8 @@ void Camera::Write(const Instance& instance, const Value& value) const {
 }
 
 void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const {
-    if (properties != nullptr && !LockedBy(instance).empty()) {
+    const std::string lock = properties == nullptr ? "" : LockedBy(instance);
+    if (!lock.empty() && lock != acquisition) { // the control knows whether acquisition runs
         throw SDK4::X4Error(SDK4_ERR_DISABLED);
     }
     Write(instance, value);
@@ -132,7 +133,7 @@ Reading Camera::TryRead(const Instance& instance) const {
 
 Reading Camera::Inspect(const Instance& instance) const {
     Reading reading = TryRead(instance);
-    if (reading.code == 0 || reading.code == SDK4_ERR_DISABLED) {
+    if (reading.IsAccessible()) {
         const Outcome failure = Attempt([&] { reading.lock = LockOf(instance); });
         if (reading.code == 0) {
             static_cast<Outcome&>(reading) = failure;

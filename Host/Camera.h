@@ -26,6 +26,8 @@ struct Reading : Outcome {
     [[nodiscard]] bool IsImplemented() const {
         return code != SDK4_ERR_NOT_IMPLEMENTED && code != SDK4_ERR_INVALID_INTERFACE;
     }
+    /// Whether it was read, or could be in another mode.
+    [[nodiscard]] bool IsAccessible() const { return code == 0 || code == SDK4_ERR_DISABLED; }
     /// Whether the camera lacks the function, or it is not available now.
     [[nodiscard]] bool IsAbsent() const { return !IsImplemented() || code == SDK4_ERR_DISABLED; }
 };

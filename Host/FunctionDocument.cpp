@@ -136,8 +136,8 @@ void Print(const Line& line, const Family& family) {
     const char* const use = function.set == nullptr ? "read" : function.get == nullptr ? "write" : "read, write";
     const std::string name =
         std::string(function.name) + (function.indexed ? ".0-" + std::to_string(function.count - 1) : "");
-    std::cout << "| `" << name << "` | " << function.interfaceName << " | " << use << " | " << function.unit << " | "
-              << Cell(Limits(line, family)) << " | " << line.reached << " | "
+    std::cout << "| `" << name << "` | " << function.meaning << " | " << function.interfaceName << " | " << use << " | "
+              << function.unit << " | " << Cell(Limits(line, family)) << " | " << line.reached << " | "
               << (having.empty() ? "none" : Models(having, family.models)) << " |\n";
 }
 
@@ -146,8 +146,8 @@ void Print(const std::string& name, const Family& family) {
     for (const std::string& model : family.models) {
         std::cout << " `" << model << "`";
     }
-    std::cout
-        << "\n\n| Function | Interface | Use | Unit | Limits | Register | Models |\n|---|---|---|---|---|---|---|\n";
+    std::cout << "\n\n| Function | Meaning | Interface | Use | Unit | Limits | Register | Models "
+                 "|\n|---|---|---|---|---|---|---|---|\n";
     for (const Line& line : family.lines) {
         Print(line, family);
     }

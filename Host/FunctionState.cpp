@@ -84,9 +84,10 @@ Json FieldsToJson(const Function& function) {
 
 FunctionState InspectFunction(const Camera& camera, const Instance& instance) {
     FunctionState state{camera.Inspect(instance), {}, {}, {}};
-    if (state.reading.code == 0) {
+    if (state.reading.IsAccessible()) {
         state.limitsOutcome = Attempt([&] { state.limits = camera.LimitsOf(instance); });
-        state.defaultValue = instance->set == nullptr ? std::nullopt : DefaultOf(state.limits);
+        const bool isHeld = instance->set != nullptr && instance->get != nullptr;
+        state.defaultValue = isHeld ? DefaultOf(state.limits) : std::nullopt;
     }
     return state;
 }
@@ -117,6 +118,7 @@ Json FunctionToJson(const Instance& instance, const FunctionState& state, bool m
                   {"default", state.defaultValue ? ToJson(instance, *state.defaultValue) : Json()},
                   {"limits", LimitsToJson(instance, state.limits)},
                   {"codes", CodesToJson(function)},
+                  {"form", TextOrNull(std::string(function.form))},
                   {"readable", function.get != nullptr},
                   {"writable", function.set != nullptr},
                   {"trigger", function.trigger},

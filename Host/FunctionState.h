@@ -12,7 +12,7 @@ namespace Host {
 struct FunctionState {
     Reading reading;
     Limits limits;
-    std::optional<Value> defaultValue; ///< if the family publishes it and the function can be set
+    std::optional<Value> defaultValue; ///< if the family publishes it; not of a report or a command
     Outcome limitsOutcome;             ///< how reading the limits ended
 };
 
