@@ -4,6 +4,7 @@
 
 #include "Common/Number.h"
 #include "Common/Text.h"
+#include "Host/CallTrace.h"
 #include "Host/Describe.h"
 #include "Host/Errors.h"
 #include "Host/Format.h"
@@ -30,28 +31,6 @@ struct Family {
     std::vector<std::string> models;
     std::vector<Line> lines;
 };
-
-/// Brings the camera into the mode that the function needs, so that reading it is not refused.
-void Unlock(const Camera& camera, const Instance& instance) {
-    if (instance->lock && !camera.LockedBy(instance).empty()) {
-        camera.Write(camera.FindOne(instance->lock->mode), {.numbers = {instance->lock->open.front()}, .text = {}});
-    }
-}
-
-/// The register that a call reaches last, behind those that decide whether it may be made.
-std::string RegisterOf(Session& session, const Function& function) {
-    const Camera camera = session.Camera();
-    const Instance instance{&function};
-    Unlock(camera, instance);
-    (void)session.Port().Take();
-    if (instance->get != nullptr) {
-        (void)camera.TryRead(instance);
-    } else {
-        camera.Write(instance, {.numbers = std::vector<std::int64_t>(instance->shape.fields.size(), 1), .text = "1"});
-    }
-    std::vector<Access> accesses = session.Port().Take();
-    return accesses.empty() ? "" : Common::Hex(accesses.back().address);
-}
 
 /// Enters the model of the camera, if it has the function.
 /// @return whether it has
@@ -82,8 +61,8 @@ void AddModel(const Plugin& plugin, const std::string& model, std::map<std::stri
     for (Line& line : family.lines) {
         Session looked(plugin, model, {.index = 2});
         if (Enter(looked, line) && line.reached.empty()) {
-            Session called(plugin, model, {.index = 2}); // nothing is cached yet
-            line.reached = RegisterOf(called, *line.function);
+            const auto trace = TraceCalls(plugin, model, {line.function});
+            line.reached = trace && trace->Register() ? Common::Hex(*trace->Register()) : "";
         }
     }
 }

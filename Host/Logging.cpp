@@ -61,4 +61,12 @@ void ConfigureLogging(const std::string& level, const std::string& configuration
     }
 }
 
+QuietLog::QuietLog() {
+    const auto repository = log4cxx::LogManager::getLoggerRepository();
+    threshold = repository->getThreshold()->toInt();
+    repository->setThreshold(log4cxx::Level::getOff());
+}
+
+QuietLog::~QuietLog() { log4cxx::LogManager::getLoggerRepository()->setThreshold(log4cxx::Level::toLevel(threshold)); }
+
 } // namespace Host

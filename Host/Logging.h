@@ -9,4 +9,16 @@ namespace Host {
 /// appenders, and also the level if none is given here.
 void ConfigureLogging(const std::string& level, const std::string& configuration = "");
 
+/// Drops all log lines as long as it exists.
+class QuietLog {
+public:
+    QuietLog();
+    ~QuietLog();
+    QuietLog(const QuietLog&) = delete;
+    QuietLog& operator=(const QuietLog&) = delete;
+
+private:
+    int threshold; ///< before
+};
+
 } // namespace Host

@@ -65,6 +65,7 @@ const std::vector<Command>& Commands() {
         {"force-ip", "Give a camera on the network an address, whatever it has now",   {mac, address, mask, gateway},   ForceIp},
         {"info",     "Show the identity and the address of a camera",                  {cameras, noControl, oneByOne}, Info},
         {"list",     "List the functions of a camera: all, some, or those of a topic", {camera, listed, topic, all, noControl}, List},
+        {"describe", "Explain functions: meaning, limits, locks, register, cost",      {camera, names, noControl},      Describe},
         {"get",      "Print the values of functions",                                  {cameras, names, noControl, oneByOne}, Get},
         {"set",      "Set functions, such as gain=100 exposure=1:2000",                {camera, assignments},           Set},
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},

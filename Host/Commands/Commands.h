@@ -11,6 +11,7 @@ int Discover(const Invocation& invocation);
 int ForceIp(const Invocation& invocation);
 int Info(const Invocation& invocation);
 int List(const Invocation& invocation);
+int Describe(const Invocation& invocation);
 int Get(const Invocation& invocation);
 int Set(const Invocation& invocation);
 int Save(const Invocation& invocation);
