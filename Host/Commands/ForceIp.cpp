@@ -4,6 +4,7 @@
 #include "Common/Text.h"
 #include "Host/CameraName.h"
 #include "Host/Channel/Broadcast.h"
+#include "Host/Channel/Busy.h"
 #include "Host/Channel/Requests.h"
 #include "Host/Commands/FoundCameras.h"
 
@@ -85,12 +86,8 @@ void RequireFree(const Wanted& wanted, const std::vector<FoundCamera>& found, co
 
 /// Sends the request until it is acknowledged.
 /// @return nothing without acknowledge
-std::optional<Gvcp::Status> Force(const Wanted& wanted) {
-    std::string digits = wanted.mac;
-    std::erase(digits, ':');
-    Broadcast network;
-    network.Send(Gvcp::Command::ForceIp,
-                 Gvcp::MakeForcedIp({Common::ParseWhole<std::uint64_t>(digits, 16).value_or(0), wanted.ip}));
+std::optional<Gvcp::Status> ForceOnce(Broadcast& network, const Gvcp::Bytes& forced) {
+    network.Send(Gvcp::Command::ForceIp, forced);
     for (int attempt = 0; attempt < forceAttempts; ++attempt) {
         if (attempt > 0) {
             network.Repeat();
@@ -100,6 +97,16 @@ std::optional<Gvcp::Status> Force(const Wanted& wanted) {
         }
     }
     return std::nullopt;
+}
+
+std::optional<Gvcp::Status> Force(const Wanted& wanted) {
+    std::string digits = wanted.mac;
+    std::erase(digits, ':');
+    const auto mac = Common::ParseWhole<std::uint64_t>(digits, 16).value_or(0);
+    const Gvcp::Bytes forced = Gvcp::MakeForcedIp({mac, wanted.ip});
+    Broadcast network;
+    return RetryWhileBusy([&] { return ForceOnce(network, forced); },
+                          [](const auto& status) { return status == Gvcp::Status::Busy; });
 }
 
 const FoundCamera* FindMac(const std::vector<FoundCamera>& found, const std::string& mac) {
