@@ -78,7 +78,7 @@ struct Answer {
 
 /// What ForceIp asks for: the camera with that MAC address takes that IP configuration until its next start.
 struct ForcedIp {
-    std::uint64_t mac;
+    std::uint64_t mac = 0;
     IpConfiguration ip;
 };
 [[nodiscard]] Bytes MakeForcedIp(const ForcedIp& forced);

@@ -53,7 +53,7 @@ Wanted ParseWanted(const Invocation& invocation) {
             throw UsageError("invalid IPv4 address \"" + part + '"');
         }
     }
-    const Wanted wanted{*mac, Common::ParseConfiguration(parts[0], parts[1], parts[2]).value()};
+    Wanted wanted{*mac, Common::ParseConfiguration(parts[0], parts[1], parts[2]).value()};
     if (const std::string why = Common::WhyUnusable(wanted.ip); !why.empty()) {
         throw UsageError(why);
     }
