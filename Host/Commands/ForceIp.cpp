@@ -84,6 +84,15 @@ void RequireFree(const Wanted& wanted, const std::vector<FoundCamera>& found, co
     }
 }
 
+/// The number of a valid MAC address.
+std::uint64_t NumberOf(const std::string& mac) {
+    std::uint64_t number = 0;
+    for (std::size_t i = 0; i < mac.size(); i += 3) {
+        number = number << 8 | Common::ParseWhole<std::uint8_t>(mac.substr(i, 2), 16).value_or(0);
+    }
+    return number;
+}
+
 /// Sends the request until it is acknowledged.
 /// @return nothing without acknowledge
 std::optional<Gvcp::Status> ForceOnce(Broadcast& network, const Gvcp::Bytes& forced) {
@@ -100,10 +109,7 @@ std::optional<Gvcp::Status> ForceOnce(Broadcast& network, const Gvcp::Bytes& for
 }
 
 std::optional<Gvcp::Status> Force(const Wanted& wanted) {
-    std::string digits = wanted.mac;
-    std::erase(digits, ':');
-    const auto mac = Common::ParseWhole<std::uint64_t>(digits, 16).value_or(0);
-    const Gvcp::Bytes forced = Gvcp::MakeForcedIp({mac, wanted.ip});
+    const Gvcp::Bytes forced = Gvcp::MakeForcedIp({NumberOf(wanted.mac), wanted.ip});
     Broadcast network;
     return RetryWhileBusy([&] { return ForceOnce(network, forced); },
                           [](const auto& status) { return status == Gvcp::Status::Busy; });
