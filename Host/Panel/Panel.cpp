@@ -56,7 +56,7 @@ Panel::Panel(const Plugin& loaded, std::string cameraName, CameraOptions chosen,
         before(access);
     };
     std::promise<void> opening;
-    cameraThread = std::make_unique<Worker>([this] { return server ? Poll() : Clock::now() + quietPeriod; });
+    cameraThread = std::make_unique<Worker>([this] { return server && !ending ? Poll() : Clock::now() + quietPeriod; });
     cameraThread->Post([&] {
         try {
             Open();
@@ -79,9 +79,9 @@ Panel::Panel(const Plugin& loaded, std::string cameraName, CameraOptions chosen,
 }
 
 Panel::~Panel() {
-    ending = true; // ends a restore
+    ending = true; // ends a restore, and polling
+    cameraThread->Post([this] { live.reset(); }); // before the thread to which it delivers
     cameraThread.reset();
-    live.reset();
     if (opened) {
         opened->session.Connection().SaveState();
     }
@@ -277,7 +277,7 @@ void Panel::Received(ClientId client, std::string text) {
 }
 
 void Panel::Understand(ClientId id, const std::string& text) {
-    const auto client = clients.find(id);
+    const auto client = ending ? clients.end() : clients.find(id);
     Json received;
     try {
         received = Json::Parse(text);
@@ -322,7 +322,9 @@ void Panel::Handle(Request request, std::function<void(Response)> respond) {
     const bool sets = request.method == "PUT"; // only the newest value of a function counts
     const auto id = requests.Add(std::move(respond), sets ? request.path : "", Clock::now() + answerTime);
     cameraThread->Post([this, id, request = std::move(request)] {
-        if (requests.Begin(id)) {
+        if (ending) {
+            requests.Answer(id, Refusal(503, "the panel ends"));
+        } else if (requests.Begin(id)) {
             Carry(request, [this, id](Response response) { requests.Answer(id, std::move(response)); });
         }
     });
