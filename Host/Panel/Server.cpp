@@ -44,7 +44,7 @@ using Parser = http::request_parser<http::string_body>;
 using Shared = std::shared_ptr<const std::string>;
 
 constexpr std::chrono::milliseconds retry{50};      ///< of accepting a connection
-constexpr std::chrono::milliseconds farewell{2000}; ///< for a client to take the last answer
+constexpr std::chrono::milliseconds farewell{2000}; ///< for a client to close its end
 
 constexpr std::size_t largestRead = 4 << 10;
 constexpr std::size_t largestBuffer = 16 << 10; ///< more than a header and a read
@@ -100,7 +100,7 @@ public:
     void Send(ClientId id, const Shared& bytes, bool binary);
     void Answer(ClientId id, Response response);
     void Forget(ClientId id) { connections.erase(id); }
-    void Upgrade(ClientId id, Socket socket, const http::request<http::string_body>& request);
+    void Upgrade(Socket socket, const http::request<http::string_body>& request);
     [[nodiscard]] bool HasRoomForWebSocket() const;
 
     Service& service;
@@ -221,8 +221,8 @@ void HttpConnection::Await() {
     parser.emplace();
     parser->header_limit(static_cast<std::uint32_t>(hub.limits.header));
     parser->body_limit(std::numeric_limits<std::uint64_t>::max()); // judged when the head is known
-    if (buffer.size() > 0) {
-        Begin();
+    if (buffer.size() > 0) {                                       // after the others, and not deeper and deeper
+        asio::post(socket.get_executor(), [self = shared_from_this()] { self->Begin(); });
         return;
     }
     SetDeadline(hub.limits.idle);
@@ -260,6 +260,8 @@ void HttpConnection::Parse() {
         Serve();
     } else if (error && error != http::error::need_more) {
         RefuseUnreadable(error);
+    } else if (buffer.size() == buffer.max_size()) {
+        RefuseUnreadable(http::error::header_limit); // of a part of the body
     } else {
         When(Socket::wait_read, &HttpConnection::Read);
     }
@@ -285,8 +287,8 @@ void HttpConnection::TakeHead() {
     } else if (decision.action == Decision::Upgrade && buffer.size() > 0) {
         Answer(Message(400, "a WebSocket starts after the answer"));
     } else if (decision.action == Decision::Upgrade) {
-        timer.cancel();
-        hub.Upgrade(id, std::move(socket), parser->get());
+        hub.Upgrade(std::move(socket), parser->get());
+        Close();
     } else if (parser->content_length().value_or(0) > hub.limits.body) {
         RefuseUnreadable(http::error::body_limit);
     } else {
@@ -405,7 +407,7 @@ private:
 };
 
 void WebSocketClient::Open(const http::request<http::string_body>& request) {
-    stream.set_option(websocket::stream_base::timeout{hub.limits.request, hub.limits.idle, true});
+    stream.set_option(websocket::stream_base::timeout{farewell, hub.limits.idle, true});
     stream.set_option(websocket::stream_base::decorator([](websocket::response_type& response) {
         for (const Field& field : ProtectingFields()) {
             response.set(boost::beast::string_view(field.name.data(), field.name.size()),
@@ -599,9 +601,9 @@ bool Hub::HasRoomForWebSocket() const {
     return count < limits.clients;
 }
 
-void Hub::Upgrade(ClientId id, Socket socket, const http::request<http::string_body>& request) {
-    const auto client = std::make_shared<WebSocketClient>(*this, id, std::move(socket));
-    connections[id] = client;
+void Hub::Upgrade(Socket socket, const http::request<http::string_body>& request) {
+    const auto client = std::make_shared<WebSocketClient>(*this, ++last, std::move(socket));
+    connections.emplace(last, client);
     client->Open(request);
 }
 

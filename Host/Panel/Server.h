@@ -76,7 +76,7 @@ struct Limits {
 /// A server of HTTP and WebSocket on 127.0.0.1, for this machine alone.
 class Server {
 public:
-    /// Serves on a thread of its own.
+    /// Serves on a thread of its own, which may call the service before the constructor returns.
     /// @param port  0 for one that is free
     /// @param token what clients must show
     /// @throws OpenError if the port cannot be used
@@ -88,8 +88,8 @@ public:
 
     [[nodiscard]] std::uint16_t Port() const;
 
-    /// Sends a message to a client; on any thread. Does nothing if the client has gone. A client that does not take
-    /// what is sent is disconnected.
+    /// Sends a message to a client, in the order of the calls; on any thread. Does nothing if the client has gone. A
+    /// client that does not take what is sent is disconnected.
     void SendText(ClientId client, std::string text);
     void SendBinary(ClientId client, std::shared_ptr<const std::string> bytes);
 
