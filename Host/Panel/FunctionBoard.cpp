@@ -94,6 +94,10 @@ Json FunctionBoard::Describe(const Instance& instance, bool many) const {
 
 void FunctionBoard::Describe(Entry& entry) {
     const TraceLog::Call call(trace, "describe " + entry.instance.Name());
+    if (entry.described == Clock::time_point() && entry.instance->get != nullptr &&
+        reader.TryRead(entry.instance).code == 0) { // the last access of a getter is to its register
+        trace.NameLast(std::string(entry.instance->name));
+    }
     Json document = Describe(entry.instance, entry.many);
     entry.read = entry.described = Clock::now();
     entry.stale = false;

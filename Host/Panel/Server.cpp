@@ -527,6 +527,7 @@ Hub::Hub(Service& served, std::uint16_t wanted, std::string secret, const Limits
         acceptor.open(at.protocol());
         acceptor.set_option(tcp::acceptor::reuse_address(true)); // of connections of an earlier process
         acceptor.bind(at);
+        acceptor.set_option(tcp::acceptor::enable_connection_aborted(true)); // else it would wait for the next one
         acceptor.listen();
         acceptor.non_blocking(true);
         port = acceptor.local_endpoint().port();

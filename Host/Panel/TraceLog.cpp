@@ -23,6 +23,7 @@ void TraceLog::SetFollowed(bool follows) {
 
 void TraceLog::Add(const Access& access, double time) {
     ++count;
+    lastAddress = access.address;
     if (!followed) {
         return;
     }

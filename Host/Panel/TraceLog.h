@@ -25,8 +25,8 @@ public:
         TraceLog& log;
     };
 
-    /// The names of functions by the addresses of their registers.
-    void SetNames(std::map<std::uint32_t, std::string> functions) { names = std::move(functions); }
+    /// The last access was to the register of a function. Of several functions the first one names it.
+    void NameLast(const std::string& function) { names.try_emplace(lastAddress, function); }
     /// Whether anybody follows the accesses. Otherwise none are kept.
     void SetFollowed(bool follows);
 
@@ -39,7 +39,8 @@ public:
     [[nodiscard]] Json Since(std::uint64_t seen) const;
 
 private:
-    std::map<std::uint32_t, std::string> names;
+    std::map<std::uint32_t, std::string> names; ///< of functions, by the addresses of their registers
+    std::uint32_t lastAddress = 0;
     std::string call;
     bool followed = false;
     std::uint64_t count = 0;

@@ -11,7 +11,7 @@ import struct
 import subprocess
 import time
 
-TIMEOUT = 20  # seconds, for anything that is waited for
+TIMEOUT = 60  # seconds, for anything that is waited for
 
 
 class Program:

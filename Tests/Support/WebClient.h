@@ -2,11 +2,15 @@
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -18,8 +22,12 @@ public:
     explicit WebClient(std::uint16_t port) : connection(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
         const timeval longest{10, 0};
         setsockopt(connection, SOL_SOCKET, SO_RCVTIMEO, &longest, sizeof longest);
+        const int on = 1;
+        setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
         sockaddr_in at{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
-        connect(connection, reinterpret_cast<const sockaddr*>(&at), sizeof at);
+        if (connect(connection, reinterpret_cast<const sockaddr*>(&at), sizeof at) != 0) {
+            std::perror("connect");
+        }
     }
     ~WebClient() { close(connection); }
     WebClient(const WebClient&) = delete;
@@ -29,10 +37,10 @@ public:
     void Send(std::string_view bytes) const {
         while (!bytes.empty()) {
             const ssize_t sent = send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            if (sent <= 0) {
+            if (sent < 0 && errno != EINTR) {
                 return;
             }
-            bytes.remove_prefix(static_cast<std::size_t>(sent));
+            bytes.remove_prefix(sent < 0 ? 0 : static_cast<std::size_t>(sent));
         }
     }
     void EndSending() const { shutdown(connection, SHUT_WR); }
@@ -104,7 +112,10 @@ public:
 private:
     bool ReceiveSome() {
         char some[65536];
-        const ssize_t got = recv(connection, some, sizeof some, 0);
+        ssize_t got = 0;
+        do {
+            got = recv(connection, some, sizeof some, 0);
+        } while (got < 0 && errno == EINTR);
         timedOut = got < 0 && errno == EAGAIN;
         received.append(some, got > 0 ? static_cast<std::size_t>(got) : 0);
         return got > 0;
