@@ -35,6 +35,12 @@ const std::vector<Command>& Commands() {
                               "input"};
     static const Syntax second{Parameter::Second, "B", "The second one; in a shell, its camera by default",
                                Required::OutsideShell};
+    static const Syntax only{Parameter::Only, "--only NAME[,NAME...]",
+                             "Take only these functions; without an index all instances", Required::Never, true};
+    static const Syntax except{Parameter::Except, "--except NAME[,NAME...]", "Take all but these functions",
+                               Required::Never, true};
+    static const Syntax changed{Parameter::Changed, "--changed",
+                                "Print only what is not unchanged, and a summary of all"};
     static const Syntax outputs{Parameter::Outputs, "--outputs",
                                 "Include I/O lines, motors and lenses, which act on connected devices"};
     static const Syntax network{Parameter::Network, "--network",
@@ -70,8 +76,8 @@ const std::vector<Command>& Commands() {
         {"set",      "Set functions, such as gain=100 exposure=1:2000",                {camera, assignments},           Set},
         {"save",     "Save the settings of a camera as JSON",                          {camera, written},               Save},
         {"diff",     "Compare settings of files or cameras; exit code 1 if they differ, 2 if they cannot be compared",
-                                                                            {first, second, noControl},      Diff, true, NotCompared},
-        {"restore",  "Restore saved settings",                                         {read, cameras, outputs, network, dryRun, oneByOne}, Restore},
+                                                                            {first, second, only, except, noControl}, Diff, true, NotCompared},
+        {"restore",  "Restore saved settings",                                         {read, cameras, only, except, outputs, network, dryRun, changed, keepTrying, oneByOne}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, watched, seconds, interval, keepTrying, noControl}, Watch},
         {"selftest", "Test every function that can be set, then restore all settings", {cameras, outputs, oneByOne}, Selftest},

@@ -4,6 +4,7 @@
 #include "Host/CameraName.h"
 #include "Host/Describe.h"
 #include "Host/Format.h"
+#include "Host/Functions/Tables.h"
 #include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/ResultJson.h"
 #include "Host/Settings/SettingsFile.h"
@@ -24,8 +25,14 @@ struct Side {
     bool hasControl = true; ///< for a camera: whether this program has control
 };
 
-Side TakeFrom(Session& session) {
-    Settings settings = TakeReadableSettings(session);
+/// @param family whose functions are selected
+/// @throws UsageError for an unknown name
+Selection SelectionOf(const Invocation& invocation, const std::string& family) {
+    return {*TableOf(family), invocation.Texts(Parameter::Only), invocation.Texts(Parameter::Except)};
+}
+
+Side TakeFrom(Session& session, const Invocation& invocation) {
+    Settings settings = TakeReadableSettings(session, SelectionOf(invocation, session.Camera().Family()));
     session.Connection().SaveState();
     return {std::move(settings), "", session.Connection().HasControl()};
 }
@@ -35,7 +42,7 @@ Side Take(const Invocation& invocation, Parameter parameter) {
     Program& program = invocation.Program();
     const std::string given = invocation.Text(parameter);
     if (!invocation.Has(parameter) || program.IsOpen(given)) {
-        return TakeFrom(program.Open(given));
+        return TakeFrom(program.Open(given), invocation);
     }
     if (!IsCamera(given)) {
         std::error_code ignored; // reading the file reports the error
@@ -44,10 +51,12 @@ Side Take(const Invocation& invocation, Parameter parameter) {
             throw UsageError('"' + given + "\" is neither a file nor a camera" +
                              Common::Suggestion(given, Simulation::ModelNames()));
         }
-        return {ReadSettings(given, program.IsOpen()), given};
+        Side side{ReadSettings(given, program.IsOpen()), given};
+        static_cast<void>(SelectionOf(invocation, side.settings.family).ReportAbsent(side.settings, given));
+        return side;
     }
     Session session(program.LoadedPlugin(), given, program.Options().camera);
-    return TakeFrom(session);
+    return TakeFrom(session, invocation);
 }
 
 std::string PrintOne(const Instance& instance, const Value* value) {
@@ -61,8 +70,9 @@ std::string Describe(const Difference& difference) {
 
 /// Reports what is missing in a file and therefore not compared.
 /// @return whether everything could be compared
-bool ReportUncompared(const Side& side, const Side& other) {
-    const auto missing = Uncompared(side.settings, other.settings);
+bool ReportUncompared(const Side& side, const Side& other, const Selection& selection) {
+    auto missing = Uncompared(side.settings, other.settings);
+    std::erase_if(missing, [&](const Instance& instance) { return !selection.Takes(instance); });
     if (!missing.empty() && !side.file.empty()) { // for a camera, this was reported when it was read
         PrintError(DescribeFile(side.file) + " has no values of these, which are not compared: " + NamesOf(missing));
     }
@@ -80,14 +90,16 @@ int Diff(const Invocation& invocation) {
     if (first.settings.model != second.settings.model) {
         throw UsageError("settings of different models: " + first.settings.model + " and " + second.settings.model);
     }
-    const auto differences = Compare(first.settings, second.settings);
+    const Selection selection = SelectionOf(invocation, first.settings.family);
+    auto differences = Compare(first.settings, second.settings);
+    std::erase_if(differences, [&](const Difference& each) { return !selection.Takes(each.instance); });
     Output output = invocation.Output();
     for (const Difference& difference : differences) {
         output.Add(Describe(difference), ToJson(difference));
     }
     output.End();
-    const bool firstIsWhole = ReportUncompared(first, second);
-    const bool secondIsWhole = ReportUncompared(second, first);
+    const bool firstIsWhole = ReportUncompared(first, second, selection);
+    const bool secondIsWhole = ReportUncompared(second, first, selection);
     if (!firstIsWhole || !secondIsWhole) {
         return first.hasControl && second.hasControl ? NotCompared : NotOpened;
     }

@@ -35,18 +35,19 @@ struct Missing {
 
 /// Reads through a separate control. Throws if the connection was lost meanwhile.
 /// @param otherwise gets the functions that cannot be read for other reasons
-Settings Take(Session& session, const Unreadable& otherwise) {
+Settings Take(Session& session, const Unreadable& otherwise, const std::function<bool(const Instance&)>& needs) {
     const UncachedCamera reader(session);
     Missing missing;
     std::vector<Instance> unread;
-    Settings settings = TakeSettings(reader.Camera(), [&](const Instance& instance, const Reading& reading) {
+    const auto unreadable = [&](const Instance& instance, const Reading& reading) {
         if (reading.cause != Cause::NoSuchAddress) {
             unread.push_back(instance);
         }
         if (!missing.Note(instance, reading.cause)) {
             otherwise(instance, reading);
         }
-    });
+    };
+    Settings settings = TakeSettings(reader.Camera(), unreadable, true, needs);
     settings.unread = std::move(unread);
     session.Connection().RequireUnbroken();
     missing.Report(session.Connection());
@@ -57,15 +58,17 @@ Settings Take(Session& session, const Unreadable& otherwise) {
 
 Settings TakeAllSettings(Session& session) {
     session.Connection().RequireControl();
-    return Take(session, [](const Instance& instance, const Reading& reading) {
+    const auto otherwise = [](const Instance& instance, const Reading& reading) {
         throw std::runtime_error(instance.Name() + ": " + reading.reason);
-    });
+    };
+    return Take(session, otherwise, [](const Instance&) { return true; });
 }
 
-Settings TakeReadableSettings(Session& session) {
-    return Take(session, [](const Instance& instance, const Reading& reading) {
+Settings TakeReadableSettings(Session& session, const Selection& selection) {
+    const auto otherwise = [](const Instance& instance, const Reading& reading) {
         PrintError(instance.Name() + ": " + reading.reason);
-    });
+    };
+    return Take(session, otherwise, [&](const Instance& instance) { return selection.Needs(instance); });
 }
 
 } // namespace Host

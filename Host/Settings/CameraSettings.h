@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Session.h"
+#include "Host/Settings/Selection.h"
 #include "Host/Settings/Settings.h"
 
 namespace Host {
@@ -11,8 +12,8 @@ namespace Host {
 /// @throws std::runtime_error for a function that cannot be read for another reason; ChannelLost
 [[nodiscard]] Settings TakeAllSettings(Session& session);
 
-/// Reads all settings that can be read, and reports the others on standard error.
+/// Reads the settings that a selection needs and that can be read, and reports the others on standard error.
 /// @throws ChannelLost
-[[nodiscard]] Settings TakeReadableSettings(Session& session);
+[[nodiscard]] Settings TakeReadableSettings(Session& session, const Selection& selection);
 
 } // namespace Host

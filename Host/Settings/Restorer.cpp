@@ -5,6 +5,8 @@
 #include "Host/Settings/Unlock.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace Host {
 
@@ -45,6 +47,31 @@ const char* NameOf(RestoreStatus status) {
     return names[static_cast<std::size_t>(status)];
 }
 
+std::vector<Instance> RestoreProgress::ModesLeftOff() const {
+    std::vector<Instance> modes;
+    for (const auto* const each : {&results, &borrowed}) {
+        for (const RestoreResult& result : *each) {
+            const bool restored = result.status == RestoreStatus::Done || result.status == RestoreStatus::Unchanged;
+            if (result.status == RestoreStatus::LeftOff ||
+                (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {
+                modes.push_back(result.instance);
+            }
+        }
+    }
+    return modes;
+}
+
+Restorer::Restorer(const Settings& saved, const Camera& setting, const Camera& reading, Wait waiting, Options chosen)
+    : settings(saved),
+      setter(setting),
+      reader(reading),
+      wait(std::move(waiting)),
+      options(std::move(chosen)) {
+    std::copy_if(settings.values.begin(), settings.values.end(), std::back_inserter(selected),
+                 [&](const FunctionValue& each) { return options.selects(each.instance); });
+    progress.borrowed = options.earlier.borrowed;
+}
+
 bool Restorer::IsSameCamera() const {
     const Reading serial = reader.TryRead(reader.FindOne(Name::serialNumber));
     return serial.code == 0 && serial.value.text == settings.serial;
@@ -68,7 +95,7 @@ std::string Restorer::AddressMissing(const FunctionValue& setting, bool isPlan) 
         }
         const Reading reading = reader.TryRead(other.instance);
         const bool isOn = reading.code == 0 && !IsOff({other.instance, reading.value});
-        if (isOn || (isPlan && ReasonToSkip(other).empty())) {
+        if (isOn || (isPlan && options.selects(other.instance) && ReasonToSkip(other).empty())) {
             return "";
         }
         missing = other.instance.Name();
@@ -104,6 +131,15 @@ void Restorer::SkipLastAddress(RestoreResult& result, bool isPlan) const {
     }
 }
 
+bool Restorer::IsMoved(const Instance& instance) const {
+    const auto& lock = instance->lock;
+    if (!lock || !lock->moves) {
+        return false;
+    }
+    const Reading mode = reader.TryRead(reader.FindOne(lock->mode));
+    return mode.code == 0 && !lock->IsOpen(mode.value);
+}
+
 RestoreResult Restorer::Set(const FunctionValue& setting) const {
     RestoreResult result = Compare(setting);
     if (result.status != RestoreStatus::Planned) {
@@ -113,9 +149,16 @@ RestoreResult Restorer::Set(const FunctionValue& setting) const {
     if (result.status != RestoreStatus::Planned) {
         return result;
     }
-    const auto set = [&] { setter.SetUnlessLocked(setting.instance, setting.value); };
+    const bool mayMove = setting.instance->lock && setting.instance->lock->moves;
+    std::optional<Reading> unlocked;
+    const auto read = [&] { return ReadWhenSettled(reader, setting.instance, setting.value, wait); };
+    const auto set = [&] {
+        setter.SetUnlessLocked(setting.instance, setting.value);
+        unlocked = mayMove ? std::optional(read()) : std::nullopt; // before the mode changes it again
+    };
     result.reason = Attempt([&] { WhileUnlocked(setter, setting.instance, set); }).reason;
-    const Reading reading = ReadWhenSettled(reader, setting.instance, setting.value, wait);
+    const Reading reading = unlocked && result.reason.empty() ? *unlocked : read();
+    result.moved = IsMoved(setting.instance);
     if (reading.code != 0) {
         result.held.reset();
         result.reason = result.reason.empty() ? reading.reason : result.reason;
@@ -133,8 +176,8 @@ RestoreResult Restorer::Set(const FunctionValue& setting) const {
 }
 
 bool Restorer::MustStop() {
-    stopped = stopped || options.shouldStop();
-    return stopped;
+    progress.stopped = progress.stopped || options.shouldStop();
+    return progress.stopped;
 }
 
 void Restorer::Record(RestoreResult& result, RestoreResult now) {
@@ -152,30 +195,71 @@ void Restorer::Record(RestoreResult& result, RestoreResult now) {
 }
 
 void Restorer::ReadCurrent() {
-    for (const FunctionValue& setting : settings.values) { // all of them, even if reading fails
-        results.push_back({setting.instance, RestoreStatus::Pending, setting.value, {}, {}, {}});
+    auto& results = progress.results;
+    const auto& earlier = options.earlier.results;
+    for (std::size_t i = 0; i < selected.size(); ++i) { // all of them, even if reading fails
+        const auto before = i < earlier.size() ? earlier[i].before : std::nullopt;
+        results.push_back({selected[i].instance, RestoreStatus::Pending, selected[i].value, before, {}, {}});
     }
     for (std::size_t i = 0; i < results.size(); ++i) {
-        results[i] = Compare(settings.values[i]);
+        const auto before = results[i].before;
+        results[i] = Compare(selected[i]);
         results[i].status = RestoreStatus::Pending;
+        results[i].before = before ? before : results[i].before;
     }
 }
 
-void Restorer::SwitchOff() {
-    for (RestoreResult& result : results) {
-        if (IsMode(result.instance) && !MustStop()) {
-            result.held = off; // assumed, in case the camera is lost meanwhile
-            // A refusal is reported when the saved value is set, or when it blocks other settings.
-            result.held = Set({result.instance, off}).held;
+void Restorer::Borrow() {
+    const auto has = [](const auto& all, const Instance& mode) {
+        return std::any_of(all.begin(), all.end(), [&](const auto& each) { return each.instance == mode; });
+    };
+    for (const FunctionValue& setting : selected) {
+        if (!setting.instance->lock || !ReasonToSkip(setting).empty()) {
+            continue;
         }
+        const Instance mode = reader.FindOne(setting.instance->lock->mode);
+        if (has(selected, mode) || has(progress.borrowed, mode)) {
+            continue;
+        }
+        if (const Reading now = reader.TryRead(mode); now.code == 0) {
+            progress.borrowed.push_back({mode, RestoreStatus::Pending, now.value, now.value, now.value, {}});
+        }
+    }
+}
+
+bool Restorer::MovesSelected(const RestoreResult& mode) const {
+    return std::any_of(selected.begin(), selected.end(), [&](const FunctionValue& setting) {
+        const auto& lock = setting.instance->lock;
+        return lock && lock->moves && lock->mode == mode.instance->name && !lock->IsOpen(*mode.before);
+    });
+}
+
+void Restorer::SwitchModesOff() {
+    for (RestoreResult& result : progress.results) {
+        if (IsMode(result.instance)) {
+            SwitchOff(result);
+        }
+    }
+    for (RestoreResult& mode : progress.borrowed) {
+        if (IsMode(mode.instance) && MovesSelected(mode)) {
+            SwitchOff(mode);
+        }
+    }
+}
+
+void Restorer::SwitchOff(RestoreResult& mode) {
+    if (!MustStop()) {
+        mode.held = off; // assumed, in case the camera is lost meanwhile
+        // A refusal is reported when the saved value is set, or when it blocks other settings.
+        mode.held = Set({mode.instance, off}).held;
     }
 }
 
 bool Restorer::SetValues(bool again) {
     bool changed = false;
     for (const bool last : {false, true}) {
-        for (std::size_t i = 0; i < results.size() && !MustStop(); ++i) {
-            if ((options.network && SwitchesAddressOff(settings.values[i])) == last) {
+        for (std::size_t i = 0; i < selected.size() && !MustStop(); ++i) {
+            if ((options.network && SwitchesAddressOff(selected[i])) == last) {
                 changed |= SetValue(i, again);
             }
         }
@@ -184,11 +268,11 @@ bool Restorer::SetValues(bool again) {
 }
 
 bool Restorer::SetValue(std::size_t i, bool again) {
-    RestoreResult& result = results[i];
-    if (IsMode(result.instance) || (again && IsFailure(result.status))) {
+    RestoreResult& result = progress.results[i];
+    if (IsMode(result.instance) || (again && (IsFailure(result.status) || result.moved))) {
         return false;
     }
-    RestoreResult now = Set(settings.values[i]);
+    RestoreResult now = Set(selected[i]);
     const bool changed = now.status == RestoreStatus::Done;
     if (!again || now.status != RestoreStatus::Unchanged) {
         Record(result, std::move(now));
@@ -197,14 +281,23 @@ bool Restorer::SetValue(std::size_t i, bool again) {
 }
 
 void Restorer::SetModes() {
+    auto& results = progress.results;
     for (std::size_t i = 0; i < results.size(); ++i) {
         if (!IsMode(results[i].instance)) {
             continue;
         }
         if (!MustStop()) {
-            Record(results[i], Set(settings.values[i]));
+            Record(results[i], Set(selected[i]));
         } else if (WasSwitchedOff(results[i])) {
             PutBack(results[i]);
+        }
+    }
+}
+
+void Restorer::ReturnBorrowed() {
+    for (RestoreResult& mode : progress.borrowed) {
+        if (reader.TryRead(mode.instance).value != *mode.before) {
+            PutBack(mode);
         }
     }
 }
@@ -219,30 +312,20 @@ void Restorer::PutBack(RestoreResult& mode) {
 
 void Restorer::Restore() {
     ReadCurrent(); // before the modes are switched off
-    SwitchOff();
-    for (int pass = 0; pass < passes && SetValues(pass != 0) && !stopped; ++pass) {
+    Borrow();
+    SwitchModesOff();
+    for (int pass = 0; pass < passes && SetValues(pass != 0) && !progress.stopped; ++pass) {
     }
     SetModes();
+    ReturnBorrowed();
 }
 
 void Restorer::Plan() {
-    for (const FunctionValue& setting : settings.values) {
-        results.push_back(Compare(setting));
-        SkipLastAddress(results.back(), true);
-        options.report(results.back());
+    for (const FunctionValue& setting : selected) {
+        progress.results.push_back(Compare(setting));
+        SkipLastAddress(progress.results.back(), true);
+        options.report(progress.results.back());
     }
-}
-
-std::vector<Instance> Restorer::ModesLeftOff() const {
-    std::vector<Instance> modes;
-    for (const RestoreResult& result : results) {
-        const bool restored = result.status == RestoreStatus::Done || result.status == RestoreStatus::Unchanged;
-        if (result.status == RestoreStatus::LeftOff ||
-            (IsMode(result.instance) && WasSwitchedOff(result) && !restored)) {
-            modes.push_back(result.instance);
-        }
-    }
-    return modes;
 }
 
 } // namespace Host

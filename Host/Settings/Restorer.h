@@ -20,7 +20,7 @@ enum class RestoreStatus {
     Refused,
     Skipped,
     Planned, ///< would be set
-    PutBack, ///< an automatic mode that has its old value again, because the restore was stopped
+    PutBack, ///< a mode that has its old value again, because the restore was stopped or the mode is not selected
     LeftOff, ///< an automatic mode that could not be reverted
 };
 
@@ -32,6 +32,18 @@ struct RestoreResult {
     std::optional<Value> held;   ///< value now, if known
     std::string reason;          ///< name of the error code, or why it was skipped
     LockState lock{};            ///< what locks it, if it was refused
+    bool moved = false;          ///< whether a mode that stays on may have changed it again since
+};
+
+/// What a restore has done.
+struct RestoreProgress {
+    std::vector<RestoreResult> results; ///< of each selected setting, in their order
+    /// Modes that lock selected settings and are not selected themselves. Their saved value is that before.
+    std::vector<RestoreResult> borrowed;
+    bool stopped = false; ///< early
+
+    /// Automatic modes that were on before and are now off without having been restored.
+    [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 };
 
 [[nodiscard]] const char* NameOf(RestoreStatus status);
@@ -45,6 +57,10 @@ public:
     struct Options {
         bool outputs = false;
         bool network = false;
+        /// Which settings to restore.
+        std::function<bool(const Instance&)> selects = [](const Instance&) { return true; };
+        /// What an attempt did that ended as the camera was lost. Values before are those before that attempt.
+        RestoreProgress earlier{};
         /// Gets each result as soon as it is known; a second time if a later setting changes the value and it cannot be
         /// set again.
         std::function<void(const RestoreResult&)> report = [](const RestoreResult&) {};
@@ -54,29 +70,21 @@ public:
 
     /// @param setting sets the functions
     /// @param reading reads them
-    Restorer(const Settings& saved, const Camera& setting, const Camera& reading, Wait waiting, Options chosen)
-        : settings(saved),
-          setter(setting),
-          reader(reading),
-          wait(std::move(waiting)),
-          options(std::move(chosen)) {}
+    Restorer(const Settings& saved, const Camera& setting, const Camera& reading, Wait waiting, Options chosen);
 
     /// Switches automatic modes off, sets the values in the order of the table until none changes another, then sets
-    /// the saved modes. A failure does not stop it. When stopped, it reverts the modes that were not reached.
-    /// A way to get an address is switched off after the others are set, and only if one of those in the file is on. So
-    /// the camera always keeps one, unless the file has none.
+    /// the saved modes. A failure does not stop it. When stopped, it reverts the modes that were not reached. Modes
+    /// that are not selected are off too while they would change selected settings, and are reverted. A way to get an
+    /// address is switched off after the others are set, and only if one of those in the file is on. So the camera
+    /// always keeps one, unless the file has none.
     /// @throws ChannelLost, after which nothing can be reverted
     void Restore();
 
     /// Determines what Restore would do. Writes no setting.
     void Plan();
 
-    /// The result of each function, in the order of the settings; valid also after an exception.
-    [[nodiscard]] const std::vector<RestoreResult>& Results() const { return results; }
-    /// Whether it was stopped early.
-    [[nodiscard]] bool IsStopped() const { return stopped; }
-    /// Automatic modes that were on before and are now off without having been restored.
-    [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
+    /// Valid also after an exception.
+    [[nodiscard]] const RestoreProgress& Progress() const { return progress; }
 
 private:
     [[nodiscard]] std::string ReasonToSkip(const FunctionValue& setting) const;
@@ -89,15 +97,23 @@ private:
     /// Skips what would leave the camera without any of them.
     void SkipLastAddress(RestoreResult& result, bool isPlan) const;
     [[nodiscard]] RestoreResult Compare(const FunctionValue& setting) const;
+    /// Whether a mode that is on now changes the function.
+    [[nodiscard]] bool IsMoved(const Instance& instance) const;
     [[nodiscard]] RestoreResult Set(const FunctionValue& setting) const;
     [[nodiscard]] bool MustStop();
     void ReadCurrent();
-    void SwitchOff();
+    /// Notes the modes that lock selected settings and are not selected.
+    void Borrow();
+    /// Whether a borrowed mode would change selected settings.
+    [[nodiscard]] bool MovesSelected(const RestoreResult& mode) const;
+    void SwitchModesOff();
+    void SwitchOff(RestoreResult& mode);
     /// Sets everything except modes. If @p again, only what did not fail.
     /// @return whether that changed anything
     bool SetValues(bool again);
     [[nodiscard]] bool SetValue(std::size_t i, bool again);
     void SetModes();
+    void ReturnBorrowed();
     void PutBack(RestoreResult& mode);
     void Record(RestoreResult& result, RestoreResult now);
 
@@ -106,8 +122,8 @@ private:
     const Camera& reader;
     Wait wait;
     Options options;
-    std::vector<RestoreResult> results;
-    bool stopped = false;
+    std::vector<FunctionValue> selected;
+    RestoreProgress progress{};
 };
 
 } // namespace Host

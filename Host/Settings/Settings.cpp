@@ -45,7 +45,8 @@ bool Settings::IsMoved(const Instance& instance) const {
            });
 }
 
-Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs) {
+Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs,
+                      const std::function<bool(const Instance&)>& needs) {
     Settings settings{camera.Model(), camera.Family(), "", Now(), {}};
     const auto read = [&](const Instance& instance) -> std::optional<Value> {
         const Reading reading = camera.TryRead(instance);
@@ -62,7 +63,7 @@ Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool o
     for (const Instance& instance : camera.All()) {
         const bool wanted =
             instance->restore != RestorePolicy::Never && (instance->restore != RestorePolicy::Output || outputs);
-        if (!wanted || instance->get == nullptr || instance->set == nullptr) {
+        if (!wanted || instance->get == nullptr || instance->set == nullptr || !needs(instance)) {
             continue;
         }
         if (const auto value = read(instance)) {

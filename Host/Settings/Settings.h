@@ -31,7 +31,10 @@ using Unreadable = std::function<void(const Instance&, const Reading&)>;
 /// are not available now are omitted; others that cannot be read are noted as missing.
 /// @param unreadable gets each missing function; may throw
 /// @param outputs whether to read outputs
-[[nodiscard]] Settings TakeSettings(const Camera& camera, const Unreadable& unreadable, bool outputs = true);
+/// @param needs which functions to read
+[[nodiscard]] Settings TakeSettings(
+    const Camera& camera, const Unreadable& unreadable, bool outputs = true,
+    const std::function<bool(const Instance&)>& needs = [](const Instance&) { return true; });
 
 /// "gain, overlayshow": the names without indices, once each.
 [[nodiscard]] std::string NamesOf(const std::vector<Instance>& instances);

@@ -138,14 +138,38 @@ TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
 }
 
 TEST(ChannelTrouble, ControlThatTimedOutIsTold) {
+    const std::string file = TemporaryFile("json");
+    ASSERT_EQ(RunHost("save Orvik-710C " + file).code, 0);
     const NetworkCamera camera("Orvik-710C");
+    const NetworkCamera slow("Orvik-710C", "192.168.1.11", {"--delay", "20"});
+    ASSERT_EQ(slow.Run("set CAMERA sharpness=9 agc=1").code, 0);
     Watching watch("192.168.1.10");
-    watch.Signal(SIGSTOP); // and with it the heartbeat
+    Running restore(QDV12_HOST,
+                    {"restore", file, "gige:192.168.1.11", "--keep-trying", "--only", "gain,sharpness", "--trace"},
+                    Running::both);
+    ASSERT_TRUE(restore.ReadUntil("\nwrite WriteMem          0x46020000  0"));
+    watch.Signal(SIGSTOP); // and with it the heartbeat; the cameras stay as they are
+    restore.Signal(SIGSTOP);
     std::this_thread::sleep_for(seconds(4));
     watch.Signal(SIGCONT);
+    restore.Signal(SIGCONT);
     const Outcome outcome = watch.Ending();
     EXPECT_EQ(outcome.code, 1);
     ExpectMatch(outcome.err, "qdv12host: [^\n]+ failed: control of the camera at 192\\.168\\.1\\.10 was lost\n");
+
+    // It begins again, and puts back the mode that it found when it began first.
+    EXPECT_EQ(restore.End(), 0);
+    const std::string& told = restore.Read();
+    EXPECT_TRUE(std::regex_search(
+        told,
+        std::regex("\nqdv12host: [a-z]+: [^\n]+ failed: control of the camera at 192\\.168\\.1\\.11 was lost; 0 of 2 "
+                   "functions restored, 2 not reached; automatic modes left off: agc; waiting for the camera\n"
+                   "qdv12host: the camera is back after [0-9.]+ s\n")))
+        << told;
+    EXPECT_TRUE(Has(told, "\nsharpness                 ok          9 -> 0\n"));
+    EXPECT_TRUE(Has(told, "\nagc                       reverted    1, as before\n"));
+    EXPECT_EQ(slow.Run("get CAMERA agc sharpness").out, "agc=1\nsharpness=0\n");
+    std::filesystem::remove(file);
 }
 
 TEST(ChannelTrouble, ACameraThatStandsStillOrIsGoneIsLost) {
@@ -205,6 +229,22 @@ TEST(ChannelTrouble, AWatchThatKeepsTryingWaitsForControl) {
         << watch.Read();
     EXPECT_EQ(camera.Run("watch gige:192.168.1.11 gain --keep-trying --seconds 0.1").code, 3);
     EXPECT_EQ(camera.Run("watch CAMERA gain restart --no-control").code, 2);
+}
+
+TEST(ChannelTrouble, ARestoreThatKeepsTryingWaitsForNoRefusal) {
+    const std::string file = TemporaryFile("json");
+    ASSERT_EQ(RunHost("save Orvik-710C " + file).code, 0);
+    const NetworkCamera faulty("Orvik-710C", "192.168.1.10", {"--fault", "ignore:sharpness"});
+    const std::string other = Replaced(Content(file), "\"sharpness\": 0", "\"sharpness\": 7");
+    std::ofstream(file) << other;
+    EXPECT_EQ(faulty.Run("restore " + file + " CAMERA --keep-trying --only sharpness").code, 1);
+    Running waiting(QDV12_HOST, {"restore", file, "gige:192.168.1.11", "--keep-trying"}, Running::both);
+    ASSERT_TRUE(waiting.ReadUntil("could not be opened: no answer; waiting for the camera\n"));
+    waiting.Signal(SIGINT);
+    EXPECT_EQ(waiting.End(), 1);
+    EXPECT_TRUE(waiting.Read().ends_with("\nqdv12host: interrupted; 0 of 68 functions restored, 68 not reached\n"))
+        << waiting.Read();
+    std::filesystem::remove(file);
 }
 
 TEST(ChannelTrouble, NobodyAnsweringIsToldSoon) {

@@ -34,11 +34,15 @@ protected:
         if (network) {
             given[Parameter::Network] = {};
         }
+        if (!only.empty()) {
+            given[Parameter::Only] = {only};
+        }
         return RunInProcess(Host::Restore, given, observer, state, json);
     }
     [[nodiscard]] std::string Get(const std::string& names) const { return Run("get " + model + " " + names).out; }
 
     std::string model;
+    std::string only; ///< names to restore; empty for all
 };
 
 bool Writes(const Host::Access& access, std::uint32_t address) { return access.write && access.address == address; }
@@ -153,6 +157,72 @@ TEST_F(HostRestore, TellsAsJsonWhatIsDone) {
     EXPECT_EQ(*(*mode)["value"].Number(), 1);
 }
 
+TEST_F(HostRestore, AndComparesOnlyWhatIsSelected) {
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        Prepare(each, "agc=off gain=3 sharpness=4", "sharpness=9 gain=7 agc=1");
+        const std::string both = saved + " " + model + " ";
+        const std::string sharpnessDiffers = "sharpness                 4                       9\n";
+        EXPECT_EQ(Run("diff " + both + "--only gain,overlayshow --only sharpness").out, sharpnessDiffers);
+        EXPECT_EQ(Run("diff " + both + "--except agc").out, sharpnessDiffers) << "the gain is not comparable";
+        EXPECT_EQ(Run("diff " + both + "--except agc,sharpness").code, 0);
+
+        // The mode is off meanwhile, and on again at the end.
+        const Outcome gain = Run("restore " + both + "--only gain --changed");
+        EXPECT_EQ(gain.code, 0);
+        EXPECT_TRUE(std::regex_match(gain.out, std::regex("gain                      ok          [0-9]+ -> 3\n"
+                                                          "agc                       reverted    1, as before\n"
+                                                          "1 ok, 1 reverted\n")))
+            << gain.out;
+        EXPECT_EQ(Get("agc sharpness"), "agc=1\nsharpness=9\n");
+        const Outcome others = Run("restore " + both + "--except agc,gain --changed --json");
+        const Host::Json document = Host::Json::Parse(others.out);
+        const auto& results = *document["results"].Elements();
+        EXPECT_EQ(std::count_if(results.begin(), results.end(),
+                                [](const Host::Json& one) { return *one["result"].Text() == "ok"; }),
+                  1);
+        EXPECT_EQ(*document["summary"]["ok"].Number(), 1);
+        EXPECT_GT(*document["summary"]["unchanged"].Number(), 20);
+        EXPECT_EQ(Get("agc sharpness"), "agc=1\nsharpness=4\n");
+
+        const std::string absent = "qdv12host: \"" + saved + "\" has no values of these: serialnumber\n";
+        EXPECT_EQ(Run("restore " + both + "--only agc,serialnumber").code, 1);
+        EXPECT_EQ(Get("agc"), "agc=off\n");
+        const Outcome except = Run("restore " + both + "--only agc --except serialnumber");
+        EXPECT_EQ(except.code, 0);
+        EXPECT_EQ(except.err, absent);
+        EXPECT_EQ(Run("diff " + both + "--only serialnumber").err, absent);
+        EXPECT_EQ(Run("restore " + both + "--only serialnumber").code, 2);
+        for (const char* wrong : {"diff ", "restore "}) {
+            EXPECT_TRUE(Has(Run(wrong + both + "--except gain,gian").err, "\"gian\"; did you mean \"gain\"?"));
+        }
+    }
+    // What a mode that stays changes at once was set all the same.
+    Prepare("Cerix-MV7", "exposuremode=resetrestart exposure=20", "exposure=200 exposuremode=freerunning");
+    EXPECT_EQ(Run("restore " + saved + " Cerix-MV7 --only exposure").out,
+              "exposure                  ok          33 -> 20\n");
+    EXPECT_EQ(Get("exposuremode"), "exposuremode=freerunning\n");
+    EXPECT_EQ(Run("set Cerix-MV7 exposuremode=resetrestart").code, 0);
+    EXPECT_EQ(Get("exposure"), "exposure=20\n");
+}
+
+TEST_F(HostRestore, PutsBackAModeThatIsNotSelected) {
+    only = "gain";
+    for (const char* each : {"Orvik-390C", "Cerix-MV7"}) {
+        Prepare(each, "agc=off gain=3", "gain=7 agc=1");
+        const auto writesGain = [](const auto& access) { return Writes(access, 0x14010000); };
+        const Outcome stopped = Restore(Once(writesGain, [] { raise(SIGTERM); }));
+        EXPECT_EQ(stopped.err, "qdv12host: interrupted; 1 of 1 functions restored; automatic modes reverted: agc\n");
+        EXPECT_EQ(Get("agc"), "agc=1\n");
+        Prepare(each, "agc=off gain=3", "gain=7 agc=1");
+        const Outcome lost = Restore([&](const Host::Access& access) {
+            if (writesGain(access)) {
+                throw Host::ChannelLost(access.operation, access.address, "it is gone");
+            }
+        });
+        EXPECT_TRUE(Has(lost.err, "0 of 1 functions restored, 1 not reached; automatic modes left off: agc\n"));
+    }
+}
+
 TEST_F(HostRestore, BeginsWithAModeAsWell) {
     Prepare("Orvik-390C", "agc=1", "agc=off gain=7");
     const std::string text = Content(saved);
@@ -215,8 +285,13 @@ TEST_F(HostRestore, NeverTakesEveryAddressFromACamera) {
             EXPECT_EQ(Get("persistentip dhcp username packetsize packetdelay"),
                       first + "\nusername=bench\npacketsize=9000\npacketdelay=7\n");
         }
-        // Another camera of the model does not get the address, and keeps its DHCP.
         Prepare(each, words(ways[0]), words(ways[1]));
+        for (const char* plan : {" --dry-run", ""}) {
+            EXPECT_EQ(Run("restore --network --only dhcp " + saved + " " + model + plan).out,
+                      "dhcp                      skipped     the camera would be left without an address, because "
+                      "persistentip is not restored\n");
+        }
+        // Another camera of the model does not get the address, and keeps its DHCP.
         Write(saved, Replaced(Content(saved), "-0042\"", "-0043\""));
         for (const char* plan : {" --dry-run", ""}) {
             const Outcome run = Run("restore --network " + saved + " " + model + plan);

@@ -7,9 +7,8 @@
 
 namespace {
 
+using namespace Host::Panel;
 using Host::Picture;
-using Host::Panel::Area;
-using Host::Panel::PictureView;
 
 /// What a client sees of a JPEG.
 struct Decoded {
