@@ -203,9 +203,9 @@ TEST_F(HostSettings, AreWatchedAsTheyChange) {
 
     const Outcome named = Run("watch 'Sollux G' gain overlayshow.1 gain --seconds 0");
     const std::string time = "[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3}  ";
-    EXPECT_TRUE(std::regex_match(named.out,
-                                 std::regex(time + "first     gain                    [0-9]+ \\(locked by agc=1\\)\n" +
-                                            time + "first     overlayshow.1           off\n")))
+    EXPECT_TRUE(std::regex_match(
+        named.out, std::regex(time + "first     gain                    [0-9]+ \\(locked by agc=1, needs agc=off\\)\n" +
+                              time + "first     overlayshow.1           off\n")))
         << named.out;
     const Outcome two = RunHost("watch Orvik-390M gain agc=1 --seconds 0.3 --interval 0.1 --trace");
     EXPECT_TRUE(Has(two.out, "first     gain                    0\n"));
