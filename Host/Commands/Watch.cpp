@@ -251,10 +251,10 @@ private:
     void SetValues(const Camera& camera) {
         const Listener listener(camera, changes);
         for (; areSet < assignments.size(); ++areSet) {
-            const auto& [instance, value] = assignments[areSet];
-            const Outcome failure = Attempt([&] { camera.SetUnlessLocked(instance, value); });
+            const FunctionValue& wanted = assignments[areSet];
+            const Outcome failure = Attempt([&] { camera.SetUnlessLocked(wanted.instance, wanted.value); });
             if (failure.code != 0) { // watching goes on
-                PrintError(instance.Name() + ": " + failure.reason);
+                PrintError(wanted.instance.Name() + ": " + failure.reason);
                 code = Refused;
             }
         }
