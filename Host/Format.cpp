@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace Host {
 
@@ -32,6 +33,31 @@ std::string PrintSeconds(std::chrono::milliseconds time) {
 std::string Pad(std::string text, std::size_t width) {
     const std::size_t taken = Common::Width(text);
     return text.append(taken < width ? width - taken : 0, ' ');
+}
+
+std::vector<std::string> Wrap(std::string text, std::size_t width) {
+    std::vector<std::string> lines;
+    while (Common::Width(text) > width) {
+        std::size_t most = 0; // bytes that fit
+        std::size_t best = 0; // bytes up to the last place to break
+        for (std::size_t size = 1; size < text.size(); ++size) {
+            const std::string line = Common::CutAtCharacter(text, size);
+            const bool fits = Common::Width(line) <= width;
+            const char last = text[size - 1];
+            const bool isBlank = last == ' ';
+            if (!fits && !isBlank) { // a blank at the end is dropped
+                break;
+            }
+            most = fits ? line.size() : most;
+            best = isBlank || last == ',' || last == '|' || last == '_' ? size : best;
+        }
+        const std::size_t end = best != 0 ? best : std::max<std::size_t>(most, 1);
+        std::string line = text.substr(0, end);
+        lines.push_back(line.erase(line.find_last_not_of(' ') + 1));
+        text.erase(0, end);
+    }
+    lines.push_back(std::move(text));
+    return lines;
 }
 
 std::string FormatBytes(std::span<const std::uint8_t> bytes) {

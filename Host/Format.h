@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace Host {
 
@@ -16,5 +17,8 @@ namespace Host {
 
 /// An escaped text, filled up with blanks to the width, in columns of a terminal.
 [[nodiscard]] std::string Pad(std::string text, std::size_t width);
+
+/// The lines of a text that has a number of columns, broken after a blank, comma, bar or underscore if there is one.
+[[nodiscard]] std::vector<std::string> Wrap(std::string text, std::size_t width);
 
 } // namespace Host

@@ -1,5 +1,8 @@
 #include "Host/Style.h"
 
+#include "Common/Number.h"
+
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -23,6 +26,15 @@ std::string Paint(const char* code, const std::string& text) {
 bool IsStyled(int stream) {
     const std::string terminal = Environment("TERM");
     return isatty(stream) == 1 && !terminal.empty() && terminal != "dumb" && Environment("NO_COLOR").empty();
+}
+
+std::size_t TerminalWidth() {
+    winsize size{};
+    if (isatty(STDOUT_FILENO) != 1) {
+        return 0;
+    }
+    const auto wanted = Common::ParseWhole<std::size_t>(Environment("COLUMNS"));
+    return wanted ? *wanted : ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 
 std::string Dim(const std::string& text) { return Paint("2", text); }

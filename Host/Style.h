@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace Host {
@@ -13,5 +14,8 @@ namespace Host {
 [[nodiscard]] std::string Yellow(const std::string& text);
 [[nodiscard]] std::string Green(const std::string& text);
 [[nodiscard]] std::string Red(const std::string& text);
+
+/// The columns of the terminal that standard output is, or 0 if it is none. COLUMNS overrides them.
+[[nodiscard]] std::size_t TerminalWidth();
 
 } // namespace Host

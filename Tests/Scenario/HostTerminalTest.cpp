@@ -2,6 +2,10 @@
 #include "Tests/Scenario/SettingsFixture.h"
 #include "Tests/Scenario/Terminal.h"
 
+#include <algorithm>
+#include <cctype>
+#include <sstream>
+
 namespace Scenario {
 
 TEST(HostShell, CompletesNamesAndOutlivesCtrlC) {
@@ -40,6 +44,31 @@ TEST(HostTerminal, ShowsColourAndProgressWhereTheyAreWelcome) {
         EXPECT_EQ(plain.find('\033'), std::string::npos) << environment.front().second;
         EXPECT_EQ(plain.find("\r["), std::string::npos) << environment.front().second;
     }
+}
+
+// Every column is in its place, nothing is lost. What is not for a terminal is not wrapped.
+TEST(HostTerminal, ListFitsTheTerminal) {
+    const Outcome piped = RunHost("list Cerix-MV7");
+    const auto squeezed = [](std::string text) {
+        std::erase_if(text, [](char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; });
+        return text;
+    };
+    for (const unsigned short columns : {80, 100}) {
+        const std::string all =
+            AtTerminal({"list", "Cerix-MV7"}, {{"NO_COLOR", "1"}, {"LC_ALL", "C.UTF-8"}}, {}, columns);
+        std::istringstream lines(all);
+        std::string line;
+        std::getline(lines, line);
+        const std::size_t state = line.find("STATE");
+        while (std::getline(lines, line)) {
+            EXPECT_LE(line.size(), columns + 1U) << line; // with the carriage return
+            EXPECT_TRUE(line.size() <= state || line[state - 1] == ' ') << line;
+        }
+        EXPECT_TRUE(Has(all, " frameondemand ")) << "the last of many values";
+    }
+    const std::string wide = AtTerminal({"list", "Cerix-MV7"}, {{"NO_COLOR", "1"}}, {}, 200);
+    EXPECT_EQ(squeezed(wide), squeezed(piped.out));
+    EXPECT_EQ(std::count(wide.begin(), wide.end(), '\n'), std::count(piped.out.begin(), piped.out.end(), '\n'));
 }
 
 /// Scripts that are interrupted.

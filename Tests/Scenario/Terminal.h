@@ -4,6 +4,7 @@
 
 #include <poll.h>
 #include <pty.h>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,9 +21,12 @@ using Pairs = std::vector<std::pair<std::string, std::string>>;
 /// Runs the reference host in a terminal. Types each text when the text that it waits for has appeared, and repeats it
 /// if nothing happens.
 /// @param environment variables, by name
+/// @param columns of the terminal; unknown if 0
+/// @param program instead of the reference host
 /// @return the complete output, in lines that end with "\r\n"
-inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& environment, const Pairs& typed = {}) {
-    arguments.insert(arguments.begin(), QDV12_HOST);
+inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& environment, const Pairs& typed = {},
+                              unsigned short columns = 0, const std::string& program = QDV12_HOST) {
+    arguments.insert(arguments.begin(), program);
     std::vector<char*> words;
     words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) {
@@ -30,13 +34,14 @@ inline std::string AtTerminal(std::vector<std::string> arguments, const Pairs& e
     }
     words.push_back(nullptr);
     int terminal = -1;
-    const pid_t process = forkpty(&terminal, nullptr, nullptr, nullptr);
+    const winsize size{24, columns, 0, 0};
+    const pid_t process = forkpty(&terminal, nullptr, nullptr, &size);
     if (process == 0) {
         setenv("HOME", "/nowhere", 1);
         for (const auto& [name, value] : environment) {
             setenv(name.c_str(), value.c_str(), 1);
         }
-        execv(QDV12_HOST, words.data());
+        execvp(program.c_str(), words.data());
         _exit(127);
     }
     std::string all;
