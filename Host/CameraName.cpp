@@ -95,6 +95,14 @@ bool IsCamera(const std::string& text) {
     return PrefixOf(text) != nullptr || std::find(models.begin(), models.end(), text) != models.end();
 }
 
+std::vector<std::string> CameraBeginnings() {
+    auto beginnings = Simulation::ModelNames();
+    for (const Prefix& prefix : prefixes) {
+        beginnings.emplace_back(prefix.text);
+    }
+    return beginnings;
+}
+
 CameraName ParseCameraName(const std::string& camera) {
     const Prefix* const prefix = PrefixOf(camera);
     if (prefix == nullptr && camera.find(':') == std::string::npos && !Common::ParseAddress(camera)) {

@@ -2,11 +2,15 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Host {
 
 /// Whether a text names a camera and not a file: a model, or a text with a prefix as below.
 [[nodiscard]] bool IsCamera(const std::string& text);
+
+/// How a camera may be named, for completion: the models, and the prefixes.
+[[nodiscard]] std::vector<std::string> CameraBeginnings();
 
 /// CAMERA as a command takes it.
 struct CameraName {

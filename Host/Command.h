@@ -52,6 +52,16 @@ struct Syntax {
     const char* about = "";
     Required required = Required::Always;
     bool several = false; ///< whether it may be repeated; each CAMERA then gets a process (EachCamera)
+
+    [[nodiscard]] bool IsOperand() const { return *name != '-'; }
+    [[nodiscard]] bool IsRequired(bool inShell) const {
+        return required == Required::Always || (required == Required::OutsideShell && !inShell);
+    }
+    /// Whether a command takes it: in a shell the camera is open already.
+    [[nodiscard]] bool IsTaken(bool inShell) const {
+        return !inShell || (parameter != Parameter::Camera && parameter != Parameter::NoControl &&
+                            parameter != Parameter::OneByOne);
+    }
 };
 
 /// One run of a command: its parameters, and the program that it runs in.

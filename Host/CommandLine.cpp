@@ -1,15 +1,17 @@
 #include "Host/CommandLine.h"
 
-#include "Common/HelpFormatter.h"
+#include "Common/CommandLine.h"
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
 #include "Host/CameraName.h"
 #include "Host/Functions/Tables.h"
 #include "Host/Trace.h"
+#include "Simulation/FaultKinds.h"
 
 #include <CLI/CLI.hpp>
 
+#include <cstring>
 #include <iostream>
 
 namespace Host {
@@ -23,16 +25,12 @@ struct Filled {
     std::vector<std::pair<Parameter, CLI::Option*>> options;
 };
 
-bool IsOperand(const Syntax& syntax) { return *syntax.name != '-'; }
-
-bool IsRequired(const Syntax& syntax, bool inShell) {
-    return syntax.required == Required::Always || (syntax.required == Required::OutsideShell && !inShell);
-}
+constexpr const char* repeated = "..."; ///< after the name of a parameter that may be repeated
 
 /// @param several whether it may be repeated; an operand then takes all further ones
 CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool several, bool inShell) {
     const std::string name = syntax.name;
-    if (!IsOperand(syntax)) {
+    if (!syntax.IsOperand()) {
         const std::size_t blank = name.find(' ');
         if (blank == std::string::npos) {
             return app.add_flag(name, syntax.about)->disable_flag_override();
@@ -42,21 +40,16 @@ CLI::Option* AddParameter(CLI::App& app, const Syntax& syntax, bool several, boo
                                         ->check(Common::CheckValue);
         return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false) : option;
     }
+    const std::string shown = name + (syntax.several && !several ? repeated : "");
     CLI::Option* const option =
-        app.add_option(name, syntax.about)->type_name("")->required(IsRequired(syntax, inShell));
+        app.add_option(shown, syntax.about)->type_name("")->required(syntax.IsRequired(inShell));
     return several ? option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args() : option;
-}
-
-/// In a shell the camera is open already.
-bool Takes(const Syntax& syntax, bool inShell) {
-    constexpr Parameter ofOpening[] = {Parameter::Camera, Parameter::NoControl, Parameter::OneByOne};
-    return !inShell || std::find(std::begin(ofOpening), std::end(ofOpening), syntax.parameter) == std::end(ofOpening);
 }
 
 Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
     Filled filled{app.add_subcommand(command.name, command.about)->group("Commands"), &command, {}};
     for (const Syntax& syntax : command.syntax) {
-        if (Takes(syntax, inShell)) {
+        if (syntax.IsTaken(inShell)) {
             // Cameras before names arrive as names: the first of two such operands would take all.
             const bool several =
                 syntax.several && (syntax.parameter != Parameter::Camera || command.Find(Parameter::Names) == nullptr);
@@ -69,9 +62,9 @@ Filled AddCommand(CLI::App& app, const Command& command, bool inShell) {
 std::string UsageOf(const Command& command, bool inShell) {
     std::string usage = std::string("; usage: ") + (inShell ? "" : "qdv12host ") + command.name;
     for (const Syntax& syntax : command.syntax) {
-        if (IsOperand(syntax) && Takes(syntax, inShell)) {
-            const std::string form = std::string(syntax.name) + (syntax.several ? "..." : "");
-            usage += IsRequired(syntax, inShell) ? ' ' + form : " [" + form + ']';
+        if (syntax.IsOperand() && syntax.IsTaken(inShell)) {
+            const std::string form = std::string(syntax.name) + (syntax.several ? repeated : "");
+            usage += syntax.IsRequired(inShell) ? ' ' + form : " [" + form + ']';
         }
     }
     return usage;
@@ -124,7 +117,7 @@ void SortCameras(ParsedCommandLine& line) {
         const auto others = std::stable_partition(names.begin(), names.end(), IsCamera);
         cameras.insert(cameras.end(), names.begin(), others);
         names.erase(names.begin(), others);
-        if (names.empty() && IsRequired(*syntax, false)) {
+        if (names.empty() && syntax->IsRequired(false)) {
             throw UsageError("NAME is required" + UsageOf(*line.command, false));
         }
     }
@@ -202,7 +195,11 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
     }
     if (unknown.empty()) {
         const bool lacks = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
-        return lacks && parsed.empty() ? "COMMAND is required" : error.what() + (lacks ? usage : "");
+        std::string what = error.what(); // "CAMERA... is required"
+        if (const std::size_t at = what.find(repeated); lacks && at != std::string::npos) {
+            what.erase(at, std::strlen(repeated));
+        }
+        return lacks && parsed.empty() ? "COMMAND is required" : what + (lacks ? usage : "");
     }
     const std::string quoted = " \"" + unknown.front() + '"';
     if (unknown.front().starts_with('-')) {
@@ -228,53 +225,67 @@ void PrintHelp(const CLI::App& app, const std::string& name) {
     std::cout << found.front()->help(app.get_name());
 }
 
-ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
-    CLI::App app("Controls cameras, simulated or on the network, through the plug-in libqdv12ctrl.so.",
-                 inShell ? "" : "qdv12host");
-    app.require_subcommand(1);
-    app.formatter(std::make_shared<Common::HelpFormatter>());
-    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    app.fallthrough(); // common options may follow the command
-    ParsedCommandLine line;
-    bool trace = false;
-    app.add_flag("--json", line.options.json, "Print results as JSON")
-        ->group(Common::commonOptions)
-        ->disable_flag_override();
-    if (!inShell) {
-        app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
-        AddCommonOptions(app, line.options, trace);
-        app.footer(
-            "Exit codes: 0 success; 1 refused or failed; 2 wrong usage; 3 the library or camera could not be opened.");
-    }
-    std::vector<Filled> commands;
-    for (const Command& command : Commands()) {
-        if (command.inShell || !inShell) {
-            commands.push_back(AddCommand(app, command, inShell));
+/// The parser, and what it fills.
+struct Parser {
+    explicit Parser(bool inShell)
+        : app("Controls cameras, simulated or on the network, through the plug-in libqdv12ctrl.so.",
+              inShell ? "" : "qdv12host") {
+        app.require_subcommand(1);
+        app.formatter(std::make_shared<Common::HelpFormatter>());
+        app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+        app.fallthrough(); // common options may follow the command
+        app.add_flag("--json", line.options.json, "Print results as JSON")
+            ->group(Common::commonOptions)
+            ->disable_flag_override();
+        if (!inShell) {
+            app.set_version_flag("--version", "qdv12host " QDV12_VERSION);
+            AddCommonOptions(app, line.options, trace);
+            app.footer("Exit codes: 0 success; 1 refused or failed; 2 wrong usage; 3 the library or camera could not "
+                       "be opened.");
         }
+        for (const Command& command : Commands()) {
+            if (command.inShell || !inShell) {
+                commands.push_back(AddCommand(app, command, inShell));
+            }
+        }
+        if (!inShell) {
+            app.footer(Simulation::DescribeFaultKinds() + '\n' + app.get_footer());
+        }
+        help = app.add_subcommand("help", "Show the help of a command")->group("Commands");
+        help->add_option("COMMAND", helped, "A command; without it, all commands are listed")->type_name("");
     }
-    std::string helped;
-    CLI::App* const help = app.add_subcommand("help", "Show the help of a command")->group("Commands");
-    help->add_option("COMMAND", helped, "A command; without it, all commands are listed")->type_name("");
+
+    CLI::App app;
+    ParsedCommandLine line{};
+    bool trace = false;
+    std::vector<Filled> commands{};
+    CLI::App* help = nullptr;
+    std::string helped{};
+};
+
+ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
+    Parser parser(inShell);
+    ParsedCommandLine& line = parser.line;
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser expects
-        app.parse(std::move(arguments));
+        parser.app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) {
-            app.exit(error);
+            parser.app.exit(error);
             return line;
         }
-        TakeGiven(commands, line);
-        throw UsageError(Describe(app, error, line.command == nullptr ? "" : UsageOf(*line.command, inShell)));
+        TakeGiven(parser.commands, line);
+        throw UsageError(Describe(parser.app, error, line.command == nullptr ? "" : UsageOf(*line.command, inShell)));
     }
-    TakeGiven(commands, line);
+    TakeGiven(parser.commands, line);
     if (line.command != nullptr && line.command->TakesCameras() && !inShell) {
         SortCameras(line);
     }
-    if (help->parsed()) {
-        PrintHelp(app, helped);
+    if (parser.help->parsed()) {
+        PrintHelp(parser.app, parser.helped);
     }
     line.options.camera.readOnly = line.given.contains(Parameter::NoControl);
-    if (trace) {
+    if (parser.trace) {
         line.options.camera.accesses = PrintAccess;
     }
     return line;
@@ -288,6 +299,18 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
     } catch (const UsageError& error) {
         throw UsageError(error.what() + std::string(" (see qdv12host --help)"));
     }
+}
+
+std::vector<Common::OptionSyntax> OptionsOf(const std::string& command, bool inShell) {
+    const Parser parser(inShell);
+    auto options = Common::OptionsIn(parser.app);
+    for (const Filled& filled : parser.commands) {
+        if (command == anyCommand || command == filled.command->name) {
+            const auto own = Common::OptionsIn(*filled.app);
+            options.insert(options.end(), own.begin(), own.end());
+        }
+    }
+    return options;
 }
 
 ParsedCommandLine ParseShellLine(std::vector<std::string> arguments) { return Parse(std::move(arguments), true); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Common/Completion.h"
 #include "Host/Command.h"
 
 #include <string>
@@ -21,5 +22,10 @@ struct ParsedCommandLine {
 /// Parses a line of the shell: a command without CAMERA; --json is the only common option.
 /// @throws UsageError as above
 [[nodiscard]] ParsedCommandLine ParseShellLine(std::vector<std::string> arguments);
+
+constexpr const char* anyCommand = "*";
+
+/// The options that a command takes, those of every command included; of the program, if it is none.
+[[nodiscard]] std::vector<Common::OptionSyntax> OptionsOf(const std::string& command, bool inShell);
 
 } // namespace Host

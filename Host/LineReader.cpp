@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <iostream>
 #include <memory>
 
@@ -22,23 +23,24 @@ std::vector<std::string> candidates;
 /// Whether Ctrl-C was pressed since the prompt appeared.
 volatile std::sig_atomic_t givenUp = 0;
 
-char* NextMatch(const char* text, int state) {
+char* NextMatch(const char* /*text*/, int state) {
     static std::size_t next = 0;
     next = state == 0 ? 0 : next;
-    while (next < candidates.size()) {
-        const std::string& candidate = candidates[next++];
-        if (candidate.starts_with(text)) {
-            return strdup(candidate.c_str()); // the caller frees it
-        }
-    }
-    return nullptr;
+    return next < candidates.size() ? strdup(candidates[next++].c_str()) : nullptr; // the caller frees it
 }
 
-char** Complete(const char* text, int start, int /*end*/) {
-    candidates = complete(std::string(rl_line_buffer, static_cast<std::size_t>(start)));
-    const bool goesOn = !candidates.empty() && candidates.front().ends_with('=');
+char** Complete(const char* text, int /*start*/, int end) {
+    bool files = false;
+    try {
+        auto found = complete(std::string(rl_line_buffer, static_cast<std::size_t>(end)), text);
+        candidates = std::move(found.words);
+        files = found.files;
+    } catch (const std::exception&) { // must not pass through readline; the next command reports it
+        candidates.clear();
+    }
+    const bool goesOn = !candidates.empty() && (candidates.front().ends_with('=') || candidates.front().ends_with(':'));
     rl_completion_append_character = static_cast<unsigned char>(goesOn ? '\0' : ' ');
-    rl_attempted_completion_over = candidates.empty() ? 0 : 1; // else readline completes file names
+    rl_attempted_completion_over = candidates.empty() && files ? 0 : 1; // else readline completes file names
     return candidates.empty() ? nullptr : rl_completion_matches(text, NextMatch);
 }
 

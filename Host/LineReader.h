@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Common/Completion.h"
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -11,9 +13,9 @@ namespace Host {
 /// time.
 class LineReader {
 public:
-    /// Returns the completions of a word.
-    /// @param before the part of the line before it
-    using Completer = std::function<std::vector<std::string>(const std::string& before)>;
+    /// Returns what may be at the end of a line.
+    /// @param replaced the part of the last word that is replaced; the completions do not have what is before it
+    using Completer = std::function<Common::Candidates(const std::string& line, const std::string& replaced)>;
 
     LineReader(std::string promptText, Completer completer);
     ~LineReader();

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] Session& Open(const std::string& camera);
     /// Whether a camera is open, or will be opened again.
     [[nodiscard]] bool IsOpen() const { return !opened.empty(); }
+    /// Whether it is open now.
+    [[nodiscard]] bool IsReady() const { return session.has_value(); }
     /// Whether this is the one, perhaps by another name.
     /// @throws as FindAddress
     [[nodiscard]] bool IsOpen(const std::string& camera);

@@ -1,4 +1,5 @@
 #include "Host/CommandLine.h"
+#include "Host/Completion.h"
 #include "Host/EachCamera.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Logging.h"
@@ -59,6 +60,10 @@ int RunOnEach(ParsedCommandLine line) {
 }
 
 int Run(std::vector<std::string> arguments) {
+    if (arguments.size() == 3 && arguments[0] == Common::completionCommand) {
+        Common::PrintCandidates(Complete(arguments[1], arguments[2]));
+        return Success;
+    }
     const ParsedCommandLine line = ParseCommandLine(std::move(arguments));
     if (line.command == nullptr) {
         return Common::FlushResults("qdv12host", Success, Refused);

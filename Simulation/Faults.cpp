@@ -2,6 +2,7 @@
 
 #include "Common/Number.h"
 #include "Common/Text.h"
+#include "Simulation/FaultKinds.h"
 
 #include <algorithm>
 #include <optional>
@@ -119,8 +120,11 @@ void Faults::Inject(std::string_view text, const RegisterSpace& space, const std
     } else if (request.kind == "offset") {
         offset[NameOf(request, space)] = NumberOf(request);
     } else {
-        Refuse(request, "unknown kind \"" + request.kind +
-                            "\", expected clamp, endless, fail, failread, failwrite, ignore, null, offset, stale");
+        std::vector<std::string> names;
+        for (const FaultKind& kind : FaultKinds()) {
+            names.emplace_back(kind.name);
+        }
+        Refuse(request, "unknown kind \"" + request.kind + "\", expected " + Common::Join(names));
     }
 }
 

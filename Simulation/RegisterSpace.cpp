@@ -126,6 +126,14 @@ void RegisterSpace::SetRequested(const std::string& name, const Words& words, st
     Named(name).requests.at(index) = words;
 }
 
+std::vector<std::string> RegisterSpace::Names() const {
+    std::vector<std::string> names;
+    for (const auto& [address, cell] : cells) {
+        names.push_back(cell.entry.name);
+    }
+    return names;
+}
+
 const Register* RegisterSpace::Find(const std::string& name) const {
     const auto found = byName.find(name);
     return found == byName.end() ? nullptr : &found->second->entry;

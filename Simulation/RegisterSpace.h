@@ -56,6 +56,8 @@ public:
     [[nodiscard]] const Words& Requested(const std::string& name, std::uint32_t index = 0) const;
     void SetRequested(const std::string& name, const Words& words, std::uint32_t index = 0);
 
+    /// All registers, by address.
+    [[nodiscard]] std::vector<std::string> Names() const;
     /// The register of that name, or null.
     [[nodiscard]] const Register* Find(const std::string& name) const;
     /// The register that begins at the address, or null.

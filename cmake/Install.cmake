@@ -21,12 +21,13 @@ if(QDV12_BUILD_TOOLS)
     find_program(HELP2MAN help2man)
 endif()
 
-# The manual pages are generated from the help of the programs.
+# The manual pages are generated from the help of the programs and of their commands.
 function(qdv12_add_manual program about)
     set(page ${CMAKE_BINARY_DIR}/${program}.1)
     add_custom_command(OUTPUT ${page}
-        COMMAND ${HELP2MAN} --no-info --section=1 --name ${about} --output=${page} $<TARGET_FILE:${program}>
-        DEPENDS ${program} VERBATIM)
+        COMMAND ${CMAKE_SOURCE_DIR}/cmake/manual ${HELP2MAN} $<TARGET_FILE:${program}> ${about}
+            ${CMAKE_SOURCE_DIR}/cmake/${program}.h2m ${page}
+        DEPENDS ${program} cmake/manual cmake/${program}.h2m VERBATIM)
     add_custom_target(${program}_manual ALL DEPENDS ${page})
 endfunction()
 if(QDV12_BUILD_TOOLS AND HELP2MAN AND NOT QDV12_SANITIZERS)
@@ -54,6 +55,9 @@ install(DIRECTORY Include/SDK4 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(QDV12_BUILD_TOOLS)
     install(TARGETS qdv12host qdv12sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     qdv12_install_compressed(${CMAKE_INSTALL_MANDIR}/man1 ${manuals})
+    foreach(program qdv12host qdv12sim)
+        install(FILES cmake/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ${program})
+    endforeach()
 endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QDV12Control)

@@ -1,8 +1,10 @@
 #include "Host/Commands/Commands.h"
 
 #include "Common/Suggestion.h"
+#include "Common/Words.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/CommandLine.h"
+#include "Host/Completion.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Interrupts.h"
 #include "Host/LineReader.h"
@@ -17,39 +19,12 @@ namespace {
 constexpr const char* help = "help";
 constexpr const char* quit = "quit";
 
-bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\r'; }
-
-bool IsQuote(char character) { return character == '"' || character == '\''; }
-
-/// Splits a line at blanks. Quotes group characters; a # at the start of a word begins a comment.
 std::vector<std::string> WordsOf(const std::string& line) {
-    std::vector<std::string> words;
-    bool inWord = false;
-    char quote = '\0';
-    for (const char character : line) {
-        if (quote == '\0' && IsBlank(character)) {
-            inWord = false;
-            continue;
-        }
-        if (!inWord && character == '#') {
-            break;
-        }
-        if (!inWord) {
-            words.emplace_back();
-            inWord = true;
-        }
-        if (character == quote) {
-            quote = '\0';
-        } else if (quote == '\0' && IsQuote(character)) {
-            quote = character;
-        } else {
-            words.back() += character;
-        }
+    const Common::Words split = Common::SplitWords(line, Common::Special::Hash);
+    if (split.openQuote != '\0') {
+        throw UsageError(std::string("missing closing quote ") + split.openQuote);
     }
-    if (quote != '\0') {
-        throw UsageError(std::string("missing closing quote ") + quote);
-    }
-    return words;
+    return split.words;
 }
 
 std::vector<std::string> CommandNames() {
@@ -60,39 +35,6 @@ std::vector<std::string> CommandNames() {
         }
     }
     return names;
-}
-
-/// The functions that the command takes: names, or names with "=" for assignments.
-std::vector<std::string> FunctionsFor(const Command& command, const Camera& camera) {
-    std::vector<std::string> found;
-    for (const Syntax& syntax : command.syntax) {
-        const bool assigns = syntax.parameter == Parameter::Assignments;
-        if (!assigns && syntax.parameter != Parameter::Names) {
-            continue;
-        }
-        for (const Instance& instance : camera.All(false)) {
-            if (!assigns || instance->set != nullptr) {
-                found.push_back(instance.Name() + (assigns ? "=" : ""));
-            }
-        }
-    }
-    return found;
-}
-
-/// Completes commands, then the functions that they take.
-std::vector<std::string> Completions(const Camera& camera, const std::string& before) {
-    const std::size_t first = before.find_first_not_of(" \t");
-    if (first == std::string::npos) {
-        return CommandNames();
-    }
-    const std::string name = before.substr(first, before.find_first_of(" \t", first) - first);
-    const auto& commands = Commands();
-    const auto command =
-        std::find_if(commands.begin(), commands.end(), [&](const Command& each) { return each.name == name; });
-    if (command == commands.end() || before.ends_with('=')) {
-        return {};
-    }
-    return FunctionsFor(*command, camera);
 }
 
 /// Runs a command. A camera that it has lost is opened again by the next one.
@@ -145,8 +87,9 @@ bool IsInterrupted(const LineReader& lines) {
 int Shell(const Invocation& invocation) {
     Program& program = invocation.Program();
     const bool json = program.Json();
-    const Camera camera = invocation.OpenCamera();
-    LineReader lines(camera.Model() + "> ", [&](const std::string& before) { return Completions(camera, before); });
+    LineReader lines(invocation.Open().Model() + "> ", [&](const std::string& line, const std::string& replaced) {
+        return program.IsReady() ? CompleteInShell(line, replaced, program.Open("").Camera()) : Common::Candidates{};
+    });
     int firstFailure = Success;
     const auto note = [&](int code) { firstFailure = firstFailure == Success ? code : firstFailure; };
     bool leaves = false;

@@ -1,11 +1,12 @@
 #include "Simulation/GigEVision/CommandLine.h"
 
-#include "Common/HelpFormatter.h"
+#include "Common/CommandLine.h"
 #include "Common/Ipv4.h"
 #include "Common/Number.h"
 #include "Common/Suggestion.h"
 #include "Common/Text.h"
 #include "Simulation/Cameras.h"
+#include "Simulation/FaultKinds.h"
 
 #include <CLI/CLI.hpp>
 
@@ -100,11 +101,36 @@ std::string Describe(const CLI::App& app, const CLI::ParseError& error) {
 
 } // namespace
 
+namespace {
+
+/// Prints what may be at the end of the line: options, their values, models.
+void PrintCompletions(const CLI::App& app, const std::string& line, const std::string& replaced) {
+    auto words = Common::WordsToCursor(line, Common::Special::Backslash);
+    words.erase(words.begin()); // the program
+    const auto options = Common::OptionsIn(app);
+    const auto cursor = Common::FindCursor(words, options);
+    const std::string model = cursor.operands.empty() ? "" : cursor.operands.front();
+    Common::Candidates candidates;
+    if (cursor.option != nullptr) {
+        candidates = Common::ValuesOf(*cursor.option, ModelNames());
+        if (cursor.option->name == "--fault") {
+            candidates.words = FaultsFor(cursor.word, model);
+        }
+    } else if (cursor.word.starts_with("--")) {
+        candidates.words = Common::NamesOf(options);
+    } else if (model.empty()) {
+        candidates.words = ModelNames();
+    }
+    Common::PrintCandidates(Common::Matching(candidates, cursor, replaced));
+}
+
+} // namespace
+
 std::optional<Options> ParseCommandLine(int argc, char** argv) {
     CLI::App app("Simulates a camera as a GigE Vision device on UDP port 3956 until interrupted.", "qdv12sim");
     app.formatter(std::make_shared<Common::HelpFormatter>());
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
-    app.footer("Models: " + Common::Join(ModelNames()) +
+    app.footer(DescribeFaultKinds() + "\nModels: " + Common::Join(ModelNames()) +
                "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address or a file cannot be used.");
     Options options;
     std::string address = "127.0.0.1";
@@ -126,6 +152,10 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
         ->check(Common::CheckValue);
     AddStream(app, options);
     AddDisturbances(app, options.disturbances, options.stream);
+    if (argc == 4 && argv[1] == std::string_view(Common::completionCommand)) {
+        PrintCompletions(app, argv[2], argv[3]);
+        return std::nullopt;
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

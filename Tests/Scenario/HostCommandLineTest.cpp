@@ -49,6 +49,7 @@ TEST(HostCommandLine, KnowsHelpAsACommand) {
     EXPECT_EQ(set.out, RunHost("set --help").out);
     EXPECT_TRUE(Has(set.out, "Usage: qdv12host set [OPTIONS] CAMERA NAME=VALUE...\n"));
     EXPECT_TRUE(Has(set.out, "\n\nOptions of every command:\n  --json  "));
+    EXPECT_TRUE(Has(RunHost("help get").out, "Usage: qdv12host get [OPTIONS] CAMERA... NAME...\n"));
     const Outcome unknown = RunHost("help sett");
     EXPECT_EQ(unknown.code, 2);
     EXPECT_EQ(unknown.err, "qdv12host: unknown command \"sett\"; did you mean \"set\"? (see qdv12host --help)\n");

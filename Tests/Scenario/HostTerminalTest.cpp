@@ -22,6 +22,53 @@ TEST(HostShell, CompletesNamesAndOutlivesCtrlC) {
     EXPECT_FALSE(Has(all, "\ngain=7")) << "it was not entered";
 }
 
+TEST(HostShell, CompletesOptionsAndValuesAsBashDoes) {
+    const std::string prompt = "Orvik-390M> ";
+    const std::string all = AtTerminal({"shell", "Orvik-390M"}, {},
+                                       {{prompt, "watch --sec\t"},
+                                        {"onds ", "0.3 \t\x03"},
+                                        {prompt, "list --topic ide\t"},
+                                        {"ntity ", "\x03"},
+                                        {prompt, "set negativeimage=o\t"},
+                                        {"=o", "n\r"},
+                                        {prompt, "quit\r"}});
+    EXPECT_TRUE(Has(all, "\nnegativeimage=on\r"));
+}
+
+// The function for bash, at a prompt of bash. Ctrl-U discards a line.
+TEST(HostCompletion, CompletesWhatTheProgramsTakeInBash) {
+    const std::string prompt = "$ ";
+    const std::string folder = std::filesystem::path(QDV12_HOST).parent_path();
+    const std::string all =
+        AtTerminal({"--norc", "--noprofile", "-i"}, {{"PS1", prompt}, {"TERM", "dumb"}, {"INPUTRC", "/dev/null"}},
+                   {{prompt, "PATH=" + folder + ":$PATH; . " QDV12_COMPLETION "\r"},
+                    {prompt, "qdv12host sel\t"},
+                    {"ftest ", "Sol\t"},
+                    {"lux\\ G ", "--outp\t"},
+                    {"uts ", "--log=de\t"},
+                    {"bug ", "--fault endl\t"},
+                    {"ess:", "ag\t"},
+                    {"agc ", "\x15"},
+                    {prompt, "qdv12host get gige:192.0.2.1 histogrameq\t"}, // of one family
+                    {"ualization ", "nam\t"},
+                    {"e:", "\x15"},
+                    {prompt, "qdv12host set gige:192.0.2.1 --force-model Cerix-M\t"},
+                    {"V7 ", "exposuremode=reset\t"},
+                    {"restart ", "\x15"},
+                    {prompt, "cd $(dirname " QDV12_COMPLETION ")\r"},
+                    {prompt, "qdv12host diff compl\t"},
+                    {"etion.bash ", "\x15"},
+                    {prompt, "qdv12sim Orvik-53\t\t"},
+                    {"Orvik-530C  Orvik-530M", "M --stream-de\t"},
+                    {"lay ", "\x15"},
+                    {prompt, "qdv12host set Orvik-390M ag\t"},
+                    {"c=", "\t\t"},
+                    {"1    2    off", "of\t\r"},
+                    {prompt, "exit\r"}},
+                   200, "bash");
+    EXPECT_TRUE(Has(all, "\nagc=off\r"));
+}
+
 TEST(HostShell, TakesWhatIsNoAscii) {
     const std::string prompt = "Orvik-390M> ";
     for (const char* locale : {"C.UTF-8", "C"}) {

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "Common/Completion.h"
+
 #include <CLI/CLI.hpp>
 
 #include <string>
+#include <vector>
 
+// What the command lines of the programs have in common. Included only where they are parsed, since CLI11 is slow to
+// compile.
 namespace Common {
 
 constexpr const char* commonOptions = "Options of every command"; ///< their group in the help
@@ -27,5 +32,23 @@ public:
         return common + (common.empty() || own.empty() ? "" : "\n") + own;
     }
 };
+
+/// The options of a program or a command, for completion.
+inline std::vector<OptionSyntax> OptionsIn(const CLI::App& app) {
+    std::vector<OptionSyntax> options;
+    for (const CLI::Option* option : app.get_options([](const CLI::Option* each) { return each->nonpositional(); })) {
+        OptionSyntax& syntax = options.emplace_back(OptionSyntax{option->get_name(), {}, {}});
+        if (option->get_items_expected_max() == 0) {
+            continue;
+        }
+        const std::string type = option->get_type_name(); // "LEVEL:{off,error}"
+        const std::size_t brace = type.find('{');
+        syntax.value = type.substr(0, type.find(':'));
+        if (brace != std::string::npos) {
+            syntax.choices = CLI::detail::split(type.substr(brace + 1, type.size() - brace - 2), ',');
+        }
+    }
+    return options;
+}
 
 } // namespace Common
