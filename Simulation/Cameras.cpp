@@ -8,6 +8,7 @@
 #include "Simulation/Zip.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <mutex>
 
@@ -38,29 +39,34 @@ const M2VXModel m2vxModels[] = {
 };
 // clang-format on
 
-/// The zipped description. It is made once for each model, because that takes longer than all else of a camera.
-template <typename Model> std::string DescriptionArchive(const Model& model) {
-    static std::mutex access;
-    static std::map<std::string, std::string> archives; // by model
-    const std::lock_guard lock(access);
-    std::string& archive = archives[model.name];
-    if (archive.empty()) {
-        archive = Zipped(model.name + ".xml", Description(model));
-    }
-    return archive;
-}
-
 Identity IdentityOf(const OrvikModel& model) {
-    return {model.name, FunctionModelId(model), SerialNumber(model), DescriptionArchive(model)};
+    return {model.name, FunctionModelId(model), SerialNumber(model), Zipped(model.name + ".xml", Description(model))};
 }
 
 Identity IdentityOf(const M2VXModel& model) {
-    return {model.name, model.number, SerialNumber(model), DescriptionArchive(model)};
+    return {model.name, model.number, SerialNumber(model), Zipped(model.name + ".xml", Description(model))};
 }
 
-std::unique_ptr<SimulatedCamera> Make(std::vector<Register> registers, const std::vector<Register>& own) {
-    registers.insert(registers.end(), own.begin(), own.end());
-    auto camera = std::make_unique<SimulatedCamera>(registers);
+std::vector<Register> FunctionRegisters(const OrvikModel& model) { return OrvikRegisters(model); }
+std::vector<Register> FunctionRegisters(const M2VXModel& model) { return M2VXRegisters(model); }
+
+/// Registers are made once for each model, because that takes longer than all else of a camera.
+template <typename Model> RegisterSpace::Registers RegistersOf(const Model& model) {
+    static std::mutex access;
+    static std::map<std::string, RegisterSpace::Registers> known; // by model
+    const std::lock_guard lock(access);
+    RegisterSpace::Registers& registers = known[model.name];
+    if (registers == nullptr) {
+        std::vector<Register> all = BootstrapRegisters(IdentityOf(model));
+        std::vector<Register> own = FunctionRegisters(model);
+        std::move(own.begin(), own.end(), std::back_inserter(all));
+        registers = std::make_shared<const std::vector<Register>>(std::move(all));
+    }
+    return registers;
+}
+
+template <typename Model> std::unique_ptr<SimulatedCamera> Make(const Model& model) {
+    auto camera = std::make_unique<SimulatedCamera>(RegistersOf(model));
     AddBootstrapBehaviour(*camera);
     return camera;
 }
@@ -76,12 +82,12 @@ template <typename Models> auto Find(const Models& models, std::string_view name
 std::unique_ptr<SimulatedCamera> MakeCamera(std::string_view name, std::uint64_t seed) {
     const World world(seed);
     if (const auto* const orvik = Find(orvikModels, name)) {
-        auto camera = Make(BootstrapRegisters(IdentityOf(*orvik)), OrvikRegisters(*orvik));
+        auto camera = Make(*orvik);
         AddOrvikBehaviour(*camera, *orvik, world);
         return camera;
     }
     if (const auto* const m2vx = Find(m2vxModels, name)) {
-        auto camera = Make(BootstrapRegisters(IdentityOf(*m2vx)), M2VXRegisters(*m2vx));
+        auto camera = Make(*m2vx);
         AddM2VXBehaviour(*camera, world);
         return camera;
     }

@@ -9,9 +9,9 @@
 
 namespace Simulation {
 
-RegisterSpace::RegisterSpace(const std::vector<Register>& registers) {
-    for (const Register& entry : registers) {
-        Cell cell{entry, entry.powerUp.instances.at(0).selector, {}, {}};
+RegisterSpace::RegisterSpace(Registers registers) : shared(std::move(registers)) {
+    for (const Register& entry : *shared) {
+        Cell cell{&entry, entry.powerUp.instances.at(0).selector, 0, {}, {}};
         for (const Instance& instance : entry.powerUp.instances) {
             cell.values.push_back(instance.value);
             if (entry.powerUp.keepsRequest) {
@@ -41,19 +41,25 @@ bool RegisterSpace::HasAddresses(std::uint32_t address, std::size_t length) cons
     return true;
 }
 
-std::size_t RegisterSpace::ChosenInstance(const Cell& cell) {
-    const auto& instances = cell.entry.powerUp.instances;
-    const auto chosen = std::find_if(instances.begin(), instances.end(),
-                                     [&](const Instance& instance) { return instance.selector == cell.selector; });
-    return static_cast<std::size_t>(chosen - instances.begin());
+void RegisterSpace::Choose(Cell& cell) {
+    const auto& instances = cell.entry->powerUp.instances;
+    const auto isSelected = [&](const Instance& instance) { return instance.selector == cell.selector; };
+    // Hosts select one instance after the other, so the search begins where the last one ended.
+    const auto last = instances.begin() + static_cast<std::ptrdiff_t>(cell.chosen);
+    auto found = std::find_if(last, instances.end(), isSelected);
+    if (found == instances.end()) {
+        found = std::find_if(instances.begin(), last, isSelected);
+        found = found == last ? instances.end() : found;
+    }
+    cell.chosen = static_cast<std::size_t>(found - instances.begin());
 }
 
 Bytes RegisterSpace::BlockOf(const Cell& cell) {
     Bytes block = cell.selector;
-    if (const std::size_t chosen = ChosenInstance(cell); chosen < cell.values.size()) {
-        block.insert(block.end(), cell.values[chosen].begin(), cell.values[chosen].end());
+    if (cell.chosen < cell.values.size()) {
+        block.insert(block.end(), cell.values[cell.chosen].begin(), cell.values[cell.chosen].end());
     }
-    block.resize(SizeOf(cell.entry));
+    block.resize(SizeOf(*cell.entry));
     return block;
 }
 
@@ -88,16 +94,17 @@ void RegisterSpace::Write(Cell& cell, std::size_t offset, std::span<const std::u
         selector.resize(selectorSize);
         bytes = bytes.subspan(written.size());
         offset = selectorSize;
-        if (bytes.empty() && cell.entry.powerUp.swapped) {
+        if (bytes.empty() && cell.entry->powerUp.swapped) {
             std::rotate(selector.begin(), selector.begin() + sizeof(std::uint32_t), selector.end());
         }
+        Choose(cell);
     }
-    const std::size_t chosen = ChosenInstance(cell);
-    if (bytes.empty() || chosen == cell.values.size()) {
+    if (bytes.empty() || cell.chosen == cell.values.size()) {
         return;
     }
-    changes.push_back({cell.entry, static_cast<std::uint32_t>(chosen), ToWords(cell.values[chosen])});
-    const auto target = std::span(cell.values[chosen]).subspan(offset - selectorSize);
+    Bytes& value = cell.values[cell.chosen];
+    changes.push_back({*cell.entry, static_cast<std::uint32_t>(cell.chosen), ToWords(value)});
+    const auto target = std::span(value).subspan(offset - selectorSize);
     std::copy_n(bytes.begin(), std::min(bytes.size(), target.size()), target.begin());
 }
 
@@ -136,12 +143,12 @@ std::vector<std::string> RegisterSpace::Names() const {
 
 const Register* RegisterSpace::Find(const std::string& name) const {
     const auto found = byName.find(name);
-    return found == byName.end() ? nullptr : &found->second->entry;
+    return found == byName.end() ? nullptr : found->second->entry;
 }
 
 const Register* RegisterSpace::At(std::uint32_t address) const {
     const auto found = cells.find(address);
-    return found == cells.end() ? nullptr : &found->second.entry;
+    return found == cells.end() ? nullptr : found->second.entry;
 }
 
 std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::size_t length) const {
@@ -151,7 +158,7 @@ std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::
         --next; // it begins before the access and may overlap it
     }
     for (; next != cells.end() && next->first < std::uint64_t{address} + length; ++next) {
-        const Register& entry = next->second.entry;
+        const Register& entry = *next->second.entry;
         if (std::uint64_t{entry.address} + SizeOf(entry) > address) {
             touched.push_back(&entry);
         }
@@ -162,8 +169,8 @@ std::vector<const Register*> RegisterSpace::Touched(std::uint32_t address, std::
 RegisterSpace::Content RegisterSpace::Save(const std::vector<Role>& roles) const {
     Content content;
     for (const auto& [address, cell] : cells) {
-        if (std::find(roles.begin(), roles.end(), cell.entry.role) != roles.end()) {
-            State& state = content[cell.entry.name];
+        if (std::find(roles.begin(), roles.end(), cell.entry->role) != roles.end()) {
+            State& state = content[cell.entry->name];
             std::transform(cell.values.begin(), cell.values.end(), std::back_inserter(state.values), ToWords);
             state.requests = cell.requests;
         }

@@ -3,6 +3,7 @@
 #include "Simulation/Register.h"
 
 #include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -28,7 +29,9 @@ namespace Simulation {
 /// registers expect a selector of two words swapped when it is written alone.
 class RegisterSpace {
 public:
-    explicit RegisterSpace(const std::vector<Register>& registers);
+    using Registers = std::shared_ptr<const std::vector<Register>>; ///< cameras of a model share them
+
+    explicit RegisterSpace(Registers registers);
     RegisterSpace(const RegisterSpace&) = delete;
     RegisterSpace& operator=(const RegisterSpace&) = delete;
 
@@ -81,21 +84,23 @@ public:
 private:
     /// A register and its content.
     struct Cell {
-        Register entry;
+        const Register* entry;
         Bytes selector;              ///< of the selected instance; empty for a plain register
+        std::size_t chosen;          ///< the selected instance; the number of instances if none has the selector
         std::vector<Bytes> values;   ///< of each instance
         std::vector<Words> requests; ///< of each instance, if they are kept
     };
 
     [[nodiscard]] Cell& Named(const std::string& name) const;
-    /// The index of the selected instance, or the number of instances if no instance has the selector.
-    [[nodiscard]] static std::size_t ChosenInstance(const Cell& cell);
+    /// Finds the instance of the selector.
+    static void Choose(Cell& cell);
     /// The bytes that a read returns: the selector, then the selected value, or zeros if there is none.
     [[nodiscard]] static Bytes BlockOf(const Cell& cell);
     /// Writes to the register, from the offset on.
     static void Write(Cell& cell, std::size_t offset, std::span<const std::uint8_t> bytes,
                       std::vector<Change>& changes);
 
+    const Registers shared;
     std::map<std::uint32_t, Cell> cells; ///< by address
     std::unordered_map<std::string, Cell*> byName;
 };

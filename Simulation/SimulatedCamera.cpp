@@ -17,8 +17,8 @@ template <typename T> void RefuseNull(const T* pointer) {
 
 } // namespace
 
-SimulatedCamera::SimulatedCamera(const std::vector<Register>& registers)
-    : space(registers),
+SimulatedCamera::SimulatedCamera(RegisterSpace::Registers registers)
+    : space(std::move(registers)),
       powerUp(space.Save({Role::Volatile})),
       sets(space.Save({Role::Setting})) {
     AfterWrite("stopacquisition", [](RegisterSpace& own) { own.Set("startacquisition", {0}); });

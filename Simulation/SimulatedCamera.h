@@ -38,7 +38,7 @@ public:
     static constexpr std::chrono::microseconds accessTime{500};
     static constexpr std::chrono::milliseconds stepTime{32};
 
-    explicit SimulatedCamera(const std::vector<Register>& registers);
+    explicit SimulatedCamera(RegisterSpace::Registers registers);
     SimulatedCamera(const SimulatedCamera&) = delete; // its behaviours refer to it
     SimulatedCamera& operator=(const SimulatedCamera&) = delete;
 
