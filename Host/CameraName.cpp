@@ -13,7 +13,6 @@
 #include <cctype>
 #include <iterator>
 #include <optional>
-#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -48,7 +47,9 @@ const Prefix* PrefixOf(const std::string& camera) {
 bool IsHost(const std::string& text) {
     in_addr ignored{};
     return inet_aton(text.c_str(), &ignored) == 0 && text.find_first_not_of("0123456789.") != std::string::npos &&
-           std::regex_match(text, std::regex("[A-Za-z0-9_.-]+"));
+           std::all_of(text.begin(), text.end(), [](unsigned char character) {
+               return std::isalnum(character) != 0 || character == '_' || character == '.' || character == '-';
+           });
 }
 
 /// @return nothing if the text is invalid for its prefix

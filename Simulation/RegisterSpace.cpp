@@ -136,7 +136,7 @@ void RegisterSpace::SetRequested(const std::string& name, const Words& words, st
 std::vector<std::string> RegisterSpace::Names() const {
     std::vector<std::string> names;
     for (const auto& [address, cell] : cells) {
-        names.push_back(cell.entry.name);
+        names.push_back(cell.entry->name);
     }
     return names;
 }

@@ -240,7 +240,7 @@ Response Panel::Restore(const Request& request) {
     dryRun ? restorer.Plan() : restorer.Restore();
     camera.board.Refresh();
     Json results(Json::List{});
-    for (const RestoreResult& result : restorer.Results()) {
+    for (const RestoreResult& result : restorer.Progress().results) {
         results.Add(ToJson(result));
     }
     return Answer(results);
