@@ -82,13 +82,15 @@ std::string DescribeCandidate(const FoundCamera& camera) {
 } // namespace
 
 std::optional<std::string> ParseMac(std::string text) {
-    if (!std::regex_match(text, std::regex("[0-9A-Fa-f]{2}([:-][0-9A-Fa-f]{2}){5}"))) {
-        return std::nullopt;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto character = static_cast<unsigned char>(text[i]);
+        const bool separates = i % 3 == 2;
+        if (separates ? character != ':' && character != '-' : std::isxdigit(character) == 0) {
+            return std::nullopt;
+        }
+        text[i] = separates ? ':' : static_cast<char>(std::tolower(character));
     }
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char character) {
-        return character == '-' ? ':' : static_cast<char>(std::tolower(character));
-    });
-    return text;
+    return text.size() == std::size("02:00:12:07:07:10") - 1 ? std::optional(text) : std::nullopt;
 }
 
 bool IsCamera(const std::string& text) {
