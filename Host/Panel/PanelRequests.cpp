@@ -7,6 +7,7 @@
 #include "Host/Settings/Assign.h"
 #include "Host/Settings/CameraSettings.h"
 #include "Host/Settings/ResultJson.h"
+#include "Host/Settings/Selection.h"
 #include "Host/Settings/SettingsFile.h"
 
 #include <algorithm>
@@ -202,12 +203,13 @@ Response Panel::Save() {
 }
 
 Response Panel::Compare(const std::string& text) {
-    Session& session = Camera().session;
+    OpenedCamera& camera = Camera();
+    Session& session = camera.session;
     const Settings given = ParseSettings(text, document);
     if (given.model != session.Model()) {
         throw Refused{400, "the document is of model " + given.model + ", but the camera is " + session.Model()};
     }
-    const Settings current = TakeReadableSettings(session);
+    const Settings current = TakeReadableSettings(session, Selection(camera.camera.Table(), {}, {}));
     Json differences(Json::List{});
     for (const Difference& difference : Host::Compare(given, current)) {
         differences.Add(ToJson(difference));
