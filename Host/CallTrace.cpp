@@ -5,7 +5,6 @@
 #include "Simulation/Cameras.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Host {
 
@@ -69,22 +68,17 @@ void Unlock(const Camera& camera, const Instance& instance) {
     }
 }
 
-/// What may refresh a function, in an order in which nothing hides the effect of what comes later: setting a mode
-/// decides how what it moves is cached.
+/// What may refresh a function. Itself first, because setting a mode decides how what it moves is cached.
 std::vector<Instance> PossibleRefreshers(const Camera& camera, const Instance& instance) {
-    std::array<std::vector<Instance>, 3> stages;
-    for (const Function& function : camera.Table()) {
-        const bool isSetting = function.restore != RestorePolicy::Never;
-        if (function.set != nullptr && function.name != instance->name && (isSetting || function.get == nullptr)) {
-            stages[!isSetting ? 2 : function.restore == RestorePolicy::Mode ? 1 : 0].push_back({&function});
-        }
-    }
     std::vector<Instance> all;
     if (instance->set != nullptr) {
         all.push_back(instance);
     }
-    for (const auto& stage : stages) {
-        all.insert(all.end(), stage.begin(), stage.end());
+    for (const Function& function : camera.Table()) {
+        const bool isSettingOrCommand = function.restore != RestorePolicy::Never || function.get == nullptr;
+        if (function.set != nullptr && function.name != instance->name && isSettingOrCommand) {
+            all.push_back({&function});
+        }
     }
     return all;
 }
