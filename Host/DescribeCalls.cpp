@@ -11,6 +11,7 @@ namespace {
 /// "read 0x14010000"
 std::vector<std::string> Describe(const std::vector<Access>& accesses) {
     std::vector<std::string> texts;
+    texts.reserve(accesses.size());
     for (const Access& access : accesses) {
         texts.push_back((access.write ? "write " : "read ") + Common::Hex(access.address));
     }
