@@ -100,7 +100,8 @@ TEST(HostTerminal, ListFitsTheTerminal) {
         std::erase_if(text, [](char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; });
         return text;
     };
-    for (const unsigned short columns : {80, 100}) {
+    const unsigned short widths[] = {80, 100};
+    for (const unsigned short columns : widths) {
         const std::string all =
             AtTerminal({"list", "Cerix-MV7"}, {{"NO_COLOR", "1"}, {"LC_ALL", "C.UTF-8"}}, {}, columns);
         std::istringstream lines(all);
