@@ -24,8 +24,8 @@ namespace {
 using namespace Host::Panel;
 using Test::WebClient;
 
-constexpr std::size_t mostClients = 4;    ///< at a time, so that the server has room for one more
-constexpr std::size_t mostBytes = 150000; ///< so that an execution is short, and no answer waits for a reader
+constexpr std::size_t mostClients = 4;   ///< at a time, so that the server has room for one more
+constexpr std::size_t mostBytes = 40000; ///< so that an execution is short, and no answer waits for a reader
 
 /// Clients that do what the input says. They send pieces that make requests of few bytes.
 class Visitors {
@@ -127,7 +127,7 @@ private:
 
     void Send(std::string bytes) {
         last = std::move(bytes);
-        sent += last.size();
+        sent += last.size() + 1;
         clients.back().Send(last);
     }
 
