@@ -80,8 +80,8 @@ public:
 
     /// Since when it has been of no use, if it may be closed for another one.
     [[nodiscard]] virtual std::optional<Clock::time_point> IdleSince() { return {}; }
-    virtual void Answer(Response) {}
-    virtual void Send(Shared, bool /*binary*/) {}
+    virtual void Answer(Response&&) {}
+    virtual void Send(const Shared&, bool /*binary*/) {}
     [[nodiscard]] virtual bool IsWebSocket() const { return false; }
     virtual void Close() = 0;
 };
@@ -157,7 +157,7 @@ public:
 
     void Await();
     std::optional<Clock::time_point> IdleSince() override;
-    void Answer(Response response) override;
+    void Answer(Response&& response) override;
     void Close() override;
 
 private:
@@ -324,7 +324,7 @@ void HttpConnection::RefuseUnreadable(Error error) {
     }
 }
 
-void HttpConnection::Answer(Response response) {
+void HttpConnection::Answer(Response&& response) {
     keepAlive = parser->is_done() && parser->keep_alive();
     const auto reason = http::obsolete_reason(http::int_to_status(response.status));
     head = PrintHead(response, std::string_view(reason.data(), reason.size()), keepAlive);
@@ -377,7 +377,7 @@ public:
           timer(stream.get_executor()) {}
 
     void Open(const http::request<http::string_body>& request);
-    void Send(Shared bytes, bool binary) override;
+    void Send(const Shared& bytes, bool binary) override;
     [[nodiscard]] bool IsWebSocket() const override { return true; }
     void Close() override;
 
@@ -470,7 +470,7 @@ void WebSocketClient::Take(std::string text) {
     Read();
 }
 
-void WebSocketClient::Send(Shared bytes, bool binary) {
+void WebSocketClient::Send(const Shared& bytes, bool binary) {
     if (!isKnown || isEnding) {
         return;
     }
@@ -479,7 +479,7 @@ void WebSocketClient::Send(Shared bytes, bool binary) {
         Close();
         return;
     }
-    queue.push_back({std::move(bytes), binary});
+    queue.push_back({bytes, binary});
     if (queue.size() == 1) {
         Write();
     }

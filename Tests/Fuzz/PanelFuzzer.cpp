@@ -66,7 +66,7 @@ private:
         } else if (kind < 0xF4) {
             clients.back().EndSending();
         } else {
-            Send(Raw(1) + std::string(input.Byte() * 300U, 'x'));
+            Send(Raw(1) + std::string(std::size_t{300} * input.Byte(), 'x'));
         }
     }
 

@@ -25,6 +25,7 @@ namespace Scenario {
 namespace {
 
 using namespace Host::Panel;
+using namespace std::string_literals;
 using Test::WebClient;
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
@@ -125,12 +126,12 @@ TEST_F(PanelServer, ServesThePageWithoutTokenAndProtected) {
     const auto page = client.Request(Ask("GET /?x", "", false));
     EXPECT_EQ(page.status, 200);
     EXPECT_NE(page.body.find("<!DOCTYPE html>"), std::string::npos);
-    for (const char* const field :
-         {"Content-Type: text/html; charset=utf-8\r\n",
-          "Content-Security-Policy: default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' blob:; "
-          "connect-src 'self'; frame-ancestors 'none'; base-uri 'none'\r\n",
-          "X-Content-Type-Options: nosniff\r\n", "Referrer-Policy: no-referrer\r\n",
-          "Cross-Origin-Resource-Policy: same-origin\r\n", "Cache-Control: no-store\r\n"}) {
+    const std::string policy = "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' blob:; "
+                               "connect-src 'self'; frame-ancestors 'none'; base-uri 'none'";
+    for (const std::string& field :
+         {"Content-Security-Policy: " + policy + "\r\n"s, "Content-Type: text/html; charset=utf-8\r\n"s,
+          "X-Content-Type-Options: nosniff\r\n"s, "Referrer-Policy: no-referrer\r\n"s,
+          "Cross-Origin-Resource-Policy: same-origin\r\n"s, "Cache-Control: no-store\r\n"s}) {
         EXPECT_NE(page.head.find(field), std::string::npos) << field << page.head;
     }
     client.Send(Ask("HEAD /", "", false)); // on the same connection
