@@ -12,7 +12,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config liblog4cxx-dev libgtest-
     nlohmann-json3-dev libedit-dev libpng-dev libturbojpeg0-dev libzip-dev libaravis-dev libusb-1.0-0-dev libasio-dev libboost1.74-dev libpcap-dev
     binutils help2man dpkg-dev file)
 test_packages=(valgrind doxygen fakeroot aravis-tools aravis-tools-cli iproute2 libxml2-utils tshark gstreamer1.0-tools
-    gstreamer1.0-plugins-good)
+    gstreamer1.0-plugins-good chromium chromium-driver python3)
 sanitizer_packages=(clang-14 libclang-rt-14-dev llvm-14)
 check_packages=(clang-format-14 clang-tidy-14 cppcheck shellcheck)
 bench_packages=(libbenchmark-dev gnuplot-nox aravis-tools)
