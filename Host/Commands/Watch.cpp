@@ -142,11 +142,9 @@ public:
             const bool isShownFirst = areNamed && !last[i];
             Held now = Read(reader, watched[i], isShownFirst);
             if (isShownFirst) {
-                changes.Print(watched[i].Name(), "first",
-                              now.text + (now.lock.by.empty() ? "" : " (" + DescribeLock(now.lock) + ")"),
-                              {{"value", now.json},
-                               {"lockedBy", TextOrNull(now.lock.by)},
-                               {"needs", TextOrNull(now.lock.needs)}});
+                Json members{{"value", now.json}};
+                AddLock(members, now.lock);
+                changes.Print(watched[i].Name(), "first", DescribeRefusal(now.text, now.lock), *members.Members());
             } else if (last[i] && now.text != last[i]->text) {
                 changes.Print(watched[i].Name(), "camera", last[i]->text + " -> " + now.text,
                               {{"before", last[i]->json}, {"value", now.json}});
@@ -165,7 +163,7 @@ private:
     [[nodiscard]] static Held Read(const Camera& reader, const Instance& instance, bool andItsLock) {
         const Reading reading = andItsLock ? reader.Inspect(instance) : reader.TryRead(instance);
         if (reading.code != 0) {
-            return {"(" + reading.reason + ")", {}, {}};
+            return {"(" + reading.reason + ")", {}, reading.lock};
         }
         return {PrintWithUnit(instance, reading.value), ToJson(instance, reading.value), reading.lock};
     }
@@ -254,7 +252,8 @@ private:
             const FunctionValue& wanted = assignments[areSet];
             const Outcome failure = Attempt([&] { camera.SetUnlessLocked(wanted.instance, wanted.value); });
             if (failure.code != 0) { // watching goes on
-                PrintError(wanted.instance.Name() + ": " + failure.reason);
+                const LockState lock = camera.WhatRefused(wanted.instance);
+                PrintError(wanted.instance.Name() + ": " + DescribeRefusal(failure.reason, lock));
                 code = Refused;
             }
         }
