@@ -28,6 +28,13 @@ function(qdv12_precompile target)
         <sstream> <string> <vector> ${ARGN})
 endfunction()
 
+# For sources with large headers that take no time when they run: command lines, JSON. Sanitized, they compile three
+# times as fast without optimisation.
+function(qdv12_optimise_little)
+    set_source_files_properties(${ARGN} PROPERTIES
+        COMPILE_OPTIONS "$<IF:$<CONFIG:Debug>,-O0,-O1>" SKIP_PRECOMPILE_HEADERS ON)
+endfunction()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     # With precompiled headers, ccache requires this sloppiness, and that Clang writes no timestamps into them.
