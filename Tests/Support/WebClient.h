@@ -99,7 +99,7 @@ public:
             }
             size = longer;
         }
-        return {head[0] & 0xFU, TakeAll(size)};
+        return {static_cast<unsigned char>(head[0]) & 0xFU, TakeAll(size)};
     }
 
     /// Waits until the server closes. @return what came until then, or "waits" if it does not
