@@ -18,11 +18,12 @@ constexpr int restAfterPoll = 4; ///< times its duration, which leaves four fift
 
 } // namespace
 
-FunctionBoard::FunctionBoard(const Camera& setting, const Camera& reading, TraceLog& traced)
-    : setter(setting),
-      reader(reading),
+FunctionBoard::FunctionBoard(Session& opened, const Camera& setting, TraceLog& traced)
+    : session(opened),
+      setter(setting),
       trace(traced) {
-    for (const Instance& instance : reader.All(false)) {
+    RenewReader();
+    for (const Instance& instance : setter.All(false)) {
         entries.push_back({.instance = instance, .many = instance->count > fewInstances});
     }
 }
@@ -46,6 +47,9 @@ FunctionBoard::Entry* FunctionBoard::Due(const std::set<std::string>& shown) {
 }
 
 void FunctionBoard::Poll(const std::set<std::string>& shown) {
+    if (Clock::now() >= renewed + hiddenPeriod) {
+        RenewReader();
+    }
     const auto start = Clock::now();
     auto end = start;
     while (end >= notBefore && end < start + longestPoll) {
@@ -61,7 +65,14 @@ void FunctionBoard::Poll(const std::set<std::string>& shown) {
     }
 }
 
+void FunctionBoard::RenewReader() {
+    const TraceLog::Call call(trace, "open");
+    reader.emplace(session);
+    renewed = Clock::now();
+}
+
 void FunctionBoard::Refresh() {
+    RenewReader();
     for (Entry& entry : entries) {
         entry.stale = true;
     }
@@ -78,13 +89,13 @@ void FunctionBoard::Complete() {
 
 void FunctionBoard::ReadValue(Entry& entry) {
     const TraceLog::Call call(trace, "get " + entry.instance.Name());
-    const Reading reading = reader.TryRead(entry.instance);
+    const Reading reading = Reader().TryRead(entry.instance);
     entry.read = Clock::now();
     SetValue(entry, reading.code == 0 ? ToJson(entry.instance, reading.value) : Json());
 }
 
 Json FunctionBoard::Describe(const Instance& instance, bool many) const {
-    FunctionState state = InspectFunction(reader, instance);
+    FunctionState state = InspectFunction(Reader(), instance);
     if (setter.As<SDK4::Control::IPropertyState>() != nullptr && state.reading.code == 0) {
         state.reading.lock = setter.LockOf(instance); // the properties of the other control do not follow
         state.limits = setter.LimitsOf(instance);
@@ -95,7 +106,7 @@ Json FunctionBoard::Describe(const Instance& instance, bool many) const {
 void FunctionBoard::Describe(Entry& entry) {
     const TraceLog::Call call(trace, "describe " + entry.instance.Name());
     if (entry.described == Clock::time_point() && entry.instance->get != nullptr &&
-        reader.TryRead(entry.instance).code == 0) { // the last access of a getter is to its register
+        Reader().TryRead(entry.instance).code == 0) { // the last access of a getter is to its register
         trace.NameLast(std::string(entry.instance->name));
     }
     Json document = Describe(entry.instance, entry.many);

@@ -3,9 +3,11 @@
 #include "Host/Camera.h"
 #include "Host/Json.h"
 #include "Host/Panel/TraceLog.h"
+#include "Host/Settings/UncachedCamera.h"
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,7 +20,7 @@ class FunctionBoard {
 public:
     using Clock = std::chrono::steady_clock;
 
-    FunctionBoard(const Camera& setting, const Camera& reading, TraceLog& traced);
+    FunctionBoard(Session& opened, const Camera& setting, TraceLog& traced);
 
     /// Reads functions that are due, for some milliseconds.
     /// @param shown what clients show; the others are read every two seconds
@@ -26,6 +28,8 @@ public:
     void Poll(const std::set<std::string>& shown);
     /// Something was set, which may change everything else.
     void Refresh();
+    /// Reads what the camera holds.
+    [[nodiscard]] const Camera& Reader() const { return reader->Camera(); }
     /// Reads everything that has not been read.
     void Complete();
     /// Reads one function, as FunctionToJson.
@@ -58,9 +62,13 @@ private:
     void ReadValue(Entry& entry);
     void Describe(Entry& entry);
     void SetValue(Entry& entry, Json value);
+    /// A new control, because the image size is cached in any.
+    void RenewReader();
 
+    Session& session;
     const Camera& setter; ///< its published limits follow what was set
-    const Camera& reader;
+    std::optional<UncachedCamera> reader;
+    Clock::time_point renewed{}; ///< when the reader was
     TraceLog& trace;
     std::vector<Entry> entries;
     std::size_t next = 0;

@@ -33,8 +33,7 @@ Panel::OpenedCamera::OpenedCamera(const Plugin& plugin, const std::string& name,
                                   TraceLog& trace)
     : session(plugin, name, options),
       camera(session.Camera()),
-      reader(session),
-      board(camera, reader.Camera(), trace) {
+      board(session, camera, trace) {
     if (auto* const properties = camera.As<SDK4::Control::IPropertyState>()) {
         properties->AddCallback(OnPropertyChange, &told);
     }
@@ -79,7 +78,7 @@ Panel::Panel(const Plugin& loaded, std::string cameraName, CameraOptions chosen,
 }
 
 Panel::~Panel() {
-    ending = true; // ends a restore, and polling
+    ending = true;                                // ends a restore, and polling
     cameraThread->Post([this] { live.reset(); }); // before the thread to which it delivers
     cameraThread.reset();
     if (opened) {

@@ -8,7 +8,6 @@
 #include "Host/Panel/TraceLog.h"
 #include "Host/Panel/Worker.h"
 #include "Host/Session.h"
-#include "Host/Settings/UncachedCamera.h"
 
 #include <atomic>
 #include <map>
@@ -49,7 +48,6 @@ private:
 
         Session session;
         Host::Camera camera;
-        UncachedCamera reader;
         FunctionBoard board;
         std::function<void(const char* name, const char* attribute)> told; ///< gets callbacks
     };

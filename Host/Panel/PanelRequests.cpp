@@ -186,7 +186,7 @@ Response Panel::Set(const std::string& function, const std::string& text) {
         live->Stop(); // until the next poll; the mode determines whether exposures are triggered
     }
     const TraceLog::Call call(trace, "set " + instance.Name());
-    const Assigned result = AssignOne(camera.camera, camera.reader.Camera(), MakeWait(camera.session), assignment);
+    const Assigned result = AssignOne(camera.camera, camera.board.Reader(), MakeWait(camera.session), assignment);
     camera.board.Refresh();
     const std::string problem = DescribeProblem(camera.camera, assignment, result);
     Json answer = ToJson(assignment, result);
@@ -233,7 +233,7 @@ Response Panel::Restore(const Request& request) {
             SendToAll({{"type", "restore"}, {"result", ToJson(result)}});
         }
     };
-    Restorer restorer(given, camera.camera, camera.reader.Camera(), MakeWait(camera.session),
+    Restorer restorer(given, camera.camera, camera.board.Reader(), MakeWait(camera.session),
                       {.outputs = Has(request.query, "outputs"),
                        .network = Has(request.query, "network"),
                        .report = report,

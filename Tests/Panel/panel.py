@@ -126,7 +126,9 @@ class Events:
         end = time.monotonic() + TIMEOUT
         while time.monotonic() < end:
             message = self.message()
-            if not isinstance(message, bytes) and wanted(message):
+            if isinstance(message, bytes):
+                self.send({"type": "shown"})
+            elif wanted(message):
                 return message
         raise AssertionError("the message did not come")
 
