@@ -37,9 +37,13 @@ enum class Parameter {
     Plugin,
     Port,
     Raw,
+    Register,
+    Registers,
     Second,
     Seconds,
     Topic,
+    Words,
+    Yes,
 };
 
 /// Whether an operand is required.
@@ -97,8 +101,11 @@ struct Command {
     const char* about;
     std::vector<Syntax> syntax; ///< in a shell, without what a shell has once: CAMERA, how it is opened
     int (*run)(const Invocation& invocation);
-    bool inShell = true;  ///< whether it is available in a shell
-    int failed = Refused; ///< the exit code if the camera is lost, a call is refused, or results cannot be written
+    bool inShell = true;      ///< whether it is available in a shell
+    int failed = Refused;     ///< the exit code if the camera is lost, a call is refused, or results cannot be written
+    bool onlyInShell = false; ///< whether it needs a camera that stays open
+
+    [[nodiscard]] bool IsOffered(bool toShell) const { return toShell ? inShell : !onlyInShell; }
 
     /// The syntax of the parameter, or null.
     [[nodiscard]] const Syntax* Find(Parameter parameter) const;

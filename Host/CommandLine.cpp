@@ -168,6 +168,10 @@ std::vector<std::string> OptionNames(const CLI::App& app) {
 }
 
 std::string DescribeUnknownCommand(const CLI::App& app, const std::string& name) {
+    const auto isIt = [&](const Command& command) { return command.onlyInShell && command.name == name; };
+    if (std::any_of(Commands().begin(), Commands().end(), isIt)) {
+        return name + " is a command of the shell, since acquisition ends with it: qdv12host shell CAMERA";
+    }
     std::vector<std::string> names;
     for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
         names.push_back(command->get_name());
@@ -244,7 +248,7 @@ struct Parser {
                        "be opened.");
         }
         for (const Command& command : Commands()) {
-            if (command.inShell || !inShell) {
+            if (command.IsOffered(inShell)) {
                 commands.push_back(AddCommand(app, command, inShell));
             }
         }

@@ -157,7 +157,7 @@ std::vector<std::string> CommandNames(bool inShell) {
         names.emplace_back("quit");
     }
     for (const Command& command : Commands()) {
-        if (command.inShell || !inShell) {
+        if (command.IsOffered(inShell)) {
             names.emplace_back(command.name);
         }
     }

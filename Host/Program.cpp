@@ -2,6 +2,7 @@
 
 #include "Host/CameraName.h"
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/Channel/DeferredTermination.h"
 #include "Host/Command.h"
 
 #include <utility>
@@ -27,6 +28,13 @@ Session& Program::Open(const std::string& camera) {
         }
     }
     return *session;
+}
+
+void Program::StopAcquisition() {
+    const DeferredTermination::Suspension untilStopped;
+    if (session && session->Acquires()) {
+        session->Acquire(false);
+    }
 }
 
 void Program::Close() {

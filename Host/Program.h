@@ -46,6 +46,9 @@ public:
     void Close();
     /// Closes a camera that was lost, which the next Open opens again.
     void CloseLost() { session.reset(); }
+    /// Stops acquisition if it runs, also after a signal: nobody else would.
+    /// @throws ChannelError
+    void StopAcquisition();
     /// Records signals from now on until the camera is closed at the end, for a command that asks for them.
     void RecordSignals() { signals.emplace(); }
     /// After a command: reports on standard error why there is no control, if something was not read without it.

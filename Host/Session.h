@@ -48,6 +48,7 @@ public:
     /// Starts or stops acquisition through the control, which locks some functions while it runs.
     /// @throws std::runtime_error for a control without acquisition; ChannelError
     void Acquire(bool on);
+    [[nodiscard]] bool Acquires() const { return acquires; }
 
     /// Opens the same camera once more, on the same port.
     /// @throws OpenError; ChannelLost

@@ -1,5 +1,7 @@
 #include "Simulation/SimulatedCamera.h"
 
+#include "Simulation/Addresses.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
@@ -116,14 +118,22 @@ void SimulatedCamera::Read(const char* operation, std::uint32_t address, void* d
     space.Read(address, {static_cast<std::uint8_t*>(data), size});
 }
 
+/// Words of the standard's registers are big-endian, so the first byte of a text is the highest of its word.
+std::uint32_t SimulatedCamera::AsWord(std::uint32_t address, std::uint32_t bytes) const {
+    const Register* const entry = space.At(address);
+    const bool isText = address < bootstrapEnd && (entry == nullptr || SizeOf(*entry) != sizeof bytes);
+    return isText ? __builtin_bswap32(bytes) : bytes;
+}
+
 void SimulatedCamera::WriteRegister(std::uint32_t address, std::uint32_t value) {
+    value = AsWord(address, value);
     Write("WriteRegister", address, &value, sizeof value);
 }
 
 std::uint32_t SimulatedCamera::ReadRegister(std::uint32_t address) {
     std::uint32_t value = 0;
     Read("ReadRegister", address, &value, sizeof value);
-    return value;
+    return AsWord(address, value);
 }
 
 void SimulatedCamera::WriteRegisterPair(std::uint32_t address, std::uint64_t value) {

@@ -109,6 +109,7 @@ private:
     void BeginAccess(const char* operation, bool writes, std::uint32_t address, std::size_t length);
     void Write(const char* operation, std::uint32_t address, const void* data, std::uint64_t length);
     void Read(const char* operation, std::uint32_t address, void* data, std::uint64_t length);
+    [[nodiscard]] std::uint32_t AsWord(std::uint32_t address, std::uint32_t bytes) const;
     [[nodiscard]] bool IsAcquiring() const { return space.Get("startacquisition")[0] != 0; }
     [[nodiscard]] bool IsLocked(const std::string& name) const { return locked.contains(name) && IsAcquiring(); }
     /// Clamps the written value, or restores the previous one. Returns whether the write is accepted.

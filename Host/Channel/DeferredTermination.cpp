@@ -5,6 +5,7 @@ namespace Host {
 namespace {
 
 volatile std::sig_atomic_t due = 0; ///< the pending signal
+bool isSuspended = false;
 
 void Defer(int signal) { due = signal; }
 
@@ -36,6 +37,10 @@ DeferredTermination::~DeferredTermination() {
     }
 }
 
-bool DeferredTermination::IsDue() { return due != 0; }
+bool DeferredTermination::IsDue() { return due != 0 && !isSuspended; }
+
+DeferredTermination::Suspension::Suspension() { isSuspended = true; }
+
+DeferredTermination::Suspension::~Suspension() { isSuspended = false; }
 
 } // namespace Host

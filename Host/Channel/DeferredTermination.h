@@ -18,6 +18,15 @@ public:
     /// Whether a signal is pending.
     [[nodiscard]] static bool IsDue();
 
+    /// While one exists, no signal is due, so that the camera can be brought to rest.
+    class Suspension {
+    public:
+        Suspension();
+        ~Suspension();
+        Suspension(const Suspension&) = delete;
+        Suspension& operator=(const Suspension&) = delete;
+    };
+
 private:
     std::map<int, struct sigaction> before; ///< by signal
 };

@@ -82,7 +82,7 @@ GigEPort::GigEPort(const std::string& address) : ChannelPort(address, largestTra
 /// Aravis releases control too, but does not retry if the camera is busy, and control would be held until the heartbeat
 /// times out.
 GigEPort::~GigEPort() {
-    if (controls && (lost == Lost::No || lost == Lost::Ending)) {
+    if (controls && lost == Lost::No) {
         static_cast<void>(Try(
             [&](GError** error) { return arv_gv_device_leave_control(ARV_GV_DEVICE(device.get()), error) != FALSE; }));
     }
@@ -107,9 +107,6 @@ void GigEPort::RequireUnbrokenControl() {
 }
 
 void GigEPort::FailAsLost(const Operation& operation) const {
-    if (lost == Lost::Ending) {
-        throw Ending(operation.name, operation.address, "the program is terminating");
-    }
     throw ChannelLost(operation.name, operation.address,
                       lost == Lost::Control ? "control of " + Name() + " was lost" : Name() + " no longer answers");
 }
@@ -150,8 +147,7 @@ void GigEPort::Access(const Operation& operation, const std::function<bool(GErro
 
 void GigEPort::RequireNotEnding(const Operation& operation) {
     if (DeferredTermination::IsDue()) {
-        lost = Lost::Ending;
-        FailAsLost(operation);
+        throw Ending(operation.name, operation.address, "the program is terminating");
     }
 }
 

@@ -44,7 +44,7 @@ public:
     void RequireUnbrokenControl();
 
 private:
-    enum class Lost { No, Silent, Control, Ending };
+    enum class Lost { No, Silent, Control };
     struct Release {
         void operator()(_ArvDevice* opened) const;
     };
@@ -57,7 +57,7 @@ private:
     void Access(const Operation& operation, const std::function<bool(_GError**)>& access);
     [[noreturn]] void Fail(const Operation& operation, const _GError& error);
     /// @throws Ending if a signal is pending
-    void RequireNotEnding(const Operation& operation);
+    static void RequireNotEnding(const Operation& operation);
     [[noreturn]] void FailAsLost(const Operation& operation) const;
     /// Reads an optional register: 0 if it is missing.
     [[nodiscard]] std::uint32_t ReadOptional(std::uint32_t address);

@@ -63,6 +63,11 @@ const std::vector<Command>& Commands() {
     static const Syntax gateway{Parameter::Gateway, "GATEWAY", "Its default gateway (default: 0.0.0.0, none)",
                                 Required::Never};
     static const Syntax port{Parameter::Port, "--port N", "The TCP port of the panel (default: a free one)"};
+    static const Syntax at{Parameter::Register, "ADDRESS", "Address of a register, such as 0x14010000"};
+    static const Syntax words{Parameter::Words, "WORDS", "Number of words to read (default: 1)", Required::Never};
+    static const Syntax registers{Parameter::Registers, "ADDRESS=VALUE", "Words to write, in this order",
+                                  Required::Always, true};
+    static const Syntax yes{Parameter::Yes, "--yes", "Write to a camera on the network"};
     // clang-format off
     static const std::vector<Command> commands = {
         {"check",    "Check whether a plug-in can be used",                            {plugin},                        Check},
@@ -80,6 +85,10 @@ const std::vector<Command>& Commands() {
         {"restore",  "Restore saved settings",                                         {read, cameras, only, except, outputs, network, dryRun, changed, keepTrying, oneByOne}, Restore},
         {"grab",     "Take pictures and measure the last one",                         {camera, picture, before, count, every, raw}, Grab},
         {"watch",    "Print changes until interrupted",                                {camera, watched, seconds, interval, keepTrying, noControl}, Watch},
+        {"start",    "Start acquisition, which locks some functions, without taking pictures", {},              Start, true, Refused, true},
+        {"stop",     "Stop acquisition",                                               {},                              Stop, true, Refused, true},
+        {"peek",     "Read registers by address",                                      {camera, at, words, noControl}, Peek},
+        {"poke",     "Write registers by address, past every check",                   {camera, registers, yes},        Poke},
         {"selftest", "Test every function that can be set, then restore all settings", {cameras, outputs, oneByOne}, Selftest},
         {"panel",    "Serve a control panel for the browser of this machine",          {camera, port},                  ServePanel, false},
         {"shell",    "Run these commands at a prompt, on one camera",                  {camera},                        Shell, false},

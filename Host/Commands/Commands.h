@@ -20,6 +20,10 @@ int Restore(const Invocation& invocation);
 int Grab(const Invocation& invocation);
 int ServePanel(const Invocation& invocation);
 int Watch(const Invocation& invocation);
+int Peek(const Invocation& invocation);
+int Poke(const Invocation& invocation);
+int Start(const Invocation& invocation);
+int Stop(const Invocation& invocation);
 int Selftest(const Invocation& invocation);
 int Shell(const Invocation& invocation);
 

@@ -30,7 +30,7 @@ std::vector<std::string> WordsOf(const std::string& line) {
 std::vector<std::string> CommandNames() {
     std::vector<std::string> names{help, quit};
     for (const Command& command : Commands()) {
-        if (command.inShell) {
+        if (command.IsOffered(true)) {
             names.emplace_back(command.name);
         }
     }
@@ -104,6 +104,10 @@ int Shell(const Invocation& invocation) {
             leaves = true;
         }
     }
+    note(RunAndReport([&]() -> int {
+        program.StopAcquisition();
+        return Success;
+    }));
     program.SetJson(json);
     return lines.IsTerminal() ? int{Success} : firstFailure;
 }

@@ -97,6 +97,8 @@ const std::vector<std::string> afternoon = {
     "diff FILE CAMERA",
     "list CAMERA --json",
     "get CAMERA username overlayposition",
+    "poke CAMERA 0x14010000=9 0x0D0C=1 --yes",
+    "peek CAMERA 0x0068 4",
 };
 
 /// Runs all checks on a camera of each family, in parallel, since most of the time is waiting.

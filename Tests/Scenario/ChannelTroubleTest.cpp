@@ -119,6 +119,21 @@ TEST(ChannelTrouble, WhoIsEndedGivesControlBack) {
     EXPECT_EQ(next.code, 0) << next.err;
 }
 
+TEST(ChannelTrouble, AShellThatIsEndedStopsAcquisition) {
+    const std::string record = TemporaryFile("pcap");
+    const NetworkCamera camera("Cerix-MV7", "192.168.1.10", {"--record", record});
+    const auto runs = [&] { return Has(camera.Run("peek CAMERA 0x88134 --no-control").out, "0x00088134  0x00000001"); };
+    Running shell("bash", {"-c", "exec " QDV12_HOST " shell gige:192.168.1.10 < <(echo start; sleep 60)"},
+                  STDOUT_FILENO);
+    for (int looks = 0; looks < 100 && !runs(); ++looks) {
+    }
+    shell.Signal(SIGTERM);
+    EXPECT_EQ(shell.End(), -1) << shell.Read();          // by that signal
+    const std::string stop("\0\x08\x81\x38\0\0\0\0", 8); // written, before control is given back
+    EXPECT_NE(Content(record).find(stop), std::string::npos);
+    std::filesystem::remove(record);
+}
+
 TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--delay", "4"});
     const std::string file = TemporaryFile("json");

@@ -86,6 +86,33 @@ TEST(HostCommand, SetTellsWhatTheCameraNowHolds) {
     });
 }
 
+TEST(HostCommand, RegistersAreReadAndWrittenByAddress) {
+    ExpectRuns({
+        {"peek Orvik-710C 0x0068 4", 0,
+         "0x00000068  0x4F727669  1332901481  \"Orvi\"\n0x0000006C  0x6B2D3731  1798125361  \"k-71\"\n"
+         "0x00000070  0x30430000  809697280   \"0C\"\n0x00000074  0x00000000  0\n",
+         ""},
+        {"peek Cerix-MV7 0x64010004", 0, "0x64010004  0x69726543  1769104707  \"Ceri\"\n", ""},
+        {"peek Cerix-MV7 0xD08 2", 1, "0x00000D08  0x00000000  0           packetdelay\n",
+         "qdv12host: ReadRegister at 0x00000D0C failed: the camera has no such address (0x8003)\n"},
+        {"peek Orvik-710C 0x46020000 --json", 0,
+         "[\n  {\n    \"address\": \"0x46020000\",\n    \"value\": 0,\n    \"text\": null,\n    \"function\": "
+         "\"agc\"\n  }\n]\n",
+         ""},
+        {"poke Orvik-710C 0x14010000=9 0x14010000=0x300", 1,
+         "0x14010000  0x00000009  9           gain\n0x14010000  0x000001FF  511         gain\n",
+         "qdv12host: 0x14010000: 0x00000300 was written, but the camera now holds 0x000001FF\n"},
+        {"poke Cerix-MV7 0x14010000=1 0x13=1", 2, "",
+         "qdv12host: invalid address \"0x13\": registers are at multiples of 4\n"},
+        {"poke Cerix-MV7 0x14010000=0x100000000", 2, "",
+         "qdv12host: invalid value \"0x100000000\": registers hold 32 bits\n"},
+        {"peek Cerix-MV7 0xFFFFFFFC 2", 2, "", "qdv12host: 2 words from 0xFFFFFFFC on exceed the address space\n"},
+        {"start Orvik-710C", 2, "",
+         "qdv12host: start is a command of the shell, since acquisition ends with it: qdv12host shell CAMERA (see "
+         "qdv12host --help)\n"},
+    });
+}
+
 /// Announced rounding is success. Any other difference is not.
 TEST(HostCommand, SetTellsRoundingFromOtherDifferences) {
     ExpectRuns({
