@@ -11,12 +11,14 @@ void PrintError(const std::string& program, const std::string& text) {
     std::cerr << program + ": " + InOneLine(text) + '\n';
 }
 
+int Worse(int code, int failed) { return code == Success || code == Differs ? failed : code; }
+
 int FlushResults(const std::string& program, int code, int failed) {
     if (std::cout.flush()) {
         return code;
     }
     PrintError(program, "the results could not be written");
-    return code == Success || code == Differs ? failed : code;
+    return Worse(code, failed);
 }
 
 } // namespace Common

@@ -23,6 +23,11 @@ struct UsageError : std::runtime_error {
 /// One line on standard error: "qdv12host: gain: SDK4_ERR_OUTOFRANGE".
 void PrintError(const std::string& program, const std::string& text);
 
+/// The exit code of a program that did its work but lost a result.
+/// @param code the exit code otherwise
+/// @param failed that of a failure
+[[nodiscard]] int Worse(int code, int failed);
+
 /// Flushes the results at the end of a program, and fails if they cannot be written, for example to a full disk.
 /// @param code the exit code if they can be written
 /// @param failed the exit code if they cannot

@@ -1,6 +1,7 @@
 #include "Host/Camera.h"
 
 #include "Host/Channel/ChannelErrors.h"
+#include "Host/CurrentCall.h"
 #include "Host/Describe.h"
 #include "Host/ErrorReporting.h"
 #include "Host/Errors.h"
@@ -21,7 +22,8 @@ std::string PropertyOf(const Function& function, const Field& field) {
 }
 
 /// Calls the control. Errors of the channel get the name of the function.
-template <typename Call> auto Calling(const Instance& instance, const Call& call) {
+template <typename Call> auto Calling(const char* verb, const Instance& instance, const Call& call) {
+    const CurrentCall named(verb + instance.Name());
     try {
         return call();
     } catch (ChannelError& error) {
@@ -101,14 +103,14 @@ Value Camera::Read(const Instance& instance) const {
     if (instance->get == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTGETFEATURE);
     }
-    return Calling(instance, [&] { return instance->get({control, port}, instance.index); });
+    return Calling("get ", instance, [&] { return instance->get({control, port}, instance.index); });
 }
 
 void Camera::Write(const Instance& instance, const Value& value) const {
     if (instance->set == nullptr) {
         throw SDK4::X4Error(SDK4_ERR_CANTSETFEATURE);
     }
-    Calling(instance, [&] { instance->set({control, port}, instance.index, value); });
+    Calling("set ", instance, [&] { instance->set({control, port}, instance.index, value); });
 }
 
 void Camera::SetUnlessLocked(const Instance& instance, const Value& value) const {
@@ -187,7 +189,7 @@ LockState Camera::LockOf(const Instance& instance) const {
 
 Limits Camera::LimitsOf(const Instance& instance) const {
     if (instance->limitsReader != nullptr) {
-        return Calling(instance, [&] { return instance->limitsReader(control, model); });
+        return Calling("limits of ", instance, [&] { return instance->limitsReader(control, model); });
     }
     Limits published = PublishedLimits(instance);
     return published.empty() ? instance->limits : published;
@@ -228,8 +230,9 @@ Refusal Camera::RefusalOf(const Instance& instance) const {
 bool Camera::RoundsTo(const Instance& instance, const Value& asked, const Value& held) const {
     bool announced = false;
     if (instance->rounding != nullptr) { // fails if a value that the rule needs cannot be read
-        static_cast<void>(
-            Attempt([&] { announced = Calling(instance, [&] { return instance->rounding(control, asked, held); }); }));
+        static_cast<void>(Attempt([&] {
+            announced = Calling("rounding of ", instance, [&] { return instance->rounding(control, asked, held); });
+        }));
     }
     return announced;
 }

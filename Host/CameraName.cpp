@@ -34,6 +34,7 @@ constexpr Prefix prefixes[] = {
     {"serial:", By::SerialNumber, "the serial number", &FoundCamera::serial},
     {"mac:", By::Mac, "the MAC address", &FoundCamera::mac},
     {"name:", By::UserName, "the user-defined name", &FoundCamera::userName},
+    {"replay:", By::Recording},
 };
 
 /// @return null for a model
@@ -56,6 +57,9 @@ bool IsHost(const std::string& text) {
 std::optional<std::string> ParseText(By by, const std::string& text) {
     if (by == By::Address) {
         return Common::ParseAddress(text) || IsHost(text) ? std::optional(text) : std::nullopt;
+    }
+    if (by == By::Recording) {
+        return text.empty() ? std::nullopt : std::optional(text);
     }
     return by == By::Mac ? ParseMac(text) : text.empty() ? std::nullopt : Common::Unescaped(text);
 }
@@ -115,7 +119,7 @@ CameraName ParseCameraName(const std::string& camera) {
     if (!text) {
         throw UsageError("invalid camera \"" + camera +
                          "\": give a model, gige:ADDRESS, such as gige:192.168.1.10, gige:HOST, serial:NUMBER, "
-                         "mac:ADDRESS, or name:NAME");
+                         "mac:ADDRESS, name:NAME, or replay:FILE");
     }
     return {prefix->by, *text};
 }

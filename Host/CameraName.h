@@ -15,17 +15,21 @@ namespace Host {
 /// CAMERA as a command takes it.
 struct CameraName {
     enum class By {
-        Model,        ///< simulated; all others are on the network
+        Model,        ///< simulated; all others but recordings are on the network
         Address,      ///< gige:192.168.1.10, or gige:HOST
         SerialNumber, ///< serial:710C-0042
         Mac,          ///< mac:02:00:12:07:07:10
         UserName,     ///< name:left
+        Recording,    ///< replay:session.jsonl, a recorded camera
     };
 
     By by = By::Model;
     std::string text; ///< without prefix; not escaped; a MAC address as discovery reports it
 
     bool operator==(const CameraName&) const = default;
+
+    /// Whether it is neither simulated in this process nor recorded.
+    [[nodiscard]] bool IsOnNetwork() const { return by != By::Model && by != By::Recording; }
 };
 
 /// @throws UsageError for an invalid name

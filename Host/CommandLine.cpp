@@ -6,6 +6,7 @@
 #include "Common/Text.h"
 #include "Host/CameraName.h"
 #include "Host/Functions/Tables.h"
+#include "Host/Recording/CommandText.h"
 #include "Host/Trace.h"
 #include "Simulation/FaultKinds.h"
 
@@ -79,6 +80,10 @@ void AddCommonOptions(CLI::App& app, Options& options, bool& trace) {
     };
     add("--plugin", options.plugin, "PATH", "The plug-in to load (default: the installed one, else the built one)");
     add("--index", options.camera.index, "N", "Camera index; with 2, the default, every value is read from the camera");
+    add("--record", options.record.file, "FILE", "Write each port access to a file, as a line of JSON");
+    app.add_flag("--loose", options.camera.loose, "Answer from a recording by address, in any order")
+        ->group(Common::commonOptions)
+        ->disable_flag_override();
     app.add_flag("--trace", trace, "Print each port access on standard error")
         ->group(Common::commonOptions)
         ->disable_flag_override();
@@ -109,7 +114,7 @@ void RequireCamera(const ParsedCommandLine& line) {
 }
 
 /// Tells the cameras among the operands from the functions.
-/// @throws UsageError if an operand is neither, a camera is given twice, or several share a state file
+/// @throws UsageError if an operand is neither, a camera is given twice, or several share a file
 void SortCameras(ParsedCommandLine& line) {
     auto& cameras = line.given[Parameter::Camera];
     if (const Syntax* const syntax = line.command->Find(Parameter::Names)) {
@@ -139,6 +144,9 @@ void SortCameras(ParsedCommandLine& line) {
     }
     if (!line.options.camera.simulation.state.empty()) {
         throw UsageError("--state FILE keeps one camera; give one, or no --state");
+    }
+    if (!line.options.record.file.empty()) {
+        throw UsageError(oneCamera);
     }
 }
 
@@ -287,6 +295,11 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
     }
     if (parser.help->parsed()) {
         PrintHelp(parser.app, parser.helped);
+    }
+    if (line.command != nullptr) {
+        line.options.record.program = QDV12_VERSION;
+        line.options.record.camera = CameraText(line.given);
+        line.options.record.command = CommandText(*line.command, line.given);
     }
     line.options.camera.readOnly = line.given.contains(Parameter::NoControl);
     if (parser.trace) {

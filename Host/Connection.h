@@ -49,6 +49,9 @@ public:
     /// @throws std::runtime_error with the reason
     [[nodiscard]] virtual std::unique_ptr<PictureSource> OpenStream(const PictureFormat& format) = 0;
 
+    /// For a recorded camera, at the end: what was recorded but not repeated, or empty.
+    [[nodiscard]] virtual std::string DescribeRest() const { return ""; }
+
     /// Saves the camera to the state file, if there is one.
     virtual void SaveState() const = 0;
 };

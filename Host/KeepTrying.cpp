@@ -25,7 +25,7 @@ KeepTrying::KeepTrying(const Invocation& command, Options chosen)
         throw UsageError("--keep-trying is not for a shell, which keeps its camera open; use it outside of a shell");
     }
     camera = ParseCameraName(invocation.Text(Parameter::Camera));
-    if (camera.by == CameraName::By::Model) {
+    if (!camera.IsOnNetwork()) {
         throw UsageError("--keep-trying applies to cameras on the network only");
     }
     invocation.Program().RecordSignals();

@@ -4,10 +4,37 @@
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/DeferredTermination.h"
 #include "Host/Command.h"
+#include "Host/Recording/ReplayConnection.h"
 
 #include <utility>
 
 namespace Host {
+
+namespace {
+
+constexpr const char* openAgain = "the camera is open again";
+
+} // namespace
+
+Program::Program(Host::Options given) : options(std::move(given)) {
+    if (!options.record.file.empty()) {
+        options.camera.recorder = &recorder.emplace(options.record);
+    }
+}
+
+void Program::Note(const std::string& command) {
+    if (recorder) {
+        recorder->Note(command);
+    }
+}
+
+bool Program::CheckRecordings() {
+    const std::string rest = session ? session->Connection().DescribeRest() : "";
+    if (!rest.empty()) {
+        PrintError(rest);
+    }
+    return rest.empty() && !(recorder && recorder->HasFailed());
+}
 
 const Plugin& Program::LoadedPlugin() {
     if (!plugin) {
@@ -18,11 +45,15 @@ const Plugin& Program::LoadedPlugin() {
 
 Session& Program::Open(const std::string& camera) {
     finished = false;
+    if (session && std::exchange(isReplayLost, false)) {
+        session->Reopen();
+        PrintError(openAgain);
+    }
     if (!session) {
         const bool again = IsOpen();
         session.emplace(LoadedPlugin(), again ? opened : camera, options.camera);
         if (again) {
-            PrintError("the camera is open again");
+            PrintError(openAgain);
         } else {
             opened = camera;
         }
@@ -30,9 +61,17 @@ Session& Program::Open(const std::string& camera) {
     return *session;
 }
 
+void Program::CloseLost() {
+    if (session && dynamic_cast<ReplayConnection*>(&session->Connection()) != nullptr) {
+        isReplayLost = true; // the recording goes on
+    } else {
+        session.reset();
+    }
+}
+
 void Program::StopAcquisition() {
     const DeferredTermination::Suspension untilStopped;
-    if (session && session->Acquires()) {
+    if (session && !isReplayLost && session->Acquires()) {
         session->Acquire(false);
     }
 }
@@ -48,7 +87,7 @@ bool Program::IsOpen(const std::string& camera) {
     }
     const std::string address = Open(opened).Address();
     const CameraName name = ParseCameraName(camera);
-    return !address.empty() && name.by != CameraName::By::Model && FindAddress(name) == address;
+    return !address.empty() && name.IsOnNetwork() && FindAddress(name) == address;
 }
 
 void Program::ReportController() {

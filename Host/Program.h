@@ -13,8 +13,10 @@ namespace Host {
 /// The options that every command takes.
 struct Options {
     std::string plugin = DefaultPlugin();
-    /// Index 2 is uncached with both families. The observer keeps the port from recording accesses that nobody reads.
-    CameraOptions camera{.index = 2, .accesses = [](const Access&) {}};
+    /// By default index 2, which is uncached with both families. The observer keeps the port from recording accesses
+    /// that nobody reads.
+    CameraOptions camera{.index = {}, .accesses = [](const Access&) {}};
+    RecordingOptions record;
     bool json = false;
     std::string logLevel;  ///< empty: from the configuration, else off
     std::string logConfig; ///< a configuration file of log4cxx, or empty
@@ -23,7 +25,10 @@ struct Options {
 /// State of one run of the program. Plug-in and camera are opened on first use.
 class Program {
 public:
-    explicit Program(Host::Options given) : options(std::move(given)) {}
+    /// @throws UsageError for a recording that cannot be written
+    explicit Program(Host::Options given);
+    Program(const Program&) = delete; // the recorder's address is known
+    Program& operator=(const Program&) = delete;
 
     [[nodiscard]] const Host::Options& Options() const { return options; }
     /// Whether results are printed as JSON.
@@ -45,7 +50,7 @@ public:
     /// Closes the camera.
     void Close();
     /// Closes a camera that was lost, which the next Open opens again.
-    void CloseLost() { session.reset(); }
+    void CloseLost();
     /// Stops acquisition if it runs, also after a signal: nobody else would.
     /// @throws ChannelError
     void StopAcquisition();
@@ -59,14 +64,21 @@ public:
     /// file. Later calls do nothing.
     /// @throws ChannelLost
     void Finish();
+    /// The next command of a shell, for the recording.
+    void Note(const std::string& command);
+    /// At the end of the program: reports what a replay did not repeat.
+    /// @return whether that is nothing, and the whole run was recorded, if it was to be
+    [[nodiscard]] bool CheckRecordings();
 
 private:
     Host::Options options;
+    std::optional<Recorder> recorder;  // before the session, which writes to it until its end
     std::optional<Interrupts> signals; // before the session, which gives control back at its end
     std::optional<Plugin> plugin;      // before the session, which needs it until its end
     std::optional<Session> session;
     std::string opened; ///< the camera of the session, as given; also if it was lost
     bool finished = false;
+    bool isReplayLost = false; ///< whether a recorded camera was lost, and is opened again by the next Open
 };
 
 } // namespace Host

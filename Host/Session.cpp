@@ -5,6 +5,13 @@
 #include "Host/CameraName.h"
 #include "Host/Channel/ChannelErrors.h"
 #include "Host/Channel/GigEConnection.h"
+#include "Host/CurrentCall.h"
+#include "Host/Recording/ReplayConnection.h"
+
+#include <SDK4/IStreamControl.h>
+
+#include <filesystem>
+#include <system_error>
 
 #include <SDK4/IStreamControl.h>
 
@@ -18,6 +25,19 @@ void RequireServed(const Plugin& plugin, const std::string& model) {
     if (!plugin.Serves(model)) {
         throw OpenError("unknown model \"" + model + '"' + Common::Suggestion(model, plugin.ModelNames()));
     }
+}
+
+/// Everyone who looks at accesses. Without any, the port records them.
+TracingPort::Observer ObserverOf(const CameraOptions& options) {
+    if (options.recorder == nullptr) {
+        return options.accesses;
+    }
+    return [recorder = options.recorder, other = options.accesses](const Access& access) {
+        recorder->Write(access);
+        if (other) {
+            other(access);
+        }
+    };
 }
 
 /// The model that a camera on the network reports, if the plug-in serves it.
@@ -35,8 +55,12 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
                     "\"; use --force-model with one of " + Common::Join(plugin.ModelNames()));
 }
 
-void RequireFitting(const CameraOptions& options, bool isSimulated) {
-    if (isSimulated && !options.forcedModel.empty()) {
+void RequireFitting(const CameraOptions& options, const CameraName& name) {
+    const bool isSimulated = name.by == CameraName::By::Model;
+    if (name.by != CameraName::By::Recording && options.loose) {
+        throw UsageError("--loose applies to recorded cameras only");
+    }
+    if (!name.IsOnNetwork() && !options.forcedModel.empty()) {
         throw UsageError("--force-model applies to cameras on the network only");
     }
     if (isSimulated && options.readOnly) {
@@ -53,7 +77,12 @@ void RequireFitting(const CameraOptions& options, bool isSimulated) {
 Session::Connected Session::Connect(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
     const CameraName name = ParseCameraName(camera);
     const bool isSimulated = name.by == CameraName::By::Model;
-    RequireFitting(options, isSimulated);
+    RequireFitting(options, name);
+    if (name.by == CameraName::By::Recording) {
+        Connected replayed = Replay(name.text, options);
+        RequireServed(plugin, replayed.model);
+        return replayed;
+    }
     const std::string& model = isSimulated ? camera : options.forcedModel;
     if (!model.empty() || isSimulated) {
         RequireServed(plugin, model);
@@ -67,6 +96,20 @@ Session::Connected Session::Connect(const Plugin& plugin, const std::string& cam
     return {std::move(connection), opened, address};
 }
 
+Session::Connected Session::Replay(const std::string& file, const CameraOptions& options) {
+    std::error_code ignored;
+    if (options.recorder != nullptr && std::filesystem::equivalent(file, options.recorder->File(), ignored)) {
+        throw UsageError("--record would replace the recording that is replayed");
+    }
+    auto connection = std::make_unique<ReplayConnection>(file, options.loose);
+    const std::string model = connection->Source().model;
+    const std::int32_t index = connection->Source().index;
+    if (options.index.value_or(index) != index) {
+        throw UsageError("the camera was recorded with --index " + std::to_string(index));
+    }
+    return {std::move(connection), model, "", index};
+}
+
 Session::Session(const Plugin& loaded, const std::string& camera, const CameraOptions& options)
     : Session(loaded, Connect(loaded, camera, options), options) {}
 
@@ -75,21 +118,28 @@ Session::Session(const Plugin& loaded, Connected connected, const CameraOptions&
       model(std::move(connected.model)),
       address(std::move(connected.address)),
       connection(std::move(connected.connection)),
-      port(connection->Port(), options.accesses),
-      control(CreateControl(options.index)) {}
+      port(connection->Port(), ObserverOf(options)),
+      index(options.index.value_or(connected.index)) {
+    if (options.recorder != nullptr) {
+        options.recorder->Begin(model, index);
+    }
+    control = CreateControl(index);
+}
 
 void Session::Acquire(bool on) {
     auto* const stream = As<SDK4::IStreamControl>();
     if (stream == nullptr) {
         throw std::runtime_error("the control of " + model + " delivers no pictures");
     }
+    const CurrentCall call(on ? "start acquisition" : "stop acquisition");
     on ? stream->Start() : stream->Stop();
     acquires = on; // as the control, which keeps its state if the call fails
 }
 
-Control Session::CreateControl(std::int32_t index) {
+Control Session::CreateControl(std::int32_t cameraIndex) {
+    const CurrentCall call("open");
     try {
-        if (Control opened = plugin.Create(model.c_str(), port, index)) {
+        if (Control opened = plugin.Create(model.c_str(), port, cameraIndex)) {
             return opened;
         }
     } catch (const SDK4::X4Error& error) {
@@ -101,6 +151,12 @@ Control Session::CreateControl(std::int32_t index) {
         throw OpenError("opening \"" + model + "\" failed: " + error.what());
     }
     throw OpenError("the plug-in registers model \"" + model + "\" but does not create a control for it");
+}
+
+void Session::Reopen() {
+    control.reset();
+    acquires = false;
+    control = CreateControl(index);
 }
 
 } // namespace Host

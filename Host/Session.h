@@ -2,22 +2,26 @@
 
 #include "Host/Camera.h"
 #include "Host/Plugin.h"
+#include "Host/Recording/Recorder.h"
 #include "Host/SimulatedConnection.h"
 #include "Host/TracingPort.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace Host {
 
 /// How a camera is reached and opened.
 struct CameraOptions {
-    std::int32_t index = 0;           ///< camera index for CreateObject
-    SimulationOptions simulation{};   ///< for a simulated camera
-    std::string forcedModel{};        ///< treats a camera on the network as this model, whatever it reports
-    bool readOnly = false;            ///< never takes control of a camera on the network
-    TracingPort::Observer accesses{}; ///< gets every port access; without it the port records them
+    std::optional<std::int32_t> index = 0; ///< camera index for CreateObject; by default 2, or that of a recording
+    SimulationOptions simulation{};        ///< for a simulated camera
+    std::string forcedModel{};             ///< treats a camera on the network as this model, whatever it reports
+    bool loose = false;                    ///< answers from a recording by address
+    Recorder* recorder = nullptr;          ///< gets every port access
+    bool readOnly = false;                 ///< never takes control of a camera on the network
+    TracingPort::Observer accesses{};      ///< gets every port access; without it the port records them
 };
 
 /// An opened camera: the camera, the port to it, and the control that the plug-in built on the port.
@@ -52,7 +56,11 @@ public:
 
     /// Opens the same camera once more, on the same port.
     /// @throws OpenError; ChannelLost
-    [[nodiscard]] Control CreateControl(std::int32_t index);
+    [[nodiscard]] Control CreateControl(std::int32_t cameraIndex);
+
+    /// Closes the control of a recorded camera and opens it again, on the same port.
+    /// @throws as CreateControl
+    void Reopen();
 
 private:
     /// A connection and the model of its camera.
@@ -60,7 +68,9 @@ private:
         std::unique_ptr<Host::Connection> connection;
         std::string model;
         std::string address;
+        std::int32_t index = 2;
     };
+    [[nodiscard]] static Connected Replay(const std::string& file, const CameraOptions& options);
     [[nodiscard]] static Connected Connect(const Plugin& plugin, const std::string& camera,
                                            const CameraOptions& options);
     Session(const Plugin& plugin, Connected connected, const CameraOptions& options);
@@ -71,6 +81,7 @@ private:
     std::string address;
     std::unique_ptr<Host::Connection> connection;
     TracingPort port;
+    std::int32_t index;
     Control control;
     bool acquires = false;
 };

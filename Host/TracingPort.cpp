@@ -12,6 +12,7 @@ using Clock = std::chrono::steady_clock;
 
 template <typename Call> void TracingPort::Make(Access access, const Call& call, const std::uint64_t& length) {
     const auto start = Clock::now();
+    access.length = length;
     const auto end = [&](const void* data) {
         access.microseconds = std::chrono::duration<double, std::micro>(Clock::now() - start).count();
         access.failed = data == nullptr;
@@ -25,6 +26,7 @@ template <typename Call> void TracingPort::Make(Access access, const Call& call,
     try {
         data = call();
     } catch (...) {
+        access.error = std::current_exception();
         end(nullptr);
         throw;
     }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -17,7 +18,9 @@ struct Access {
     bool write;
     bool failed; ///< the port threw or returned null
     std::vector<std::uint8_t> data;
-    double microseconds; ///< duration
+    double microseconds;        ///< duration
+    std::uint64_t length = 0;   ///< in bytes, as the caller asked for
+    std::exception_ptr error{}; ///< what the port threw
 };
 
 /// A port that forwards every access to another one, and passes it to an observer or records it.

@@ -33,7 +33,9 @@ int RunCommand(const ParsedCommandLine& line) {
         return Success;
     };
     const int end = RunAndReport(finish, failed);
-    return Common::FlushResults("qdv12host", end == Success ? code : end, failed);
+    const int ended = end == Success ? code : end;
+    const bool isWhole = program.CheckRecordings();
+    return Common::FlushResults("qdv12host", isWhole ? ended : Common::Worse(ended, failed), failed);
 }
 
 /// Whether it is a pipe or the like, and not a file.

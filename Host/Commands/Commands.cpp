@@ -5,7 +5,7 @@ namespace Host {
 const std::vector<Command>& Commands() {
     static const Syntax camera{Parameter::Camera, "CAMERA",
                                "A model (simulated); or on the network gige:ADDRESS, gige:HOST, serial:NUMBER, "
-                               "mac:ADDRESS, name:NAME"};
+                               "mac:ADDRESS, name:NAME; or a recorded one, replay:FILE"};
     static const Syntax cameras{camera.parameter, camera.name, camera.about, Required::Always, true};
     static const Syntax oneByOne{Parameter::OneByOne, "--one-by-one",
                                  "Of several cameras, begin with each when the last one is done"};

@@ -55,7 +55,9 @@ Side Take(const Invocation& invocation, Parameter parameter) {
         static_cast<void>(SelectionOf(invocation, side.settings.family).ReportAbsent(side.settings, given));
         return side;
     }
-    Session session(program.LoadedPlugin(), given, program.Options().camera);
+    CameraOptions options = program.Options().camera;
+    options.recorder = program.IsOpen() ? nullptr : options.recorder; // which a shell has for its own camera
+    Session session(program.LoadedPlugin(), given, options);
     return TakeFrom(session, invocation);
 }
 
@@ -84,6 +86,10 @@ bool ReportUncompared(const Side& side, const Side& other, const Selection& sele
 int Diff(const Invocation& invocation) {
     if (invocation.Text(Parameter::First) == standardStream && invocation.Text(Parameter::Second) == standardStream) {
         throw UsageError("standard input can be read only once; use a file for A or B");
+    }
+    if (invocation.Program().Options().camera.recorder != nullptr && IsCamera(invocation.Text(Parameter::First)) &&
+        IsCamera(invocation.Text(Parameter::Second))) {
+        throw UsageError(oneCamera);
     }
     const Side first = Take(invocation, Parameter::First);
     const Side second = Take(invocation, Parameter::Second);

@@ -8,6 +8,8 @@
 #include "Host/ErrorReporting.h"
 #include "Host/Interrupts.h"
 #include "Host/LineReader.h"
+#include "Host/Recording/CommandText.h"
+#include "Host/Recording/ReplayPort.h"
 
 #include <algorithm>
 #include <iostream>
@@ -38,11 +40,14 @@ std::vector<std::string> CommandNames() {
 }
 
 /// Runs a command. A camera that it has lost is opened again by the next one.
-/// @param leaves set if a signal ends the program
+/// @param leaves set if a signal ends the program, or a replay differs from its recording
 int RunInShell(Program& program, const ParsedCommandLine& line, bool& leaves) {
     try {
         return line.command->run(Invocation(program, line.given));
     } catch (const Ending&) {
+        leaves = true;
+        throw;
+    } catch (const ReplayDiffers&) {
         leaves = true;
         throw;
     } catch (const ChannelLost&) {
@@ -64,6 +69,7 @@ int RunLine(Program& program, const std::vector<std::string>& words, bool json, 
         return Success;
     }
     program.SetJson(json || line.options.json);
+    program.Note(CommandText(*line.command, line.given));
     const int code = RunAndReport([&] { return RunInShell(program, line, leaves); }, line.command->failed);
     program.ReportController();
     program.SaveState(); // after each command, in case the shell is killed

@@ -134,6 +134,23 @@ TEST(ChannelTrouble, AShellThatIsEndedStopsAcquisition) {
     std::filesystem::remove(record);
 }
 
+TEST(ChannelTrouble, ARecordedSessionFailsAgain) {
+    const std::string file = TemporaryFile("jsonl");
+    for (const char* model : {"Orvik-710C", "Cerix-MV7"}) {
+        const NetworkCamera camera(model, "192.168.1.10",
+                                   {"--fault", "failread:sharpness", "--fault", "fail:packetdelay"});
+        for (const std::string command : {"list CAMERA", "get CAMERA gain sharpness overlayshow.1 --no-control",
+                                          "set CAMERA gain=7 packetdelay=1"}) {
+            const Outcome first = camera.Run(command + " --record " + file);
+            const Outcome again = RunHost(Replaced(command, "CAMERA", "replay:" + file));
+            EXPECT_EQ(again.code, first.code) << command;
+            EXPECT_EQ(again.out, first.out) << command;
+            EXPECT_EQ(again.err, first.err) << command;
+        }
+    }
+    std::filesystem::remove(file);
+}
+
 TEST(ChannelTrouble, ARestoreTellsItsResultsAsTheyArriveAndIsEndedInOrder) {
     const NetworkCamera camera("Orvik-710C", "192.168.1.10", {"--delay", "4"});
     const std::string file = TemporaryFile("json");

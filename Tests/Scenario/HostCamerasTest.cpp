@@ -12,7 +12,8 @@ TEST(HostCameras, TellsCamerasFromFunctions) {
         {"info Orvik-710C gain", "unexpected argument \"gain\""},
         {"restore a.json Orvik-710C b.json", "unexpected argument \"b.json\""},
         {"selftest Orvik-710C gige:1.2", "invalid camera \"gige:1.2\": give a model, gige:ADDRESS, such as "
-                                         "gige:192.168.1.10, gige:HOST, serial:NUMBER, mac:ADDRESS, or name:NAME"},
+                                         "gige:192.168.1.10, gige:HOST, serial:NUMBER, mac:ADDRESS, name:NAME, or "
+                                         "replay:FILE"},
         {"get mac:02:00:12:07:07:1A gain mac:02-00-12-07-07-1a", "camera \"mac:02-00-12-07-07-1a\" is given twice"},
         {"info Orvik-710C Cerix-MV7 --state cam", "--state FILE keeps one camera; give one, or no --state"},
         {"restore a.json Orvik-710C Cerix-MV7 --network",

@@ -74,7 +74,7 @@ TEST(HostCommandLine, TellsHowACameraIsNamed) {
         EXPECT_EQ(run.code, 2) << camera;
         EXPECT_EQ(run.err, "qdv12host: invalid camera \"" + camera +
                                "\": give a model, gige:ADDRESS, such as gige:192.168.1.10, gige:HOST, serial:NUMBER, "
-                               "mac:ADDRESS, or name:NAME\n");
+                               "mac:ADDRESS, name:NAME, or replay:FILE\n");
     }
     EXPECT_EQ(RunHost("info Orvik-710C --force-model Cerix-MV7").err,
               "qdv12host: --force-model applies to cameras on the network only\n");

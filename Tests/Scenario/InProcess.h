@@ -22,9 +22,7 @@ inline Outcome RunInProcess(int (*command)(const Host::Invocation&), const Host:
     Host::Options options;
     options.plugin = QDV12_PLUGIN;
     options.json = json;
-    static Observer told; // the host takes a plain function
-    told = observer;
-    options.camera.accesses = [](const Host::Access& access) { told(access); };
+    options.camera.accesses = observer;
     options.camera.simulation.state = state;
     std::ostringstream out;
     std::ostringstream err;
