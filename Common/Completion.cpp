@@ -6,6 +6,29 @@
 
 namespace Common {
 
+namespace {
+
+/// The option of a word with a value, or null.
+const OptionSyntax* OptionIn(const std::string& word, const std::vector<OptionSyntax>& options) {
+    const std::string name = word.substr(0, word.find('='));
+    const auto found = std::find_if(options.begin(), options.end(), [&](const OptionSyntax& option) {
+        return !option.value.empty() && option.name == name;
+    });
+    return found == options.end() ? nullptr : &*found;
+}
+
+/// Takes an option with a value: "--log=debug", or "--log" before the word with its value.
+void TakeOption(Cursor& cursor, const OptionSyntax& option, const std::string& word, bool isLast) {
+    const std::size_t equals = word.find('=');
+    const bool isWhole = equals != std::string::npos;
+    cursor.option = !isWhole || isLast ? &option : nullptr;
+    cursor.before = isWhole ? word.substr(0, equals + 1) : "";
+    cursor.word = isWhole ? word.substr(equals + 1) : "";
+    cursor.values[option.name] = cursor.word;
+}
+
+} // namespace
+
 Cursor FindCursor(const std::vector<std::string>& words, const std::vector<OptionSyntax>& options) {
     Cursor cursor;
     for (const std::string& word : words) {
@@ -15,21 +38,15 @@ Cursor FindCursor(const std::vector<std::string>& words, const std::vector<Optio
             cursor.values[option->name] = cursor.word = word;
             continue;
         }
-        const std::size_t equals = word.find('=');
-        const auto found = std::find_if(options.begin(), options.end(), [&](const OptionSyntax& option) {
-            return !option.value.empty() && option.name == word.substr(0, equals);
-        });
-        if (found != options.end() && (equals != std::string::npos || !isLast)) {
-            cursor.option = equals == std::string::npos || isLast ? &*found : nullptr;
-            cursor.before = equals == std::string::npos ? "" : word.substr(0, equals + 1);
-            cursor.word = equals == std::string::npos ? "" : word.substr(equals + 1);
-            cursor.values[found->name] = cursor.word;
-        } else {
-            cursor.before = "";
-            cursor.word = word;
-            if (!isLast && (!word.starts_with('-') || word == "-")) {
-                cursor.operands.push_back(word);
-            }
+        const OptionSyntax* const option = OptionIn(word, options);
+        if (option != nullptr && (word.find('=') != std::string::npos || !isLast)) {
+            TakeOption(cursor, *option, word, isLast);
+            continue;
+        }
+        cursor.before = "";
+        cursor.word = word;
+        if (!isLast && (!word.starts_with('-') || word == "-")) {
+            cursor.operands.push_back(word);
         }
     }
     return cursor;

@@ -8,36 +8,37 @@ bool IsBlank(char character) { return character == ' ' || character == '\t' || c
 
 bool IsQuote(char character) { return character == '"' || character == '\''; }
 
+/// Opens or closes a quotation. @return whether the character does
+bool TakeQuote(Words& split, char character) {
+    char& quote = split.openQuote;
+    const bool closes = quote != '\0' && character == quote;
+    const bool opens = quote == '\0' && IsQuote(character);
+    quote = closes ? '\0' : opens ? character : quote;
+    return closes || opens;
+}
+
 } // namespace
 
 Words SplitWords(std::string_view line, Special special) {
     Words split;
-    char& quote = split.openQuote;
     bool escaped = false;
     for (const char character : line) {
-        if (quote == '\0' && !escaped && IsBlank(character)) {
+        if (split.openQuote == '\0' && !escaped && IsBlank(character)) {
             split.isWordOpen = false;
             continue;
         }
-        if (!split.isWordOpen && character == '#' && special == Special::Hash) {
-            break;
-        }
         if (!split.isWordOpen) {
+            if (character == '#' && special == Special::Hash) {
+                break;
+            }
             split.words.emplace_back();
             split.isWordOpen = true;
         }
-        if (!escaped && character == '\\' && quote != '\'' && special == Special::Backslash) {
-            escaped = true;
-            continue;
-        }
-        if (!escaped && character == quote) {
-            quote = '\0';
-        } else if (!escaped && quote == '\0' && IsQuote(character)) {
-            quote = character;
-        } else {
+        const bool escapes = !escaped && character == '\\' && split.openQuote != '\'' && special == Special::Backslash;
+        if (!escapes && (escaped || !TakeQuote(split, character))) {
             split.words.back() += character;
         }
-        escaped = false;
+        escaped = escapes;
     }
     return split;
 }

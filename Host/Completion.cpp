@@ -21,9 +21,9 @@ using Common::Cursor;
 constexpr std::size_t mostValues = 32; ///< of a function that are worth listing
 
 /// The functions of a camera, or those that any camera may have.
-class KnownFunctions {
+class CompletedFunctions {
 public:
-    explicit KnownFunctions(const Camera* opened) : camera(opened) {
+    explicit CompletedFunctions(const Camera* opened) : camera(opened) {
         if (camera != nullptr) {
             all = camera->All();
             return;
@@ -74,7 +74,7 @@ private:
     std::vector<Instance> all;
 };
 
-std::vector<std::string> Names(const KnownFunctions& functions) {
+std::vector<std::string> Names(const CompletedFunctions& functions) {
     std::vector<std::string> names;
     for (const Instance& instance : functions.Listed()) {
         if (instance->get != nullptr) {
@@ -84,7 +84,7 @@ std::vector<std::string> Names(const KnownFunctions& functions) {
     return names;
 }
 
-std::vector<std::string> Assignments(const KnownFunctions& functions, const std::string& word) {
+std::vector<std::string> Assignments(const CompletedFunctions& functions, const std::string& word) {
     std::vector<std::string> texts;
     if (const std::size_t equals = word.find('='); equals != std::string::npos) {
         functions.AddAssignments(word.substr(0, equals), texts);
@@ -98,7 +98,7 @@ std::vector<std::string> Assignments(const KnownFunctions& functions, const std:
     return texts;
 }
 
-std::vector<std::string> Topics(const KnownFunctions& functions) {
+std::vector<std::string> Topics(const CompletedFunctions& functions) {
     std::vector<std::string> topics;
     for (const Instance& instance : functions.Listed()) {
         topics.emplace_back(instance->topic);
@@ -107,7 +107,7 @@ std::vector<std::string> Topics(const KnownFunctions& functions) {
 }
 
 /// What a command takes at the position of an operand.
-Candidates ForOperand(const Syntax& syntax, const KnownFunctions& functions, const std::string& word) {
+Candidates ForOperand(const Syntax& syntax, const CompletedFunctions& functions, const std::string& word) {
     switch (syntax.parameter) {
     case Parameter::Camera:
         return {CameraBeginnings(), false};
@@ -127,8 +127,8 @@ Candidates ForOperand(const Syntax& syntax, const KnownFunctions& functions, con
 }
 
 /// @param given how many operands are before the cursor
-Candidates ForOperands(const Command& command, std::size_t given, const Cursor& cursor, const KnownFunctions& functions,
-                       bool inShell) {
+Candidates ForOperands(const Command& command, std::size_t given, const Cursor& cursor,
+                       const CompletedFunctions& functions, bool inShell) {
     std::vector<Syntax> operands;
     std::copy_if(command.syntax.begin(), command.syntax.end(), std::back_inserter(operands),
                  [&](const Syntax& syntax) { return syntax.IsOperand() && syntax.IsTaken(inShell); });
@@ -164,7 +164,7 @@ std::vector<std::string> CommandNames(bool inShell) {
     return names;
 }
 
-Candidates ForOption(const Cursor& cursor, const KnownFunctions& functions, const std::string& model) {
+Candidates ForOption(const Cursor& cursor, const CompletedFunctions& functions, const std::string& model) {
     if (cursor.option->name == "--fault") {
         return {Simulation::FaultsFor(cursor.word, model), false};
     }
@@ -173,7 +173,7 @@ Candidates ForOption(const Cursor& cursor, const KnownFunctions& functions, cons
 }
 
 Candidates CandidatesAt(const Cursor& cursor, const Camera* camera, const std::string& model, bool inShell) {
-    const KnownFunctions functions(camera);
+    const CompletedFunctions functions(camera);
     const std::string name = cursor.operands.empty() ? "" : cursor.operands.front();
     if (cursor.option != nullptr) {
         return ForOption(cursor, functions, model);

@@ -23,6 +23,24 @@ std::string QuotedText(const std::string& text) { return '"' + Common::Escaped(t
 
 std::string Word(std::uint32_t word) { return word < 0x10000 ? std::to_string(word) : Common::Hex(word); }
 
+/// The number of bytes of a long text to put on the first line: up to the last place to break, else all that fit.
+std::size_t EndOfLine(const std::string& text, std::size_t width) {
+    constexpr std::string_view breaks = " ,|_"; // behind which a line may end
+    std::size_t most = 1;
+    std::size_t best = 0;
+    for (std::size_t size = 1; size < text.size(); ++size) {
+        const std::string line = Common::CutAtCharacter(text, size);
+        const bool fits = Common::Width(line) <= width;
+        const char last = text[size - 1];
+        if (!fits && last != ' ') { // a blank at the end is dropped
+            break;
+        }
+        most = fits ? std::max(line.size(), most) : most;
+        best = breaks.find(last) != std::string_view::npos ? size : best;
+    }
+    return best != 0 ? best : most;
+}
+
 } // namespace
 
 std::string PrintSeconds(std::chrono::milliseconds time) {
@@ -38,20 +56,7 @@ std::string Pad(std::string text, std::size_t width) {
 std::vector<std::string> Wrap(std::string text, std::size_t width) {
     std::vector<std::string> lines;
     while (Common::Width(text) > width) {
-        std::size_t most = 0; // bytes that fit
-        std::size_t best = 0; // bytes up to the last place to break
-        for (std::size_t size = 1; size < text.size(); ++size) {
-            const std::string line = Common::CutAtCharacter(text, size);
-            const bool fits = Common::Width(line) <= width;
-            const char last = text[size - 1];
-            const bool isBlank = last == ' ';
-            if (!fits && !isBlank) { // a blank at the end is dropped
-                break;
-            }
-            most = fits ? line.size() : most;
-            best = isBlank || last == ',' || last == '|' || last == '_' ? size : best;
-        }
-        const std::size_t end = best != 0 ? best : std::max<std::size_t>(most, 1);
+        const std::size_t end = EndOfLine(text, width);
         std::string line = text.substr(0, end);
         lines.push_back(line.erase(line.find_last_not_of(' ') + 1));
         text.erase(0, end);

@@ -53,7 +53,7 @@ std::string Values(const Described& described) {
 }
 
 /// "off=0, 1, 2" for what a function admits, else its codes.
-std::string Codes(const Instance& instance, const Limits& limits) {
+std::string DescribeCodes(const Instance& instance, const Limits& limits) {
     std::vector<std::string> texts;
     for (const Code& code : instance->codes) {
         if (limits.empty() || limits.front().Admits(code.value)) {
@@ -93,7 +93,7 @@ std::string Block(const Described& described) {
     add("value", Values(described));
     add("unit", std::string(instance->unit));
     add("limits", LimitsOf(instance, state));
-    add("codes", Codes(instance, state.limits));
+    add("codes", DescribeCodes(instance, state.limits));
     add("default", state.defaultValue ? instance.Print(*state.defaultValue) : "");
     add(reading.lock.by.empty() ? "state" : "lock", DescribeState(instance, state));
     add("lock", OpenLock(reading));

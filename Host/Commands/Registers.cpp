@@ -143,7 +143,8 @@ WordWrite ParseWordWrite(const std::string& text) {
 
 /// @return whether the camera holds the value
 bool WriteAndPrint(const DeviceRegisters& registers, const WordWrite& write, WordPrinter& printer) {
-    const auto [address, value] = write;
+    const std::uint32_t address = write.address;
+    const std::uint32_t value = write.value;
     const Outcome written = Attempt([&] { registers.Write(address, value); });
     if (written.code != 0) {
         printer.Fail(address, written.reason);

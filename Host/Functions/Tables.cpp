@@ -19,8 +19,9 @@ Functions Collect(bool ofM2VX, std::initializer_list<void (*)(FunctionTable&)> s
 
 /// Whether any family has such a function.
 bool HasAny(const std::function<bool(const Function&)>& isIt) {
-    return std::any_of(TableOf("Orvik")->begin(), TableOf("Orvik")->end(), isIt) ||
-           std::any_of(TableOf("M2VX")->begin(), TableOf("M2VX")->end(), isIt);
+    const Functions& orvik = *TableOf("Orvik");
+    const Functions& m2vx = *TableOf("M2VX");
+    return std::any_of(orvik.begin(), orvik.end(), isIt) || std::any_of(m2vx.begin(), m2vx.end(), isIt);
 }
 
 } // namespace

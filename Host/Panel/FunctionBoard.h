@@ -29,7 +29,7 @@ public:
     /// Something was set, which may change everything else.
     void Refresh();
     /// Reads what the camera holds.
-    [[nodiscard]] const Camera& Reader() const { return reader->Camera(); }
+    [[nodiscard]] const Camera& Reader() const { return reader->Camera(); } // cppcheck-suppress returnTempReference
     /// Reads everything that has not been read.
     void Complete();
     /// Reads one function, as FunctionToJson.

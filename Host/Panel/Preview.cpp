@@ -49,7 +49,7 @@ public:
         for (std::uint32_t x = 0; x < width; ++x) {
             const std::uint64_t count = std::uint64_t{2} * (End(x) - Source(x, area.width, width));
             for (std::size_t channel = 0; channel < format.channels; ++channel) {
-                const std::size_t i = x * format.channels + channel;
+                const std::size_t i = std::size_t{x} * format.channels + channel;
                 target[i] = static_cast<unsigned char>(sums[i] / count >> (format.bits - 8));
             }
         }

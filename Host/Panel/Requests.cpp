@@ -48,7 +48,7 @@ bool Requests::Begin(Id id) {
     return true;
 }
 
-void Requests::Answer(Id id, Response response) {
+void Requests::Answer(Id id, const Response& response) {
     Refuse([&](const Waiting& each) { return each.id == id; }, response);
 }
 

@@ -27,7 +27,7 @@ public:
     Id Add(Respond respond, const std::string& key, Clock::time_point end);
     /// @return false if the request is answered already, and is not to be carried out
     [[nodiscard]] bool Begin(Id id);
-    void Answer(Id id, Response response);
+    void Answer(Id id, const Response& response);
     /// Answers what is overdue.
     void Expire();
 

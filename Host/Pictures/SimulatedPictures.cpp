@@ -12,10 +12,11 @@ bool SimulatedPictures::Await(std::chrono::milliseconds longest) {
     const microseconds wait = due ? *due - camera.Time() : longest;
     camera.Advance(std::clamp<microseconds>(wait, microseconds(0), longest));
     auto next = acquisition.Take();
-    if (next) {
-        exposed = std::move(next);
+    if (!next) {
+        return false;
     }
-    return next.has_value();
+    exposed = std::move(next);
+    return true;
 }
 
 const Picture& SimulatedPictures::Develop() {

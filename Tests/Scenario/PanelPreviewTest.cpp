@@ -25,7 +25,7 @@ struct Decoded {
         grey.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
         EXPECT_EQ(tjDecompress2(decoder.get(), bytes, jpeg.size(), grey.data(), width, 0, height, TJPF_GRAY, 0), 0);
     }
-    [[nodiscard]] int At(int x, int y) const { return grey[static_cast<std::size_t>(y * width + x)]; }
+    [[nodiscard]] int At(std::size_t x, std::size_t y) const { return grey[y * static_cast<std::size_t>(width) + x]; }
 };
 
 /// A picture of 400 x 200 pixels of 16 bits, of which the low 12, or 14, are used: black on the left, white on the
@@ -41,7 +41,7 @@ public:
         }
         picture.format = {format->code, 400, 200};
         const std::size_t bytesPerPixel = format->layout == Host::PixelLayout::Mono16 ? 2 : format->channels;
-        bytes.resize(400 * 200 * bytesPerPixel);
+        bytes.resize(bytesPerPixel * 400 * 200);
         for (std::size_t i = 0; i < bytes.size(); ++i) {
             const bool isWhite = i / bytesPerPixel % 400 >= 200;
             const bool isHigh = bytesPerPixel == 2 && i % 2 == 1;
