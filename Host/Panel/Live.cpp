@@ -123,6 +123,7 @@ void Live::Fail(const std::string& message, const std::vector<Wish>& wishes) {
     failure.clear();
     notBefore = Clock::now() + seconds(1);
     std::vector<Delivery> told;
+    told.reserve(wishes.size());
     for (const Wish& wish : wishes) {
         told.push_back({wish.client, {{"type", "noPicture"}, {"message", message}}, nullptr});
     }

@@ -324,7 +324,7 @@ void Panel::Handle(Request request, std::function<void(Response)> respond) {
         if (ending) {
             requests.Answer(id, Refusal(503, "the panel ends"));
         } else if (requests.Begin(id)) {
-            Carry(request, [this, id](Response response) { requests.Answer(id, response); });
+            Carry(request, [this, id](const Response& response) { requests.Answer(id, response); });
         }
     });
 }
