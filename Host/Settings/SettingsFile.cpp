@@ -118,6 +118,16 @@ std::vector<Instance> MissingIn(const Json& document, const KnownFunctions& know
     return missing;
 }
 
+/// Adds functions without a value that no lock can have made unavailable: the program that saved the file may not have
+/// known them.
+void AddUnknown(Settings& settings, const KnownFunctions& known) {
+    for (const Instance& instance : known.All()) {
+        if (!instance->lock && settings.Find(instance) == nullptr && !settings.IsMissing(instance)) {
+            settings.missing.push_back(instance);
+        }
+    }
+}
+
 } // namespace
 
 Json SettingsToJson(const Settings& settings) {
@@ -171,6 +181,7 @@ Settings ParseSettings(const std::string& content, const std::string& file) {
     const KnownFunctions known(*table);
     settings.values = ValuesOf(document, known, file);
     settings.missing = MissingIn(document, known, file);
+    AddUnknown(settings, known);
     return settings;
 }
 

@@ -61,6 +61,13 @@ TEST_F(HostSettings, OfACameraThatLacksRegistersAreSavedWithoutThem) {
     EXPECT_TRUE(whole.err.starts_with("qdv12host: \"" + saved + "\" has no values of these, which are not compared: "))
         << whole.err;
     EXPECT_EQ(Run("restore " + saved + " Orvik-390M").code, 0);
+    const std::string unknown = Replaced(text, "    \"persistentip\": \"off\",\n", ""); // to the version that saved it
+    ASSERT_NE(unknown, text);
+    Write(other, unknown);
+    const Outcome newer = Run("diff " + other + " " + saved);
+    EXPECT_EQ(newer.code, 2);
+    EXPECT_EQ(newer.out, "");
+    EXPECT_EQ(newer.err, "qdv12host: \"" + other + "\" has no values of these, which are not compared: persistentip\n");
     Write(other, Replaced(text, "\"sharpness\"", "\"sharpnes\""));
     EXPECT_TRUE(Has(Run("diff " + other + " " + saved).err, "unknown function \"sharpnes\"; did you mean"));
 }
