@@ -167,6 +167,9 @@ int Report(const std::vector<TestResult>& results, Output output) {
 int Selftest(const Invocation& invocation) {
     Session& session = invocation.Open();
     session.Connection().RequireControl();
+    if (session.Acquires()) {
+        throw UsageError("acquisition runs, and locks functions that selftest sets; stop it first");
+    }
     const bool outputs = invocation.Has(Parameter::Outputs);
     const Interrupts interrupts;
     const IgnoredPipeSignal pipes;

@@ -133,10 +133,11 @@ TEST_F(HostShellEnds, WithWhatWasSetInTheStateFile) {
 }
 
 TEST_F(HostShellEnds, WithAcquisitionStopped) {
-    Write(input, "start\nset readoutarea=0,0,99,99\nstop\nset readoutarea=0,0,99,99\nstart\npeek 0x88134\n");
+    Write(input, "start\nset readoutarea=0,0,99,99\nselftest\nstop\nset readoutarea=0,0,99,99\nstart\npeek 0x88134\n");
     const Outcome run = RunHost("shell Orvik-390M --state " + state, QDV12_HOST, input);
     EXPECT_EQ(run.code, 1);
     EXPECT_TRUE(Has(run.err, "readoutarea: SDK4_ERR_CANTSETFEATURE"));
+    EXPECT_TRUE(Has(run.err, "acquisition runs, and locks functions that selftest sets; stop it first\n"));
     EXPECT_TRUE(
         Has(run.out, "acquisition is stopped\nreadoutarea=0,0,99,99\nacquisition runs\n0x00088134  0x00000001"));
     EXPECT_TRUE(Has(Run("peek Orvik-390M 0x88134").out, "0x00088134  0x00000000"));
