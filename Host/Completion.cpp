@@ -164,9 +164,24 @@ std::vector<std::string> CommandNames(bool inShell) {
     return names;
 }
 
+/// The names behind those that the word has already: gain,exposure.
+std::vector<std::string> ListsOfNames(const CompletedFunctions& functions, const std::string& word) {
+    const std::string before = word.substr(0, word.rfind(',') + 1);
+    std::vector<std::string> lists;
+    for (const Instance& instance : functions.Listed()) {
+        if (instance->restore != RestorePolicy::Never && instance->get != nullptr && instance->set != nullptr) {
+            lists.push_back(before + instance.Name());
+        }
+    }
+    return lists;
+}
+
 Candidates ForOption(const Cursor& cursor, const CompletedFunctions& functions, const std::string& model) {
     if (cursor.option->name == "--fault") {
         return {Simulation::FaultsFor(cursor.word, model), false};
+    }
+    if (cursor.option->value.starts_with("NAME")) {
+        return {ListsOfNames(functions, cursor.word), false};
     }
     return cursor.option->value == "TOPIC" ? Candidates{Topics(functions), false}
                                            : Common::ValuesOf(*cursor.option, Simulation::ModelNames());
