@@ -131,7 +131,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv) {
     app.formatter(std::make_shared<Common::HelpFormatter>());
     app.set_version_flag("--version", "qdv12sim " QDV12_VERSION);
     app.footer(DescribeFaultKinds() + "\nModels: " + Common::Join(ModelNames()) +
-               "\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address or a file cannot be used.");
+               "\n\nExit codes: 0 ended by SIGINT or SIGTERM; 2 wrong usage; 3 the address or a file cannot be used.");
     Options options;
     std::string address = "127.0.0.1";
     const auto add = [&](const char* name, auto& variable, const char* value, const char* about) {
