@@ -55,28 +55,58 @@ std::string ModelOf(const Plugin& plugin, NetworkConnection& connection) {
                     "\"; use --force-model with one of " + Common::Join(plugin.ModelNames()));
 }
 
+/// An option that applies to some cameras only.
+struct OptionRule {
+    const char* refusal;
+    bool (*fits)(const CameraName& name);
+    bool (*isGiven)(const CameraOptions& options);
+    void (*drop)(CameraOptions& options);
+};
+
+bool IsSimulatedName(const CameraName& name) { return name.by == CameraName::By::Model; }
+
+constexpr OptionRule optionRules[] = {
+    {"--loose applies to recorded cameras only",
+     [](const CameraName& name) { return name.by == CameraName::By::Recording; },
+     [](const CameraOptions& options) { return options.loose; }, [](CameraOptions& options) { options.loose = false; }},
+    {"--force-model applies to cameras on the network only", [](const CameraName& name) { return name.IsOnNetwork(); },
+     [](const CameraOptions& options) { return !options.forcedModel.empty(); },
+     [](CameraOptions& options) { options.forcedModel.clear(); }},
+    {"--no-control applies to cameras on the network only",
+     [](const CameraName& name) { return !IsSimulatedName(name); },
+     [](const CameraOptions& options) { return options.readOnly; },
+     [](CameraOptions& options) { options.readOnly = false; }},
+    {"--seed, --state and --fault apply to simulated cameras only", IsSimulatedName,
+     [](const CameraOptions& options) {
+         const SimulationOptions& simulation = options.simulation;
+         return simulation.seed || !simulation.state.empty() || !simulation.faults.empty();
+     },
+     [](CameraOptions& options) { options.simulation = {}; }},
+};
+
 void RequireFitting(const CameraOptions& options, const CameraName& name) {
-    const bool isSimulated = name.by == CameraName::By::Model;
-    if (name.by != CameraName::By::Recording && options.loose) {
-        throw UsageError("--loose applies to recorded cameras only");
-    }
-    if (!name.IsOnNetwork() && !options.forcedModel.empty()) {
-        throw UsageError("--force-model applies to cameras on the network only");
-    }
-    if (isSimulated && options.readOnly) {
-        throw UsageError("--no-control applies to cameras on the network only");
-    }
-    const SimulationOptions& simulation = options.simulation;
-    if (!isSimulated && (simulation.seed || !simulation.state.empty() || !simulation.faults.empty())) {
-        throw UsageError("--seed, --state and --fault apply to simulated cameras only");
+    for (const OptionRule& rule : optionRules) {
+        if (rule.isGiven(options) && !rule.fits(name)) {
+            throw UsageError(rule.refusal);
+        }
     }
 }
 
 } // namespace
 
+CameraOptions OptionsBeside(const std::string& other, const std::string& camera, CameraOptions options) {
+    const CameraName name = ParseCameraName(camera);
+    for (const OptionRule& rule : optionRules) {
+        if (!rule.fits(name) && (other.empty() || rule.fits(ParseCameraName(other)))) {
+            rule.drop(options);
+        }
+    }
+    return options;
+}
+
 Session::Connected Session::Connect(const Plugin& plugin, const std::string& camera, const CameraOptions& options) {
     const CameraName name = ParseCameraName(camera);
-    const bool isSimulated = name.by == CameraName::By::Model;
+    const bool isSimulated = IsSimulatedName(name);
     RequireFitting(options, name);
     if (name.by == CameraName::By::Recording) {
         Connected replayed = Replay(name.text, options);

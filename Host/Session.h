@@ -24,6 +24,10 @@ struct CameraOptions {
     TracingPort::Observer accesses{};      ///< gets every port access; without it the port records them
 };
 
+/// The options for a camera that is opened beside another one, without those that apply to the other one only.
+/// @param other empty for the camera of a shell, which took all of them
+[[nodiscard]] CameraOptions OptionsBeside(const std::string& other, const std::string& camera, CameraOptions options);
+
 /// An opened camera: the camera, the port to it, and the control that the plug-in built on the port.
 class Session {
 public:

@@ -38,7 +38,8 @@ Side TakeFrom(Session& session, const Invocation& invocation) {
 }
 
 /// Each camera is closed before the next one is opened, except that of a shell.
-Side Take(const Invocation& invocation, Parameter parameter) {
+/// @param other the parameter of the other side
+Side Take(const Invocation& invocation, Parameter parameter, Parameter other) {
     Program& program = invocation.Program();
     const std::string given = invocation.Text(parameter);
     if (!invocation.Has(parameter) || program.IsOpen(given)) {
@@ -56,7 +57,12 @@ Side Take(const Invocation& invocation, Parameter parameter) {
         return side;
     }
     CameraOptions options = program.Options().camera;
-    options.recorder = program.IsOpen() ? nullptr : options.recorder; // which a shell has for its own camera
+    if (program.IsOpen()) {
+        options = OptionsBeside("", given, options);
+        options.recorder = nullptr; // which a shell has for its own camera
+    } else if (IsCamera(invocation.Text(other))) {
+        options = OptionsBeside(invocation.Text(other), given, options);
+    }
     Session session(program.LoadedPlugin(), given, options);
     return TakeFrom(session, invocation);
 }
@@ -91,8 +97,8 @@ int Diff(const Invocation& invocation) {
         IsCamera(invocation.Text(Parameter::Second))) {
         throw UsageError(oneCamera);
     }
-    const Side first = Take(invocation, Parameter::First);
-    const Side second = Take(invocation, Parameter::Second);
+    const Side first = Take(invocation, Parameter::First, Parameter::Second);
+    const Side second = Take(invocation, Parameter::Second, Parameter::First);
     if (first.settings.model != second.settings.model) {
         throw UsageError("settings of different models: " + first.settings.model + " and " + second.settings.model);
     }

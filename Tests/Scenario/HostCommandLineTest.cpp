@@ -82,13 +82,24 @@ TEST(HostCommandLine, TellsHowACameraIsNamed) {
               "qdv12host: \"Orvik-71\" is neither a file nor a camera; did you mean \"Orvik-710M\"?\n");
 }
 
+TEST(HostCommandLine, GivesEachOfTwoCamerasTheOptionsThatApplyToIt) {
+    const std::string recording = TemporaryFile("recording");
+    ASSERT_EQ(RunHost("save Orvik-710C - --record " + recording).code, 0);
+    const std::string diff = "diff replay:" + recording + " Orvik-710C --loose --only gain ";
+    EXPECT_EQ(RunHost(diff + "--no-control --seed 3").err, "");
+    EXPECT_EQ(RunHost(diff + "--fault offset:gain=1 --force-model Orvik-710C").err,
+              "qdv12host: --force-model applies to cameras on the network only\n");
+    EXPECT_EQ(RunHost("diff Orvik-710C Orvik-710C --loose").err,
+              "qdv12host: --loose applies to recorded cameras only\n");
+}
+
 TEST(HostCommandLine, TakesSeedsOf64Bits) {
     EXPECT_EQ(RunHost("get Orvik-710C gain --seed 18446744073709551615").code, 0);
     for (const char* seed : {"-1", "18446744073709551616", "1.5"}) {
         const Outcome run = RunHost("get Orvik-710C gain --seed " + std::string(seed));
         EXPECT_EQ(run.code, 2) << seed;
         EXPECT_EQ(run.err, "qdv12host: --seed: invalid seed \"" + std::string(seed) +
-                               "\": must be a number of 0 or more (see qdv12host --help)\n");
+                               "\": must be a number of 0 or more (see qdv12host help get)\n");
     }
 }
 
