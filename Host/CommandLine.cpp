@@ -150,6 +150,18 @@ void SortCameras(ParsedCommandLine& line) {
     }
 }
 
+/// @throws UsageError if another camera is in the place of a function
+void RequireOneCamera(const ParsedCommandLine& line) {
+    for (const Parameter parameter : {Parameter::Names, Parameter::Assignments}) {
+        const auto given = line.given.find(parameter);
+        for (const std::string& text : given == line.given.end() ? std::vector<std::string>() : given->second) {
+            if (IsCamera(text)) {
+                throw UsageError("unexpected argument \"" + text + "\": " + line.command->name + " takes one camera");
+            }
+        }
+    }
+}
+
 /// Copies the parameters of the command from the parser.
 /// @throws UsageError as above
 void TakeGiven(const std::vector<Filled>& commands, ParsedCommandLine& line) {
@@ -217,6 +229,9 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
     if (unknown.front().starts_with('-')) {
         auto names = OptionNames(app);
         const auto more = parsed.empty() ? std::vector<std::string>() : OptionNames(*parsed.front());
+        if (std::find(more.begin(), more.end(), unknown.front()) != more.end()) {
+            return unknown.front() + " is an option of " + parsed.front()->get_name() + ": give it after that word";
+        }
         names.insert(names.end(), more.begin(), more.end());
         return "unknown option" + quoted + Common::Suggestion(unknown.front(), names);
     }
@@ -290,8 +305,8 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
         throw UsageError(Describe(parser.app, error, line.command == nullptr ? "" : UsageOf(*line.command, inShell)));
     }
     TakeGiven(parser.commands, line);
-    if (line.command != nullptr && line.command->TakesCameras() && !inShell) {
-        SortCameras(line);
+    if (line.command != nullptr && !inShell) {
+        line.command->TakesCameras() ? SortCameras(line) : RequireOneCamera(line);
     }
     if (parser.help->parsed()) {
         PrintHelp(parser.app, parser.helped);
@@ -311,10 +326,15 @@ ParsedCommandLine Parse(std::vector<std::string> arguments, bool inShell) {
 } // namespace
 
 ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
+    const auto named = std::find_if(arguments.begin(), arguments.end(), [](const std::string& argument) {
+        return std::any_of(Commands().begin(), Commands().end(),
+                           [&](const Command& each) { return each.IsOffered(false) && each.name == argument; });
+    });
+    const std::string help = named == arguments.end() ? "--help" : "help " + *named;
     try {
         return Parse(std::move(arguments), false);
     } catch (const UsageError& error) {
-        throw UsageError(error.what() + std::string(" (see qdv12host --help)"));
+        throw UsageError(error.what() + (" (see qdv12host " + help + ')'));
     }
 }
 

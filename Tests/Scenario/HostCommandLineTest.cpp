@@ -6,7 +6,6 @@
 namespace Scenario {
 
 TEST(HostCommandLine, TellsWhatIsMissing) {
-    const std::string more = " (see qdv12host --help)\n";
     const std::string no = "qdv12host: CAMERA is required";
     const std::pair<std::string, std::string> cases[] = {
         {"set gain=3 agc=1", no + " before \"gain=3\"; usage: qdv12host set CAMERA NAME=VALUE..."},
@@ -18,7 +17,8 @@ TEST(HostCommandLine, TellsWhatIsMissing) {
         {"get Orvik-710C", "qdv12host: NAME is required; usage: qdv12host get CAMERA... NAME..."},
         {"save 'Sollux G'", "qdv12host: FILE is required; usage: qdv12host save CAMERA FILE"},
         {"diff a.json", "qdv12host: B is required; usage: qdv12host diff A B"},
-        {"--json", "qdv12host: COMMAND is required"},
+        {"set Orvik-710C --no-control gain=3", "qdv12host: unknown option \"--no-control\""},
+        {"list --keep-tryin", "qdv12host: unknown option \"--keep-tryin\""},
         {"get --jsn", "qdv12host: unknown option \"--jsn\"; did you mean \"--json\"?"},
         {"info Orvik-710C --state --json", "qdv12host: --state: a value is required"},
         {"info Orvik-710C --state ''", "qdv12host: --state: a value is required"},
@@ -31,8 +31,12 @@ TEST(HostCommandLine, TellsWhatIsMissing) {
     for (const auto& [arguments, said] : cases) {
         const Outcome run = RunHost(arguments);
         EXPECT_EQ(run.code, 2) << arguments;
-        EXPECT_EQ(run.err, said + more) << arguments;
+        EXPECT_EQ(run.err, said + " (see qdv12host help " + arguments.substr(0, arguments.find(' ')) + ")\n")
+            << arguments;
     }
+    EXPECT_EQ(RunHost("--json").err, "qdv12host: COMMAND is required (see qdv12host --help)\n");
+    EXPECT_EQ(RunHost("--no-control get Orvik-710C gain").err,
+              "qdv12host: --no-control is an option of get: give it after that word (see qdv12host help get)\n");
     const Outcome log = RunHost("--log --json info Orvik-710C");
     EXPECT_EQ(log.code, 2);
     EXPECT_TRUE(log.err.starts_with("qdv12host: --log: ")) << log.err;
