@@ -10,6 +10,7 @@
 #include "Host/Settings/SettingsFile.h"
 #include "Simulation/Cameras.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <vector>
@@ -26,9 +27,19 @@ struct Side {
 };
 
 /// @param family whose functions are selected
-/// @throws UsageError for an unknown name
+/// @throws UsageError for an unknown name, or if no function that is saved is selected
 Selection SelectionOf(const Invocation& invocation, const std::string& family) {
-    return {*TableOf(family), invocation.Texts(Parameter::Only), invocation.Texts(Parameter::Except)};
+    const Functions& table = *TableOf(family);
+    Selection selection(table, invocation.Texts(Parameter::Only), invocation.Texts(Parameter::Except));
+    const bool takesAny = std::any_of(table.begin(), table.end(), [&](const Function& function) {
+        const auto instances = InstancesOf(function);
+        return function.restore != RestorePolicy::Never &&
+               std::any_of(instances.begin(), instances.end(), [&](const auto& each) { return selection.Takes(each); });
+    });
+    if (!takesAny) {
+        throw UsageError("--only and --except leave no setting to compare");
+    }
+    return selection;
 }
 
 Side TakeFrom(Session& session, const Invocation& invocation) {

@@ -85,6 +85,8 @@ TEST_F(HostSettings, ThatCannotBeComparedDoNotCountAsDifferent) {
         {"diff " + saved + " " + input, 2},
         {"diff " + saved + " - <" + other, 2},
         {"diff - - <" + saved, 2},
+        {live + "--only gain --except gain", 2},
+        {live + "--only temperature", 2},
         {"diff " + saved + " Orvik-390", 2},
         {live + "--plugin /nowhere/p.so", 3},
         {live + "--json >/dev/full", 2},
