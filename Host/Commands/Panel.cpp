@@ -41,6 +41,7 @@ int ServePanel(const Invocation& invocation) {
         Interrupts::Sleep(tick);
         panel.Tick();
     }
+    panel.End();
     return Success;
 }
 

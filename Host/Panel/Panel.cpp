@@ -54,38 +54,38 @@ Panel::Panel(const Plugin& loaded, std::string cameraName, CameraOptions chosen,
         trace.Add(access, Seconds());
         before(access);
     };
-    std::promise<void> opening;
     cameraThread = std::make_unique<Worker>([this] { return server && !ending ? Poll() : Clock::now() + quietPeriod; });
-    cameraThread->Post([&] {
-        try {
-            Open();
-            opening.set_value();
-        } catch (...) {
-            opening.set_exception(std::current_exception());
-        }
-    });
-    opening.get_future().get();
-    std::promise<void> serving;
-    cameraThread->Post([&, shown = std::move(token)] {
-        try {
-            server = std::make_unique<Server>(*this, port, shown);
-            serving.set_value();
-        } catch (...) {
-            serving.set_exception(std::current_exception());
-        }
-    });
-    serving.get_future().get();
+    Run([this] { Open(); });
+    Run([&] { server = std::make_unique<Server>(*this, port, std::move(token)); });
 }
 
-Panel::~Panel() {
-    ending = true;                                // ends a restore, and polling
-    cameraThread->Post([this] { live.reset(); }); // before the thread to which it delivers
+void Panel::Stop() {
+    if (ending.exchange(true)) { // which ends a restore, and polling
+        return;
+    }
+    Run([this] { live.reset(); });   // what it made is posted before the next task
+    Run([this] { server.reset(); }); // which posts tasks until then
     cameraThread.reset();
+}
+
+void Panel::End() {
+    Stop();
     if (opened) {
         opened->session.Connection().SaveState();
     }
-    opened.reset();
-    server.reset();
+}
+
+void Panel::Run(const std::function<void()>& task) {
+    std::promise<void> done;
+    cameraThread->Post([&] {
+        try {
+            task();
+            done.set_value();
+        } catch (...) {
+            done.set_exception(std::current_exception());
+        }
+    });
+    done.get_future().get();
 }
 
 void Panel::Open() {
@@ -114,6 +114,8 @@ Panel::Clock::time_point Panel::Poll() {
         const Outcome outcome = Attempt([&] { PollCamera(); });
         if (outcome.code != 0) {
             SetState(opened ? state : lost, outcome.reason);
+        } else if (state == ready) {
+            SetState(ready, "");
         }
     } catch (const ChannelLost& error) {
         Lose(error.Describe());
@@ -193,15 +195,15 @@ void Panel::TellClients(OpenedCamera& camera) {
             continue;
         }
         for (const Json& function : board.FunctionsSince(client.documents)) {
-            server->SendText(id, Json{{"type", "function"}, {"function", function}}.PrintInOneLine());
+            Send(id, {{"type", "function"}, {"function", function}});
         }
         client.documents = board.Version();
         if (const Json values = board.ValuesSince(client.values); values.Members() != nullptr) {
-            server->SendText(id, Json{{"type", "values"}, {"time", Seconds()}, {"values", values}}.PrintInOneLine());
+            Send(id, {{"type", "values"}, {"time", Seconds()}, {"values", values}});
         }
         client.values = board.Version();
         if (client.trace && client.accesses < trace.Count()) {
-            server->SendText(id, trace.Since(client.accesses).PrintInOneLine());
+            Send(id, trace.Since(client.accesses));
         }
         client.accesses = trace.Count();
     }
@@ -224,8 +226,8 @@ void Panel::Deliver(std::vector<Live::Delivery> deliveries) {
             if (client == clients.end()) {
                 continue;
             }
-            server->SendText(delivery.client, delivery.description.PrintInOneLine());
-            if (delivery.jpeg) {
+            Send(delivery.client, delivery.description);
+            if (delivery.jpeg && server) {
                 client->second.awaits = false;
                 server->SendBinary(delivery.client, delivery.jpeg);
             }
@@ -253,17 +255,22 @@ Json Panel::State() const { return {{"type", "state"}, {"state", state}, {"messa
 
 double Panel::Seconds() const { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
+void Panel::Send(ClientId client, const Json& document) {
+    if (server) { // it has gone at the end
+        server->SendText(client, document.PrintInOneLine());
+    }
+}
+
 void Panel::SendToAll(const Json& document) {
-    const std::string text = document.PrintInOneLine();
     for (const auto& [id, client] : clients) {
-        server->SendText(id, text);
+        Send(id, document);
     }
 }
 
 void Panel::Opened(ClientId client) {
     cameraThread->Post([this, client] {
         clients[client].accesses = trace.Count();
-        server->SendText(client, State().PrintInOneLine());
+        Send(client, State());
     });
 }
 
@@ -312,8 +319,7 @@ void Panel::TellPixel(ClientId id, const Json& question) {
         for (const unsigned int sample : SamplesAt(*picture, *format, column, line)) {
             samples.Add(sample);
         }
-        const Json answer{{"type", "pixel"}, {"x", column}, {"y", line}, {"samples", samples}};
-        server->SendText(id, answer.PrintInOneLine());
+        Send(id, {{"type", "pixel"}, {"x", column}, {"y", line}, {"samples", samples}});
     });
 }
 
@@ -323,7 +329,7 @@ void Panel::Handle(Request request, std::function<void(Response)> respond) {
     cameraThread->Post([this, id, request = std::move(request)] {
         if (ending) {
             requests.Answer(id, Refusal(503, "the panel ends"));
-        } else if (requests.Begin(id)) {
+        } else if (requests.Begin(id, request.path == restorePath)) {
             Carry(request, [this, id](const Response& response) { requests.Answer(id, response); });
         }
     });

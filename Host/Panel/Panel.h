@@ -24,8 +24,11 @@ public:
     /// @param port 0 for a free one
     /// @throws as Session and Server
     Panel(const Plugin& loaded, std::string cameraName, CameraOptions chosen, std::uint16_t port, std::string token);
+    ~Panel() override { Stop(); }
+
     /// Stops acquisition, and saves the state file of a simulated camera.
-    ~Panel() override;
+    /// @throws std::runtime_error if the file cannot be written
+    void End();
 
     [[nodiscard]] std::uint16_t Port() const { return server->Port(); }
     /// To be called several times per second: answers requests that the camera has not answered in time.
@@ -38,6 +41,7 @@ public:
 
 private:
     using Clock = Worker::Clock;
+    static constexpr const char* restorePath = "/api/settings/restore";
 
     /// An open camera.
     struct OpenedCamera {
@@ -51,6 +55,11 @@ private:
         FunctionBoard board;
         std::function<void(const char* name, const char* attribute)> told; ///< gets callbacks
     };
+
+    void Stop();
+    /// Runs a task on the camera's thread, and waits for it.
+    /// @throws what the task throws
+    void Run(const std::function<void()>& task);
 
     // The following are of the camera's thread.
     void Open();
@@ -66,7 +75,8 @@ private:
     void Deliver(std::vector<Live::Delivery> deliveries);
     void Understand(ClientId id, const std::string& text);
     void TellPixel(ClientId id, const Json& question);
-    void SendToAll(const Json& message);
+    void Send(ClientId client, const Json& document);
+    void SendToAll(const Json& document);
 
     /// Answers a request; turns exceptions into answers.
     void Carry(const Request& request, const Requests::Respond& respond);

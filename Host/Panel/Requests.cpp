@@ -38,13 +38,14 @@ Requests::Id Requests::Add(Respond respond, const std::string& key, Clock::time_
     return last;
 }
 
-bool Requests::Begin(Id id) {
+bool Requests::Begin(Id id, bool isEndless) {
     const std::lock_guard lock(mutex);
     const auto found = std::find_if(waiting.begin(), waiting.end(), [&](const Waiting& each) { return each.id == id; });
     if (found == waiting.end()) {
         return false;
     }
     found->begun = true;
+    found->end = isEndless ? Clock::time_point::max() : found->end;
     return true;
 }
 

@@ -25,8 +25,9 @@ public:
 
     /// @param key a newer request of the same key takes the place of one that has not begun; none if empty
     Id Add(Respond respond, const std::string& key, Clock::time_point end);
+    /// @param isEndless whether it may take any time now
     /// @return false if the request is answered already, and is not to be carried out
-    [[nodiscard]] bool Begin(Id id);
+    [[nodiscard]] bool Begin(Id id, bool isEndless);
     void Answer(Id id, const Response& response);
     /// Answers what is overdue.
     void Expire();
