@@ -14,7 +14,8 @@ using std::chrono::milliseconds;
 constexpr milliseconds shownPeriod{100};   ///< between two reads of a function that a client shows
 constexpr milliseconds hiddenPeriod{2000}; ///< of another one
 constexpr milliseconds longestPoll{4};
-constexpr int restAfterPoll = 4; ///< times its duration, which leaves four fifths of the channel
+constexpr milliseconds longestCompletion{2000}; ///< of what was read before, for cameras that answer slowly
+constexpr int restAfterPoll = 4;                ///< times its duration, which leaves four fifths of the channel
 
 } // namespace
 
@@ -67,7 +68,7 @@ void FunctionBoard::Poll(const std::set<std::string>& shown) {
 
 void FunctionBoard::RenewReader() {
     const TraceLog::Call call(trace, "open");
-    reader.emplace(session);
+    reader = std::make_unique<UncachedCamera>(session); // the old one stays if that fails
     renewed = Clock::now();
 }
 
@@ -80,8 +81,13 @@ void FunctionBoard::Refresh() {
 }
 
 void FunctionBoard::Complete() {
+    const auto start = Clock::now();
+    if (start >= renewed + hiddenPeriod) {
+        RenewReader();
+    }
     for (Entry& entry : entries) {
-        if (entry.described == Clock::time_point()) {
+        const bool isOld = start >= entry.described + hiddenPeriod && Clock::now() < start + longestCompletion;
+        if (entry.stale || isOld) {
             Describe(entry);
         }
     }

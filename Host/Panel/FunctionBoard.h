@@ -7,7 +7,7 @@
 
 #include <chrono>
 #include <cstdint>
-#include <optional>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -30,7 +30,7 @@ public:
     void Refresh();
     /// Reads what the camera holds.
     [[nodiscard]] const Camera& Reader() const { return reader->Camera(); } // cppcheck-suppress returnTempReference
-    /// Reads everything that has not been read.
+    /// Reads everything that has not been read, or is to be read again.
     void Complete();
     /// Reads one function, as FunctionToJson.
     [[nodiscard]] Json Describe(const Instance& instance, bool many = false) const;
@@ -67,7 +67,7 @@ private:
 
     Session& session;
     const Camera& setter; ///< its published limits follow what was set
-    std::optional<UncachedCamera> reader;
+    std::unique_ptr<UncachedCamera> reader;
     Clock::time_point renewed{}; ///< when the reader was
     TraceLog& trace;
     std::vector<Entry> entries;
