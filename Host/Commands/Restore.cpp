@@ -80,14 +80,6 @@ private:
     const Function* lastSkipped = nullptr;
 };
 
-/// The results that are known, and the modes that were reverted.
-std::vector<RestoreResult> Known(const RestoreProgress& progress) {
-    std::vector<RestoreResult> known = progress.results;
-    known.insert(known.end(), progress.borrowed.begin(), progress.borrowed.end());
-    std::erase_if(known, [](const RestoreResult& result) { return result.status == RestoreStatus::Pending; });
-    return known;
-}
-
 /// How many results there are of each kind.
 std::map<RestoreStatus, std::int64_t> Count(const std::vector<RestoreResult>& results) {
     std::map<RestoreStatus, std::int64_t> counts;
@@ -133,7 +125,7 @@ std::string DescribeProgress(const RestoreProgress& progress, std::size_t all) {
     const auto skipped = counts[RestoreStatus::Skipped];
     const auto refused = counts[RestoreStatus::Clamped] + counts[RestoreStatus::Refused];
     std::vector<Instance> putBack;
-    for (const RestoreResult& result : Known(progress)) {
+    for (const RestoreResult& result : progress.Known()) {
         if (result.status == RestoreStatus::PutBack) {
             putBack.push_back(result.instance);
         }
@@ -231,7 +223,7 @@ private:
 
     /// Prints what comes after the results.
     void PrintEnd() {
-        const auto known = Known(progress);
+        const auto known = progress.Known();
         output.Set(changed && !known.empty() ? DescribeCounts(known) : "", ToJson(known, changed));
         output.End();
     }

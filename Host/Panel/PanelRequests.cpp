@@ -11,11 +11,15 @@
 #include "Host/Settings/SettingsFile.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
+#include <sstream>
 
 namespace Host::Panel {
 
 namespace {
 
+constexpr std::string_view functions = "/api/functions/";
 constexpr const char* document = "document"; ///< as messages name what a client sent
 
 /// A request that cannot be carried out, with its answer.
@@ -69,9 +73,33 @@ Instance FindFunction(const Camera& camera, const std::string& name) {
     }
 }
 
-/// Whether a query has a word: "dry-run&outputs".
-bool Has(const std::string& query, const std::string& word) {
-    return ('&' + query + '&').find('&' + word + '&') != std::string::npos;
+/// The words of a query: "dry-run&outputs".
+std::set<std::string> OptionsIn(const std::string& query) {
+    std::set<std::string> options;
+    std::istringstream words(query);
+    for (std::string word; std::getline(words, word, '&');) {
+        if (word != "dry-run" && word != "outputs" && word != "network") {
+            throw Refused{400, "the query takes dry-run, outputs and network"};
+        }
+        options.insert(word);
+    }
+    return options;
+}
+
+/// For a path that is not served, or not with this method.
+Response RefuseMethod(const Request& request) {
+    constexpr const char* read = "GET, HEAD";
+    static const std::map<std::string_view, const char*> allowed = {
+        {"/api/camera", read},   {"/api/functions", read},          {"/api/picture.png", read},
+        {"/api/settings", read}, {"/api/settings/compare", "POST"}, {"/api/settings/restore", "POST"}};
+    const bool isFunction = request.path.starts_with(functions);
+    const auto found = allowed.find(request.path);
+    if (!isFunction && found == allowed.end()) {
+        return Refusal(404, "there is no such page");
+    }
+    Response response = Refusal(405, "that does not take " + request.method);
+    response.allowed = isFunction ? "GET, HEAD, PUT" : found->second;
+    return response;
 }
 
 } // namespace
@@ -103,7 +131,6 @@ void Panel::Carry(const Request& request, const Requests::Respond& respond) {
 }
 
 Response Panel::Dispatch(const Request& request) {
-    constexpr std::string_view functions = "/api/functions/";
     const auto is = [&](const char* method, const char* path) {
         return request.method == method && request.path == path;
     };
@@ -124,15 +151,10 @@ Response Panel::Dispatch(const Request& request) {
     if (is("POST", "/api/settings/compare")) {
         return Compare(request.body);
     }
-    if (is("POST", "/api/settings/restore")) {
+    if (is("POST", restorePath)) {
         return Restore(request);
     }
-    constexpr std::string_view known[] = {"/api/camera",   "/api/functions",        "/api/picture.png",
-                                          "/api/settings", "/api/settings/compare", "/api/settings/restore"};
-    const bool isKnown = request.path.starts_with(functions) ||
-                         std::find(std::begin(known), std::end(known), request.path) != std::end(known);
-    return isKnown ? Refusal(405, request.path + " does not take " + request.method)
-                   : Refusal(404, "there is no " + request.path);
+    return RefuseMethod(request);
 }
 
 void Panel::TakePicture(const Requests::Respond& respond) {
@@ -218,12 +240,13 @@ Response Panel::Compare(const std::string& text) {
 }
 
 Response Panel::Restore(const Request& request) {
+    const auto chosen = OptionsIn(request.query); // a misspelt dry-run must not restore
     OpenedCamera& camera = Camera();
     const Settings given = ParseSettings(request.body, document);
     if (given.model != camera.session.Model()) {
         throw Refused{400, "the document is of model " + given.model + ", but the camera is " + camera.session.Model()};
     }
-    const bool dryRun = Has(request.query, "dry-run");
+    const bool dryRun = chosen.contains("dry-run");
     if (!dryRun) {
         camera.session.Connection().RequireControl();
         live->Stop();
@@ -234,15 +257,15 @@ Response Panel::Restore(const Request& request) {
         }
     };
     Restorer restorer(given, camera.camera, camera.board.Reader(), MakeWait(camera.session),
-                      {.outputs = Has(request.query, "outputs"),
-                       .network = Has(request.query, "network"),
+                      {.outputs = chosen.contains("outputs"),
+                       .network = chosen.contains("network"),
                        .report = report,
                        .shouldStop = [this] { return ending.load(); }});
     const TraceLog::Call call(trace, "restore");
     dryRun ? restorer.Plan() : restorer.Restore();
     camera.board.Refresh();
     Json results(Json::List{});
-    for (const RestoreResult& result : restorer.Progress().results) {
+    for (const RestoreResult& result : restorer.Progress().Known()) {
         results.Add(ToJson(result));
     }
     return Answer(results);

@@ -47,6 +47,13 @@ const char* NameOf(RestoreStatus status) {
     return names[static_cast<std::size_t>(status)];
 }
 
+std::vector<RestoreResult> RestoreProgress::Known() const {
+    std::vector<RestoreResult> known = results;
+    known.insert(known.end(), borrowed.begin(), borrowed.end());
+    std::erase_if(known, [](const RestoreResult& result) { return result.status == RestoreStatus::Pending; });
+    return known;
+}
+
 std::vector<Instance> RestoreProgress::ModesLeftOff() const {
     std::vector<Instance> modes;
     for (const auto* const each : {&results, &borrowed}) {

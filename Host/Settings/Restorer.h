@@ -42,6 +42,8 @@ struct RestoreProgress {
     std::vector<RestoreResult> borrowed;
     bool stopped = false; ///< early
 
+    /// The results that are known, and the modes that were reverted.
+    [[nodiscard]] std::vector<RestoreResult> Known() const;
     /// Automatic modes that were on before and are now off without having been restored.
     [[nodiscard]] std::vector<Instance> ModesLeftOff() const;
 };
