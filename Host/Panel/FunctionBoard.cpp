@@ -1,6 +1,7 @@
 #include "Host/Panel/FunctionBoard.h"
 
 #include "Host/Describe.h"
+#include "Host/ErrorReporting.h"
 #include "Host/FunctionState.h"
 
 #include <algorithm>
@@ -29,8 +30,7 @@ FunctionBoard::FunctionBoard(Session& opened, const Camera& setting, TraceLog& t
     }
 }
 
-FunctionBoard::Entry* FunctionBoard::Due(const std::set<std::string>& shown) {
-    const auto now = Clock::now();
+FunctionBoard::Entry* FunctionBoard::Due(const std::set<std::string>& shown, Clock::time_point now) {
     Entry* hidden = nullptr;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         Entry& entry = entries[(next + i) % entries.size()];
@@ -54,11 +54,11 @@ void FunctionBoard::Poll(const std::set<std::string>& shown) {
     const auto start = Clock::now();
     auto end = start;
     while (end >= notBefore && end < start + longestPoll) {
-        Entry* const entry = Due(shown);
+        Entry* const entry = Due(shown, end);
         if (entry == nullptr) {
             break;
         }
-        entry->stale || start >= entry->described + hiddenPeriod ? Describe(*entry) : ReadValue(*entry);
+        entry->stale || end >= entry->described + hiddenPeriod ? Describe(*entry) : ReadValue(*entry);
         end = Clock::now();
     }
     if (end > start) {
@@ -103,8 +103,10 @@ void FunctionBoard::ReadValue(Entry& entry) {
 Json FunctionBoard::Describe(const Instance& instance, bool many) const {
     FunctionState state = InspectFunction(Reader(), instance);
     if (setter.As<SDK4::Control::IPropertyState>() != nullptr && state.reading.code == 0) {
-        state.reading.lock = setter.LockOf(instance); // the properties of the other control do not follow
-        state.limits = setter.LimitsOf(instance);
+        static_cast<void>(Attempt([&] {                   // reads the mode that locks it
+            state.reading.lock = setter.LockOf(instance); // the properties of the other control do not follow
+            state.limits = setter.LimitsOf(instance);
+        }));
     }
     return FunctionToJson(instance, state, many);
 }

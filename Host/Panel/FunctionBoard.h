@@ -58,7 +58,7 @@ private:
         bool stale = true; ///< to be described soon
     };
 
-    [[nodiscard]] Entry* Due(const std::set<std::string>& shown);
+    [[nodiscard]] Entry* Due(const std::set<std::string>& shown, Clock::time_point now);
     void ReadValue(Entry& entry);
     void Describe(Entry& entry);
     void SetValue(Entry& entry, Json value);

@@ -283,7 +283,10 @@ void Panel::Received(ClientId client, std::string text) {
 }
 
 void Panel::Understand(ClientId id, const std::string& text) {
-    const auto client = ending ? clients.end() : clients.find(id);
+    const auto client = clients.find(id);
+    if (client == clients.end() || ending) { // many may wait at the end
+        return;
+    }
     Json received;
     try {
         received = Json::Parse(text);
@@ -291,7 +294,7 @@ void Panel::Understand(ClientId id, const std::string& text) {
         return;
     }
     const auto* const type = received["type"].Text();
-    if (client == clients.end() || type == nullptr) {
+    if (type == nullptr) {
         return;
     }
     if (*type == "view") {

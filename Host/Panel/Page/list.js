@@ -83,7 +83,7 @@ export class FunctionList {
 		}
 		let any = false;
 		for (const [topic, { element, count }] of this.#groups) {
-			const rows = [...element.querySelectorAll('.row:not([hidden])')];
+			const rows = [...element.querySelectorAll('.row')].filter((row) => getComputedStyle(row).display !== 'none');
 			element.hidden = rows.length === 0;
 			any ||= rows.length > 0;
 			setText(count, String(rows.length));

@@ -10,6 +10,7 @@ const panStep = 40;     // screen pixels
 const crispFrom = 1.5;  // enlargement from which pixels are shown as squares
 const saturationShown = 0.1; // percent
 const pixelPatience = 500; // milliseconds
+const patience = 3000; // milliseconds
 
 function clamp(value, low, high) {
 	return Math.min(Math.max(value, low), high);
@@ -42,6 +43,7 @@ export class PictureView {
 	#pointer = null; // where it is, in pixels of the camera
 	#asked = 0;      // when the value of a pixel was asked for
 	#figures = new Map();
+	#late = 0;
 	/** What is fitted into the stage: null for the picture, else an area in its pixels, which may reach beyond it. */
 	world = null;
 
@@ -196,6 +198,8 @@ export class PictureView {
 			this.#bitmap = bitmap;
 			this.#area = area;
 			this.#showMessage('');
+			clearTimeout(this.#late);
+			this.#late = setTimeout(() => this.#paused || this.#showMessage('No picture comes'), patience);
 			this.#draw();
 			this.#askForPixel();
 		} catch {
@@ -219,6 +223,9 @@ export class PictureView {
 	}
 
 	#showMessage(text) {
+		if (text) {
+			setText(this.#figures.get('rate'), '–');
+		}
 		setText(byId('no-picture'), text);
 		byId('no-picture').hidden = text === '';
 	}

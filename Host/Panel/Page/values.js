@@ -83,5 +83,5 @@ export function explainState({ error, lockedBy, needs }) {
 	if (lockedBy && lockedBy !== 'acquisition') {
 		return `locked by ${lockedBy}${how && `, ${how}`}`;
 	}
-	return error ? `not available: ${how || error}` : '';
+	return error ? `not available: ${error === 'SDK4_ERR_DISABLED' && how || error}` : '';
 }
