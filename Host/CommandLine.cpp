@@ -209,6 +209,18 @@ std::string DescribeMismatch(const std::string& said) {
     return name + (said.ends_with("missing") ? ": a value is required" : " is given twice");
 }
 
+std::string DescribeUnknownOption(const CLI::App& app, const std::string& option) {
+    auto names = OptionNames(app);
+    for (const CLI::App* command : app.get_subcommands()) {
+        const auto more = OptionNames(*command);
+        if (std::find(more.begin(), more.end(), option) != more.end()) {
+            return option + " is an option of " + command->get_name() + ": give it after that word";
+        }
+        names.insert(names.end(), more.begin(), more.end());
+    }
+    return "unknown option \"" + option + '"' + Common::Suggestion(option, names);
+}
+
 /// Describes a parse error; for unknown arguments the first one, with a suggestion.
 /// @param usage of the command, if an operand is missing
 std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::string& usage) {
@@ -225,17 +237,11 @@ std::string Describe(CLI::App& app, const CLI::ParseError& error, const std::str
         }
         return lacks && parsed.empty() ? "COMMAND is required" : what + (lacks ? usage : "");
     }
-    const std::string quoted = " \"" + unknown.front() + '"';
     if (unknown.front().starts_with('-')) {
-        auto names = OptionNames(app);
-        const auto more = parsed.empty() ? std::vector<std::string>() : OptionNames(*parsed.front());
-        if (std::find(more.begin(), more.end(), unknown.front()) != more.end()) {
-            return unknown.front() + " is an option of " + parsed.front()->get_name() + ": give it after that word";
-        }
-        names.insert(names.end(), more.begin(), more.end());
-        return "unknown option" + quoted + Common::Suggestion(unknown.front(), names);
+        return DescribeUnknownOption(app, unknown.front());
     }
-    return parsed.empty() ? DescribeUnknownCommand(app, unknown.front()) : "unexpected argument" + quoted;
+    return parsed.empty() ? DescribeUnknownCommand(app, unknown.front())
+                          : "unexpected argument \"" + unknown.front() + '"';
 }
 
 /// Prints the help of a command, or of all.

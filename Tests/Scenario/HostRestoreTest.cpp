@@ -190,7 +190,7 @@ TEST_F(HostRestore, AndComparesOnlyWhatIsSelected) {
         const Outcome except = Run("restore " + both + "--only agc --except serialnumber");
         EXPECT_EQ(except.code, 0);
         EXPECT_EQ(except.err, absent);
-        EXPECT_EQ(Run("diff " + both + "--only serialnumber").err, absent);
+        EXPECT_EQ(Run("diff " + both + "--only agc,serialnumber").err, absent);
         EXPECT_EQ(Run("restore " + both + "--only serialnumber").code, 2);
         for (const char* wrong : {"diff ", "restore "}) {
             EXPECT_TRUE(Has(Run(wrong + both + "--except gain,gian").err, "\"gian\"; did you mean \"gain\"?"));
