@@ -63,10 +63,12 @@ const std::vector<Command>& Commands() {
     static const Syntax gateway{Parameter::Gateway, "GATEWAY", "Its default gateway (default: 0.0.0.0, none)",
                                 Required::Never};
     static const Syntax port{Parameter::Port, "--port N", "The TCP port of the panel (default: a free one)"};
-    static const Syntax at{Parameter::Register, "ADDRESS", "Address of a register, such as 0x14010000"};
+    static const Syntax at{
+        Parameter::Register, "ADDRESS",
+        "Address of a register, such as 0x14010000; or device:A,B,C (M2VX), which three words select"};
     static const Syntax words{Parameter::Words, "WORDS", "Number of words to read (default: 1)", Required::Never};
-    static const Syntax registers{Parameter::Registers, "ADDRESS=VALUE", "Words to write, in this order",
-                                  Required::Always, true};
+    static const Syntax registers{Parameter::Registers, "ADDRESS=VALUE",
+                                  "Words to write, in this order; addresses as for peek", Required::Always, true};
     static const Syntax yes{Parameter::Yes, "--yes", "Write to a camera on the network"};
     // clang-format off
     static const std::vector<Command> commands = {

@@ -8,7 +8,9 @@
 #include "Simulation/Cameras.h"
 #include "Simulation/SimulatedCamera.h"
 
+#include <SDK4/IBasicSettings.h>
 #include <SDK4/IGigEVisionPort.h>
+#include <SDK4/X4Error.h>
 
 #include <algorithm>
 #include <limits>
@@ -22,25 +24,55 @@ namespace Host {
 namespace {
 
 constexpr std::uint32_t wordBytes = 4;
+constexpr std::string_view devicePrefix = "device:";
 
-/// The registers of a camera by address: through the control, if it has an interface for them, else through its port.
+/// What peek reads: a word at an address, or a device register, which three words select.
+struct Location {
+    std::uint32_t address = 0;
+    std::optional<SDK4_KDEVICESELECT> device{};
+
+    /// "0x14010000", "device:1,0,0"
+    [[nodiscard]] std::string Name() const {
+        return device ? std::string(devicePrefix) + std::to_string(device->value1) + ',' +
+                            std::to_string(device->value2) + ',' + std::to_string(device->value3)
+                      : Common::Hex(address);
+    }
+};
+
+/// The registers of a camera: by address through the control, if it has an interface for that, else through its port.
 class DeviceRegisters {
 public:
     explicit DeviceRegisters(Session& session)
         : control(session.As<SDK4::Control::IGigEVisionPort>()),
+          devices(session.As<SDK4::Control::IBasicSettings>()),
           port(session.Port()) {}
 
-    [[nodiscard]] std::uint32_t Read(std::uint32_t address) const {
+    [[nodiscard]] std::uint32_t Read(const Location& from) const {
         const CurrentCall call("peek");
-        return control != nullptr ? control->ReadRegister(address) : port.ReadRegister(address);
+        if (from.device) {
+            return Devices().GetDevice(*from.device);
+        }
+        return control != nullptr ? control->ReadRegister(from.address) : port.ReadRegister(from.address);
     }
-    void Write(std::uint32_t address, std::uint32_t value) const {
+    void Write(const Location& to, std::uint32_t value) const {
         const CurrentCall call("poke");
-        control != nullptr ? control->WriteRegister(address, value) : port.WriteRegister(address, value);
+        if (to.device) {
+            Devices().SetDevice(*to.device, value);
+        } else {
+            control != nullptr ? control->WriteRegister(to.address, value) : port.WriteRegister(to.address, value);
+        }
     }
 
 private:
+    [[nodiscard]] SDK4::Control::IBasicSettings& Devices() const {
+        if (devices == nullptr) {
+            throw SDK4::X4Error(SDK4_ERR_INVALID_INTERFACE);
+        }
+        return *devices;
+    }
+
     SDK4::Control::IGigEVisionPort* control;
+    SDK4::Control::IBasicSettings* devices;
     SDK4::IControlPort& port;
 };
 
@@ -52,22 +84,22 @@ public:
           camera(invocation.OpenCamera()),
           simulated(Simulation::MakeCamera(camera.Model())) {}
 
-    void Print(std::uint32_t address, std::uint32_t value) {
-        const std::string text = TextIn(address, value);
-        const std::string function = FunctionAt(address);
-        const std::string words = Common::Hex(address) + "  " + Common::Hex(value) + "  " + std::to_string(value);
+    void Print(const Location& at, std::uint32_t value) {
+        const std::string text = at.device ? "" : TextIn(at.address, value);
+        const std::string function = at.device ? "" : FunctionAt(at.address);
+        const std::string words = at.Name() + "  " + Common::Hex(value) + "  " + std::to_string(value);
         const std::string meaning = text.empty() ? function : '"' + text + '"';
         output.Add(meaning.empty() ? words : Pad(words, 36) + meaning,
-                   Json{{"address", Common::Hex(address)},
+                   Json{{"address", at.Name()},
                         {"value", value},
                         {"text", text.empty() ? Json() : Json(text)},
                         {"function", function.empty() ? Json() : Json(function)}});
         inText = text.size() == wordBytes;
     }
     /// Instead of a word that cannot be read.
-    void Fail(std::uint32_t address, const std::string& reason) {
-        PrintError(reason);
-        output.Add("", Json{{"address", Common::Hex(address)}, {"value", Json()}, {"error", reason}});
+    void Fail(const Location& at, const std::string& reason) {
+        PrintError(at.device ? at.Name() + ": " + reason : reason);
+        output.Add("", Json{{"address", at.Name()}, {"value", Json()}, {"error", reason}});
         inText = false;
     }
     void End() const { output.End(); }
@@ -99,7 +131,17 @@ private:
     bool inText = false; ///< whether the last word was a part of a text
 };
 
-std::uint32_t ParseRegisterAddress(const std::string& text) {
+/// @throws UsageError
+Location ParseLocation(const std::string& text) {
+    static constexpr Field selectWords[] = {{"value1"}, {"value2"}, {"value3"}};
+    if (text.starts_with(devicePrefix)) {
+        const auto select = ParseValue(text.substr(devicePrefix.size()), Shape{selectWords});
+        if (!select) {
+            throw UsageError("invalid device register \"" + text + "\": three words select one, as in device:1,0,0");
+        }
+        const auto word = [&](std::size_t i) { return static_cast<std::uint32_t>(select->numbers.at(i)); };
+        return {.device = SDK4_KDEVICESELECT{word(0), word(1), word(2)}};
+    }
     const auto address = Common::ParseNumber(text);
     if (!address || *address < 0) {
         throw UsageError("invalid address \"" + text + "\": give a number such as 0x14010000");
@@ -107,24 +149,24 @@ std::uint32_t ParseRegisterAddress(const std::string& text) {
     if (*address % wordBytes != 0) {
         throw UsageError("invalid address \"" + text + "\": registers are at multiples of 4");
     }
-    return static_cast<std::uint32_t>(*address);
+    return {.address = static_cast<std::uint32_t>(*address)};
 }
 
-std::uint32_t ParseWords(const std::string& text, std::uint32_t address) {
-    const std::uint64_t room = ((std::uint64_t{1} << 32) - address) / wordBytes;
+std::uint32_t ParseWords(const std::string& text, const Location& first) {
+    const std::uint64_t room = first.device ? 1 : ((std::uint64_t{1} << 32) - first.address) / wordBytes;
     const auto words = text.empty() ? std::optional(1U) : Common::ParseWhole<std::uint32_t>(text);
     if (!words || *words == 0) {
         throw UsageError("invalid number of words \"" + text + '"');
     }
     if (*words > room) {
-        throw UsageError(std::to_string(*words) + " words from " + Common::Hex(address) +
-                         " on exceed the address space");
+        throw UsageError(std::to_string(*words) + " words from " + first.Name() +
+                         (first.device ? " on: a device register has one" : " on exceed the address space"));
     }
     return *words;
 }
 
 struct WordWrite {
-    std::uint32_t address;
+    Location to;
     std::uint32_t value;
 };
 
@@ -138,27 +180,27 @@ WordWrite ParseWordWrite(const std::string& text) {
     if (!value || *value < std::numeric_limits<std::int32_t>::min()) {
         throw UsageError("invalid value \"" + given + "\": registers hold 32 bits");
     }
-    return {ParseRegisterAddress(text.substr(0, equals)), static_cast<std::uint32_t>(*value)};
+    return {ParseLocation(text.substr(0, equals)), static_cast<std::uint32_t>(*value)};
 }
 
 /// @return whether the camera holds the value
 bool WriteAndPrint(const DeviceRegisters& registers, const WordWrite& write, WordPrinter& printer) {
-    const std::uint32_t address = write.address;
+    const Location& to = write.to;
     const std::uint32_t value = write.value;
-    const Outcome written = Attempt([&] { registers.Write(address, value); });
+    const Outcome written = Attempt([&] { registers.Write(to, value); });
     if (written.code != 0) {
-        printer.Fail(address, written.reason);
+        printer.Fail(to, written.reason);
         return false;
     }
     std::uint32_t held = 0;
-    const Outcome read = Attempt([&] { held = registers.Read(address); });
+    const Outcome read = Attempt([&] { held = registers.Read(to); });
     if (read.code != 0) {
-        printer.Fail(address, "written, but what the camera now holds could not be read: " + read.reason);
+        printer.Fail(to, "written, but what the camera now holds could not be read: " + read.reason);
         return false;
     }
-    printer.Print(address, held);
+    printer.Print(to, held);
     if (held != value) {
-        PrintError(Common::Hex(address) + ": " + Common::Hex(value) + " was written, but the camera now holds " +
+        PrintError(to.Name() + ": " + Common::Hex(value) + " was written, but the camera now holds " +
                    Common::Hex(held));
     }
     return held == value;
@@ -167,16 +209,16 @@ bool WriteAndPrint(const DeviceRegisters& registers, const WordWrite& write, Wor
 } // namespace
 
 int Peek(const Invocation& invocation) {
-    const std::uint32_t first = ParseRegisterAddress(invocation.Text(Parameter::Register));
+    const Location first = ParseLocation(invocation.Text(Parameter::Register));
     const std::uint32_t words = ParseWords(invocation.Text(Parameter::Words), first);
     const DeviceRegisters registers(invocation.Open());
     WordPrinter printer(invocation);
     bool refused = false;
     for (std::uint32_t i = 0; i < words; ++i) {
-        const std::uint32_t address = first + i * wordBytes;
+        const Location at{first.address + i * wordBytes, first.device};
         std::uint32_t value = 0;
-        const Outcome read = Attempt([&] { value = registers.Read(address); });
-        read.code == 0 ? printer.Print(address, value) : printer.Fail(address, read.reason);
+        const Outcome read = Attempt([&] { value = registers.Read(at); });
+        read.code == 0 ? printer.Print(at, value) : printer.Fail(at, read.reason);
         refused |= read.code != 0;
     }
     printer.End();

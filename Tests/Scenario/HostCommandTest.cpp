@@ -106,6 +106,13 @@ TEST(HostCommand, RegistersAreReadAndWrittenByAddress) {
          "qdv12host: invalid address \"0x13\": registers are at multiples of 4\n"},
         {"poke Cerix-MV7 0x14010000=0x100000000", 2, "",
          "qdv12host: invalid value \"0x100000000\": registers hold 32 bits\n"},
+        {"peek Cerix-MV7 device:1,0,0", 0, "device:1,0,0  0x000004B7  1207\n", ""},
+        {"poke Cerix-MV7 device:1,1,0=5", 0, "device:1,1,0  0x00000005  5\n", ""},
+        {"peek Orvik-710C device:1,0,0", 1, "", "qdv12host: device:1,0,0: SDK4_ERR_NOT_IMPLEMENTED\n"},
+        {"peek Cerix-MV7 device:1,0", 2, "",
+         "qdv12host: invalid device register \"device:1,0\": three words select one, as in device:1,0,0\n"},
+        {"peek Cerix-MV7 device:1,0,0 2", 2, "",
+         "qdv12host: 2 words from device:1,0,0 on: a device register has one\n"},
         {"peek Cerix-MV7 0xFFFFFFFC 2", 2, "", "qdv12host: 2 words from 0xFFFFFFFC on exceed the address space\n"},
         {"start Orvik-710C", 2, "",
          "qdv12host: start is a command of the shell, since acquisition ends with it: qdv12host shell CAMERA (see "
