@@ -95,7 +95,7 @@ class Events:
         self.socket.close()
 
     def send(self, message):
-        content = json.dumps(message).encode()
+        content = (message if isinstance(message, str) else json.dumps(message)).encode()
         mask = os.urandom(4)
         size = struct.pack("!BB", 0x81, 0x80 | len(content)) if len(content) < 126 else struct.pack(
             "!BBH", 0x81, 0xFE, len(content))
