@@ -73,8 +73,10 @@ TEST(HostCameras, ReportsAProcessThatDied) {
     const Outcome run =
         RunHost("-c 'mkfifo " + fifo + "; " QDV12_HOST " get Orvik-710C Cerix-MV7 gain --plugin " + fifo +
                     " & host=$!; for i in $(seq 500); do set -- $(cat /proc/$host/task/$host/children); "
-                    "[ $# = 2 ] && break; sleep 0.01; done; kill -KILL $1; echo none >" +
-                    fifo + "; wait $host'",
+                    "[ $# = 2 ] && break; sleep 0.01; done; kill -KILL $1; "
+                    "while [ -e /proc/$1/exe ]; do sleep 0.01; done; echo none >" + // it reads no more
+                    fifo +
+                    "; wait $host'",
                 "sh");
     EXPECT_EQ(run.code, 128 + SIGKILL);
     EXPECT_TRUE(Has(run.err, "qdv12host: Orvik-710C: its process was ended by signal 9 (Killed)\n"));
